@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quillmark {
+
+/// Windows-1252, the 8-bit code page of every system that has no ANSI code page of its own.
+///
+/// Both conversions are total: nothing fails, and the same input gives the same bytes everywhere.
+namespace code_page {
+
+/// Appends `text` to `out`, one byte for each UTF-16 unit. A unit that Windows-1252 cannot hold
+/// becomes "?"; so does each half of a surrogate pair, and a lone surrogate.
+void appendNarrowed(std::string& out, std::u16string_view text);
+
+/// The UTF-16 text of Windows-1252 bytes, one unit a byte.
+[[nodiscard]] std::u16string widened(std::string_view bytes);
+
+/// UTF-8 to UTF-16; each malformed byte becomes U+FFFD.
+[[nodiscard]] std::u16string fromUtf8(std::string_view utf8);
+
+/// UTF-16 to UTF-8; a lone surrogate becomes U+FFFD.
+[[nodiscard]] std::string toUtf8(std::u16string_view text);
+
+}  // namespace code_page
+
+}  // namespace quillmark

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace quillmark {
+
+/// The root of the shared types: a virtual destructor and nothing else.
+class OrxObject {
+public:
+    OrxObject() = default;
+    OrxObject(const OrxObject&) = default;
+    OrxObject(OrxObject&&) = default;
+    OrxObject& operator=(const OrxObject&) = default;
+    OrxObject& operator=(OrxObject&&) = default;
+    virtual ~OrxObject() = default;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstdint>
+
+#include "foundation/orx_object.h"
+#include "foundation/orx_string.h"
+
+namespace quillmark {
+
+/// A font as the host sets it, property by property.
+class FontData : public OrxObject {
+public:
+    OrxString name{"Arial"};
+    /// In points; 0 means that no size is set.
+    std::uint16_t size = 0;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    bool strike = false;
+
+    /// Empty name, no size, no attribute: unlike a fresh font, which is named "Arial".
+    void clear();
+    [[nodiscard]] bool hasAttribute() const noexcept {
+        return bold || italic || underline || strike;
+    }
+    friend bool operator!=(const FontData& a, const FontData& b) noexcept;
+};
+
+/// The text state in force: one for the body, one for each section.
+class DocHtmlTextState {
+public:
+    DocHtmlTextState() = default;
+    DocHtmlTextState(const DocHtmlTextState&) = default;
+    DocHtmlTextState& operator=(const DocHtmlTextState&) = default;
+    virtual ~DocHtmlTextState() = default;
+
+    /// Alignment code in force, 0 for none.
+    std::uint16_t textAlign = 0;
+    OrxString styleName{"Normal"};
+    /// Tags for `font` may be open in the output and must be closed.
+    bool fontOpen = false;
+    FontData font;
+
+    /// Back to the start, but the font stays as it is.
+    void reset();
+};
+
+}  // namespace quillmark

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "foundation/orx_string.h"
+
+namespace quillmark {
+
+/// Where drive letters lie on a system that has none: a name that begins with "X:" is looked for
+/// under the directory given for X. The table is process-wide, empty unless set, and has no effect
+/// on a system with drives of its own. It may be reached from several threads.
+class DriveTable {
+public:
+    /// `directory` is a name of the system's own (UTF-8, "/"); an empty one removes the letter.
+    static void set(char letter, const std::string& directory);
+    [[nodiscard]] static std::optional<std::string> find(char letter);
+    static void clear();
+};
+
+/// A driver's name as the system calls take it (for tools that open files themselves).
+[[nodiscard]] std::string nativePath(const OrxString& name);
+/// A name of the system's own (UTF-8) in the driver's form.
+[[nodiscard]] OrxString driverPath(const std::string& native);
+
+}  // namespace quillmark

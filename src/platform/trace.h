@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "foundation/orx_string.h"
+
+namespace quillmark {
+
+/// Hears the lines of every trace of the process, besides the log. The replay tool is one.
+class TraceListener {
+public:
+    virtual ~TraceListener() = default;
+    /// The deepest level that it wants.
+    [[nodiscard]] virtual int level() const = 0;
+    /// One line (or several, as the driver writes them), line end included.
+    virtual void line(int level, std::string_view text) = 0;
+};
+
+/// A leveled log in a file. Copies share its stream, but each keeps its own level: a copy taken
+/// before a change of level still has the old one.
+///
+///     if (trace.isTrace(Trace::calls)) {
+///         trace.write(Trace::calls, "dochtml->insertEndl();\n");
+///     }
+class Trace {
+public:
+    static constexpr int errors = 1;
+    static constexpr int calls = 10;
+    static constexpr int reports = 11;
+
+    Trace();
+    Trace(const Trace&);
+    Trace(Trace&&) noexcept;
+    Trace& operator=(const Trace&);
+    Trace& operator=(Trace&&) noexcept;
+    ~Trace();
+
+    /// Opens the log for appending; an empty name means "dochtml.log" in the system's temporary
+    /// directory. A log that cannot be opened leaves the trace silent.
+    void open(const OrxString& name);
+    void close();
+    void setLevel(int level) noexcept { level_ = level; }
+    /// Drops what an earlier process left in the log of that name, once a process and name.
+    void purgeBefore(const OrxString& name);
+
+    /// Whether a line of that level would be seen by anybody.
+    [[nodiscard]] bool isTrace(int level) const noexcept;
+    /// Writes a text, line ends included, for those that want its level. A line feed becomes the
+    /// system's line end in the log. The log is up to date with every call.
+    void write(int level, std::string_view text);
+
+    /// Installs the listener (it stays the caller's), null for none; returns the one before.
+    static TraceListener* setListener(TraceListener* listener) noexcept;
+
+private:
+    class Log;
+    std::shared_ptr<Log> log_;
+    int level_ = 0;
+};
+
+}  // namespace quillmark
