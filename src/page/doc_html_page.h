@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -78,11 +77,6 @@ public:
     /// Writes the file and tells the unresolved references in the trace, then empties the page.
     /// The style-sheet link stays. An empty page is left as it is.
     void close();
-
-    /// Called after every written page file with its name and whether it was written whole.
-    /// Process-wide, for tools that count; null for none.
-    using WriteObserver = std::function<void(const OrxString& fileName, bool written)>;
-    static void setWriteObserver(WriteObserver observer);
 
 private:
     struct Record;
