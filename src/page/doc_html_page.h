@@ -58,19 +58,21 @@ public:
     [[nodiscard]] static OrxString relativeLink(const OrxString& target, const OrxString& base);
 
     /// Marks: named places that can still be filled.
-    void addMark(const OrxString& name, const OrxString& markup);
+    void addMark(std::string_view name, std::string_view markup);
     [[nodiscard]] bool hasMarks() const noexcept;
     [[nodiscard]] std::size_t getMarkCount() const noexcept;
-    [[nodiscard]] bool hasMark(const OrxString& name) const;
+    [[nodiscard]] bool hasMark(std::string_view name) const;
     /// Drops every mark of that name without filling it.
-    void removeMarks(const OrxString& name);
+    void removeMarks(std::string_view name);
     /// Fills every mark of that name, in the order of their making, and drops them: an empty
     /// markup becomes HREF="reference"; in a markup that holds the name, the name's first
     /// occurrence, wherever it stands, becomes that; any other markup is put as it is.
-    void resolveMarks(const OrxString& name, const OrxString& reference);
+    void resolveMarks(std::string_view name, std::string_view reference);
     /// Lets `append` write at the first mark of that name. False when there is none.
-    bool setInsertPoint(const OrxString& name);
+    bool setInsertPoint(std::string_view name);
     void clearInsertPoint() noexcept;
+    /// Gives back memory held for growth; for a page that is held back until its marks are filled.
+    void compact();
     /// The open marks in name order, equal names in the order of their making.
     [[nodiscard]] std::vector<std::pair<OrxString, htmlMarkPosition>> marks() const;
 

@@ -1,0 +1,66 @@
+#include "foundation/name_index.h"
+
+#include <functional>
+#include <utility>
+
+namespace quillmark {
+
+namespace {
+
+/// Only the place in the table depends on it, never anything that is written.
+std::uint32_t hashOf(std::string_view name) noexcept {
+    const std::size_t hash = std::hash<std::string_view>{}(name);
+    return static_cast<std::uint32_t>(hash ^ (hash >> 31U));
+}
+
+constexpr std::size_t firstTableSize = 8;
+
+}  // namespace
+
+std::size_t NameIndex::slotOf(std::string_view name, std::uint32_t hash) const noexcept {
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t at = hash & mask;
+    while (slots_[at].id != none && (slots_[at].hash != hash || names_[slots_[at].id] != name)) {
+        at = (at + 1) & mask;
+    }
+    return at;
+}
+
+NameIndex::Id NameIndex::find(std::string_view name) const noexcept {
+    return slots_.empty() ? none : slots_[slotOf(name, hashOf(name))].id;
+}
+
+NameIndex::Id NameIndex::add(std::string_view name) {
+    if ((names_.size() + 1) * 4 > slots_.size() * 3) {
+        grow();
+    }
+    const std::uint32_t hash = hashOf(name);
+    Slot& slot = slots_[slotOf(name, hash)];
+    if (slot.id == none) {
+        slot = {hash, names_.add(name)};
+    }
+    return slot.id;
+}
+
+void NameIndex::grow() {
+    std::vector<Slot> old = std::exchange(slots_, {});
+    slots_.resize(old.empty() ? firstTableSize : old.size() * 2);
+    const std::size_t mask = slots_.size() - 1;
+    for (const Slot& slot : old) {
+        if (slot.id == none) {
+            continue;
+        }
+        std::size_t at = slot.hash & mask;
+        while (slots_[at].id != none) {
+            at = (at + 1) & mask;
+        }
+        slots_[at] = slot;
+    }
+}
+
+void NameIndex::clear() noexcept {
+    names_.clear();
+    slots_.clear();
+}
+
+}  // namespace quillmark

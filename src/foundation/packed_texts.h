@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillmark {
+
+/// A growing list of texts in one block of memory: eight bytes a text besides its own, so that
+/// a document of hundreds of thousands of names stays small. A view lives until the next `add`.
+class PackedTexts {
+public:
+    /// Returns the index of the text, counted from 0.
+    std::uint32_t add(std::string_view text) {
+        bytes_.append(text);
+        ends_.push_back(bytes_.size());
+        return static_cast<std::uint32_t>(ends_.size() - 1);
+    }
+    [[nodiscard]] std::string_view operator[](std::uint32_t index) const noexcept {
+        const std::size_t start = index == 0 ? 0 : ends_[index - 1];
+        return std::string_view(bytes_).substr(start, ends_[index] - start);
+    }
+    [[nodiscard]] std::size_t size() const noexcept { return ends_.size(); }
+    void clear() noexcept {
+        bytes_.clear();
+        ends_.clear();
+    }
+
+private:
+    std::string bytes_;
+    std::vector<std::size_t> ends_;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,219 @@
+#include "page/doc_html_page.h"
+
+#include <array>
+
+#include "foundation/orx_exception.h"
+#include "page/html_head.h"
+#include "page/links.h"
+#include "page/mark_table.h"
+#include "page/splice_text.h"
+#include "platform/document_observer.h"
+#include "platform/signal_to_exception.h"
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+namespace {
+
+constexpr std::string_view fileEnd = "\n</HTML>\n";
+constexpr std::string_view hrefOpening = "HREF=\"";
+
+}  // namespace
+
+struct DocHtmlPage::Record {
+    OrxString top;
+    SpliceText text;
+    OrxString tail;
+    OrxString title;
+    OrxString styleSheetLink;
+    OrxString headExtra;
+    OrxString fileName;
+    MarkTable marks;
+    SpliceText::MarkId insertPoint = SpliceText::none;
+    Trace trace;
+
+    void writeFile() const;
+    void reportUnresolved() const;
+    void reset();
+};
+
+void DocHtmlPage::Record::writeFile() const {
+    const std::string head = htmlHead(title, styleSheetLink, headExtra);
+    const std::string merged = text.isPlain() ? std::string() : text.merged();
+    const std::string_view body = text.isPlain() ? text.plain() : std::string_view(merged);
+    const std::array<std::string_view, 5> pieces = {head, top.view(), body, tail.view(), fileEnd};
+    switch (SysFile::writeWhole(fileName, pieces)) {
+        case WriteResult::done:
+            DocumentObserver::current().pageWritten(fileName);
+            return;
+        case WriteResult::openFailed:
+            OrxException::raise("Error opening file: " + fileName);
+        case WriteResult::writeFailed:
+            OrxException::raise("Error writing to file: " + fileName);
+    }
+}
+
+void DocHtmlPage::Record::reportUnresolved() const {
+    if (marks.size() == 0) {
+        return;
+    }
+    DocumentObserver::current().unresolvedReferences(fileName, marks.size());
+    if (!trace.isTrace(Trace::reports)) {
+        return;
+    }
+    OrxString report("Unresolved references on page ");
+    report.append(fileName).append('\n');
+    marks.forEach([&](std::string_view name, SpliceText::MarkId mark) {
+        report.append("  ").append(name).append(" near line ");
+        report.append(std::to_string(text.line(mark)));
+        const std::string_view markup = text.markup(mark);
+        if (!markup.empty()) {
+            report.append(" ").append(markup);
+        }
+        report.append('\n');
+    });
+    Trace(trace).write(Trace::reports, report);
+}
+
+void DocHtmlPage::Record::reset() {
+    // The style-sheet link stays: a page that is filled again keeps its style sheet.
+    const Trace keptTrace = trace;
+    OrxString keptLink = std::move(styleSheetLink);
+    *this = Record();
+    styleSheetLink = std::move(keptLink);
+    trace = keptTrace;
+}
+
+DocHtmlPage::DocHtmlPage() : record_(std::make_unique<Record>()) {}
+
+DocHtmlPage::DocHtmlPage(const DocHtmlPage& other)
+    : OrxObject(other), record_(std::make_unique<Record>(*other.record_)) {}
+
+DocHtmlPage& DocHtmlPage::operator=(const DocHtmlPage& other) {
+    if (this != &other) {
+        *record_ = *other.record_;
+    }
+    return *this;
+}
+
+DocHtmlPage::~DocHtmlPage() {
+    try {
+        close();
+    } catch (const std::exception& problem) {
+        OrxException::logCatch(problem.what());
+    }
+}
+
+void DocHtmlPage::appendTop(std::string_view text) { record_->top.append(text); }
+void DocHtmlPage::appendTail(std::string_view text) { record_->tail.append(text); }
+void DocHtmlPage::appendHead(std::string_view text) { record_->headExtra.append(text); }
+
+void DocHtmlPage::append(std::string_view text) {
+    if (record_->insertPoint != SpliceText::none) {
+        record_->text.insertAt(record_->insertPoint, text);
+    } else {
+        record_->text.append(text);
+    }
+}
+
+void DocHtmlPage::setFileName(const OrxString& name) { record_->fileName = name; }
+const OrxString& DocHtmlPage::getFileName() const noexcept { return record_->fileName; }
+void DocHtmlPage::setTitle(const OrxString& title) { record_->title = title; }
+void DocHtmlPage::setStyleSheet(const OrxString& href) { record_->styleSheetLink = href; }
+void DocHtmlPage::setTrace(const Trace& trace) { record_->trace = trace; }
+
+bool DocHtmlPage::isEmpty() const noexcept { return getLineCount() == 0; }
+std::int32_t DocHtmlPage::getLineCount() const noexcept { return record_->text.lineCount(); }
+
+bool DocHtmlPage::differs(const DocHtmlPage& other) const noexcept {
+    return record_->fileName != other.record_->fileName;
+}
+
+OrxString DocHtmlPage::relativeLink(const OrxString& target, const OrxString& base) {
+    return links::relative(target, base);
+}
+
+void DocHtmlPage::addMark(std::string_view name, std::string_view markup) {
+    const auto sequence = static_cast<std::uint32_t>(record_->marks.size() + 1);
+    record_->marks.add(name, record_->text.addMark(markup, sequence));
+}
+
+bool DocHtmlPage::hasMarks() const noexcept { return getMarkCount() != 0; }
+std::size_t DocHtmlPage::getMarkCount() const noexcept { return record_->marks.size(); }
+
+bool DocHtmlPage::hasMark(std::string_view name) const {
+    return record_->marks.first(name) != SpliceText::none;
+}
+
+void DocHtmlPage::removeMarks(std::string_view name) {
+    record_->marks.take(name, [this](SpliceText::MarkId mark) {
+        if (record_->insertPoint == mark) {
+            record_->insertPoint = SpliceText::none;
+        }
+        record_->text.drop(mark);
+    });
+}
+
+void DocHtmlPage::resolveMarks(std::string_view name, std::string_view reference) {
+    SpliceText& text = record_->text;
+    record_->marks.take(name, [&](SpliceText::MarkId mark) {
+        const std::string markup(text.markup(mark));
+        // The first occurrence counts wherever it stands, in the tag's own letters too: a place
+        // named "A" is found in "<A A>" at the tag.
+        const std::size_t hit = markup.find(name);
+        text.rewind(mark);
+        if (markup.empty() || hit != std::string::npos) {
+            const std::size_t cut = markup.empty() ? 0 : hit;
+            const std::size_t rest = markup.empty() ? 0 : hit + name.size();
+            text.insertAt(mark, std::string_view(markup).substr(0, cut));
+            text.insertAt(mark, hrefOpening);
+            text.insertAt(mark, reference);
+            text.insertAt(mark, "\"");
+            text.insertAt(mark, std::string_view(markup).substr(rest));
+        } else {
+            text.insertAt(mark, markup);
+        }
+        text.drop(mark);
+    });
+    clearInsertPoint();
+}
+
+bool DocHtmlPage::setInsertPoint(std::string_view name) {
+    const SpliceText::MarkId mark = record_->marks.first(name);
+    if (mark == SpliceText::none) {
+        return false;
+    }
+    record_->text.rewind(mark);
+    record_->insertPoint = mark;
+    return true;
+}
+
+void DocHtmlPage::clearInsertPoint() noexcept { record_->insertPoint = SpliceText::none; }
+
+void DocHtmlPage::compact() { record_->text.compact(); }
+
+std::vector<std::pair<OrxString, htmlMarkPosition>> DocHtmlPage::marks() const {
+    std::vector<std::pair<OrxString, htmlMarkPosition>> all;
+    record_->marks.forEach([&](std::string_view name, SpliceText::MarkId mark) {
+        const SpliceText& text = record_->text;
+        all.emplace_back(name, htmlMarkPosition{text.line(mark), text.column(mark),
+                                                OrxString(text.markup(mark)),
+                                                text.sequence(mark)});
+    });
+    return all;
+}
+
+void DocHtmlPage::close() {
+    if (isEmpty()) {
+        return;
+    }
+    try {
+        CSignal2Exception::run([this] { record_->writeFile(); });
+    } catch (const OrxException& problem) {
+        OrxException::logCatch(problem.reasonText());
+    }
+    record_->reportUnresolved();
+    record_->reset();
+}
+
+}  // namespace quillmark

@@ -1,0 +1,32 @@
+#include "page/file_copier.h"
+
+#include "platform/document_observer.h"
+#include "platform/sys_directory.h"
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+OrxString FileCopier::copyToDir(const OrxString& source, const OrxString& targetDir,
+                                const OrxString& targetName, const Trace& trace) const {
+    const OrxString extension = SysFile::getExtension(source);
+    const bool linkedInPlace = !extension.isEmpty() && dontCopy_.contains(extension);
+    if (linkedInPlace || !SysFile::exists(source)) {
+        return source;
+    }
+    SysDirectory::checkDirectoryAndCreate(targetDir);
+    const OrxString name = targetName.isEmpty() ? SysFile::stripDir(source) : targetName;
+    const OrxString target = SysFile::appendToDir(targetDir, name);
+    if (SysFile::copy(source, target)) {
+        DocumentObserver::current().fileCopied(target);
+        return target;
+    }
+    if (trace.isTrace(Trace::errors)) {
+        OrxString line("ERR Could not copy file ");
+        line.append(source).append(" to directory ").append(targetDir).append('\n');
+        Trace(trace).write(Trace::errors, line);
+    }
+    // An older copy that is already there is as good a target as any.
+    return SysFile::exists(target) ? target : source;
+}
+
+}  // namespace quillmark

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "foundation/name_index.h"
+#include "page/splice_text.h"
+
+namespace quillmark {
+
+/// The names of a page's open marks: a multimap from a name to marks, equal names in the order
+/// of their making.
+class MarkTable {
+public:
+    using MarkId = SpliceText::MarkId;
+
+    void add(std::string_view name, MarkId mark);
+    /// Number of open marks of all names.
+    [[nodiscard]] std::size_t size() const noexcept { return open_; }
+    /// The first open mark of the name, or `SpliceText::none`.
+    [[nodiscard]] MarkId first(std::string_view name) const noexcept;
+    /// Removes the marks of the name and hands each to `each`, in the order of their making.
+    void take(std::string_view name, const std::function<void(MarkId)>& each);
+    /// Every open mark, in name order.
+    void forEach(const std::function<void(std::string_view name, MarkId)>& each) const;
+    void clear() noexcept;
+
+private:
+    struct Entry {
+        MarkId mark = SpliceText::none;
+        std::uint32_t next = NameIndex::none;  // entry of the same name
+    };
+    struct Chain {
+        std::uint32_t first = NameIndex::none;
+        std::uint32_t last = NameIndex::none;
+    };
+
+    std::uint32_t newEntry(MarkId mark);
+
+    NameIndex names_;
+    std::vector<Chain> chains_;  // by the name's number
+    std::vector<Entry> entries_;
+    std::vector<std::uint32_t> freeEntries_;
+    std::size_t open_ = 0;
+};
+
+}  // namespace quillmark

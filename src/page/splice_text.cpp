@@ -1,0 +1,143 @@
+#include "page/splice_text.h"
+
+namespace quillmark {
+
+void SpliceText::append(std::string_view text) {
+    if (lineCount_ == 0) {
+        lineCount_ = 1;
+    }
+    base_.append(text);
+    if (text.find('\n') != std::string_view::npos) {
+        ++lineCount_;
+        lineStart_ = base_.size();
+    }
+}
+
+SpliceText::MarkId SpliceText::addMark(std::string_view markup, std::uint32_t sequence) {
+    if (lineCount_ == 0) {
+        lineCount_ = 1;
+    }
+    const MarkId mark = newNode();
+    Node& node = nodes_[mark];
+    node.offset = base_.size();
+    node.poolStart = pool_.size();
+    node.poolLength = static_cast<std::uint32_t>(markup.size());
+    node.sequence = sequence;
+    node.line = static_cast<std::uint32_t>(lineCount_);
+    node.baseColumn = static_cast<std::uint32_t>(base_.size() - lineStart_);
+    pool_.append(markup);
+    // Sequence numbers need not grow from mark to mark: they count the open ones.
+    MarkId previous = tail_;
+    while (previous != none && !nodes_[previous].isText &&
+           nodes_[previous].offset == node.offset && nodes_[previous].sequence > sequence) {
+        previous = nodes_[previous].previous;
+    }
+    linkBehind(mark, previous);
+    return mark;
+}
+
+void SpliceText::insertAt(MarkId mark, std::string_view text) {
+    if (text.empty()) {
+        return;
+    }
+    insertedBytes_ += text.size();
+    const MarkId last = nodes_[mark].lastText;
+    if (last != none && nodes_[last].poolStart + nodes_[last].poolLength == pool_.size()) {
+        nodes_[last].poolLength += static_cast<std::uint32_t>(text.size());
+        pool_.append(text);
+        return;
+    }
+    if (last == none) {
+        moveBehindEquals(mark);
+    }
+    const MarkId inserted = newNode();
+    Node& node = nodes_[inserted];
+    const Node& place = nodes_[mark];
+    node.isText = true;
+    node.offset = place.offset;
+    node.line = place.line;
+    node.baseColumn = place.baseColumn;
+    node.poolStart = pool_.size();
+    node.poolLength = static_cast<std::uint32_t>(text.size());
+    pool_.append(text);
+    linkBehind(inserted, last == none ? mark : last);
+    nodes_[mark].lastText = inserted;
+}
+
+void SpliceText::drop(MarkId mark) {
+    unlink(mark);
+    free_.push_back(mark);
+}
+
+std::string_view SpliceText::markup(MarkId mark) const noexcept { return pooled(nodes_[mark]); }
+
+std::uint32_t SpliceText::column(MarkId mark) const noexcept {
+    std::uint32_t column = nodes_[mark].baseColumn + 1;
+    for (MarkId at = nodes_[mark].previous; at != none && nodes_[at].line == nodes_[mark].line;
+         at = nodes_[at].previous) {
+        column += nodes_[at].isText ? nodes_[at].poolLength : 0;
+    }
+    return column;
+}
+
+std::string SpliceText::merged() const {
+    std::string text;
+    text.reserve(base_.size() + insertedBytes_);
+    std::size_t copied = 0;
+    for (MarkId at = head_; at != none; at = nodes_[at].next) {
+        if (nodes_[at].isText) {
+            text.append(base_, copied, nodes_[at].offset - copied).append(pooled(nodes_[at]));
+            copied = nodes_[at].offset;
+        }
+    }
+    return text.append(base_, copied);
+}
+
+void SpliceText::compact() {
+    base_.shrink_to_fit();
+    pool_.shrink_to_fit();
+    nodes_.shrink_to_fit();
+}
+
+SpliceText::MarkId SpliceText::newNode() {
+    if (!free_.empty()) {
+        const MarkId reused = free_.back();
+        free_.pop_back();
+        nodes_[reused] = {};
+        return reused;
+    }
+    nodes_.emplace_back();
+    return static_cast<MarkId>(nodes_.size() - 1);
+}
+
+void SpliceText::linkBehind(MarkId node, MarkId previous) {
+    const MarkId next = previous == none ? head_ : nodes_[previous].next;
+    nodes_[node].previous = previous;
+    nodes_[node].next = next;
+    (previous == none ? head_ : nodes_[previous].next) = node;
+    (next == none ? tail_ : nodes_[next].previous) = node;
+}
+
+void SpliceText::unlink(MarkId node) {
+    const MarkId previous = nodes_[node].previous;
+    const MarkId next = nodes_[node].next;
+    (previous == none ? head_ : nodes_[previous].next) = next;
+    (next == none ? tail_ : nodes_[next].previous) = previous;
+}
+
+void SpliceText::moveBehindEquals(MarkId mark) {
+    const Node& moved = nodes_[mark];
+    MarkId target = mark;
+    for (MarkId at = moved.next; at != none && !nodes_[at].isText &&
+                                 nodes_[at].offset == moved.offset &&
+                                 nodes_[at].sequence <= moved.sequence;
+         at = nodes_[at].next) {
+        target = at;
+    }
+    if (target != mark) {
+        unlink(mark);
+        linkBehind(mark, target);
+    }
+}
+
+}  // namespace quillmark
