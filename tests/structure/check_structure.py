@@ -1,0 +1,152 @@
+#!/usr/bin/env python3
+"""Holds the source tree against its own rules.
+
+- An include points to the same module or to a layer below, never upwards or sideways.
+- System headers and system macros stay in the folders that are there for them.
+- No file of code grows beyond 400 lines.
+- Nothing names the machine that it was written on, or a package registry.
+
+Usage: check_structure.py ROOT
+"""
+
+import pathlib
+import re
+import sys
+
+MAX_LINES = 400
+
+# What each module may include besides itself.
+BELOW_DRIVER = {"foundation", "platform", "page", "toc", "diagram"}
+ALLOWED = {
+    "foundation": set(),
+    "platform": {"foundation"},
+    "page": {"foundation", "platform"},
+    "toc": {"foundation", "platform", "page"},
+    "diagram": {"foundation", "platform", "page"},
+    "driver": BELOW_DRIVER,
+    "settings_ui": BELOW_DRIVER,
+    "component": BELOW_DRIVER | {"driver", "settings_ui"},
+    "replay": BELOW_DRIVER | {"driver", "settings_ui", "component"},
+}
+
+SYSTEM_FOLDERS = (
+    "src/platform/posix/",
+    "src/platform/windows/",
+    "src/component/",
+    "src/settings_ui/",
+)
+# The wrapper of the Windows headers; public headers of the component stand on their own.
+WINDOWS_API_HEADER = "src/platform/windows/windows_api.h"
+PUBLIC_COMPONENT_HEADERS = "src/component/include/"
+
+# The whole of the standard library as this project knows it; what is not here is a system header.
+STANDARD_HEADERS = set(
+    """algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv
+    chrono cinttypes climits clocale cmath codecvt compare complex concepts condition_variable
+    coroutine csetjmp csignal cstdarg cstddef cstdint cstdio cstdlib cstring ctime cuchar cwchar
+    cwctype deque exception execution filesystem format forward_list fstream functional future
+    initializer_list iomanip ios iosfwd iostream istream iterator latch limits list locale map
+    memory memory_resource mutex new numbers numeric optional ostream queue random ranges ratio
+    regex scoped_allocator semaphore set shared_mutex source_location span sstream stack stdexcept
+    stop_token streambuf string string_view strstream syncstream system_error thread tuple
+    type_traits typeindex typeinfo unordered_map unordered_set utility valarray variant vector
+    version""".split()
+)
+JSON_HEADERS = re.compile(r"rapidjson/")
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
+CONDITIONAL = re.compile(r"^\s*#\s*(?:if|ifdef|ifndef|elif)\b(.*)")
+SYSTEM_MACRO = re.compile(
+    r"\b(_WIN32|_WIN64|WIN32|__MINGW\w*|_MSC_VER|__linux__|__unix__|__APPLE__|_POSIX\w*)\b"
+)
+
+FORBIDDEN = re.compile(
+    r"/work/|/home/\w|/tmp/team|registry\.npmjs|npmjs\.org|pypi\.org|deb\.debian\.org|crates\.io"
+    r"|proxy\.golang",
+    re.IGNORECASE,
+)
+
+CODE = {".cpp", ".h", ".idl", ".rc", ".cmake", ".py", ".js", ".mjs", ".sh", ".css"}
+TEXT = CODE | {".txt", ".md", ".json", ".yml", ".jnlp", ".htm", ".html", ".in", ".def", ".jsonl"}
+SKIPPED = {"build", "out", "node_modules", ".git", ".cache"}
+
+
+def tree(root):
+    for path in sorted(root.rglob("*")):
+        name = path.relative_to(root)
+        if path.is_file() and not any(part in SKIPPED for part in name.parts):
+            yield name.as_posix(), path
+
+
+def layer_fault(name, header):
+    module = name.split("/")[1]
+    other = header.split("/")[0]
+    if other == module or other not in ALLOWED or module not in ALLOWED:
+        return None
+    if other not in ALLOWED[module]:
+        return f"{module} must not include {other} ({header})"
+    return None
+
+
+def system_include_fault(name, header):
+    if name.startswith(PUBLIC_COMPONENT_HEADERS):
+        return None
+    if header == "windows.h" and name != WINDOWS_API_HEADER:
+        return f"windows.h is included by {WINDOWS_API_HEADER} alone"
+    if header in STANDARD_HEADERS or name.startswith(SYSTEM_FOLDERS):
+        return None
+    if name.startswith("src/replay/") and JSON_HEADERS.match(header):
+        return None
+    return f"system header <{header}> outside the platform folders"
+
+
+def source_faults(name, lines):
+    """The rules for a file of src/."""
+    for number, line in enumerate(lines, 1):
+        include = INCLUDE.match(line)
+        if include:
+            check = system_include_fault if include[1] == "<" else layer_fault
+            fault = check(name, include[2])
+            if fault:
+                yield number, fault
+        conditional = CONDITIONAL.match(line)
+        if conditional and SYSTEM_MACRO.search(conditional[1]):
+            if not name.startswith(SYSTEM_FOLDERS):
+                yield number, "system conditional outside the platform folders"
+
+
+def text_faults(name, lines):
+    """The rules for every file of text."""
+    if pathlib.PurePath(name).suffix in CODE and len(lines) > MAX_LINES:
+        yield MAX_LINES + 1, f"{len(lines)} lines; the limit is {MAX_LINES}"
+    if name.startswith("tests/structure/"):
+        return
+    for number, line in enumerate(lines, 1):
+        found = FORBIDDEN.search(line)
+        if found:
+            yield number, f'"{found[0]}" names a machine or a registry'
+
+
+def check(root):
+    checked = 0
+    faults = []
+    for name, path in tree(root):
+        if path.suffix not in TEXT and path.name != "run":
+            continue
+        checked += 1
+        lines = path.read_text(encoding="utf-8", errors="replace").splitlines()
+        rules = [text_faults] + ([source_faults] if name.startswith("src/") else [])
+        for rule in rules:
+            faults += [f"{name}:{line}: {what}" for line, what in rule(name, lines)]
+    return checked, faults
+
+
+def main():
+    checked, faults = check(pathlib.Path(sys.argv[1]))
+    print("\n".join(faults))
+    print(f"{checked} files looked at, {len(faults)} faults")
+    return 1 if faults or checked == 0 else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

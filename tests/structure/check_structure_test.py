@@ -1,0 +1,59 @@
+#!/usr/bin/env python3
+"""The structure check finds what it is there to find."""
+
+import pathlib
+import tempfile
+import unittest
+
+import check_structure
+
+
+class CheckStructure(unittest.TestCase):
+    def faults_of(self, name, text):
+        with tempfile.TemporaryDirectory() as folder:
+            path = pathlib.Path(folder, name)
+            path.parent.mkdir(parents=True)
+            path.write_text(text, encoding="utf-8")
+            return check_structure.check(pathlib.Path(folder))[1]
+
+    def test_an_include_downwards_is_fine(self):
+        self.assertEqual([], self.faults_of("src/page/a.h", '#include "foundation/orx_string.h"\n'))
+
+    def test_an_include_upwards_is_a_fault(self):
+        self.assertEqual(
+            ["src/page/a.h:2: page must not include driver (driver/i_document.h)"],
+            self.faults_of("src/page/a.h", '\n#include "driver/i_document.h"\n'),
+        )
+
+    def test_modules_of_one_layer_do_not_include_each_other(self):
+        self.assertEqual(1, len(self.faults_of("src/toc/a.h", '#include "diagram/b.h"\n')))
+
+    def test_the_standard_library_is_open_to_all(self):
+        self.assertEqual([], self.faults_of("src/page/a.h", "#include <string>\n"))
+
+    def test_a_system_header_stays_in_the_platform_folders(self):
+        self.assertEqual(
+            ["src/page/a.h:1: system header <unistd.h> outside the platform folders"],
+            self.faults_of("src/page/a.h", "#include <unistd.h>\n"),
+        )
+        self.assertEqual([], self.faults_of("src/platform/posix/a.cpp", "#include <unistd.h>\n"))
+
+    def test_windows_h_has_one_door(self):
+        self.assertEqual(
+            1, len(self.faults_of("src/platform/windows/a.cpp", "#include <windows.h>\n"))
+        )
+
+    def test_a_system_conditional_stays_in_the_platform_folders(self):
+        self.assertEqual(1, len(self.faults_of("src/page/a.h", "#ifdef _WIN32\n")))
+        self.assertEqual(1, len(self.faults_of("src/page/a.h", "#if defined(_WIN32)\n")))
+
+    def test_a_file_of_400_lines_is_fine_and_one_more_is_not(self):
+        self.assertEqual([], self.faults_of("src/page/a.h", "\n" * 400))
+        self.assertEqual(1, len(self.faults_of("src/page/a.h", "\n" * 401)))
+
+    def test_a_machine_path_is_a_fault_anywhere(self):
+        self.assertEqual(1, len(self.faults_of("docs/a.md", "see /work/" + "main\n")))
+
+
+if __name__ == "__main__":
+    unittest.main()
