@@ -27,8 +27,12 @@ char narrowed(char16_t unit) noexcept {
                                       : static_cast<char>(0x80 + (hit - upperControls.begin()));
 }
 
-bool isHighSurrogate(char32_t unit) noexcept { return unit >= 0xD800 && unit <= 0xDBFF; }
-bool isLowSurrogate(char32_t unit) noexcept { return unit >= 0xDC00 && unit <= 0xDFFF; }
+bool isHighSurrogate(char32_t unit) noexcept {
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+bool isLowSurrogate(char32_t unit) noexcept {
+    return unit >= 0xDC00 && unit <= 0xDFFF;
+}
 
 /// Decodes one code point at `pos` and moves behind it; a malformed byte counts alone.
 char32_t decodeUtf8(std::string_view utf8, std::size_t& pos) noexcept {

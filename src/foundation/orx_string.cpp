@@ -8,8 +8,12 @@ namespace quillmark {
 
 namespace {
 
-char lowered(char c) noexcept { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-char raised(char c) noexcept { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+char lowered(char c) noexcept {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+char raised(char c) noexcept {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
 
 std::string joined(std::string_view a, std::string_view b) {
     std::string result;
@@ -46,11 +50,17 @@ std::size_t OrxString::find(std::string_view text, std::size_t from) const noexc
     return bytes_.find(text, from);
 }
 
-std::size_t OrxString::first(char character) const noexcept { return bytes_.find(character); }
+std::size_t OrxString::first(char character) const noexcept {
+    return bytes_.find(character);
+}
 
-std::size_t OrxString::last(char character) const noexcept { return bytes_.rfind(character); }
+std::size_t OrxString::last(char character) const noexcept {
+    return bytes_.rfind(character);
+}
 
-bool OrxString::contains(std::string_view text) const noexcept { return find(text) != npos; }
+bool OrxString::contains(std::string_view text) const noexcept {
+    return find(text) != npos;
+}
 
 bool OrxString::startsWith(std::string_view text) const noexcept {
     return view().starts_with(text);
@@ -98,12 +108,30 @@ std::size_t OrxString::hash() const noexcept {
     return static_cast<std::size_t>(value);
 }
 
-OrxString operator+(const OrxString& a, std::string_view b) { return joined(a, b); }
-OrxString operator+(const OrxString& a, const OrxString& b) { return joined(a, b); }
-OrxString operator+(const OrxString& a, const char* b) { return joined(a, b); }
-OrxString operator+(std::string_view a, const OrxString& b) { return joined(a, b); }
-OrxString operator+(const char* a, const OrxString& b) { return joined(a, b); }
+OrxString operator+(const OrxString& a, std::string_view b) {
+    return joined(a, b);
+}
+OrxString operator+(const OrxString& a, const OrxString& b) {
+    return joined(a, b);
+}
+OrxString operator+(const OrxString& a, const std::string& b) {
+    return joined(a, b);
+}
+OrxString operator+(const OrxString& a, const char* b) {
+    return joined(a, b);
+}
+OrxString operator+(std::string_view a, const OrxString& b) {
+    return joined(a, b);
+}
+OrxString operator+(const std::string& a, const OrxString& b) {
+    return joined(a, b);
+}
+OrxString operator+(const char* a, const OrxString& b) {
+    return joined(a, b);
+}
 
-std::ostream& operator<<(std::ostream& out, const OrxString& text) { return out << text.view(); }
+std::ostream& operator<<(std::ostream& out, const OrxString& text) {
+    return out << text.view();
+}
 
 }  // namespace quillmark

@@ -83,8 +83,10 @@ private:
 
 [[nodiscard]] OrxString operator+(const OrxString& a, std::string_view b);
 [[nodiscard]] OrxString operator+(const OrxString& a, const OrxString& b);
+[[nodiscard]] OrxString operator+(const OrxString& a, const std::string& b);
 [[nodiscard]] OrxString operator+(const OrxString& a, const char* b);
 [[nodiscard]] OrxString operator+(std::string_view a, const OrxString& b);
+[[nodiscard]] OrxString operator+(const std::string& a, const OrxString& b);
 [[nodiscard]] OrxString operator+(const char* a, const OrxString& b);
 std::ostream& operator<<(std::ostream& out, const OrxString& text);
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -11,6 +13,17 @@ namespace quillmark {
 
 /// How an output file ended.
 enum class WriteResult { done, openFailed, writeFailed };
+
+/// What tells two states of a file apart without reading it.
+struct FileStamp {
+    std::uint64_t size = 0;
+    /// The time of the last change, in units of the system's own.
+    std::int64_t changed = 0;
+    /// Which file it is, so that one put in its place differs.
+    std::uint64_t identity = 0;
+
+    friend bool operator==(const FileStamp&, const FileStamp&) noexcept = default;
+};
 
 /// A file open for reading, from the front to the end.
 class InputFile {
@@ -44,6 +57,8 @@ public:
     /// True for a file (or what a link to one leads to), false for a directory.
     [[nodiscard]] virtual bool fileExists(const OrxString& name) const = 0;
     [[nodiscard]] virtual bool directoryExists(const OrxString& name) const = 0;
+    /// The file's stamp, for those who keep what they have read; nothing where no file is.
+    [[nodiscard]] virtual std::optional<FileStamp> stamp(const OrxString& name) const = 0;
 
     /// Copies the bytes over `target`, which is made or replaced; a file copied onto itself is
     /// left untouched and counts as done. Memory use does not grow with the file. A failure

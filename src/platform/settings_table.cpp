@@ -40,8 +40,9 @@ constexpr std::array settingRows{
                        "Style sheet of the pages; a bare file name lies in the installation "
                        "directory, an empty text means none",
                        true},
-    SettingDescription{htmlGroup, "PassThrough", SettingType::boolean, "false",
-                       "Texts are written as the HTML that they are, nothing is escaped"},
+    SettingDescription{
+        htmlGroup, "PassThrough", SettingType::boolean, "false",
+        "A text may carry markup of its own; \"<<\" in it is then written as \"&lt;&lt;\""},
     SettingDescription{htmlGroup, "LocateInBrowser", SettingType::boolean, "true",
                        "Frame sets that can locate model elements in the browser"},
     SettingDescription{htmlGroup, "DiagramType", SettingType::shortInteger, "0",

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <memory>
 #include <string_view>
 
@@ -7,7 +8,8 @@
 
 namespace quillmark {
 
-/// Hears the lines of every trace of the process, besides the log. The replay tool is one.
+/// Hears the lines of every trace of the process, besides the log. The replay tool is one. It is
+/// called on the thread that writes the line.
 class TraceListener {
 public:
     virtual ~TraceListener() = default;
@@ -36,16 +38,20 @@ public:
     Trace& operator=(Trace&&) noexcept;
     ~Trace();
 
-    /// Opens the log for appending; an empty name means "dochtml.log" in the system's temporary
-    /// directory. A log that cannot be opened leaves the trace silent.
+    /// Takes up the log of that name, for appending; an empty name means "dochtml.log" in the
+    /// system's temporary directory. The file is made by the first line written to it; one that
+    /// cannot be opened leaves the trace silent until the next `open`.
     void open(const OrxString& name);
     void close();
     void setLevel(int level) noexcept { level_ = level; }
-    /// Drops what an earlier process left in the log of that name, once a process and name.
+    /// Drops what an earlier process left in the log of that name, once a process and name. A
+    /// log that this process has written to already is left as it is.
     void purgeBefore(const OrxString& name);
 
     /// Whether a line of that level would be seen by anybody.
-    [[nodiscard]] bool isTrace(int level) const noexcept;
+    [[nodiscard]] bool isTrace(int level) const noexcept {
+        return (level <= level_ && hasLog()) || listenerHears(level);
+    }
     /// Writes a text, line ends included, for those that want its level. A line feed becomes the
     /// system's line end in the log. The log is up to date with every call.
     void write(int level, std::string_view text);
@@ -55,6 +61,14 @@ public:
 
 private:
     class Log;
+
+    static bool listenerHears(int level) noexcept {
+        const TraceListener* const listener = listener_.load(std::memory_order_acquire);
+        return listener != nullptr && level <= listener->level();
+    }
+    [[nodiscard]] bool hasLog() const noexcept;
+
+    static std::atomic<TraceListener*> listener_;
     std::shared_ptr<Log> log_;
     int level_ = 0;
 };

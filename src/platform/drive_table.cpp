@@ -1,0 +1,72 @@
+#include "platform/drive_table.h"
+
+#include <array>
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <mutex>
+#include <shared_mutex>
+
+namespace quillmark {
+
+namespace {
+
+constexpr std::size_t letterCount = 26;
+
+struct Table {
+    std::shared_mutex mutex;
+    std::array<std::string, letterCount> directories;
+    /// One bit a letter, so that asking an empty table takes no lock.
+    std::atomic<std::uint32_t> used{0};
+};
+
+Table& table() {
+    static Table instance;
+    return instance;
+}
+
+std::optional<std::size_t> indexOf(char letter) noexcept {
+    if (letter >= 'a' && letter <= 'z') {
+        return static_cast<std::size_t>(letter - 'a');
+    }
+    if (letter >= 'A' && letter <= 'Z') {
+        return static_cast<std::size_t>(letter - 'A');
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+void DriveTable::set(char letter, const std::string& directory) {
+    const std::optional<std::size_t> index = indexOf(letter);
+    if (!index) {
+        return;
+    }
+    const std::uint32_t bit = 1U << *index;
+    const std::unique_lock lock(table().mutex);
+    table().directories.at(*index) = directory;
+    if (directory.empty()) {
+        table().used.fetch_and(~bit);
+    } else {
+        table().used.fetch_or(bit);
+    }
+}
+
+std::optional<std::string> DriveTable::find(char letter) {
+    const std::optional<std::size_t> index = indexOf(letter);
+    const std::uint32_t used = table().used.load(std::memory_order_acquire);
+    if (!index || (used & (1U << *index)) == 0) {
+        return std::nullopt;
+    }
+    const std::shared_lock lock(table().mutex);
+    const std::string& directory = table().directories.at(*index);
+    return directory.empty() ? std::nullopt : std::optional(directory);
+}
+
+void DriveTable::clear() {
+    const std::unique_lock lock(table().mutex);
+    table().directories.fill({});
+    table().used.store(0);
+}
+
+}  // namespace quillmark

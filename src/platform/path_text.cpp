@@ -1,0 +1,105 @@
+#include "platform/path_text.h"
+
+#include <algorithm>
+
+namespace quillmark::path_text {
+
+namespace {
+
+bool isLetter(char c) noexcept {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+char lowered(char c) noexcept {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool sameText(std::string_view a, std::string_view b, bool ignoreCase) noexcept {
+    return ignoreCase ? std::ranges::equal(a, b, {}, lowered, lowered) : a == b;
+}
+
+/// A drive letter has no case on any system, whatever stands behind it.
+bool sameFirst(std::string_view a, std::string_view b, bool ignoreCase) noexcept {
+    if (hasDrive(a) && hasDrive(b)) {
+        return lowered(a[0]) == lowered(b[0]) && sameText(a.substr(1), b.substr(1), ignoreCase);
+    }
+    return sameText(a, b, ignoreCase);
+}
+
+std::size_t commonCount(const std::vector<std::string_view>& a,
+                        const std::vector<std::string_view>& b, bool ignoreCase) noexcept {
+    if (a.empty() || b.empty() || !sameFirst(a[0], b[0], ignoreCase)) {
+        return 0;
+    }
+    const std::size_t shorter = std::min(a.size(), b.size());
+    std::size_t count = 1;
+    while (count < shorter && sameText(a[count], b[count], ignoreCase)) {
+        ++count;
+    }
+    return count;
+}
+
+void appendComponent(OrxString& path, std::string_view component) {
+    if (!path.isEmpty()) {
+        path.append('\\');
+    }
+    path.append(component);
+}
+
+}  // namespace
+
+bool hasDrive(std::string_view name) noexcept {
+    return name.size() >= 2 && name[1] == ':' && isLetter(name[0]);
+}
+
+bool isAbsolute(std::string_view name) noexcept {
+    return hasDrive(name) || (!name.empty() && isSeparator(name.front()));
+}
+
+OrxString inDriverForm(std::string_view name) {
+    std::string text(name);
+    std::replace(text.begin(), text.end(), '/', '\\');
+    return text;
+}
+
+std::size_t fileStart(std::string_view name) noexcept {
+    const std::size_t separator = name.find_last_of("\\/");
+    if (separator != std::string_view::npos) {
+        return separator + 1;
+    }
+    return hasDrive(name) ? 2 : 0;
+}
+
+std::vector<std::string_view> components(std::string_view path) {
+    std::vector<std::string_view> result;
+    if (!path.empty() && isSeparator(path.front())) {
+        result.emplace_back("\\");
+    }
+    for (std::size_t start = 0; start < path.size();) {
+        const std::size_t end = std::min(path.find_first_of("\\/", start), path.size());
+        if (end > start) {
+            result.push_back(path.substr(start, end - start));
+        }
+        start = end + 1;
+    }
+    return result;
+}
+
+OrxString relativePath(const OrxString& base, const OrxString& target, bool ignoreCase) {
+    const std::vector<std::string_view> from = components(base);
+    const std::vector<std::string_view> to = components(target);
+    const std::size_t common = commonCount(from, to, ignoreCase);
+    if (common == 0) {
+        return target;
+    }
+    OrxString result;
+    for (std::size_t i = common; i < from.size(); ++i) {
+        appendComponent(result, "..");
+    }
+    for (std::size_t i = common; i < to.size(); ++i) {
+        appendComponent(result, to[i]);
+    }
+    return result;
+}
+
+}  // namespace quillmark::path_text

@@ -1,0 +1,103 @@
+#include "platform/posix/launch.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+
+#include "platform/posix/descriptor.h"
+
+namespace quillmark {
+
+namespace {
+
+/// What runs between `fork` and the new program may only make calls that are safe in a signal
+/// handler: other threads of the host may hold any lock. So everything is laid out before.
+struct Launch {
+    const char* program;
+    char* const* arguments;
+    /// Closed by the system when the program starts; a byte in it tells that it did not.
+    int failurePipe;
+};
+
+void silenceStreams() noexcept {
+    const int nowhere = open("/dev/null", O_RDWR);
+    if (nowhere >= 0) {
+        for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+            dup2(nowhere, stream);
+        }
+    }
+}
+
+void unblockSignals() noexcept {
+    sigset_t none;
+    sigemptyset(&none);
+    sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
+[[noreturn]] void tellFailure(const Launch& launch) noexcept {
+    const char sign = 1;
+    static_cast<void>(!write(launch.failurePipe, &sign, 1));
+    _exit(127);
+}
+
+[[noreturn]] void becomeProgram(const Launch& launch) noexcept {
+    setsid();
+    silenceStreams();
+    unblockSignals();
+    execvp(launch.program, launch.arguments);
+    tellFailure(launch);
+}
+
+/// Forks twice: the program's parent ends at once, so that the system looks after the program and
+/// the host never finds a finished child that it does not know.
+bool forkTwice(const Launch& launch) noexcept {
+    const pid_t middle = fork();
+    if (middle == 0) {
+        const pid_t program = fork();
+        if (program == 0) {
+            becomeProgram(launch);
+        }
+        if (program < 0) {
+            tellFailure(launch);
+        }
+        _exit(0);
+    }
+    while (middle > 0 && waitpid(middle, nullptr, 0) < 0 && errno == EINTR) {
+    }
+    return middle > 0;
+}
+
+}  // namespace
+
+bool launchDetached(const std::string& program, const std::vector<std::string>& arguments) {
+    std::vector<std::string> texts = {program};
+    texts.insert(texts.end(), arguments.begin(), arguments.end());
+    std::vector<char*> pointers;
+    for (std::string& text : texts) {
+        pointers.push_back(text.data());
+    }
+    pointers.push_back(nullptr);
+
+    std::array<int, 2> ends{};
+    if (pipe2(ends.data(), O_CLOEXEC) != 0) {
+        return false;
+    }
+    const Descriptor failures(ends[0]);
+    Descriptor sender(ends[1]);
+    if (!forkTwice({program.c_str(), pointers.data(), sender.number()})) {
+        return false;
+    }
+    static_cast<void>(sender.close());
+    char sign = 0;
+    ssize_t taken = read(failures.number(), &sign, 1);
+    while (taken < 0 && errno == EINTR) {
+        taken = read(failures.number(), &sign, 1);
+    }
+    return taken == 0;
+}
+
+}  // namespace quillmark

@@ -1,0 +1,200 @@
+#include <fcntl.h>
+#include <stdlib.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "platform/drive_table.h"
+#include "platform/file_system.h"
+#include "platform/posix/descriptor_io.h"
+
+namespace quillmark {
+
+namespace {
+
+using descriptor_io::openFile;
+
+std::optional<struct stat> statusOf(const std::string& path) noexcept {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
+}
+
+std::optional<struct stat> statusOf(const Descriptor& file) noexcept {
+    struct stat status {};
+    return fstat(file.number(), &status) == 0 ? std::optional(status) : std::nullopt;
+}
+
+bool isDirectory(const std::optional<struct stat>& status) noexcept {
+    return status && S_ISDIR(status->st_mode);
+}
+
+bool isFile(const std::optional<struct stat>& status) noexcept {
+    return status && !S_ISDIR(status->st_mode);
+}
+
+class NativeInputFile final : public InputFile {
+public:
+    explicit NativeInputFile(Descriptor file) noexcept : file_(std::move(file)) {}
+
+    std::size_t read(std::span<char> buffer) override {
+        const long taken = descriptor_io::readSome(file_, buffer);
+        return taken > 0 ? static_cast<std::size_t>(taken) : 0;
+    }
+
+private:
+    Descriptor file_;
+};
+
+class NativeOutputFile final : public OutputFile {
+public:
+    explicit NativeOutputFile(Descriptor file) noexcept : file_(std::move(file)) {}
+
+    bool write(std::span<const std::string_view> pieces) override {
+        return descriptor_io::writeAll(file_, pieces);
+    }
+    bool close() override { return file_.close(); }
+
+private:
+    Descriptor file_;
+};
+
+std::unique_ptr<OutputFile> outputFile(const OrxString& name, int flags) {
+    Descriptor file = openFile(nativePath(name).c_str(), O_WRONLY | O_CREAT | flags);
+    return file.isOpen() ? std::make_unique<NativeOutputFile>(std::move(file)) : nullptr;
+}
+
+/// The target of a copy, opened but not emptied yet.
+struct CopyTarget {
+    Descriptor file;
+    bool made = false;
+};
+
+CopyTarget openCopyTarget(const std::string& path) {
+    Descriptor fresh = openFile(path.c_str(), O_WRONLY | O_CREAT | O_EXCL);
+    if (fresh.isOpen() || errno != EEXIST) {
+        return {std::move(fresh), true};
+    }
+    // Here already, or a link that leads nowhere yet.
+    return {openFile(path.c_str(), O_WRONLY | O_CREAT), false};
+}
+
+bool fillCopy(const Descriptor& source, CopyTarget& target) noexcept {
+    const std::optional<struct stat> status = statusOf(target.file);
+    const bool emptied = target.made || !status || !S_ISREG(status->st_mode) ||
+                         ftruncate(target.file.number(), 0) == 0;
+    const bool copied = emptied && descriptor_io::copyAll(source, target.file);
+    return target.file.close() && copied;
+}
+
+bool makeDirectoryChain(const std::string& path) {
+    constexpr mode_t everybodyAsFarAsTheMaskAllows = 0777;
+    if (mkdir(path.c_str(), everybodyAsFarAsTheMaskAllows) == 0) {
+        return true;
+    }
+    if (errno != ENOENT) {
+        return isDirectory(statusOf(path));
+    }
+    const std::size_t lastOfParent = path.find_last_not_of('/', path.find_last_of('/'));
+    return lastOfParent != std::string::npos && lastOfParent + 1 < path.size() &&
+           makeDirectoryChain(path.substr(0, lastOfParent + 1)) &&
+           (mkdir(path.c_str(), everybodyAsFarAsTheMaskAllows) == 0 || isDirectory(statusOf(path)));
+}
+
+class NativeFileSystem final : public FileSystem {
+public:
+    bool fileExists(const OrxString& name) const override {
+        return isFile(statusOf(nativePath(name)));
+    }
+
+    bool directoryExists(const OrxString& name) const override {
+        return isDirectory(statusOf(nativePath(name)));
+    }
+
+    std::optional<FileStamp> stamp(const OrxString& name) const override {
+        const std::optional<struct stat> status = statusOf(nativePath(name));
+        if (!isFile(status)) {
+            return std::nullopt;
+        }
+        constexpr std::int64_t nanosecondsInSecond = 1'000'000'000;
+        return FileStamp{static_cast<std::uint64_t>(status->st_size),
+                         status->st_mtim.tv_sec * nanosecondsInSecond + status->st_mtim.tv_nsec,
+                         status->st_ino};
+    }
+
+    bool copyFile(const OrxString& source, const OrxString& target) override {
+        const Descriptor from = openFile(nativePath(source).c_str(), O_RDONLY);
+        const std::optional<struct stat> status = statusOf(from);
+        if (!isFile(status)) {
+            return false;
+        }
+        const std::string path = nativePath(target);
+        const std::optional<struct stat> there = statusOf(path);
+        if (there && there->st_dev == status->st_dev && there->st_ino == status->st_ino) {
+            return true;
+        }
+        CopyTarget to = openCopyTarget(path);
+        if (!to.file.isOpen()) {
+            return false;
+        }
+        const bool done = fillCopy(from, to);
+        if (!done && to.made) {
+            unlink(path.c_str());
+        }
+        return done;
+    }
+
+    bool deleteFile(const OrxString& name) override {
+        const std::string path = nativePath(name);
+        return !isDirectory(statusOf(path)) && unlink(path.c_str()) == 0;
+    }
+
+    bool makeDirectories(const OrxString& name) override {
+        std::string path = nativePath(name);
+        while (path.size() > 1 && path.back() == '/') {
+            path.pop_back();
+        }
+        return !path.empty() && makeDirectoryChain(path);
+    }
+
+    bool setCurrentDirectory(const OrxString& name) override {
+        return chdir(nativePath(name).c_str()) == 0;
+    }
+
+    OrxString currentDirectory() const override {
+        const std::unique_ptr<char, decltype(&free)> path(getcwd(nullptr, 0), &free);
+        return path != nullptr ? driverPath(path.get()) : OrxString();
+    }
+
+    std::unique_ptr<InputFile> openForReading(const OrxString& name) override {
+        Descriptor file = openFile(nativePath(name).c_str(), O_RDONLY);
+        return isFile(statusOf(file)) ? std::make_unique<NativeInputFile>(std::move(file))
+                                      : nullptr;
+    }
+
+    std::unique_ptr<OutputFile> openForWriting(const OrxString& name) override {
+        return outputFile(name, O_TRUNC);
+    }
+
+    std::unique_ptr<OutputFile> openForAppending(const OrxString& name) override {
+        return outputFile(name, O_APPEND);
+    }
+
+    bool replaceFile(const OrxString& source, const OrxString& target) override {
+        const std::string from = nativePath(source);
+        return isFile(statusOf(from)) && rename(from.c_str(), nativePath(target).c_str()) == 0;
+    }
+};
+
+}  // namespace
+
+FileSystem& FileSystem::native() noexcept {
+    static NativeFileSystem fileSystem;
+    return fileSystem;
+}
+
+}  // namespace quillmark

@@ -1,0 +1,51 @@
+#include "platform/sys_shell.h"
+
+#include <unistd.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/argument_text.h"
+#include "platform/drive_table.h"
+#include "platform/file_system.h"
+#include "platform/posix/launch.h"
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+namespace {
+
+/// The instance results of the Windows shell that stand for the two failures told apart here.
+constexpr int fileNotFound = 2;
+constexpr int accessDenied = 5;
+
+/// A name that no program takes for an option or for a command of the search path.
+std::string asPath(std::string name) {
+    return name.find('/') != std::string::npos ? name : "./" + name;
+}
+
+}  // namespace
+
+void SysShell::open(const OrxString& fileName) {
+    const std::string target = SysFile::isHyperLink(fileName) ? std::string(fileName.view())
+                                                              : asPath(nativePath(fileName));
+    static_cast<void>(launchDetached("xdg-open", {target}));
+}
+
+int SysShell::start(const OrxString& program, const OrxString& arguments) {
+    const std::string path = asPath(nativePath(program));
+    if (!FileSystem::native().fileExists(program)) {
+        return fileNotFound;
+    }
+    if (access(path.c_str(), X_OK) != 0) {
+        return accessDenied;
+    }
+    // File names in the arguments are the driver's; the program knows the system's only.
+    std::vector<std::string> list = splitArguments(arguments);
+    for (std::string& argument : list) {
+        argument = nativePath(argument);
+    }
+    return launchDetached(path, list) ? started : accessDenied;
+}
+
+}  // namespace quillmark

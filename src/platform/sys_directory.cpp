@@ -1,0 +1,56 @@
+#include "platform/sys_directory.h"
+
+#include "platform/file_system.h"
+#include "platform/path_text.h"
+#include "platform/sys_file.h"
+#include "platform/system_facts.h"
+
+namespace quillmark {
+
+bool SysDirectory::exists(const OrxString& dir) {
+    return FileSystem::current().directoryExists(dir);
+}
+
+bool SysDirectory::create(const OrxString& dir) {
+    return FileSystem::current().makeDirectories(dir);
+}
+
+bool SysDirectory::checkDirectoryAndCreate(const OrxString& dir) {
+    return exists(dir) || create(dir);
+}
+
+OrxString SysDirectory::getSpecificPath(const OrxString& dir, const OrxString& name) {
+    return path_text::isAbsolute(name) ? path_text::inDriverForm(name)
+                                       : SysFile::appendToDir(dir, name);
+}
+
+OrxString SysDirectory::getParentDirectory(const OrxString& dir) {
+    std::string_view text = dir.view();
+    const auto dropSeparators = [&text] {
+        while (text.size() > 1 && path_text::isSeparator(text.back())) {
+            text.remove_suffix(1);
+        }
+    };
+    dropSeparators();
+    const std::size_t separator = text.find_last_of("\\/");
+    if (text.size() <= 1 || separator == std::string_view::npos) {
+        return {};
+    }
+    text = text.substr(0, separator + 1);
+    dropSeparators();
+    return path_text::inDriverForm(text);
+}
+
+OrxString SysDirectory::getRelativePath(const OrxString& base, const OrxString& target) {
+    return path_text::relativePath(base, target, system_facts::namesIgnoreCase());
+}
+
+bool SysDirectory::setCurrentDir(const OrxString& dir) {
+    return FileSystem::current().setCurrentDirectory(dir);
+}
+
+OrxString SysDirectory::getCurrentDir() {
+    return FileSystem::current().currentDirectory();
+}
+
+}  // namespace quillmark

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <ctime>
+#include <string_view>
+
+#include "foundation/orx_string.h"
+
+namespace quillmark {
+
+/// What differs from system to system and is a plain fact: asked here, never by a macro.
+namespace system_facts {
+
+/// How a line of a text file ends: "\n", or "\r\n" on Windows.
+[[nodiscard]] std::string_view lineEnd() noexcept;
+
+/// Whether two file names that differ in case only are the same file.
+[[nodiscard]] bool namesIgnoreCase() noexcept;
+
+/// The system's directory for temporary files, in the driver's form, no separator at its end.
+[[nodiscard]] OrxString temporaryDirectory();
+
+/// The directory that keeps the user's own configuration, in the driver's form, no separator at
+/// its end. It need not exist.
+[[nodiscard]] OrxString userConfigurationDirectory();
+
+/// A moment in the system's local time.
+[[nodiscard]] std::tm localTime(std::time_t moment);
+
+/// Tells this process from every other that runs on the system.
+[[nodiscard]] unsigned long processId() noexcept;
+
+}  // namespace system_facts
+
+}  // namespace quillmark

@@ -1,0 +1,153 @@
+#include "platform/trace.h"
+
+#include <array>
+#include <map>
+#include <mutex>
+#include <set>
+#include <string>
+#include <utility>
+
+#include "platform/file_system.h"
+#include "platform/sys_directory.h"
+#include "platform/sys_file.h"
+#include "platform/system_facts.h"
+
+namespace quillmark {
+
+std::atomic<TraceListener*> Trace::listener_{nullptr};
+
+/// One log file of the process, shared by every trace that has it open.
+class Trace::Log {
+public:
+    explicit Log(OrxString name) : name_(std::move(name)) {}
+
+    [[nodiscard]] bool failed() const noexcept { return failed_.load(std::memory_order_relaxed); }
+    /// A new `open` gives a log that could not be opened another chance.
+    void forgiveFailure() noexcept { failed_.store(false, std::memory_order_relaxed); }
+
+    void write(std::string_view text) {
+        const std::lock_guard lock(mutex_);
+        if (file_ == nullptr && !failed()) {
+            file_ = FileSystem::current().openForAppending(name_);
+            failed_.store(file_ == nullptr, std::memory_order_relaxed);
+        }
+        if (file_ == nullptr) {
+            return;
+        }
+        // A log that the disk no longer takes lines for goes silent; the document goes on.
+        const bool done = system_facts::lineEnd() == "\n" ? put(text) : put(withLineEnds(text));
+        if (!done) {
+            file_ = nullptr;
+            failed_.store(true, std::memory_order_relaxed);
+        }
+    }
+
+private:
+    [[nodiscard]] bool put(std::string_view text) {
+        const std::array<std::string_view, 1> pieces = {text};
+        return file_->write(pieces);
+    }
+
+    static OrxString withLineEnds(std::string_view text) {
+        return OrxString(text).replaceStr("\n", system_facts::lineEnd());
+    }
+
+    const OrxString name_;
+    std::mutex mutex_;
+    std::unique_ptr<OutputFile> file_;
+    std::atomic<bool> failed_{false};
+};
+
+namespace {
+
+/// A log is known by its absolute name, whatever the current directory is later.
+OrxString logFileName(const OrxString& name) {
+    const OrxString dir =
+        name.isEmpty() ? system_facts::temporaryDirectory() : SysDirectory::getCurrentDir();
+    return SysDirectory::getSpecificPath(dir, name.isEmpty() ? OrxString("dochtml.log") : name);
+}
+
+OrxString logKey(OrxString fileName) {
+    return system_facts::namesIgnoreCase() ? fileName.toLower() : fileName;
+}
+
+/// Every log of the process by its key. `T` is the private log class of `Trace`.
+template <typename T>
+class Registry {
+public:
+    std::shared_ptr<T> take(const OrxString& fileName) {
+        const std::lock_guard lock(mutex_);
+        const OrxString key = logKey(fileName);
+        begun_.insert(key);
+        std::weak_ptr<T>& slot = logs_[key];
+        std::shared_ptr<T> log = slot.lock();
+        if (log == nullptr) {
+            log = std::make_shared<T>(fileName);
+            slot = log;
+        }
+        return log;
+    }
+
+    void purgeOnce(const OrxString& fileName) {
+        const std::lock_guard lock(mutex_);
+        FileSystem& files = FileSystem::current();
+        if (begun_.insert(logKey(fileName)).second && files.fileExists(fileName)) {
+            // Emptied and not deleted: another process may be writing to it at this moment.
+            static_cast<void>(files.openForWriting(fileName));
+        }
+    }
+
+private:
+    std::mutex mutex_;
+    std::map<OrxString, std::weak_ptr<T>> logs_;
+    /// The logs that this process has purged or opened; what is in them is its own.
+    std::set<OrxString> begun_;
+};
+
+template <typename T>
+Registry<T>& registry() {
+    static Registry<T> instance;
+    return instance;
+}
+
+}  // namespace
+
+Trace::Trace() = default;
+Trace::Trace(const Trace&) = default;
+Trace::Trace(Trace&&) noexcept = default;
+Trace& Trace::operator=(const Trace&) = default;
+Trace& Trace::operator=(Trace&&) noexcept = default;
+Trace::~Trace() = default;
+
+void Trace::open(const OrxString& name) {
+    log_ = registry<Log>().take(logFileName(name));
+    log_->forgiveFailure();
+}
+
+void Trace::close() {
+    log_ = nullptr;
+}
+
+void Trace::purgeBefore(const OrxString& name) {
+    registry<Log>().purgeOnce(logFileName(name));
+}
+
+bool Trace::hasLog() const noexcept {
+    return log_ != nullptr && !log_->failed();
+}
+
+void Trace::write(int level, std::string_view text) {
+    if (level <= level_ && hasLog()) {
+        log_->write(text);
+    }
+    TraceListener* const listener = listener_.load(std::memory_order_acquire);
+    if (listener != nullptr && level <= listener->level()) {
+        listener->line(level, text);
+    }
+}
+
+TraceListener* Trace::setListener(TraceListener* listener) noexcept {
+    return listener_.exchange(listener, std::memory_order_acq_rel);
+}
+
+}  // namespace quillmark
