@@ -1,0 +1,63 @@
+#include "driver/bookmark_registry.h"
+
+#include <utility>
+
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+BookmarkRegistry::Id BookmarkRegistry::add(std::string_view name) {
+    if (lastAdded_ != unknown && names_.name(lastAdded_) == name) {
+        return lastAdded_;
+    }
+    lastAdded_ = names_.add(name);
+    if (lastAdded_ == records_.size()) {
+        records_.emplace_back();
+    }
+    return lastAdded_;
+}
+
+void BookmarkRegistry::define(Id id, const OrxString& pageFile) {
+    // Bookmarks come page by page, so one look at the last file keeps each name once.
+    const auto files = static_cast<std::uint32_t>(pageFiles_.size());
+    const bool known = files != 0 && pageFiles_[files - 1] == pageFile.view();
+    records_[id].pageFile = known ? files - 1 : pageFiles_.add(pageFile);
+}
+
+std::string_view BookmarkRegistry::pageFile(Id id) const noexcept {
+    return pageFiles_[records_[id].pageFile];
+}
+
+OrxString BookmarkRegistry::reference(Id id) const {
+    OrxString text = SysFile::stripDir(OrxString(pageFile(id)));
+    text.append('#').append(names_.name(id));
+    return text;
+}
+
+void BookmarkRegistry::addWaiting(Id id, const WaitingPage& page) {
+    std::uint32_t& list = records_[id].waiting;
+    if (list == none && freeWaiting_.empty()) {
+        list = static_cast<std::uint32_t>(waiting_.size());
+        waiting_.emplace_back();
+    } else if (list == none) {
+        list = freeWaiting_.back();
+        freeWaiting_.pop_back();
+    }
+    std::vector<WaitingPage>& pages = waiting_[list];
+    if (pages.empty() || pages.back().page != page.page) {
+        pages.push_back(page);
+    }
+}
+
+std::vector<WaitingPage> BookmarkRegistry::takeWaiting(Id id) {
+    const std::uint32_t list = std::exchange(records_[id].waiting, none);
+    if (list == none) {
+        return {};
+    }
+    freeWaiting_.push_back(list);
+    return std::exchange(waiting_[list], {});
+}
+
+void BookmarkRegistry::clear() noexcept { *this = BookmarkRegistry(); }
+
+}  // namespace quillmark

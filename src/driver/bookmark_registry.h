@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "foundation/name_index.h"
+#include "foundation/orx_counted_ptr.h"
+#include "foundation/orx_string.h"
+#include "page/doc_html_page.h"
+
+namespace quillmark {
+
+/// A page that waits for a bookmark, with its page number.
+struct WaitingPage {
+    OrxCountedPtr<DocHtmlPage> page;
+    std::uint32_t number = 0;
+};
+
+/// The document's bookmarks: every name that was defined or referred to, and for each the page
+/// that holds its anchor or the pages that wait for it.
+///
+/// A bookmark goes from unknown to referenced to defined and never back; the first definition
+/// wins. It holds a few words a name, so that a million of them stay cheap: the anchor's
+/// reference is put together when it is asked for.
+class BookmarkRegistry {
+public:
+    using Id = NameIndex::Id;
+    static constexpr Id unknown = NameIndex::none;
+
+    [[nodiscard]] Id find(std::string_view name) const noexcept { return names_.find(name); }
+    /// The bookmark of that name, registered now when it is new. The last name asked for is found
+    /// without a search: the end of a link follows its beginning.
+    [[nodiscard]] Id add(std::string_view name);
+
+    [[nodiscard]] bool isDefined(Id id) const noexcept { return records_[id].pageFile != none; }
+    /// Registers the page file that holds the anchor.
+    void define(Id id, const OrxString& pageFile);
+    /// The file of the page that holds the anchor of a defined bookmark.
+    [[nodiscard]] std::string_view pageFile(Id id) const noexcept;
+    /// The anchor's page without directory, "#", the name; for a defined bookmark.
+    [[nodiscard]] OrxString reference(Id id) const;
+
+    /// Lets a page wait; one that waits already does not wait twice. Pages must come in the order
+    /// of their making, each as long as it is the current one.
+    void addWaiting(Id id, const WaitingPage& page);
+    /// The pages that waited, in the order of their making; none waits afterwards.
+    [[nodiscard]] std::vector<WaitingPage> takeWaiting(Id id);
+
+    void clear() noexcept;
+
+private:
+    static constexpr std::uint32_t none = 0xFFFFFFFF;
+    struct Record {
+        std::uint32_t pageFile = none;  // in pageFiles_
+        std::uint32_t waiting = none;   // in waiting_
+    };
+
+    NameIndex names_;
+    std::vector<Record> records_;
+    PackedTexts pageFiles_;
+    std::vector<std::vector<WaitingPage>> waiting_;
+    std::vector<std::uint32_t> freeWaiting_;
+    Id lastAdded_ = unknown;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "foundation/orx_counted_ptr.h"
+#include "page/doc_html_page.h"
+#include "page/doc_html_section.h"
+#include "page/text_state.h"
+
+namespace quillmark {
+
+/// Where output goes.
+enum class SectionMode { header = 0, body = 1, footer = 2 };
+
+/// The router of all markup: to the header section, the current page's body or the footer
+/// section. It keeps the page being written, the two sections, and the text state in force.
+class OutputRouter {
+public:
+    OutputRouter() : page_(OrxCountedPtr<DocHtmlPage>::make()) {}
+    OutputRouter(const OutputRouter&) = delete;
+    OutputRouter& operator=(const OutputRouter&) = delete;
+    ~OutputRouter() = default;
+
+    /// Takes finished HTML to the place that is current.
+    void writeOut(std::string_view html) {
+        if (mode_ == SectionMode::body) {
+            page_->append(html);
+        } else if (DocHtmlSection* const open = section(mode_); open != nullptr) {
+            open->insertText(html);
+        }
+    }
+
+    [[nodiscard]] SectionMode mode() const noexcept { return mode_; }
+    [[nodiscard]] bool inBody() const noexcept { return mode_ == SectionMode::body; }
+
+    /// The page being written; never null.
+    [[nodiscard]] DocHtmlPage& page() const noexcept { return *page_; }
+    [[nodiscard]] const OrxCountedPtr<DocHtmlPage>& sharedPage() const noexcept { return page_; }
+    void setPage(OrxCountedPtr<DocHtmlPage> page) noexcept { page_ = std::move(page); }
+
+    /// The text state that style, alignment and font calls change.
+    [[nodiscard]] DocHtmlTextState& state() const noexcept { return *state_; }
+    [[nodiscard]] DocHtmlTextState& bodyState() noexcept { return bodyState_; }
+
+    /// The section of a mode; null for the body and for a section that was never opened.
+    [[nodiscard]] DocHtmlSection* section(SectionMode mode) const noexcept;
+    /// Makes the section current, empty, with the document's test level.
+    void openSection(SectionMode mode, int testLevel);
+    /// Makes the body current.
+    void returnToBody() noexcept;
+    /// Makes the body current and frees both sections.
+    void freeSections() noexcept;
+
+    /// While it lives the body is current; afterwards an open section is current again.
+    class BodyScope {
+    public:
+        explicit BodyScope(OutputRouter& out) noexcept : out_(out), mode_(out.mode_) {
+            out_.returnToBody();
+        }
+        BodyScope(const BodyScope&) = delete;
+        BodyScope& operator=(const BodyScope&) = delete;
+        ~BodyScope() { out_.makeCurrent(mode_); }
+
+    private:
+        OutputRouter& out_;
+        SectionMode mode_;
+    };
+
+private:
+    void makeCurrent(SectionMode mode) noexcept;
+
+    SectionMode mode_ = SectionMode::body;
+    OrxCountedPtr<DocHtmlPage> page_;
+    std::unique_ptr<DocHtmlSection> header_;
+    std::unique_ptr<DocHtmlSection> footer_;
+    DocHtmlTextState bodyState_;
+    DocHtmlTextState* state_ = &bodyState_;
+};
+
+}  // namespace quillmark
