@@ -1,0 +1,13 @@
+#pragma once
+
+#include "page/doc_html_page.h"
+#include "toc/toc_entry_list.h"
+
+namespace quillmark {
+
+/// Writes the contents as plain links into `page`, where its insertion point stands: a base
+/// target, a heading, and one line an entry, indented by its level. The entries' texts are HTML
+/// and are written as they stand. See `IndentBudget` for levels that no page can show.
+void writeStaticListing(const TocEntryList& entries, DocHtmlPage& page);
+
+}  // namespace quillmark

@@ -1,0 +1,44 @@
+#include "toc/support_files.h"
+
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+namespace {
+
+void copyApplet(const ContentsContext& context) {
+    const auto copy = [&](const OrxString& name, const OrxString& targetName) {
+        context.copier.copyToDir(SysFile::appendToDir(context.installDir, name), context.outputDir,
+                                 targetName, context.trace);
+    };
+    copy(context.appletJar, context.appletArchive);
+    if (context.useJnlp) {
+        copy(context.appletJnlp, "");
+    }
+}
+
+}  // namespace
+
+IconArchives copyContentsSupportFiles(const ContentsContext& context) {
+    copyApplet(context);
+    const auto copyIcons = [&](const OrxString& source) {
+        return context.copier.copyToDir(source, context.pixDir, "", context.trace);
+    };
+    IconArchives archives;
+    archives.icons = copyIcons(SysFile::appendToDir(context.installDir, iconArchiveName));
+    if (!context.iconFile.isEmpty()) {
+        archives.userIcons = copyIcons(context.iconFile);
+    }
+    return archives;
+}
+
+void copyArrowPictures(const OrxString& installDir, const OrxString& pixDir,
+                       const FileCopier& copier, const Trace& trace) {
+    for (const char* const name :
+         {"forwardON.gif", "forwardOFF.gif", "backON.gif", "backOFF.gif"}) {
+        const OrxString source = SysFile::appendToDir(installDir, OrxString("pix\\") + name);
+        copier.copyToDir(source, pixDir, "", trace);
+    }
+}
+
+}  // namespace quillmark
