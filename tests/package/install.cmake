@@ -1,0 +1,18 @@
+# Installs BUILD into an empty PREFIX and looks for what must be there.
+file(REMOVE_RECURSE ${PREFIX})
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${PREFIX}
+                OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+file(GLOB_RECURSE installed RELATIVE ${PREFIX} ${PREFIX}/*)
+foreach(wanted
+        "bin/dochtml-replay"
+        "lib[^;]*/libdochtml.a"
+        "lib[^;]*/libdochtmlcom.so"
+        "lib[^;]*/cmake/dochtml/dochtmlConfig.cmake"
+        "lib[^;]*/pkgconfig/dochtml.pc"
+        "include/dochtml/driver/doc_html.h"
+        "share/dochtml/default.css"
+        "share/doc/dochtml/README.md")
+    if(NOT ";${installed};" MATCHES ";${wanted};")
+        message(SEND_ERROR "not installed: ${wanted}")
+    endif()
+endforeach()
