@@ -58,6 +58,8 @@ std::vector<WaitingPage> BookmarkRegistry::takeWaiting(Id id) {
     return std::exchange(waiting_[list], {});
 }
 
-void BookmarkRegistry::clear() noexcept { *this = BookmarkRegistry(); }
+void BookmarkRegistry::clear() noexcept {
+    *this = BookmarkRegistry();
+}
 
 }  // namespace quillmark

@@ -40,8 +40,7 @@ public:
 private:
     void writeAnchor(BookmarkRegistry::Id id, std::string_view name);
     void resolve(BookmarkRegistry::Id id, std::string_view name);
-    void writeReference(std::string_view name, std::string_view markup,
-                        std::string_view reference);
+    void writeReference(std::string_view name, std::string_view markup, std::string_view reference);
     [[nodiscard]] OrxString relativeReference(BookmarkRegistry::Id id, const DocHtmlPage& page);
 
     OutputRouter& out_;

@@ -17,9 +17,13 @@ void CallTrace::append(std::string& line, std::string_view text) {
     line.append("\"").append(text).append("\"");
 }
 
-void CallTrace::append(std::string& line, Word word) { line.append(word.text); }
+void CallTrace::append(std::string& line, Word word) {
+    line.append(word.text);
+}
 
-void CallTrace::write(std::string& line) { trace_.write(Trace::calls, line.append(callEnd)); }
+void CallTrace::write(std::string& line) {
+    trace_.write(Trace::calls, line.append(callEnd));
+}
 
 void CallTrace::pageBreak() {
     if (trace_.isTrace(Trace::calls)) {

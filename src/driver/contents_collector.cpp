@@ -57,7 +57,7 @@ void ContentsCollector::addEntry(OrxString& anchor, const OrxString& text, std::
     pageHasTocEntry_ = true;
     OrxString href = links::relativeFile(out_.page().getFileName(), outputDir_);
     href.append('#').append(anchor);
-    const EntryIcons icons = showIcons_ ? entryIcons(currentElement_) : EntryIcons{};
+    const EntryIcons icons = showIcons_ ? entryIconsOf(currentElement_) : EntryIcons{};
     entries_.add(TocEntryView{href, text, level, icons.gif, icons.stereoGif});
     anchor.clear();
 }

@@ -18,11 +18,11 @@ bool hasStop(std::string_view text, bool passThrough) noexcept {
     const std::size_t pairs = text.empty() ? 0 : text.size() - 1;
     unsigned stops = 0;
     for (std::size_t i = 0; i < pairs; ++i) {
-        stops |= static_cast<unsigned>(bytes[i] == '\t') | static_cast<unsigned>(bytes[i] == '\n') |
-                 (static_cast<unsigned>(bytes[i] == ' ') &
-                  static_cast<unsigned>(bytes[i + 1] == ' ')) |
-                 (static_cast<unsigned>(passThrough) & static_cast<unsigned>(bytes[i] == '<') &
-                  static_cast<unsigned>(bytes[i + 1] == '<'));
+        stops |=
+            static_cast<unsigned>(bytes[i] == '\t') | static_cast<unsigned>(bytes[i] == '\n') |
+            (static_cast<unsigned>(bytes[i] == ' ') & static_cast<unsigned>(bytes[i + 1] == ' ')) |
+            (static_cast<unsigned>(passThrough) & static_cast<unsigned>(bytes[i] == '<') &
+             static_cast<unsigned>(bytes[i + 1] == '<'));
     }
     return stops != 0 || (!text.empty() && (bytes[pairs] == '\t' || bytes[pairs] == '\n'));
 }

@@ -28,10 +28,10 @@ public:
     IDocument& operator=(const IDocument&) = delete;
     virtual ~IDocument() = default;
 
-    virtual DocResult create(WideText fileName) = 0;                                 // 1
-    virtual DocResult close() = 0;                                                   // 2
-    virtual DocResult insertText(WideText text) = 0;                                 // 3
-    virtual DocResult insertEndl() = 0;                                              // 4
+    virtual DocResult create(WideText fileName) = 0;  // 1
+    virtual DocResult close() = 0;                    // 2
+    virtual DocResult insertText(WideText text) = 0;  // 3
+    virtual DocResult insertEndl() = 0;               // 4
     virtual DocResult insertDiagram(std::int32_t ptr, std::int16_t width,
                                     std::int16_t height) = 0;                        // 5
     virtual DocResult insertPageBreak() = 0;                                         // 6
@@ -54,24 +54,24 @@ public:
     virtual DocResult insertFile(WideText fileName, std::int16_t insertAsType) = 0;  // 23
     virtual DocResult getDocType(std::u16string& docType) = 0;                       // 24
     virtual DocResult overrideRegistry(WideText group, WideText name, WideText value,
-                                       std::int16_t valueType) = 0;                  // 25
-    virtual DocResult insertTOC() = 0;                                               // 26
-    virtual DocResult startTable() = 0;                                              // 27
-    virtual DocResult endTable() = 0;                                                // 28
-    virtual DocResult addCell() = 0;                                                 // 29
-    virtual DocResult addRow() = 0;                                                  // 30
-    virtual DocResult insertMark(std::int32_t ptr, bool isPrimary) = 0;              // 31
-    virtual DocResult startTOCEntry() = 0;                                           // 32
-    virtual DocResult endTOCEntry() = 0;                                             // 33
-    virtual DocResult insertImage(WideText imageFileName, WideText fileOrUrl) = 0;   // 34
-    virtual DocResult setOrientation(std::int16_t docorient) = 0;                    // 35
-    virtual DocResult setTableRowHeight(std::int32_t points) = 0;                    // 36
-    virtual DocResult insertTag(WideText tagName) = 0;                               // 37
-    virtual DocResult insertXref(WideText text, WideText tagName) = 0;               // 38
-    virtual DocResult startFile(WideText fileName) = 0;                              // 39
-    virtual DocResult insertLocate() = 0;                                            // 40
-    virtual DocResult pushDirectory(WideText directoryName) = 0;                     // 41
-    virtual DocResult popDirectory() = 0;                                            // 42
+                                       std::int16_t valueType) = 0;                 // 25
+    virtual DocResult insertTOC() = 0;                                              // 26
+    virtual DocResult startTable() = 0;                                             // 27
+    virtual DocResult endTable() = 0;                                               // 28
+    virtual DocResult addCell() = 0;                                                // 29
+    virtual DocResult addRow() = 0;                                                 // 30
+    virtual DocResult insertMark(std::int32_t ptr, bool isPrimary) = 0;             // 31
+    virtual DocResult startTOCEntry() = 0;                                          // 32
+    virtual DocResult endTOCEntry() = 0;                                            // 33
+    virtual DocResult insertImage(WideText imageFileName, WideText fileOrUrl) = 0;  // 34
+    virtual DocResult setOrientation(std::int16_t docorient) = 0;                   // 35
+    virtual DocResult setTableRowHeight(std::int32_t points) = 0;                   // 36
+    virtual DocResult insertTag(WideText tagName) = 0;                              // 37
+    virtual DocResult insertXref(WideText text, WideText tagName) = 0;              // 38
+    virtual DocResult startFile(WideText fileName) = 0;                             // 39
+    virtual DocResult insertLocate() = 0;                                           // 40
+    virtual DocResult pushDirectory(WideText directoryName) = 0;                    // 41
+    virtual DocResult popDirectory() = 0;                                           // 42
 };
 
 }  // namespace quillmark

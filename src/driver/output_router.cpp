@@ -25,7 +25,9 @@ void OutputRouter::openSection(SectionMode mode, int testLevel) {
     makeCurrent(mode);
 }
 
-void OutputRouter::returnToBody() noexcept { makeCurrent(SectionMode::body); }
+void OutputRouter::returnToBody() noexcept {
+    makeCurrent(SectionMode::body);
+}
 
 void OutputRouter::freeSections() noexcept {
     returnToBody();

@@ -104,9 +104,15 @@ DocHtmlPage::~DocHtmlPage() {
     }
 }
 
-void DocHtmlPage::appendTop(std::string_view text) { record_->top.append(text); }
-void DocHtmlPage::appendTail(std::string_view text) { record_->tail.append(text); }
-void DocHtmlPage::appendHead(std::string_view text) { record_->headExtra.append(text); }
+void DocHtmlPage::appendTop(std::string_view text) {
+    record_->top.append(text);
+}
+void DocHtmlPage::appendTail(std::string_view text) {
+    record_->tail.append(text);
+}
+void DocHtmlPage::appendHead(std::string_view text) {
+    record_->headExtra.append(text);
+}
 
 void DocHtmlPage::append(std::string_view text) {
     if (record_->insertPoint != SpliceText::none) {
@@ -116,14 +122,28 @@ void DocHtmlPage::append(std::string_view text) {
     }
 }
 
-void DocHtmlPage::setFileName(const OrxString& name) { record_->fileName = name; }
-const OrxString& DocHtmlPage::getFileName() const noexcept { return record_->fileName; }
-void DocHtmlPage::setTitle(const OrxString& title) { record_->title = title; }
-void DocHtmlPage::setStyleSheet(const OrxString& href) { record_->styleSheetLink = href; }
-void DocHtmlPage::setTrace(const Trace& trace) { record_->trace = trace; }
+void DocHtmlPage::setFileName(const OrxString& name) {
+    record_->fileName = name;
+}
+const OrxString& DocHtmlPage::getFileName() const noexcept {
+    return record_->fileName;
+}
+void DocHtmlPage::setTitle(const OrxString& title) {
+    record_->title = title;
+}
+void DocHtmlPage::setStyleSheet(const OrxString& href) {
+    record_->styleSheetLink = href;
+}
+void DocHtmlPage::setTrace(const Trace& trace) {
+    record_->trace = trace;
+}
 
-bool DocHtmlPage::isEmpty() const noexcept { return getLineCount() == 0; }
-std::int32_t DocHtmlPage::getLineCount() const noexcept { return record_->text.lineCount(); }
+bool DocHtmlPage::isEmpty() const noexcept {
+    return getLineCount() == 0;
+}
+std::int32_t DocHtmlPage::getLineCount() const noexcept {
+    return record_->text.lineCount();
+}
 
 bool DocHtmlPage::differs(const DocHtmlPage& other) const noexcept {
     return record_->fileName != other.record_->fileName;
@@ -138,8 +158,12 @@ void DocHtmlPage::addMark(std::string_view name, std::string_view markup) {
     record_->marks.add(name, record_->text.addMark(markup, sequence));
 }
 
-bool DocHtmlPage::hasMarks() const noexcept { return getMarkCount() != 0; }
-std::size_t DocHtmlPage::getMarkCount() const noexcept { return record_->marks.size(); }
+bool DocHtmlPage::hasMarks() const noexcept {
+    return getMarkCount() != 0;
+}
+std::size_t DocHtmlPage::getMarkCount() const noexcept {
+    return record_->marks.size();
+}
 
 bool DocHtmlPage::hasMark(std::string_view name) const {
     return record_->marks.first(name) != SpliceText::none;
@@ -188,17 +212,20 @@ bool DocHtmlPage::setInsertPoint(std::string_view name) {
     return true;
 }
 
-void DocHtmlPage::clearInsertPoint() noexcept { record_->insertPoint = SpliceText::none; }
+void DocHtmlPage::clearInsertPoint() noexcept {
+    record_->insertPoint = SpliceText::none;
+}
 
-void DocHtmlPage::compact() { record_->text.compact(); }
+void DocHtmlPage::compact() {
+    record_->text.compact();
+}
 
 std::vector<std::pair<OrxString, htmlMarkPosition>> DocHtmlPage::marks() const {
     std::vector<std::pair<OrxString, htmlMarkPosition>> all;
     record_->marks.forEach([&](std::string_view name, SpliceText::MarkId mark) {
         const SpliceText& text = record_->text;
         all.emplace_back(name, htmlMarkPosition{text.line(mark), text.column(mark),
-                                                OrxString(text.markup(mark)),
-                                                text.sequence(mark)});
+                                                OrxString(text.markup(mark)), text.sequence(mark)});
     });
     return all;
 }

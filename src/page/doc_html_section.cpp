@@ -40,7 +40,9 @@ void DocHtmlSection::clear() {
     record_->testLevel = 0;
 }
 
-void DocHtmlSection::insertText(std::string_view html) { record_->text.append(html); }
+void DocHtmlSection::insertText(std::string_view html) {
+    record_->text.append(html);
+}
 
 void DocHtmlSection::insertField(std::int16_t kind) {
     const bool frozen = record_->testLevel != 0;
@@ -62,9 +64,15 @@ void DocHtmlSection::insertField(std::int16_t kind) {
     }
 }
 
-void DocHtmlSection::setFont(const FontData& font) { record_->state.font = font; }
-DocHtmlTextState* DocHtmlSection::getState() const noexcept { return &record_->state; }
-void DocHtmlSection::setTestLevel(int level) { record_->testLevel = level; }
+void DocHtmlSection::setFont(const FontData& font) {
+    record_->state.font = font;
+}
+DocHtmlTextState* DocHtmlSection::getState() const noexcept {
+    return &record_->state;
+}
+void DocHtmlSection::setTestLevel(int level) {
+    record_->testLevel = level;
+}
 
 OrxString DocHtmlSection::getDisplayString(long pageNumber, const OrxString& fileName) const {
     OrxString text = record_->text;

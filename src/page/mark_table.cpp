@@ -55,9 +55,8 @@ void MarkTable::take(std::string_view name, const std::function<void(MarkId)>& e
 void MarkTable::forEach(const std::function<void(std::string_view, MarkId)>& each) const {
     std::vector<NameIndex::Id> ordered(names_.size());
     std::iota(ordered.begin(), ordered.end(), NameIndex::Id{0});
-    std::sort(ordered.begin(), ordered.end(), [this](NameIndex::Id a, NameIndex::Id b) {
-        return names_.name(a) < names_.name(b);
-    });
+    std::sort(ordered.begin(), ordered.end(),
+              [this](NameIndex::Id a, NameIndex::Id b) { return names_.name(a) < names_.name(b); });
     for (const NameIndex::Id id : ordered) {
         for (std::uint32_t entry = chains_[id].first; entry != NameIndex::none;
              entry = entries_[entry].next) {

@@ -28,8 +28,8 @@ SpliceText::MarkId SpliceText::addMark(std::string_view markup, std::uint32_t se
     pool_.append(markup);
     // Sequence numbers need not grow from mark to mark: they count the open ones.
     MarkId previous = tail_;
-    while (previous != none && !nodes_[previous].isText &&
-           nodes_[previous].offset == node.offset && nodes_[previous].sequence > sequence) {
+    while (previous != none && !nodes_[previous].isText && nodes_[previous].offset == node.offset &&
+           nodes_[previous].sequence > sequence) {
         previous = nodes_[previous].previous;
     }
     linkBehind(mark, previous);
@@ -69,7 +69,9 @@ void SpliceText::drop(MarkId mark) {
     free_.push_back(mark);
 }
 
-std::string_view SpliceText::markup(MarkId mark) const noexcept { return pooled(nodes_[mark]); }
+std::string_view SpliceText::markup(MarkId mark) const noexcept {
+    return pooled(nodes_[mark]);
+}
 
 std::uint32_t SpliceText::column(MarkId mark) const noexcept {
     std::uint32_t column = nodes_[mark].baseColumn + 1;
@@ -128,9 +130,9 @@ void SpliceText::unlink(MarkId node) {
 void SpliceText::moveBehindEquals(MarkId mark) {
     const Node& moved = nodes_[mark];
     MarkId target = mark;
-    for (MarkId at = moved.next; at != none && !nodes_[at].isText &&
-                                 nodes_[at].offset == moved.offset &&
-                                 nodes_[at].sequence <= moved.sequence;
+    for (MarkId at = moved.next;
+         at != none && !nodes_[at].isText && nodes_[at].offset == moved.offset &&
+         nodes_[at].sequence <= moved.sequence;
          at = nodes_[at].next) {
         target = at;
     }

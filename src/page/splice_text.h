@@ -57,15 +57,15 @@ public:
 private:
     /// An open mark, or a text that was put in.
     struct Node {
-        std::size_t offset = 0;        // in base_: it stands in front of the byte there
-        std::size_t poolStart = 0;     // in pool_: the mark's markup or the inserted text
+        std::size_t offset = 0;     // in base_: it stands in front of the byte there
+        std::size_t poolStart = 0;  // in pool_: the mark's markup or the inserted text
         std::uint32_t poolLength = 0;
-        std::uint32_t sequence = 0;    // of a mark
+        std::uint32_t sequence = 0;  // of a mark
         std::uint32_t line = 0;
         std::uint32_t baseColumn = 0;  // bytes of base_ between the line's start and offset
         MarkId previous = none;
         MarkId next = none;
-        MarkId lastText = none;        // of a mark: the text put in there last
+        MarkId lastText = none;  // of a mark: the text put in there last
         bool isText = false;
     };
 

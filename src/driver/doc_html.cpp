@@ -1,0 +1,169 @@
+// The life of a document: opened, cut into pages and directories, closed.
+
+#include "driver/doc_html.h"
+
+#include "driver/doc_html_impl.h"
+#include "foundation/orx_exception.h"
+#include "page/links.h"
+#include "platform/sys_directory.h"
+#include "platform/sys_file.h"
+#include "platform/sys_text.h"
+#include "toc/contents_pages.h"
+#include "toc/support_files.h"
+
+namespace quillmark {
+
+namespace {
+
+/// The style sheet of the setting as a file that exists.
+OrxString installedStyleSheet(const DocumentSettings& settings) {
+    const OrxString path = SysFile::getDir(settings.styleSheet).isEmpty()
+                               ? SysFile::appendToDir(settings.installDir, settings.styleSheet)
+                               : settings.styleSheet;
+    if (!SysFile::exists(path)) {
+        OrxException::raise("Html style sheet does not exist.\n" + path);
+    }
+    return path;
+}
+
+}  // namespace
+
+DocHtml::DocHtml() : impl_(std::make_unique<DocHtmlImpl>()) {}
+
+DocHtml::~DocHtml() {
+    try {
+        // The sections go first: a document that its host never closed gets its last page without
+        // header and footer.
+        impl_->context.out.freeSections();
+        if (!impl_->context.out.page().isEmpty()) {
+            DocHtml::close();
+        }
+        impl_->pages.releaseHeldPages();
+    } catch (const std::exception& problem) {
+        OrxException::logCatch(problem.what());
+    }
+}
+
+DocResult DocHtml::create(WideText fileName) {
+    DocumentContext& context = impl_->context;
+    DocumentSettings& settings = context.settings;
+    const OrxString name = SysText::narrow(fileName);
+    impl_->calls.call("create", name.view());
+    impl_->pages.releaseHeldPages();
+
+    context.names.setDocument(name);
+    links::setDefaultBase(context.names.outputDir());
+    impl_->contents.reset();
+    impl_->contents.setOutputDir(context.names.outputDir());
+    impl_->bookmarks.clear();
+
+    settings.readPlaces(impl_->settings, context.names.outputDir());
+    context.names.setDetailNames(settings.hasContentsPages());
+    context.copier = FileCopier(settings.dontCopy);
+    impl_->contents.setLevel(settings.tocLevel);
+    impl_->contents.setShowIcons(settings.showIcons);
+    if (!settings.styleSheet.isEmpty()) {
+        settings.styleSheet =
+            context.copyTo(context.names.outputDir(), installedStyleSheet(settings));
+    }
+    settings.readTexts(impl_->settings);
+    impl_->text.setPassThrough(settings.passThrough);
+    impl_->images.restart();
+    if (settings.hasArrows()) {
+        copyArrowPictures(settings.installDir, settings.pixDir, context.copier, context.trace);
+    }
+    if (!settings.readIniFile()) {
+        useJnlp_ = false;
+    }
+    impl_->pages.startPage();
+    return resultOk;
+}
+
+DocResult DocHtml::close() {
+    if (!impl_->context.out.page().isEmpty()) {
+        impl_->calls.call("close");
+    }
+    endPage(true);
+    if (impl_->context.settings.hasContentsPages()) {
+        writeContents();
+    }
+    return resultOk;
+}
+
+void DocHtml::endPage(bool last) {
+    impl_->pages.endPage(last, [this] {
+        for (std::int32_t depth = impl_->tables.depth(); depth > 0; --depth) {
+            endTable();
+        }
+    });
+    impl_->breakJustMade = false;
+}
+
+void DocHtml::writeContents() {
+    appletJar_ = useJnlp_ ? "toc2.jar" : "toc2_OLD.jar";
+    appletArchive_ = useJnlp_ ? "" : "toc2.jar";
+    const DocumentContext& context = impl_->context;
+    const DocumentSettings& settings = context.settings;
+    writeContentsPages({
+        .baseName = context.names.baseName(),
+        .extension = context.names.extension(),
+        .title = impl_->pages.title(),
+        .bodyTags = settings.bodyTags,
+        .styleSheetLink = settings.styleSheet.isEmpty()
+                              ? OrxString()
+                              : links::relativeFile(settings.styleSheet, context.names.outputDir()),
+        .showIcons = settings.showIcons,
+        .iconFile = settings.iconFile,
+        .supportOld = settings.supportOld,
+        .locateInBrowser = settings.locateInBrowser,
+        .useJnlp = useJnlp_,
+        .appletJar = appletJar_,
+        .appletArchive = appletArchive_,
+        .appletJnlp = appletJnlp_,
+        .installDir = settings.installDir,
+        .outputDir = context.names.outputDir(),
+        .pixDir = settings.pixDir,
+        .firstDetailPage = context.names.pageFileName(OutputNames::firstPageNumber, ""),
+        .copier = context.copier,
+        .trace = context.trace,
+        .entries = impl_->contents.entries(),
+    });
+}
+
+DocResult DocHtml::insertPageBreak() {
+    impl_->calls.pageBreak();
+    if (impl_->breakJustMade && impl_->context.out.page().getLineCount() < 2) {
+        return resultOk;
+    }
+    endPage(false);
+    impl_->pages.nextNumber();
+    impl_->pages.startPage();
+    return resultOk;
+}
+
+DocResult DocHtml::pushDirectory(WideText directoryName) {
+    if (impl_->tables.inTable()) {
+        return resultOk;
+    }
+    DocumentContext& context = impl_->context;
+    impl_->pages.setSubDirectory(context.names.shortenedDirectory(SysText::narrow(directoryName)));
+    if (context.out.page().getLineCount() > 1) {
+        insertPageBreak();
+        impl_->breakJustMade = true;
+    } else {
+        context.out.page().setFileName(impl_->pages.pageFileName());
+    }
+    if (!impl_->pages.subDirectory().isEmpty()) {
+        SysDirectory::checkDirectoryAndCreate(context.pageDir());
+    }
+    return resultOk;
+}
+
+DocResult DocHtml::popDirectory() {
+    if (!impl_->tables.inTable()) {
+        impl_->pages.setSubDirectory("");
+    }
+    return resultOk;
+}
+
+}  // namespace quillmark

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "driver/i_document.h"
+#include "foundation/orx_string.h"
+
+namespace quillmark {
+
+struct DocHtmlImpl;
+
+/// The HTML driver: turns a stream of document operations into a set of HTML pages with their
+/// contents. One object writes one document; a second `create` on it starts another document with
+/// the state left as it was.
+///
+///     DocHtml document;
+///     document.create(u"C:\\out\\rep.htm");
+///     document.setStyle(u"Heading 1");
+///     document.insertText(u"Introduction");
+///     document.close();                       // the pages are on the disk
+///
+/// Every operation answers `resultOk`; what fails on the way is told in the exception log and in
+/// the call trace. Only `create` without its style sheet and `close` without its tree data file
+/// throw `OrxException`. Call an object from one thread. A document that was never closed is
+/// closed by the destructor, without its header and footer.
+class DocHtml : public IDocument {
+public:
+    DocHtml();
+    ~DocHtml() override;
+
+    DocResult create(WideText fileName) override;
+    DocResult close() override;
+    DocResult insertText(WideText text) override;
+    DocResult insertEndl() override;
+    DocResult insertDiagram(std::int32_t ptr, std::int16_t width, std::int16_t height) override;
+    DocResult insertPageBreak() override;
+    DocResult insertField(std::int16_t field) override;
+    DocResult startHeader() override;
+    DocResult endHeader() override;
+    DocResult startFooter() override;
+    DocResult endFooter() override;
+    DocResult setStyle(WideText style) override;
+    DocResult setFontName(WideText name) override;
+    DocResult setOption(WideText option, WideText value) override;
+    DocResult trace(std::int16_t level) override;
+    DocResult getPropPages(std::u16string& bstrCLSID) override;
+    DocResult start() override;
+    DocResult stop() override;
+    DocResult showLast() override;
+    DocResult setFontSize(std::int16_t size) override;
+    DocResult setFontAttribute(std::int16_t att, bool value) override;
+    DocResult setTextAlign(std::int16_t textAlign) override;
+    DocResult insertFile(WideText fileName, std::int16_t insertAsType) override;
+    DocResult getDocType(std::u16string& docType) override;
+    DocResult overrideRegistry(WideText group, WideText name, WideText value,
+                               std::int16_t valueType) override;
+    DocResult insertTOC() override;
+    DocResult startTable() override;
+    DocResult endTable() override;
+    DocResult addCell() override;
+    DocResult addRow() override;
+    DocResult insertMark(std::int32_t ptr, bool isPrimary) override;
+    DocResult startTOCEntry() override;
+    DocResult endTOCEntry() override;
+    DocResult insertImage(WideText imageFileName, WideText fileOrUrl) override;
+    DocResult setOrientation(std::int16_t docorient) override;
+    DocResult setTableRowHeight(std::int32_t points) override;
+    DocResult insertTag(WideText tagName) override;
+    DocResult insertXref(WideText text, WideText tagName) override;
+    DocResult startFile(WideText fileName) override;
+    DocResult insertLocate() override;
+    DocResult pushDirectory(WideText directoryName) override;
+    DocResult popDirectory() override;
+
+private:
+    void insertTextCall(std::string_view text);
+    void insertXrefCall(std::string_view text, std::string_view tagName);
+    void endPage(bool last);
+    void writeContents();
+
+    /// The contents applet is started from its launch file; false for a Java before 7.
+    bool useJnlp_ = true;
+    OrxString appletJar_;
+    OrxString appletArchive_{"toc2.jar"};
+    OrxString appletJnlp_{"toc2.jnlp"};
+    std::unique_ptr<DocHtmlImpl> impl_;
+};
+
+}  // namespace quillmark

@@ -1,0 +1,147 @@
+// The operations between the document and its host: sections, options, settings, trace.
+
+#include "driver/doc_html.h"
+#include "driver/doc_html_impl.h"
+#include "driver/mark_pair.h"
+#include "foundation/orx_exception.h"
+#include "platform/settings_table.h"
+#include "platform/signal_to_exception.h"
+#include "platform/sys_shell.h"
+#include "platform/sys_text.h"
+
+namespace quillmark {
+
+namespace {
+
+/// The class identifier of the settings page, in the text form of the component registry.
+constexpr std::u16string_view settingsPageClass = u"{474BDD93-0170-11D3-A6BF-00104B2AEFE1}";
+
+RegEntry::Type entryType(std::int16_t valueType) noexcept {
+    switch (valueType) {
+        case 1:
+            return RegEntry::Type::number;
+        case 2:
+            return RegEntry::Type::text;
+        case 3:
+            return RegEntry::Type::boolean;
+        default:
+            return RegEntry().type();
+    }
+}
+
+}  // namespace
+
+DocResult DocHtml::startHeader() {
+    impl_->calls.call("startHeader");
+    impl_->context.out.openSection(SectionMode::header, impl_->context.settings.testLevel);
+    return resultOk;
+}
+
+DocResult DocHtml::endHeader() {
+    impl_->calls.call("endHeader");
+    if (impl_->context.out.mode() == SectionMode::header) {
+        impl_->style.closeAll();
+        impl_->context.out.returnToBody();
+    }
+    return resultOk;
+}
+
+DocResult DocHtml::startFooter() {
+    impl_->calls.call("startFooter");
+    impl_->context.out.openSection(SectionMode::footer, impl_->context.settings.testLevel);
+    return resultOk;
+}
+
+DocResult DocHtml::endFooter() {
+    impl_->calls.call("endFooter");
+    // Unlike `endHeader` it does not ask what is open: in the body it closes the body's tags.
+    impl_->style.closeAll();
+    impl_->context.out.returnToBody();
+    return resultOk;
+}
+
+DocResult DocHtml::setOption(WideText option, WideText value) {
+    const OrxString name = SysText::narrow(option);
+    const OrxString text = SysText::narrow(value);
+    impl_->calls.call("setOption", name.view(), text.view());
+    if (name == "title") {
+        impl_->pages.setTitle(text);
+    }
+    return resultOk;
+}
+
+DocResult DocHtml::trace(std::int16_t level) {
+    Trace& trace = impl_->context.trace;
+    const OrxString logName =
+        impl_->settings.read(logGroup, "LogName", defaultValue(logGroup, "LogName")).asString();
+    trace.purgeBefore(logName);
+    if (level == 0) {
+        trace.close();
+        trace.setLevel(0);
+    } else if (level > 0) {
+        trace.open(logName);
+        trace.setLevel(level);
+    }
+    impl_->context.out.page().setTrace(trace);
+    return resultOk;
+}
+
+DocResult DocHtml::overrideRegistry(WideText group, WideText name, WideText value,
+                                    std::int16_t valueType) {
+    impl_->settings.override(RegEntry(SysText::narrow(group), SysText::narrow(name),
+                                      SysText::narrow(value), entryType(valueType)));
+    return resultOk;
+}
+
+DocResult DocHtml::getPropPages(std::u16string& bstrCLSID) {
+    bstrCLSID = settingsPageClass;
+    return resultOk;
+}
+
+DocResult DocHtml::getDocType(std::u16string& docType) {
+    docType = u"Html";
+    return resultOk;
+}
+
+DocResult DocHtml::showLast() {
+    SysShell::open(impl_->context.names.documentFileName());
+    return resultOk;
+}
+
+DocResult DocHtml::insertMark(std::int32_t ptr, bool isPrimary) {
+    const auto half = static_cast<std::uint32_t>(ptr);
+    if (isPrimary) {
+        impl_->contents.setCurrentElement(MarkPair::join(half));
+    } else {
+        MarkPair::setLow(half);
+    }
+    return resultOk;
+}
+
+DocResult DocHtml::insertDiagram(std::int32_t /*ptr*/, std::int16_t /*width*/,
+                                 std::int16_t /*height*/) {
+    // Diagrams arrive as pictures; the call is only guarded, as its host expects.
+    try {
+        CSignal2Exception::run([] {});
+    } catch (const OrxException& problem) {
+        impl_->context.traceError("ERR ", problem.reasonText());
+        OrxException::logCatch(problem.reasonText());
+    }
+    return resultOk;
+}
+
+// Accepted for other document formats; an HTML document has nothing to do for them.
+DocResult DocHtml::start() {
+    return resultOk;
+}
+DocResult DocHtml::stop() {
+    return resultOk;
+}
+DocResult DocHtml::setOrientation(std::int16_t /*docorient*/) {
+    return resultOk;
+}
+DocResult DocHtml::startFile(WideText /*fileName*/) {
+    return resultOk;
+}
+
+}  // namespace quillmark

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+
+#include "driver/bookmarks.h"
+#include "driver/call_trace.h"
+#include "driver/contents_collector.h"
+#include "driver/document_context.h"
+#include "driver/file_inserter.h"
+#include "driver/font_writer.h"
+#include "driver/image_writer.h"
+#include "driver/link_writer.h"
+#include "driver/locate_button.h"
+#include "driver/page_turner.h"
+#include "driver/paragraph_style.h"
+#include "driver/table_writer.h"
+#include "driver/text_writer.h"
+#include "platform/register_cache.h"
+
+namespace quillmark {
+
+/// The private record of `DocHtml`: the parts of a document, each with its own state, put
+/// together here and nowhere else. A part knows those above it.
+struct DocHtmlImpl {
+    DocumentContext context;
+    RegisterCache settings;
+    CallTrace calls{context.trace};
+    Bookmarks bookmarks{context.out, context.trace};
+    ContentsCollector contents{context.out, bookmarks};
+    FontWriter font{context.out};
+    ParagraphStyle style{context.out, font, contents};
+    TableWriter tables{context.out, font, style};
+    TextWriter text{context.out, contents, style, tables};
+    LinkWriter links{context, bookmarks};
+    ImageWriter images{context, bookmarks, links};
+    FileInserter files{context, links, images, text};
+    LocateButton locate{context, text};
+    PageTurner pages{context, bookmarks, contents, font, style};
+
+    /// A directory change has just cut the page; a page break right behind it is not another one.
+    bool breakJustMade = false;
+    /// The host's text in 8 bits; kept between calls for its memory alone.
+    std::string narrowed;
+};
+
+}  // namespace quillmark

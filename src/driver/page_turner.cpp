@@ -1,0 +1,138 @@
+#include "driver/page_turner.h"
+
+#include <string>
+
+#include "driver/arrow_bar.h"
+#include "page/links.h"
+#include "page/page_marks.h"
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+OrxString PageTurner::pageFileName() const {
+    return context_.names.pageFileName(pageNumber_, subDirectory_);
+}
+
+void PageTurner::newPage() {
+    auto page = OrxCountedPtr<DocHtmlPage>::make();
+    page->setTrace(context_.trace);
+    context_.out.setPage(std::move(page));
+}
+
+void PageTurner::startPage() {
+    const OutputRouter::BodyScope body(context_.out);
+    newPage();
+    DocHtmlPage& page = context_.out.page();
+    page.setFileName(pageFileName());
+    page.addMark(page_marks::topOfPage, "");
+    bookmarks_.setPageNumber(pageNumber_);
+    bookmarks_.define("Page " + std::to_string(pageNumber_), Bookmarks::Origin::driver);
+    reopenTextState();
+    contents_.startPage();
+}
+
+void PageTurner::reopenTextState() {
+    if (!savedState_.styleName.isEmpty()) {
+        const OrxString& inForce = context_.out.state().styleName;
+        if (savedState_.styleName != inForce) {
+            style_.setStyle(savedState_.styleName);
+        }
+    }
+    if (savedState_.font.size != 0 || savedState_.fontOpen) {
+        font_.reopen(savedState_.font);
+    }
+    // The alignment is not opened again.
+}
+
+void PageTurner::endPage(bool last, const std::function<void()>& closeTables) {
+    const OutputRouter::BodyScope body(context_.out);
+    writeTop(last);
+    if (context_.out.page().isEmpty()) {
+        return;
+    }
+    finishBody(closeTables);
+    writeTail();
+    DocHtmlPage& page = context_.out.page();
+    const OrxString& styleSheet = context_.settings.styleSheet;
+    page.setStyleSheet(styleSheet.isEmpty() ? OrxString()
+                                            : links::relativeFile(styleSheet, context_.pageDir()));
+    page.setTitle(title_);
+    contents_.finishPage(pageNumber_);
+    dispatchPage(last);
+}
+
+void PageTurner::writeTop(bool last) {
+    DocHtmlPage& page = context_.out.page();
+    page.appendTop("<BODY ");
+    page.appendTop(context_.settings.bodyTags);
+    page.appendTop(" >\n");
+    if (context_.settings.hasArrows()) {
+        page.appendTop(arrowBar(context_, pageNumber_, last));
+    }
+    if (const DocHtmlSection* const header = context_.out.section(SectionMode::header);
+        header != nullptr) {
+        page.appendTop(stamp(*header));
+        page.appendTop("<HR>\n");
+    }
+}
+
+void PageTurner::writeTail() {
+    DocHtmlPage& page = context_.out.page();
+    page.appendTail("\n");
+    if (const DocHtmlSection* const footer = context_.out.section(SectionMode::footer);
+        footer != nullptr) {
+        page.appendTail("<HR>");
+        page.appendTail(stamp(*footer));
+    }
+    page.appendTail("\n</BODY>");
+}
+
+OrxString PageTurner::stamp(const DocHtmlSection& section) {
+    const DocHtmlTextState& sectionState = *section.getState();
+    if (sectionState.fontOpen) {
+        font_.switchTo(sectionState.font);
+        // The way back to the body's font finds the section's, just made the body's: it is closed
+        // and opened once more, and stays the body's on the pages that follow.
+        if (context_.out.bodyState().fontOpen) {
+            font_.switchTo(FontData(context_.out.bodyState().font));
+        }
+    }
+    return section.getDisplayString(static_cast<long>(pageNumber_),
+                                    SysFile::stripDir(context_.out.page().getFileName()));
+}
+
+void PageTurner::finishBody(const std::function<void()>& closeTables) {
+    closeTables();
+    savedState_ = context_.out.state();
+    style_.closeAll();
+}
+
+void PageTurner::dispatchPage(bool last) {
+    const auto finish = [this](DocHtmlPage& page) {
+        if (!page.isEmpty()) {
+            contents_.fillListing(page);
+            page.close();
+        }
+    };
+    DocHtmlPage& page = context_.out.page();
+    if (last) {
+        bookmarks_.heldPages().finishAll(finish);
+        bookmarks_.clear();
+    }
+    if (!page.hasMarks()) {
+        page.close();
+        return;
+    }
+    if (last) {
+        finish(page);
+    } else {
+        bookmarks_.heldPages().hold(pageNumber_, context_.out.sharedPage());
+    }
+    newPage();
+}
+
+void PageTurner::releaseHeldPages() {
+    bookmarks_.heldPages().finishAll([](DocHtmlPage& page) { page.close(); });
+}
+
+}  // namespace quillmark

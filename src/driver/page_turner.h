@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "driver/bookmarks.h"
+#include "driver/contents_collector.h"
+#include "driver/document_context.h"
+#include "driver/font_writer.h"
+#include "driver/paragraph_style.h"
+
+namespace quillmark {
+
+/// Begins and ends the pages of a document.
+///
+/// Ending a page closes what is open in the body, stamps header, footer and arrows onto the page
+/// and writes it, or holds it back while it carries marks. Beginning the next one opens the text
+/// state again that was closed.
+class PageTurner {
+public:
+    PageTurner(DocumentContext& context, Bookmarks& bookmarks, ContentsCollector& contents,
+               FontWriter& font, ParagraphStyle& style) noexcept
+        : context_(context),
+          bookmarks_(bookmarks),
+          contents_(contents),
+          font_(font),
+          style_(style) {}
+
+    void startPage();
+    /// `closeTables` ends every open table, through the document's own interface. The last page's
+    /// end also finishes every page that was held back.
+    void endPage(bool last, const std::function<void()>& closeTables);
+    /// Makes a fresh, empty page the current one.
+    void newPage();
+    /// Writes the pages that a document before this one left held back.
+    void releaseHeldPages();
+
+    void setTitle(const OrxString& title) { title_ = title; }
+    [[nodiscard]] const OrxString& title() const noexcept { return title_; }
+    [[nodiscard]] std::uint32_t pageNumber() const noexcept { return pageNumber_; }
+    void nextNumber() noexcept { ++pageNumber_; }
+
+    /// The directory of the following pages, and of this one from now on.
+    void setSubDirectory(const OrxString& directory) { subDirectory_ = directory; }
+    [[nodiscard]] const OrxString& subDirectory() const noexcept { return subDirectory_; }
+    /// The current page's file in the directory now in force.
+    [[nodiscard]] OrxString pageFileName() const;
+
+private:
+    void writeTop(bool last);
+    void writeTail();
+    /// The section's text for this page. A font that the section left open becomes the body's
+    /// and stays it.
+    [[nodiscard]] OrxString stamp(const DocHtmlSection& section);
+    void finishBody(const std::function<void()>& closeTables);
+    void dispatchPage(bool last);
+    void reopenTextState();
+
+    DocumentContext& context_;
+    Bookmarks& bookmarks_;
+    ContentsCollector& contents_;
+    FontWriter& font_;
+    ParagraphStyle& style_;
+    std::uint32_t pageNumber_ = OutputNames::firstPageNumber;
+    OrxString title_;
+    OrxString subDirectory_;
+    DocHtmlTextState savedState_;
+};
+
+}  // namespace quillmark
