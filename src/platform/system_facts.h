@@ -1,7 +1,6 @@
 #pragma once
 
 #include <ctime>
-#include <string_view>
 
 #include "foundation/orx_string.h"
 
@@ -9,9 +8,6 @@ namespace quillmark {
 
 /// What differs from system to system and is a plain fact: asked here, never by a macro.
 namespace system_facts {
-
-/// How a line of a text file ends: "\n", or "\r\n" on Windows.
-[[nodiscard]] std::string_view lineEnd() noexcept;
 
 /// Whether two file names that differ in case only are the same file.
 [[nodiscard]] bool namesIgnoreCase() noexcept;

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/file_system.h"
+#include "platform/line_end.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 #include "platform/system_facts.h"
@@ -35,7 +36,7 @@ public:
             return;
         }
         // A log that the disk no longer takes lines for goes silent; the document goes on.
-        const bool done = system_facts::lineEnd() == "\n" ? put(text) : put(withLineEnds(text));
+        const bool done = systemLineEnd() == "\n" ? put(text) : put(withLineEnds(text));
         if (!done) {
             file_ = nullptr;
             failed_.store(true, std::memory_order_relaxed);
@@ -49,7 +50,7 @@ private:
     }
 
     static OrxString withLineEnds(std::string_view text) {
-        return OrxString(text).replaceStr("\n", system_facts::lineEnd());
+        return OrxString(text).replaceStr("\n", systemLineEnd());
     }
 
     const OrxString name_;

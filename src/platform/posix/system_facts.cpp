@@ -42,10 +42,6 @@ OrxString withoutLastSeparator(std::string directory) {
 
 }  // namespace
 
-std::string_view lineEnd() noexcept {
-    return "\n";
-}
-
 bool namesIgnoreCase() noexcept {
     return false;
 }

@@ -1,0 +1,126 @@
+#include "support/failing_file_system.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace quillmark {
+
+class FailingFileSystem::Writer final : public OutputFile {
+public:
+    Writer(FailingFileSystem& owner, std::unique_ptr<OutputFile> file)
+        : owner_(owner), file_(std::move(file)) {}
+
+    bool write(std::span<const std::string_view> pieces) override {
+        if (owner_.fails(Operation::write)) {
+            return false;
+        }
+        for (const std::string_view piece : pieces) {
+            const std::uint64_t room = owner_.take(piece.size());
+            const std::string_view taken = piece.substr(0, static_cast<std::size_t>(room));
+            if (!file_->write({&taken, 1}) || taken.size() < piece.size()) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    bool close() override {
+        const bool failed = owner_.fails(Operation::close);
+        // The system's file is closed all the same, as a real one is.
+        return file_->close() && !failed;
+    }
+
+private:
+    FailingFileSystem& owner_;
+    std::unique_ptr<OutputFile> file_;
+};
+
+void FailingFileSystem::failAt(Operation operation, std::size_t number) {
+    plan(operation).failsAt = plan(operation).asked + number;
+}
+
+void FailingFileSystem::failAll(Operation operation) {
+    plan(operation).failsAlways = true;
+}
+
+void FailingFileSystem::heal() {
+    for (Plan& each : plans_) {
+        each.failsAt = 0;
+        each.failsAlways = false;
+    }
+    space_.reset();
+}
+
+bool FailingFileSystem::fails(Operation operation) {
+    Plan& its = plan(operation);
+    return ++its.asked == its.failsAt || its.failsAlways;
+}
+
+std::uint64_t FailingFileSystem::take(std::uint64_t bytes) {
+    if (!space_) {
+        return bytes;
+    }
+    const std::uint64_t room = std::min(bytes, *space_);
+    *space_ -= room;
+    return room;
+}
+
+std::unique_ptr<OutputFile> FailingFileSystem::watched(std::unique_ptr<OutputFile> file) {
+    return file != nullptr ? std::make_unique<Writer>(*this, std::move(file)) : nullptr;
+}
+
+bool FailingFileSystem::fileExists(const OrxString& name) const {
+    return inner_.fileExists(name);
+}
+
+bool FailingFileSystem::directoryExists(const OrxString& name) const {
+    return inner_.directoryExists(name);
+}
+
+std::optional<FileStamp> FailingFileSystem::stamp(const OrxString& name) const {
+    return inner_.stamp(name);
+}
+
+bool FailingFileSystem::copyFile(const OrxString& source, const OrxString& target) {
+    if (fails(Operation::copyFile)) {
+        return false;
+    }
+    const std::optional<FileStamp> from = inner_.stamp(source);
+    const std::uint64_t size = from ? from->size : 0;
+    return take(size) == size && inner_.copyFile(source, target);
+}
+
+bool FailingFileSystem::deleteFile(const OrxString& name) {
+    return !fails(Operation::deleteFile) && inner_.deleteFile(name);
+}
+
+bool FailingFileSystem::makeDirectories(const OrxString& name) {
+    return !fails(Operation::makeDirectories) && inner_.makeDirectories(name);
+}
+
+bool FailingFileSystem::setCurrentDirectory(const OrxString& name) {
+    return !fails(Operation::setCurrentDirectory) && inner_.setCurrentDirectory(name);
+}
+
+OrxString FailingFileSystem::currentDirectory() const {
+    return inner_.currentDirectory();
+}
+
+std::unique_ptr<InputFile> FailingFileSystem::openForReading(const OrxString& name) {
+    return fails(Operation::openForReading) ? nullptr : inner_.openForReading(name);
+}
+
+std::unique_ptr<OutputFile> FailingFileSystem::openForWriting(const OrxString& name) {
+    return fails(Operation::openForWriting) ? nullptr : watched(inner_.openForWriting(name));
+}
+
+std::unique_ptr<OutputFile> FailingFileSystem::openForAppending(const OrxString& name) {
+    return fails(Operation::openForAppending) ? nullptr : watched(inner_.openForAppending(name));
+}
+
+bool FailingFileSystem::replaceFile(const OrxString& source, const OrxString& target) {
+    return !fails(Operation::replaceFile) && inner_.replaceFile(source, target);
+}
+
+}  // namespace quillmark

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/file_system.h"
+
+namespace quillmark {
+
+/// Puts a file system in force for as long as it lives.
+class InstalledFileSystem {
+public:
+    explicit InstalledFileSystem(FileSystem& files) : before_(FileSystem::install(&files)) {}
+    ~InstalledFileSystem() { FileSystem::install(before_); }
+    InstalledFileSystem(const InstalledFileSystem&) = delete;
+    InstalledFileSystem& operator=(const InstalledFileSystem&) = delete;
+
+private:
+    FileSystem* before_;
+};
+
+}  // namespace quillmark
