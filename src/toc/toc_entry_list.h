@@ -15,11 +15,11 @@ namespace quillmark {
 
 /// One entry as the list shows it. The texts live until the list changes.
 struct TocEntryView {
-    std::string_view href;
-    std::string_view text;
+    std::string_view href{};
+    std::string_view text{};
     std::int32_t level = 0;
-    std::string_view gif;
-    std::string_view stereoGif;
+    std::string_view gif{};
+    std::string_view stereoGif{};
 };
 
 /// The document's contents: all entries, in the order made.
