@@ -67,6 +67,9 @@ public:
         return a.bytes_ == b.bytes_;
     }
     friend bool operator==(const OrxString& a, const char* b) noexcept { return a.bytes_ == b; }
+    friend bool operator==(const OrxString& a, const std::string& b) noexcept {
+        return a.bytes_ == b;
+    }
     friend bool operator==(const OrxString& a, std::string_view b) noexcept {
         return a.bytes_ == b;
     }
