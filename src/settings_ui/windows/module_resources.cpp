@@ -1,0 +1,127 @@
+#include "settings_ui/windows/module_resources.h"
+
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+namespace quillmark {
+
+namespace {
+
+/// Anything in this module: its address tells which module it is.
+const char moduleMark = 0;
+
+/// The head of an extended dialog template as it lies in the resource, words packed.
+#pragma pack(push, 2)
+struct TemplateHead {
+    WORD version;
+    WORD signature;
+    DWORD helpId;
+    DWORD extendedStyle;
+    DWORD style;
+    WORD itemCount;
+    short x;
+    short y;
+    short width;
+    short height;
+};
+#pragma pack(pop)
+
+struct TemplateFont {
+    WORD points = 0;
+    WORD weight = 0;
+    std::wstring face;
+};
+
+/// Steps over a menu, class or title of the head: nothing, a number, or a text.
+const WORD* behindName(const WORD* at) {
+    constexpr WORD numberFollows = 0xFFFF;
+    if (*at == numberFollows) {
+        return at + 2;
+    }
+    while (*at != 0) {
+        ++at;
+    }
+    return at + 1;
+}
+
+TemplateFont fontOf(const TemplateHead* head) {
+    const auto* at = reinterpret_cast<const WORD*>(head + 1);
+    constexpr int namesInHead = 3;
+    for (int i = 0; i < namesInHead; ++i) {
+        at = behindName(at);
+    }
+    constexpr int wordsBeforeFace = 3;
+    return {at[0], at[1], reinterpret_cast<const wchar_t*>(at + wordsBeforeFace)};
+}
+
+/// A screen device context with the font selected, for as long as it is measured.
+class FontMeasure {
+public:
+    explicit FontMeasure(const TemplateFont& font) : screen_(GetDC(nullptr)) {
+        constexpr int pointsPerInch = 72;
+        LOGFONTW wanted{};
+        wanted.lfHeight = -MulDiv(font.points, GetDeviceCaps(screen_, LOGPIXELSY), pointsPerInch);
+        wanted.lfWeight = font.weight;
+        wanted.lfCharSet = DEFAULT_CHARSET;
+        font.face.copy(wanted.lfFaceName, LF_FACESIZE - 1);
+        font_ = CreateFontIndirectW(&wanted);
+        previous_ = SelectObject(screen_, font_);
+    }
+    FontMeasure(const FontMeasure&) = delete;
+    FontMeasure& operator=(const FontMeasure&) = delete;
+    ~FontMeasure() {
+        SelectObject(screen_, previous_);
+        DeleteObject(font_);
+        ReleaseDC(nullptr, screen_);
+    }
+
+    /// Average width and height of a character: four by eight dialog units.
+    [[nodiscard]] SIZE baseUnits() const {
+        constexpr std::wstring_view letters =
+            L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+        constexpr int pairs = 26;
+        SIZE extent{};
+        GetTextExtentPoint32W(screen_, letters.data(), static_cast<int>(letters.size()), &extent);
+        TEXTMETRICW metrics{};
+        GetTextMetricsW(screen_, &metrics);
+        return {(extent.cx / pairs + 1) / 2, metrics.tmHeight};
+    }
+
+private:
+    HDC screen_;
+    HFONT font_ = nullptr;
+    HGDIOBJ previous_ = nullptr;
+};
+
+}  // namespace
+
+HINSTANCE thisModule() noexcept {
+    HMODULE module = nullptr;
+    GetModuleHandleExW(
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+        reinterpret_cast<const wchar_t*>(&moduleMark), &module);
+    return module;
+}
+
+std::wstring resourceString(WORD id) {
+    // With no buffer the call hands out the text in place, without a closing zero.
+    const wchar_t* text = nullptr;
+    const int length = LoadStringW(thisModule(), id, reinterpret_cast<wchar_t*>(&text), 0);
+    return length > 0 ? std::wstring(text, static_cast<std::size_t>(length)) : std::wstring();
+}
+
+SIZE dialogPixels(WORD id) {
+    const HRSRC found = FindResourceA(thisModule(), MAKEINTRESOURCEA(id), RT_DIALOG);
+    const HGLOBAL loaded = found == nullptr ? nullptr : LoadResource(thisModule(), found);
+    const auto* const head = static_cast<const TemplateHead*>(LockResource(loaded));
+    if (head == nullptr) {
+        return {};
+    }
+    constexpr int unitsAcross = 4;
+    constexpr int unitsDown = 8;
+    const SIZE base = FontMeasure(fontOf(head)).baseUnits();
+    return {MulDiv(head->width, base.cx, unitsAcross), MulDiv(head->height, base.cy, unitsDown)};
+}
+
+}  // namespace quillmark

@@ -1,0 +1,152 @@
+#include "settings_ui/windows/page_window.h"
+
+#include <commctrl.h>
+
+#include <optional>
+#include <string>
+
+#include "settings_ui/windows/module_resources.h"
+
+namespace quillmark {
+
+namespace {
+
+bool holdsText(const PageControl& row) {
+    return row.kind == ControlKind::edit || row.kind == ControlKind::numberEdit;
+}
+
+bool holdsCheck(const PageControl& row) {
+    return row.kind == ControlKind::checkBox || row.kind == ControlKind::radioButton;
+}
+
+/// The page's event for a notification of that control; nothing for the others.
+std::optional<ControlEvent> eventOf(const PageControl& row, int notification) {
+    if (holdsText(row)) {
+        switch (notification) {
+            case EN_SETFOCUS:
+                return ControlEvent::focused;
+            case EN_CHANGE:
+                return ControlEvent::textChanged;
+            default:
+                return std::nullopt;
+        }
+    }
+    // A bare command counts whatever code it comes with.
+    if (row.kind == ControlKind::command || notification == BN_CLICKED) {
+        return ControlEvent::clicked;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+bool PageWindow::create(HWND parent) {
+    const INITCOMMONCONTROLSEX needed{sizeof(needed), ICC_UPDOWN_CLASS};
+    InitCommonControlsEx(&needed);
+    window_ = CreateDialogParamA(thisModule(), MAKEINTRESOURCEA(resource::pageDialog), parent,
+                                 dialogProcedure, reinterpret_cast<LPARAM>(this));
+    if (window_ == nullptr) {
+        return false;
+    }
+    restoreState();
+    return true;
+}
+
+void PageWindow::destroy() {
+    if (window_ == nullptr) {
+        return;
+    }
+    keepState();
+    DestroyWindow(window_);
+    window_ = nullptr;
+}
+
+INT_PTR CALLBACK PageWindow::dialogProcedure(HWND window, UINT message, WPARAM wparam,
+                                             LPARAM lparam) {
+    if (message == WM_INITDIALOG) {
+        SetWindowLongPtrA(window, DWLP_USER, lparam);
+        // The frame decides about the focus.
+        return FALSE;
+    }
+    auto* const self = reinterpret_cast<PageWindow*>(GetWindowLongPtrA(window, DWLP_USER));
+    if (self == nullptr || message != WM_COMMAND) {
+        return FALSE;
+    }
+    return self->onCommand(LOWORD(wparam), HIWORD(wparam)) ? TRUE : FALSE;
+}
+
+bool PageWindow::onCommand(int id, int notification) noexcept {
+    const PageControl* const row = findControl(id);
+    // While the window is being made or filled its boxes report texts that nobody typed.
+    if (row == nullptr || window_ == nullptr || restoring_) {
+        return false;
+    }
+    const std::optional<ControlEvent> event = eventOf(*row, notification);
+    if (!event) {
+        return false;
+    }
+    try {
+        listener_(id, *event);
+    } catch (...) {
+        // Nothing may be thrown through the system's message loop; the edit is lost.
+        return false;
+    }
+    return true;
+}
+
+OrxString PageWindow::text(int id) const {
+    const HWND box = GetDlgItem(window_, id);
+    const int length = GetWindowTextLengthA(box);
+    std::string text(static_cast<std::size_t>(length) + 1, '\0');
+    const int got = GetWindowTextA(box, text.data(), length + 1);
+    text.resize(static_cast<std::size_t>(got));
+    return text;
+}
+
+void PageWindow::setText(int id, const OrxString& text) {
+    SetDlgItemTextA(window_, id, text.data());
+}
+
+bool PageWindow::isChecked(int id) const {
+    return IsDlgButtonChecked(window_, id) == BST_CHECKED;
+}
+
+void PageWindow::setChecked(int id, bool checked) {
+    CheckDlgButton(window_, id, checked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void PageWindow::setRange(int id, int lowest, int highest) {
+    SendDlgItemMessageA(window_, id, UDM_SETRANGE, 0, MAKELPARAM(highest, lowest));
+    hasRange_ = true;
+}
+
+void PageWindow::keepState() {
+    for (const PageControl& row : pageControls()) {
+        if (holdsText(row)) {
+            kept_.setText(row.id, text(row.id));
+        } else if (holdsCheck(row)) {
+            kept_.setChecked(row.id, isChecked(row.id));
+        }
+    }
+    hasKept_ = true;
+}
+
+void PageWindow::restoreState() {
+    if (!hasKept_) {
+        return;
+    }
+    restoring_ = true;
+    for (const PageControl& row : pageControls()) {
+        if (holdsText(row)) {
+            setText(row.id, kept_.text(row.id));
+        } else if (holdsCheck(row)) {
+            setChecked(row.id, kept_.isChecked(row.id));
+        }
+    }
+    if (hasRange_) {
+        setRange(control::headingLevelSpin, lowestHeadingLevel, highestHeadingLevel);
+    }
+    restoring_ = false;
+}
+
+}  // namespace quillmark
