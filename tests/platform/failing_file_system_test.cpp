@@ -1,0 +1,71 @@
+#include "support/failing_file_system.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string_view>
+
+#include "platform/sys_file.h"
+#include "support/installed_file_system.h"
+#include "support/memory_file_system.h"
+
+namespace quillmark {
+namespace {
+
+using Operation = FailingFileSystem::Operation;
+
+class FailingFiles : public testing::Test {
+protected:
+    WriteResult write(const OrxString& name, std::string_view text) {
+        return SysFile::writeWhole(name, std::array{text});
+    }
+
+    MemoryFileSystem memory;
+    FailingFileSystem files{memory};
+
+private:
+    InstalledFileSystem installed_{files};
+};
+
+TEST_F(FailingFiles, FailTheWriteThatTheTestNamed) {
+    files.failAt(Operation::write, 2);
+    EXPECT_EQ(write("a", "1"), WriteResult::done);
+    EXPECT_EQ(write("b", "2"), WriteResult::writeFailed);
+    EXPECT_EQ(write("c", "3"), WriteResult::done);
+    EXPECT_EQ(files.count(Operation::write), 3U);
+}
+
+TEST_F(FailingFiles, CanRefuseToOpenOrToClose) {
+    files.failAt(Operation::openForWriting, 1);
+    EXPECT_EQ(write("a", "1"), WriteResult::openFailed);
+    files.failAt(Operation::close, 1);
+    EXPECT_EQ(write("a", "1"), WriteResult::writeFailed);
+    EXPECT_EQ(memory.openFiles(), 0);
+}
+
+TEST_F(FailingFiles, FailEveryTimeUntilHealed) {
+    files.failAll(Operation::makeDirectories);
+    EXPECT_FALSE(files.makeDirectories("\\a"));
+    EXPECT_FALSE(files.makeDirectories("\\a"));
+    files.heal();
+    EXPECT_TRUE(files.makeDirectories("\\a"));
+}
+
+TEST_F(FailingFiles, KeepWhatAFullDiskStillTook) {
+    files.fillDiskAfter(4);
+    EXPECT_EQ(write("a", "123"), WriteResult::done);
+    EXPECT_EQ(write("b", "456"), WriteResult::writeFailed);
+    EXPECT_EQ(memory.content("b"), "4");
+    files.heal();
+    EXPECT_EQ(write("b", "456"), WriteResult::done);
+}
+
+TEST_F(FailingFiles, DoNotCopyOntoAFullDisk) {
+    memory.put("a", "12345");
+    files.fillDiskAfter(4);
+    EXPECT_FALSE(SysFile::copy("a", "b"));
+    EXPECT_FALSE(memory.fileExists("b"));
+}
+
+}  // namespace
+}  // namespace quillmark
