@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/sys_file.h"
+#include "platform/path_text.h"
 
 namespace quillmark {
 
@@ -29,9 +29,12 @@ std::string_view BookmarkRegistry::pageFile(Id id) const noexcept {
 }
 
 OrxString BookmarkRegistry::reference(Id id) const {
-    OrxString text = SysFile::stripDir(OrxString(pageFile(id)));
-    text.append('#').append(names_.name(id));
-    return text;
+    const std::string_view file = pageFile(id);
+    const std::string_view filePart = file.substr(path_text::fileStart(file));
+    const std::string_view name = names_.name(id);
+    std::string text;
+    text.reserve(filePart.size() + 1 + name.size());
+    return text.append(filePart).append("#").append(name);
 }
 
 void BookmarkRegistry::addWaiting(Id id, const WaitingPage& page) {

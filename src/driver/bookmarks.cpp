@@ -1,6 +1,7 @@
 #include "driver/bookmarks.h"
 
 #include "page/links.h"
+#include "platform/path_text.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 
@@ -14,8 +15,7 @@ constexpr std::string_view hrefOpening = "HREF=\"";
 constexpr std::string_view hrefEnd = "\"";
 
 std::string_view directoryOf(std::string_view file) noexcept {
-    const std::size_t separator = file.find_last_of("\\/");
-    return separator == std::string_view::npos ? std::string_view() : file.substr(0, separator);
+    return file.substr(0, path_text::fileStart(file));
 }
 
 }  // namespace

@@ -123,9 +123,8 @@ DocResult DocHtml::insertXref(WideText text, WideText tagName) {
 
 void DocHtml::insertXrefCall(std::string_view text, std::string_view tagName) {
     impl_->calls.call("insertXref", text, tagName);
-    const OrxString target(tagName);
     impl_->contents.beforeText(impl_->style.headingLevel());
-    impl_->links.open(target);
+    const LinkWriter::Target target = impl_->links.open(tagName);
     impl_->text.insertEscaped(text);
     impl_->links.close(target);
 }

@@ -14,17 +14,19 @@ constexpr std::string_view twoAnglesText = "&lt;&lt;";
 /// Whether anything changes at all. Nearly every text is plain, so this looks at every byte
 /// without a jump, in a loop that the compiler can vectorise.
 bool hasStop(std::string_view text, bool passThrough) noexcept {
-    const char* const bytes = text.data();
-    const std::size_t pairs = text.empty() ? 0 : text.size() - 1;
-    unsigned stops = 0;
-    for (std::size_t i = 0; i < pairs; ++i) {
-        stops |=
-            static_cast<unsigned>(bytes[i] == '\t') | static_cast<unsigned>(bytes[i] == '\n') |
-            (static_cast<unsigned>(bytes[i] == ' ') & static_cast<unsigned>(bytes[i + 1] == ' ')) |
-            (static_cast<unsigned>(passThrough) & static_cast<unsigned>(bytes[i] == '<') &
-             static_cast<unsigned>(bytes[i + 1] == '<'));
+    if (text.empty()) {
+        return false;
     }
-    return stops != 0 || (!text.empty() && (bytes[pairs] == '\t' || bytes[pairs] == '\n'));
+    const char* const bytes = text.data();
+    const std::size_t last = text.size() - 1;
+    const char angle = passThrough ? '<' : ' ';
+    unsigned char stops = 0;
+    for (std::size_t i = 0; i < last; ++i) {
+        stops |= (bytes[i] == '\t') | (bytes[i] == '\n') |
+                 ((bytes[i] == ' ') & (bytes[i + 1] == ' ')) |
+                 ((bytes[i] == angle) & (bytes[i + 1] == angle));
+    }
+    return stops != 0 || bytes[last] == '\t' || bytes[last] == '\n';
 }
 
 /// What stands for the text at a stop, and how many bytes of the text it stands for; a length of

@@ -25,9 +25,11 @@ void FileInserter::insertFile(const OrxString& fileName, std::int16_t insertAsTy
         insertContents(candidateFound ? candidate : name);
         return;
     }
-    links_.open(name);
+    // The end tag is written at once, whatever the link leads to: one that waits for a bookmark
+    // opens only when the bookmark comes.
+    static_cast<void>(links_.open(name));
     context_.out.writeOut(SysFile::stripDir(name));
-    links_.close("");
+    links_.writeEnd();
 }
 
 void FileInserter::insertContents(const OrxString& name) {

@@ -1,5 +1,7 @@
 #include "driver/image_writer.h"
 
+#include <optional>
+
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -33,8 +35,9 @@ void ImageWriter::insertImage(const OrxString& imageFile, const OrxString& linkT
         name = context_.copyTo(context_.settings.pixDir, name);
     }
     const OrxString source = context_.documentLink(name);
+    std::optional<LinkWriter::Target> link;
     if (!linkTarget.isEmpty()) {
-        links_.open(linkTarget);
+        link = links_.open(linkTarget);
     }
     OrxString markup("<IMG SRC=\"");
     context_.out.writeOut(markup.append(source).append("\" ALIGN=\"BOTTOM\" BORDER=\"0\" "));
@@ -44,8 +47,8 @@ void ImageWriter::insertImage(const OrxString& imageFile, const OrxString& linkT
                                 bookmarks_.reference(bookmark, area);
                             }});
     context_.out.writeOut(">");
-    if (!linkTarget.isEmpty()) {
-        links_.close(linkTarget);
+    if (link) {
+        links_.close(*link);
     }
 }
 

@@ -1,5 +1,9 @@
 #include "driver/link_writer.h"
 
+#include <string>
+#include <utility>
+
+#include "platform/path_text.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -16,46 +20,58 @@ bool isImageName(const OrxString& fileName) {
     return extension == ".jpg" || extension == ".jpeg" || extension == ".gif";
 }
 
-OrxString LinkWriter::hrefOf(const OrxString& target) {
+LinkWriter::Target LinkWriter::open(OrxString target) {
     if (SysFile::isHyperLink(target)) {
-        return target;
+        writeStart(target);
+        return {std::move(target), false};
     }
-    const DocumentSettings& settings = context_.settings;
     if (SysFile::exists(target)) {
-        if (!settings.useRelative) {
-            return context_.documentLink(target);
-        }
-        const OrxString& directory =
-            isImageName(target) ? settings.pixDir : settings.externalDocDir;
-        return context_.documentLink(context_.copyTo(directory, target));
+        writeStart(linkOfFile(target));
+        return {std::move(target), false};
     }
-    const OrxString name = SysFile::stripDir(target);
-    if (settings.expandRelativeNames && !name.isEmpty()) {
-        const OrxString candidate = SysFile::appendToDir(settings.externalDocDir, name);
-        if (SysFile::exists(candidate)) {
-            return context_.documentLink(candidate);
-        }
+    if (findExternalDocument(target)) {
+        writeStart(context_.documentLink(candidate_));
+    } else {
+        std::string markup;
+        markup.reserve(linkOpening.size() + target.length() + 1);
+        bookmarks_.reference(target, markup.append(linkOpening).append(target).append(">"));
     }
-    return {};
+    const bool named = !target.isEmpty();
+    return {std::move(target), named};
 }
 
-void LinkWriter::open(const OrxString& target) {
-    const OrxString href = hrefOf(target);
-    if (href.isEmpty()) {
-        OrxString markup(linkOpening);
-        bookmarks_.reference(target, markup.append(target).append('>'));
-        return;
-    }
+void LinkWriter::writeStart(const OrxString& href) {
     OrxString markup(linkOpening);
     context_.out.writeOut(markup.append("HREF=\"").append(href).append("\">"));
 }
 
-void LinkWriter::close(const OrxString& target) {
-    if (target.isEmpty() || SysFile::isHyperLink(target) || SysFile::exists(target)) {
-        context_.out.writeOut(linkEnd);
+OrxString LinkWriter::linkOfFile(const OrxString& file) {
+    const DocumentSettings& settings = context_.settings;
+    if (!settings.useRelative) {
+        return context_.documentLink(file);
+    }
+    const OrxString& directory = isImageName(file) ? settings.pixDir : settings.externalDocDir;
+    return context_.documentLink(context_.copyTo(directory, file));
+}
+
+bool LinkWriter::findExternalDocument(const OrxString& target) {
+    const std::string_view name = target.view().substr(path_text::fileStart(target));
+    if (!context_.settings.expandRelativeNames || name.empty()) {
+        return false;
+    }
+    candidate_.clear();
+    candidate_.append(context_.settings.externalDocDir).append("\\").append(name);
+    return SysFile::exists(candidate_);
+}
+
+void LinkWriter::close(const Target& target) {
+    if (target.endsAsBookmark) {
+        bookmarks_.reference(target.name, linkEnd);
     } else {
-        bookmarks_.reference(target, linkEnd);
+        writeEnd();
     }
 }
+
+void LinkWriter::writeEnd() { context_.out.writeOut(linkEnd); }
 
 }  // namespace quillmark
