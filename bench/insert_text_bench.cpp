@@ -1,0 +1,111 @@
+// Running text in memory: `insertText` through the table of operations and through the interface
+// itself, against a plain loop that narrows the same texts to bytes and appends them.
+
+#include <algorithm>
+#include <array>
+
+#include "bench_settings.h"
+#include "driver/doc_html.h"
+#include "driver/operation_table.h"
+#include "measure.h"
+#include "texts.h"
+
+namespace quillmark::bench {
+
+namespace {
+
+constexpr int insertTextId = 3;
+constexpr std::size_t bytesPerRound = 8'000'000;
+
+char narrowed(char16_t unit) {
+    return unit < 0x80 ? static_cast<char>(unit) : '?';
+}
+
+/// The floor: a unit narrowed, a byte appended.
+double secondsOfPlainLoop(const std::u16string& text, std::size_t count) {
+    std::string out;
+    return secondsOf([&] {
+        for (std::size_t i = 0; i < count; ++i) {
+            for (const char16_t unit : text) {
+                out.push_back(narrowed(unit));
+            }
+            benchmark::ClobberMemory();
+        }
+        benchmark::DoNotOptimize(out.data());
+    });
+}
+
+/// A lower floor: each text narrowed as a whole into one buffer and appended at once.
+double secondsOfBlockLoop(const std::u16string& text, std::size_t count) {
+    std::string out;
+    std::string narrow;
+    return secondsOf([&] {
+        for (std::size_t i = 0; i < count; ++i) {
+            narrow.resize(text.size());
+            std::transform(text.begin(), text.end(), narrow.begin(), narrowed);
+            out.append(narrow);
+            benchmark::ClobberMemory();
+        }
+        benchmark::DoNotOptimize(out.data());
+    });
+}
+
+double secondsOfTable(IDocument& document, const std::u16string& text, std::size_t count) {
+    const std::array<Argument, 1> arguments = {WideText(text)};
+    return secondsOf([&] {
+        for (std::size_t i = 0; i < count; ++i) {
+            benchmark::DoNotOptimize(invoke(document, insertTextId, arguments));
+        }
+    });
+}
+
+double secondsOfInterface(IDocument& document, const std::u16string& text, std::size_t count) {
+    return secondsOf([&] {
+        for (std::size_t i = 0; i < count; ++i) {
+            benchmark::DoNotOptimize(document.insertText(text));
+        }
+    });
+}
+
+/// A document without contents pages, open for text, that is never finished.
+class OpenDocument {
+public:
+    OpenDocument() { document_.create((freshDirectory(Place::memory) / "report.htm").u16string()); }
+    IDocument& operator*() { return document_; }
+
+private:
+    DocHtml document_;
+};
+
+void insertText(benchmark::State& state, const std::u16string& text, double goal) {
+    const SettingsInForce settings({{"Navig", "4"}});
+    const std::size_t count = bytesPerRound / text.size();
+    std::array<std::vector<double>, 4> seconds;
+    for ([[maybe_unused]] auto _ : state) {
+        seconds[0].push_back(secondsOfPlainLoop(text, count));
+        seconds[1].push_back(secondsOfBlockLoop(text, count));
+        seconds[2].push_back(secondsOfTable(*OpenDocument(), text, count));
+        seconds[3].push_back(secondsOfInterface(*OpenDocument(), text, count));
+        state.SetIterationTime(seconds[2].back());
+    }
+    const double plain = median(seconds[0]);
+    state.counters["ratio"] = median(seconds[2]) / plain;
+    state.counters["ratio_interface"] = median(seconds[3]) / plain;
+    state.counters["ratio_to_blocks"] = median(seconds[2]) / median(seconds[1]);
+    state.counters["ns_per_call"] = median(seconds[2]) * 1e9 / static_cast<double>(count);
+    state.counters["goal"] = goal;
+}
+
+void paragraphsOf60Words(benchmark::State& state) {
+    insertText(state, words(60), 2.0);
+}
+BENCHMARK(paragraphsOf60Words)->UseManualTime()->Iterations(15)->Unit(benchmark::kMillisecond);
+
+void textsOf10Characters(benchmark::State& state) {
+    insertText(state, u"ten chars.", 5.0);
+}
+BENCHMARK(textsOf10Characters)->UseManualTime()->Iterations(15)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace quillmark::bench

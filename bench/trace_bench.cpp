@@ -1,0 +1,48 @@
+// What the call trace costs while it is off: an operation that does nothing but write its call
+// line, against a text of ten characters, which does a text's work besides.
+
+#include "bench_settings.h"
+#include "driver/doc_html.h"
+#include "measure.h"
+
+namespace quillmark::bench {
+
+namespace {
+
+constexpr int calls = 1'000'000;
+
+double secondsOfBareCalls(IDocument& document) {
+    return secondsOf([&] {
+        for (int i = 0; i < calls; ++i) {
+            benchmark::DoNotOptimize(document.start());
+        }
+    });
+}
+
+double secondsOfTexts(IDocument& document) {
+    return secondsOf([&] {
+        for (int i = 0; i < calls; ++i) {
+            benchmark::DoNotOptimize(document.insertText(u"ten chars."));
+        }
+    });
+}
+
+void traceOff(benchmark::State& state) {
+    const SettingsInForce settings({{"Navig", "4"}});
+    std::vector<double> bare;
+    std::vector<double> texts;
+    for ([[maybe_unused]] auto _ : state) {
+        DocHtml document;
+        document.create((freshDirectory(Place::memory) / "report.htm").u16string());
+        bare.push_back(secondsOfBareCalls(document));
+        texts.push_back(secondsOfTexts(document));
+        state.SetIterationTime(bare.back());
+    }
+    state.counters["ns_per_call"] = median(bare) * 1e9 / calls;
+    state.counters["share_of_short_text"] = median(bare) / median(texts);
+}
+BENCHMARK(traceOff)->UseManualTime()->Iterations(7)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace quillmark::bench
