@@ -1,0 +1,51 @@
+#include "platform/console.h"
+
+#include <fcntl.h>
+#include <io.h>
+
+#include <cstdio>
+#include <memory>
+
+#include "foundation/code_page.h"
+#include "platform/windows/windows_api.h"
+// Needs the header above.
+#include <shellapi.h>
+
+namespace quillmark {
+
+namespace {
+
+std::string utf8(const std::wstring& text) {
+    return code_page::toUtf8(std::u16string(text.begin(), text.end()));
+}
+
+}  // namespace
+
+std::vector<std::string> Console::arguments(int /*argc*/, const char* const* /*argv*/) {
+    // What `main` gets is in the code page and has lost what that cannot hold.
+    int count = 0;
+    const std::unique_ptr<LPWSTR, decltype(&LocalFree)> words(
+        CommandLineToArgvW(GetCommandLineW(), &count), &LocalFree);
+    std::vector<std::string> texts;
+    for (int i = 1; words != nullptr && i < count; ++i) {
+        texts.push_back(utf8(words.get()[i]));
+    }
+    return texts;
+}
+
+std::string Console::executablePath() {
+    constexpr std::size_t longestPath = 32768;
+    std::wstring path(longestPath, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return utf8(path);
+}
+
+bool Console::errorsAreWatched() noexcept {
+    return _isatty(_fileno(stderr)) != 0;
+}
+
+void Console::readBytes() noexcept {
+    _setmode(_fileno(stdin), _O_BINARY);
+}
+
+}  // namespace quillmark

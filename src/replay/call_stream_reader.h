@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+
+#include "replay/call_source.h"
+#include "replay/input_buffer.h"
+
+namespace quillmark::replay {
+
+/// Reads a call stream: JSON Lines, one array of an operation's name and its arguments a line,
+/// blank lines between them. A call is checked whole before it is handed out: its name, the
+/// number of its arguments, their kinds and ranges.
+class CallStreamReader final : public CallSource {
+public:
+    /// `input` stays the caller's.
+    explicit CallStreamReader(InputBuffer& input);
+    ~CallStreamReader() override;
+
+    [[nodiscard]] ReadResult next(Call& call) override;
+    [[nodiscard]] const std::string& problem() const noexcept override;
+    [[nodiscard]] std::size_t line() const noexcept override { return line_; }
+
+private:
+    class Parser;
+
+    /// Takes the next line off the input, zero-terminated; false at the end.
+    bool takeLine(std::span<char>& line);
+
+    InputBuffer& input_;
+    std::unique_ptr<Parser> parser_;
+    std::size_t line_ = 0;
+};
+
+}  // namespace quillmark::replay

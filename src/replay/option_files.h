@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "foundation/orx_string.h"
+#include "replay/host_services.h"
+
+namespace quillmark::replay {
+
+/// File names of the command line: one that begins with the letter of a drive lies where the
+/// drive does, every other is the system's own. They count from the directory where the tool was
+/// started, whatever becomes of it later.
+class OptionFiles {
+public:
+    explicit OptionFiles(std::vector<HostServices::Drive> drives);
+
+    /// The name as the tool opens it.
+    [[nodiscard]] std::filesystem::path native(const std::string& name) const;
+    /// The name as the driver takes it; a name on a drive keeps its letter.
+    [[nodiscard]] OrxString driver(const std::string& name) const;
+    /// The drives, with directories that no change of the current directory moves.
+    [[nodiscard]] const std::vector<HostServices::Drive>& drives() const noexcept {
+        return drives_;
+    }
+
+private:
+    [[nodiscard]] const HostServices::Drive* driveOf(const std::string& name) const;
+
+    std::vector<HostServices::Drive> drives_;
+};
+
+/// A path as a UTF-8 text, and back.
+[[nodiscard]] std::string utf8Path(const std::filesystem::path& path);
+[[nodiscard]] std::filesystem::path pathFrom(const std::string& utf8);
+
+}  // namespace quillmark::replay

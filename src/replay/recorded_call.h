@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "replay/call_source.h"
+
+namespace quillmark::replay {
+
+/// The shape of a call line in a recorded trace. It follows from the operation's parameters.
+enum class RecordedForm { plain, number, attribute, text, twoTexts, textAndNumber };
+
+/// An operation that writes a call line, told from the beginning of one.
+struct RecordedOperation {
+    const Operation* operation = nullptr;
+    RecordedForm form = RecordedForm::plain;
+    /// Where the arguments begin in the line.
+    std::size_t arguments = 0;
+};
+
+/// What every call line begins with.
+inline constexpr std::string_view callOpening = "dochtml->";
+/// How much of a line tells what it is; no beginning that matters is longer.
+inline constexpr std::size_t openingSize = 64;
+
+/// Reads the beginning of a line, of which at least `openingSize` bytes or all are there. Nothing
+/// when it is not that of a call line.
+[[nodiscard]] std::optional<RecordedOperation> recordedOperation(std::string_view line) noexcept;
+
+/// Whether a line is of those that a trace holds besides its call lines: errors, warnings,
+/// reports.
+[[nodiscard]] bool isReportLine(std::string_view line) noexcept;
+
+/// Whether the call line could end where `text` ends, just in front of a line end: its arguments
+/// are complete there.
+[[nodiscard]] bool closesCall(std::string_view text, const RecordedOperation& what) noexcept;
+
+/// The texts of a recorded call as the operation takes them.
+using RecordedTexts = std::array<std::u16string, 2>;
+
+/// Takes a whole call line, without its line end and with line feeds alone between lines, apart.
+/// Returns what is wrong with it, empty when nothing is. `texts` keeps the texts of `call`.
+[[nodiscard]] std::string parseRecorded(std::string_view line, const RecordedOperation& what,
+                                        RecordedTexts& texts, Call& call);
+
+}  // namespace quillmark::replay

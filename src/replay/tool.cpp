@@ -1,0 +1,187 @@
+#include "replay/tool.h"
+
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+#include "foundation/code_page.h"
+#include "platform/file_system.h"
+#include "platform/sys_text.h"
+#include "replay/bad_input.h"
+#include "replay/inputs.h"
+#include "replay/messages.h"
+#include "replay/player.h"
+#include "replay/registered_services.h"
+#include "replay/run_services.h"
+
+namespace quillmark::replay {
+
+namespace {
+
+constexpr std::string_view toolName = "dochtml-replay";
+
+/// Whether lines can be added to a file; one that is not there yet is not left behind.
+bool canAppend(const std::filesystem::path& file) {
+    std::error_code failure;
+    const bool existed = std::filesystem::exists(file, failure);
+    const bool opens = std::ofstream(file, std::ios::binary | std::ios::app).is_open();
+    if (opens && !existed) {
+        std::filesystem::remove(file, failure);
+    }
+    return opens;
+}
+
+/// One run over all inputs.
+class Run {
+public:
+    Run(const Options& options, const Surroundings& around)
+        : options_(options),
+          around_(around),
+          files_(options.drives),
+          inputs_(options.inputs, around.input),
+          services_(options, files_, around.executable),
+          messages_(around.errors, around.errorsAreWatched && !options.quiet),
+          trace_(inputs_.hasRecording()),
+          exceptions_([this](std::string_view reason) { tellError(SysText::toUtf8(reason)); },
+                      exceptionWriter()) {}
+
+    int play() {
+        checkLog();
+        {
+            const RegisteredServices registered(hostServices());
+            Player player(playerSettings(), listeners(), trace_, exceptions_);
+            for (const Inputs::Input& input : inputs_.all()) {
+                if (!playInput(player, input)) {
+                    badInput_ = true;
+                    break;
+                }
+            }
+            player.finish();
+        }
+        messages_.clearProgress();
+        if (!options_.quiet) {
+            tellSummary();
+        }
+        return badInput_ ? exitBadInput : errors_ > 0 ? exitFailed : exitDone;
+    }
+
+private:
+    bool playInput(Player& player, const Inputs::Input& input) {
+        const std::unique_ptr<CallSource> source = makeSource(input);
+        current_ = &input;
+        if (source == nullptr || player.play(*source)) {
+            return true;
+        }
+        messages_.tell(input.name + ":" + std::to_string(source->line()) + ": " +
+                       source->problem());
+        return false;
+    }
+
+    HostServices hostServices() {
+        HostServices services = services_.services();
+        services.traceListener = &trace_;
+        services.exceptionLog = &exceptions_;
+        services.observer = &counts_;
+        return services;
+    }
+
+    Player::Settings playerSettings() {
+        Player::Settings settings;
+        settings.makeDocument = around_.makeDocument;
+        settings.startDirectory = FileSystem::current().currentDirectory();
+        settings.traceLevel = options_.traceLevel;
+        if (options_.output) {
+            settings.outputName = files_.driver(*options_.output);
+        }
+        return settings;
+    }
+
+    Player::Listeners listeners() {
+        return {[this](WideText answer) {
+                    around_.output << code_page::toUtf8(answer) << '\n' << std::flush;
+                },
+                [this](std::size_t line, const std::string& how) {
+                    ++errors_;
+                    messages_.tell(current_->name + ":" + std::to_string(line) +
+                                   ": replay diverged: " + how);
+                },
+                [this](std::size_t calls) {
+                    constexpr std::size_t oftenEnough = 1024;
+                    if (calls % oftenEnough == 0) {
+                        messages_.progress(calls, counts_.pages);
+                    }
+                }};
+    }
+
+    HeardExceptions::Teller exceptionWriter() {
+        if (!options_.exceptionFile) {
+            return {};
+        }
+        exceptionFile_.emplace(files_.native(*options_.exceptionFile));
+        return [this](std::string_view message) {
+            if (!exceptionFile_->write(message)) {
+                tellError("cannot write " + *options_.exceptionFile);
+            }
+        };
+    }
+
+    /// A trace that has nowhere to go stays silent; the tool says so.
+    void checkLog() {
+        if (options_.logFile && !canAppend(files_.native(*options_.logFile))) {
+            tellError("cannot write " + *options_.logFile);
+        }
+    }
+
+    void tellError(const std::string& what) {
+        ++errors_;
+        messages_.tell(std::string(toolName) + ": " + what);
+    }
+
+    void tellSummary() {
+        std::string text = counted(counts_.pages, "page") + " written, " +
+                           counted(counts_.contentsEntries, "contents entry", "contents entries") +
+                           ", " + counted(counts_.files, "file") + " copied, " +
+                           counted(counts_.unresolved, "unresolved reference") + ", " +
+                           counted(errors_, "error");
+        if (trace_.warnings() > 0) {
+            text += ", " + counted(trace_.warnings(), "warning");
+        }
+        messages_.tell(std::string(toolName) + ": " + text);
+    }
+
+    const Options& options_;
+    const Surroundings& around_;
+    OptionFiles files_;
+    Inputs inputs_;
+    RunServices services_;
+    Messages messages_;
+    std::optional<LateFile> exceptionFile_;
+    HeardTrace trace_;
+    HeardExceptions exceptions_;
+    RunCounts counts_;
+    const Inputs::Input* current_ = nullptr;
+    std::size_t errors_ = 0;
+    bool badInput_ = false;
+};
+
+}  // namespace
+
+int runTool(std::span<const std::string> arguments, const Surroundings& around) {
+    try {
+        const Options options = parseOptions(arguments);
+        if (options.help) {
+            writeHelp(around.output);
+            return exitDone;
+        }
+        if (options.version) {
+            around.output << toolName << ' ' << DOCHTML_VERSION << '\n';
+            return exitDone;
+        }
+        return Run(options, around).play();
+    } catch (const std::exception& failure) {
+        Messages(around.errors, false).tell(std::string(toolName) + ": " + failure.what());
+        return exitBadInput;
+    }
+}
+
+}  // namespace quillmark::replay
