@@ -38,8 +38,13 @@ public:
     void define(Id id, const OrxString& pageFile);
     /// The file of the page that holds the anchor of a defined bookmark.
     [[nodiscard]] std::string_view pageFile(Id id) const noexcept;
+    /// Number of that file: equal for bookmarks whose anchors are on one page.
+    [[nodiscard]] std::uint32_t pageFileNumber(Id id) const noexcept {
+        return records_[id].pageFile;
+    }
     /// The anchor's page without directory, "#", the name; for a defined bookmark.
     [[nodiscard]] OrxString reference(Id id) const;
+    [[nodiscard]] std::string_view name(Id id) const noexcept { return names_.name(id); }
 
     /// Lets a page wait; one that waits already does not wait twice. Pages must come in the order
     /// of their making, each as long as it is the current one.

@@ -1,7 +1,8 @@
 #include "driver/bookmarks.h"
 
+#include <utility>
+
 #include "page/links.h"
-#include "platform/path_text.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 
@@ -13,10 +14,6 @@ constexpr std::string_view anchorOpening = "<a name=\"";
 constexpr std::string_view anchorEnd = "\"></a>";
 constexpr std::string_view hrefOpening = "HREF=\"";
 constexpr std::string_view hrefEnd = "\"";
-
-std::string_view directoryOf(std::string_view file) noexcept {
-    return file.substr(0, path_text::fileStart(file));
-}
 
 }  // namespace
 
@@ -40,9 +37,8 @@ void Bookmarks::define(std::string_view name, Origin origin) {
 }
 
 void Bookmarks::writeAnchor(BookmarkRegistry::Id id, std::string_view name) {
-    std::string anchor;
-    anchor.reserve(anchorOpening.size() + name.size() + anchorEnd.size());
-    out_.page().append(anchor.append(anchorOpening).append(name).append(anchorEnd));
+    anchor_.assign(anchorOpening).append(name).append(anchorEnd);
+    out_.page().append(anchor_);
     registry_.define(id, out_.page().getFileName());
     if (trace_.isTrace(Trace::reports)) {
         OrxString line("created bookmark:");
@@ -89,19 +85,20 @@ void Bookmarks::writeReference(std::string_view name, std::string_view markup,
     }
 }
 
-OrxString Bookmarks::relativeReference(BookmarkRegistry::Id id, const DocHtmlPage& page) {
-    const std::string_view from = directoryOf(page.getFileName());
-    const std::string_view to = directoryOf(registry_.pageFile(id));
-    if (from == to) {
-        return registry_.reference(id);
+std::string_view Bookmarks::relativeReference(BookmarkRegistry::Id id, const DocHtmlPage& page) {
+    const std::uint32_t toPage = registry_.pageFileNumber(id);
+    const OrxString& fromPage = page.getFileName();
+    if (lastWay_.link.isEmpty() || toPage != lastWay_.toPage || fromPage != lastWay_.fromPage) {
+        const OrxString target(registry_.pageFile(id));
+        OrxString link = links::fromPath(
+            SysDirectory::getRelativePath(SysFile::getDir(fromPage), SysFile::getDir(target)));
+        if (!link.isEmpty()) {
+            link.append('/');
+        }
+        link.append(SysFile::stripDir(target)).append('#');
+        lastWay_ = {fromPage, toPage, std::move(link)};
     }
-    if (from != lastWay_.from || to != lastWay_.to) {
-        const OrxString way = links::fromPath(
-            SysDirectory::getRelativePath(SysFile::getDir(page.getFileName()),
-                                          SysFile::getDir(OrxString(registry_.pageFile(id)))));
-        lastWay_ = {std::string(from), std::string(to), way.isEmpty() ? way : way + "/"};
-    }
-    return lastWay_.link + registry_.reference(id);
+    return reference_.assign(lastWay_.link).append(registry_.name(id));
 }
 
 }  // namespace quillmark

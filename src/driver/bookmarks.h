@@ -35,13 +35,18 @@ public:
     [[nodiscard]] HeldPages& heldPages() noexcept { return held_; }
     /// The number that the current page waits and is held under.
     void setPageNumber(std::uint32_t number) noexcept { pageNumber_ = number; }
-    void clear() noexcept { registry_.clear(); }
+    void clear() noexcept {
+        registry_.clear();
+        lastWay_ = {};
+    }
 
 private:
     void writeAnchor(BookmarkRegistry::Id id, std::string_view name);
     void resolve(BookmarkRegistry::Id id, std::string_view name);
     void writeReference(std::string_view name, std::string_view markup, std::string_view reference);
-    [[nodiscard]] OrxString relativeReference(BookmarkRegistry::Id id, const DocHtmlPage& page);
+    /// The bookmark's reference as seen from a page; it lives until the next call.
+    [[nodiscard]] std::string_view relativeReference(BookmarkRegistry::Id id,
+                                                     const DocHtmlPage& page);
 
     OutputRouter& out_;
     Trace& trace_;
@@ -49,12 +54,18 @@ private:
     HeldPages held_;
     std::uint32_t pageNumber_ = 1;
 
-    /// The way between two directories, kept: thousands of links in a row go the same way.
-    struct {
-        std::string from;
-        std::string to;
+    /// What stands in front of a bookmark's name, from one page to another: thousands of links in
+    /// a row go the same way.
+    struct Way {
+        OrxString fromPage;
+        std::uint32_t toPage = 0;
         OrxString link;
-    } lastWay_;
+    };
+    Way lastWay_;
+
+    // Kept between calls for their memory alone.
+    std::string anchor_;
+    std::string reference_;
 };
 
 }  // namespace quillmark

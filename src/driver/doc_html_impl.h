@@ -39,8 +39,10 @@ struct DocHtmlImpl {
 
     /// A directory change has just cut the page; a page break right behind it is not another one.
     bool breakJustMade = false;
-    /// The host's text in 8 bits; kept between calls for its memory alone.
+    /// The host's text in 8 bits, and the target of the link in work; kept between calls for its
+    /// memory alone.
     std::string narrowed;
+    OrxString linkTarget;
 };
 
 }  // namespace quillmark

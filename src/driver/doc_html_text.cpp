@@ -110,23 +110,33 @@ DocResult DocHtml::setTableRowHeight(std::int32_t /*points*/) {
 }
 
 DocResult DocHtml::insertTag(WideText tagName) {
-    const OrxString name = SysText::narrow(tagName);
-    impl_->calls.call("insertTag", name.view());
+    impl_->narrowed.clear();
+    SysText::appendNarrow(impl_->narrowed, tagName);
+    const std::string_view name = impl_->narrowed;
+    impl_->calls.call("insertTag", name);
     impl_->bookmarks.define(name, Bookmarks::Origin::host);
     return resultOk;
 }
 
 DocResult DocHtml::insertXref(WideText text, WideText tagName) {
-    insertXrefCall(SysText::narrow(text), SysText::narrow(tagName));
+    impl_->narrowed.clear();
+    SysText::appendNarrow(impl_->narrowed, text);
+    const std::size_t textLength = impl_->narrowed.size();
+    SysText::appendNarrow(impl_->narrowed, tagName);
+    const std::string_view both = impl_->narrowed;
+    insertXrefCall(both.substr(0, textLength), both.substr(textLength));
     return resultOk;
 }
 
 void DocHtml::insertXrefCall(std::string_view text, std::string_view tagName) {
     impl_->calls.call("insertXref", text, tagName);
     impl_->contents.beforeText(impl_->style.headingLevel());
-    const LinkWriter::Target target = impl_->links.open(tagName);
+    OrxString& target = impl_->linkTarget;
+    target.clear();
+    target.append(tagName);
+    const LinkWriter::End end = impl_->links.open(target);
     impl_->text.insertEscaped(text);
-    impl_->links.close(target);
+    impl_->links.close(target, end);
 }
 
 DocResult DocHtml::startTOCEntry() {

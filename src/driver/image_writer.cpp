@@ -35,9 +35,9 @@ void ImageWriter::insertImage(const OrxString& imageFile, const OrxString& linkT
         name = context_.copyTo(context_.settings.pixDir, name);
     }
     const OrxString source = context_.documentLink(name);
-    std::optional<LinkWriter::Target> link;
+    std::optional<LinkWriter::End> linkEnd;
     if (!linkTarget.isEmpty()) {
-        link = links_.open(linkTarget);
+        linkEnd = links_.open(linkTarget);
     }
     OrxString markup("<IMG SRC=\"");
     context_.out.writeOut(markup.append(source).append("\" ALIGN=\"BOTTOM\" BORDER=\"0\" "));
@@ -47,8 +47,8 @@ void ImageWriter::insertImage(const OrxString& imageFile, const OrxString& linkT
                                 bookmarks_.reference(bookmark, area);
                             }});
     context_.out.writeOut(">");
-    if (link) {
-        links_.close(*link);
+    if (linkEnd) {
+        links_.close(linkTarget, *linkEnd);
     }
 }
 

@@ -1,8 +1,5 @@
 #include "driver/link_writer.h"
 
-#include <string>
-#include <utility>
-
 #include "platform/path_text.h"
 #include "platform/sys_file.h"
 
@@ -20,29 +17,27 @@ bool isImageName(const OrxString& fileName) {
     return extension == ".jpg" || extension == ".jpeg" || extension == ".gif";
 }
 
-LinkWriter::Target LinkWriter::open(OrxString target) {
+LinkWriter::End LinkWriter::open(const OrxString& target) {
     if (SysFile::isHyperLink(target)) {
         writeStart(target);
-        return {std::move(target), false};
+        return End::tag;
     }
     if (SysFile::exists(target)) {
         writeStart(linkOfFile(target));
-        return {std::move(target), false};
+        return End::tag;
     }
     if (findExternalDocument(target)) {
         writeStart(context_.documentLink(candidate_));
     } else {
-        std::string markup;
-        markup.reserve(linkOpening.size() + target.length() + 1);
-        bookmarks_.reference(target, markup.append(linkOpening).append(target).append(">"));
+        markup_.assign(linkOpening).append(target).append(">");
+        bookmarks_.reference(target, markup_);
     }
-    const bool named = !target.isEmpty();
-    return {std::move(target), named};
+    return target.isEmpty() ? End::tag : End::bookmark;
 }
 
 void LinkWriter::writeStart(const OrxString& href) {
-    OrxString markup(linkOpening);
-    context_.out.writeOut(markup.append("HREF=\"").append(href).append("\">"));
+    markup_.assign(linkOpening).append("HREF=\"").append(href).append("\">");
+    context_.out.writeOut(markup_);
 }
 
 OrxString LinkWriter::linkOfFile(const OrxString& file) {
@@ -64,14 +59,16 @@ bool LinkWriter::findExternalDocument(const OrxString& target) {
     return SysFile::exists(candidate_);
 }
 
-void LinkWriter::close(const Target& target) {
-    if (target.endsAsBookmark) {
-        bookmarks_.reference(target.name, linkEnd);
+void LinkWriter::close(const OrxString& target, End end) {
+    if (end == End::bookmark) {
+        bookmarks_.reference(target, linkEnd);
     } else {
         writeEnd();
     }
 }
 
-void LinkWriter::writeEnd() { context_.out.writeOut(linkEnd); }
+void LinkWriter::writeEnd() {
+    context_.out.writeOut(linkEnd);
+}
 
 }  // namespace quillmark

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "driver/bookmarks.h"
@@ -13,27 +14,23 @@ namespace quillmark {
 
 /// Writes links whose target is told by a host: a URL, a file, or the name of a bookmark.
 ///
-///     const LinkWriter::Target target = links.open(name);
+///     const LinkWriter::End end = links.open(target);
 ///     text.insertEscaped("link text");
-///     links.close(target);
+///     links.close(target, end);
 class LinkWriter {
 public:
-    /// What a target turned out to be when its link was opened; looking at the disk for it is the
-    /// dearest part of a link, so the link's end does not look again.
-    struct Target {
-        OrxString name;
-        /// How the link ends: with its own end tag, or as a bookmark's would. A target that was
-        /// found only among the external documents is ended as a bookmark all the same, which
-        /// leaves its end tag waiting for a bookmark of that name.
-        bool endsAsBookmark = false;
-    };
+    /// How a link ends: with its end tag, or with one that waits for the bookmark as the beginning
+    /// does. Looking at the disk for a target is the dearest part of a link, so it is decided when
+    /// the link is opened. A target that was found only among the external documents is ended as a
+    /// bookmark all the same, which leaves its end tag waiting for a bookmark of that name.
+    enum class End { tag, bookmark };
 
     LinkWriter(DocumentContext& context, Bookmarks& bookmarks) noexcept
         : context_(context), bookmarks_(bookmarks) {}
 
     /// A file is copied next to the document first when links are relative.
-    [[nodiscard]] Target open(OrxString target);
-    void close(const Target& target);
+    [[nodiscard]] End open(const OrxString& target);
+    void close(const OrxString& target, End end);
     /// The end tag alone.
     void writeEnd();
 
@@ -46,7 +43,9 @@ private:
 
     DocumentContext& context_;
     Bookmarks& bookmarks_;
-    OrxString candidate_;  // kept between calls for its memory alone
+    // Kept between calls for their memory alone.
+    OrxString candidate_;
+    std::string markup_;
 };
 
 }  // namespace quillmark

@@ -18,6 +18,22 @@ namespace {
 constexpr std::string_view fileEnd = "\n</HTML>\n";
 constexpr std::string_view hrefOpening = "HREF=\"";
 
+/// Appends what takes the place of a mark. The name's first occurrence in the markup counts
+/// wherever it stands, in the tag's own letters too: a place named "A" is found in "<A A>" at the
+/// tag.
+void fillMarkup(std::string& out, std::string_view markup, std::string_view name,
+                std::string_view reference) {
+    const std::size_t hit = markup.empty() ? 0 : markup.find(name);
+    if (hit == std::string_view::npos) {
+        out.append(markup);  // the end of a link
+        return;
+    }
+    out.append(markup.substr(0, hit)).append(hrefOpening).append(reference).append("\"");
+    if (!markup.empty()) {
+        out.append(markup.substr(hit + name.size()));
+    }
+}
+
 }  // namespace
 
 struct DocHtmlPage::Record {
@@ -31,6 +47,7 @@ struct DocHtmlPage::Record {
     MarkTable marks;
     SpliceText::MarkId insertPoint = SpliceText::none;
     Trace trace;
+    std::string filled;  // kept between calls for its memory alone
 
     void writeFile() const;
     void reportUnresolved() const;
@@ -180,23 +197,12 @@ void DocHtmlPage::removeMarks(std::string_view name) {
 
 void DocHtmlPage::resolveMarks(std::string_view name, std::string_view reference) {
     SpliceText& text = record_->text;
+    std::string& filled = record_->filled;
     record_->marks.take(name, [&](SpliceText::MarkId mark) {
-        const std::string markup(text.markup(mark));
-        // The first occurrence counts wherever it stands, in the tag's own letters too: a place
-        // named "A" is found in "<A A>" at the tag.
-        const std::size_t hit = markup.find(name);
+        filled.clear();
+        fillMarkup(filled, text.markup(mark), name, reference);
         text.rewind(mark);
-        if (markup.empty() || hit != std::string::npos) {
-            const std::size_t cut = markup.empty() ? 0 : hit;
-            const std::size_t rest = markup.empty() ? 0 : hit + name.size();
-            text.insertAt(mark, std::string_view(markup).substr(0, cut));
-            text.insertAt(mark, hrefOpening);
-            text.insertAt(mark, reference);
-            text.insertAt(mark, "\"");
-            text.insertAt(mark, std::string_view(markup).substr(rest));
-        } else {
-            text.insertAt(mark, markup);
-        }
+        text.insertAt(mark, filled);
         text.drop(mark);
     });
     clearInsertPoint();

@@ -6,15 +6,21 @@
 namespace quillmark {
 
 void MarkTable::add(std::string_view name, MarkId mark) {
-    const NameIndex::Id id = names_.add(name);
-    if (id == chains_.size()) {
-        chains_.emplace_back();
-    }
     const std::uint32_t entry = newEntry(mark);
-    Chain& chain = chains_[id];
+    Chain& chain = chains_[idOf(name)];
     (chain.first == NameIndex::none ? chain.first : entries_[chain.last].next) = entry;
     chain.last = entry;
     ++open_;
+}
+
+NameIndex::Id MarkTable::idOf(std::string_view name) {
+    if (lastAdded_ == NameIndex::none || names_.name(lastAdded_) != name) {
+        lastAdded_ = names_.add(name);
+        if (lastAdded_ == chains_.size()) {
+            chains_.emplace_back();
+        }
+    }
+    return lastAdded_;
 }
 
 std::uint32_t MarkTable::newEntry(MarkId mark) {
@@ -36,22 +42,6 @@ MarkTable::MarkId MarkTable::first(std::string_view name) const noexcept {
     return entries_[chains_[id].first].mark;
 }
 
-void MarkTable::take(std::string_view name, const std::function<void(MarkId)>& each) {
-    const NameIndex::Id id = names_.find(name);
-    if (id == NameIndex::none) {
-        return;
-    }
-    std::uint32_t entry = chains_[id].first;
-    chains_[id] = {};
-    while (entry != NameIndex::none) {
-        const Entry taken = entries_[entry];
-        freeEntries_.push_back(entry);
-        --open_;
-        each(taken.mark);
-        entry = taken.next;
-    }
-}
-
 void MarkTable::forEach(const std::function<void(std::string_view, MarkId)>& each) const {
     std::vector<NameIndex::Id> ordered(names_.size());
     std::iota(ordered.begin(), ordered.end(), NameIndex::Id{0});
@@ -71,6 +61,7 @@ void MarkTable::clear() noexcept {
     entries_.clear();
     freeEntries_.clear();
     open_ = 0;
+    lastAdded_ = NameIndex::none;
 }
 
 }  // namespace quillmark

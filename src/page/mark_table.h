@@ -22,8 +22,10 @@ public:
     [[nodiscard]] std::size_t size() const noexcept { return open_; }
     /// The first open mark of the name, or `SpliceText::none`.
     [[nodiscard]] MarkId first(std::string_view name) const noexcept;
-    /// Removes the marks of the name and hands each to `each`, in the order of their making.
-    void take(std::string_view name, const std::function<void(MarkId)>& each);
+    /// Removes the marks of the name and hands each to `each(MarkId)`, in the order of their
+    /// making.
+    template <typename Each>
+    void take(std::string_view name, const Each& each);
     /// Every open mark, in name order.
     void forEach(const std::function<void(std::string_view name, MarkId)>& each) const;
     void clear() noexcept;
@@ -39,12 +41,33 @@ private:
     };
 
     std::uint32_t newEntry(MarkId mark);
+    /// The number of the name. The end of a link follows its beginning, so the name added last is
+    /// found without a search.
+    NameIndex::Id idOf(std::string_view name);
 
     NameIndex names_;
     std::vector<Chain> chains_;  // by the name's number
     std::vector<Entry> entries_;
     std::vector<std::uint32_t> freeEntries_;
     std::size_t open_ = 0;
+    NameIndex::Id lastAdded_ = NameIndex::none;
 };
+
+template <typename Each>
+void MarkTable::take(std::string_view name, const Each& each) {
+    const NameIndex::Id id = names_.find(name);
+    if (id == NameIndex::none) {
+        return;
+    }
+    std::uint32_t entry = chains_[id].first;
+    chains_[id] = {};
+    while (entry != NameIndex::none) {
+        const Entry taken = entries_[entry];
+        freeEntries_.push_back(entry);
+        --open_;
+        each(taken.mark);
+        entry = taken.next;
+    }
+}
 
 }  // namespace quillmark
