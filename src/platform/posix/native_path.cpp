@@ -25,8 +25,13 @@ std::string nativePath(const OrxString& name) {
     if (path_text::hasDrive(name)) {
         if (std::optional<std::string> directory = DriveTable::find(name.view()[0])) {
             std::string rest = withSlashes(name.view().substr(2));
-            const bool separated = rest.starts_with('/') || directory->ends_with('/');
-            return *directory + (rest.empty() || separated ? "" : "/") + rest;
+            if (!rest.empty() && !rest.starts_with('/')) {
+                rest.insert(0, "/");
+            }
+            if (!rest.empty() && directory->ends_with('/')) {
+                directory->pop_back();
+            }
+            return *directory + rest;
         }
     }
     return withSlashes(name);

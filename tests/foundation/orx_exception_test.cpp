@@ -1,0 +1,103 @@
+#include "foundation/orx_exception.h"
+
+#include <gtest/gtest.h>
+
+#include <exception>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "support/capturing_exception_log.h"
+
+namespace quillmark {
+namespace {
+
+using Messages = std::vector<std::string>;
+
+TEST(Exception, CarriesItsReason) {
+    const OrxException exception("Error opening file: a");
+    EXPECT_EQ(exception.reasonText(), "Error opening file: a");
+    EXPECT_STREQ(exception.what(), "Error opening file: a");
+}
+
+TEST(Exception, IsCaughtAsAStandardException) {
+    try {
+        OrxException::raise("reason");
+    } catch (const std::exception& caught) {
+        EXPECT_STREQ(caught.what(), "reason");
+    }
+}
+
+TEST(ExceptionLog, IsToldBeforeTheThrow) {
+    const CapturingExceptionLog log;
+    EXPECT_THROW(OrxException::raise("Error opening file: a"), OrxException);
+    EXPECT_EQ(log.messages(), Messages{"Exception throw: Error opening file: a\n"});
+}
+
+TEST(ExceptionLog, IsToldAfterTheCatch) {
+    const CapturingExceptionLog log;
+    OrxException::logCatch("Error opening file: a");
+    EXPECT_EQ(log.messages(), Messages{"Exception catch: Error opening file: a\n"});
+}
+
+TEST(ExceptionLog, KeepsTheLineEndsOfAReason) {
+    const CapturingExceptionLog log;
+    EXPECT_THROW(OrxException::raise("Html style sheet does not exist.\nC:\\a.css"), OrxException);
+    EXPECT_EQ(log.messages(),
+              Messages{"Exception throw: Html style sheet does not exist.\nC:\\a.css\n"});
+}
+
+TEST(ExceptionLog, GetsOnlyTheCategoriesThatItRecords) {
+    {
+        const CapturingExceptionLog log(CapturingExceptionLog::Records::throwsOnly);
+        EXPECT_THROW(OrxException::raise("a"), OrxException);
+        OrxException::logCatch("a");
+        EXPECT_EQ(log.messages(), Messages{"Exception throw: a\n"});
+    }
+    {
+        const CapturingExceptionLog log(CapturingExceptionLog::Records::catchesOnly);
+        EXPECT_THROW(OrxException::raise("a"), OrxException);
+        OrxException::logCatch("a");
+        EXPECT_EQ(log.messages(), Messages{"Exception catch: a\n"});
+    }
+    const CapturingExceptionLog log(CapturingExceptionLog::Records::nothing);
+    EXPECT_THROW(OrxException::raise("a"), OrxException);
+    OrxException::logCatch("a");
+    EXPECT_EQ(log.messages(), Messages{});
+}
+
+TEST(ExceptionLog, RecordsNothingUnlessOneIsInstalled) {
+    OrxExceptionLog* const standard = OrxException::getLog();
+    ASSERT_NE(standard, nullptr);
+    EXPECT_FALSE(standard->records(OrxExceptionLog::throwCategory));
+    EXPECT_FALSE(standard->records(OrxExceptionLog::catchCategory));
+    EXPECT_NO_THROW(standard->write("a"));
+}
+
+TEST(ExceptionLog, IsInstalledAndTakenBack) {
+    {
+        const CapturingExceptionLog log;
+        EXPECT_EQ(OrxException::getLog(), &log);
+        EXPECT_EQ(OrxException::setLog(nullptr), &log);
+        EXPECT_NE(OrxException::getLog(), &log);
+        EXPECT_EQ(OrxException::setLog(nullptr), nullptr);
+    }
+    EXPECT_NE(OrxException::getLog(), nullptr);
+}
+
+TEST(ExceptionLog, ThatThrowsDoesNotStopACatch) {
+    class Broken : public OrxExceptionLog {
+    public:
+        Broken() { OrxException::setLog(this); }
+        ~Broken() override { OrxException::setLog(nullptr); }
+        Broken(const Broken&) = delete;
+        Broken& operator=(const Broken&) = delete;
+        bool records(std::string_view /*category*/) const override { return true; }
+        void write(std::string_view /*message*/) override { throw std::runtime_error("full"); }
+    };
+    const Broken log;
+    EXPECT_NO_THROW(OrxException::logCatch("a"));
+}
+
+}  // namespace
+}  // namespace quillmark

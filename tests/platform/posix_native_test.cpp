@@ -1,0 +1,301 @@
+// What the system's own services promise on POSIX alone.
+#ifndef _WIN32
+
+#include <dirent.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <thread>
+
+#include "foundation/orx_exception.h"
+#include "platform/drive_table.h"
+#include "platform/ini_file.h"
+#include "platform/settings_store.h"
+#include "platform/signal_to_exception.h"
+#include "platform/sys_directory.h"
+#include "platform/sys_file.h"
+#include "platform/sys_shell.h"
+#include "platform/system_facts.h"
+#include "support/environment_variable.h"
+#include "support/temp_dir.h"
+
+namespace quillmark {
+namespace {
+
+WriteResult write(const OrxString& name, std::string_view text) {
+    return SysFile::writeWhole(name, std::array{text});
+}
+
+TEST(NativeName, HasSlashesAndUtf8) {
+    EXPECT_EQ(nativePath("\\out\\a.htm"), "/out/a.htm");
+    EXPECT_EQ(nativePath("out/sub\\caf\xE9 \x80.htm"), "out/sub/caf\xC3\xA9 \xE2\x82\xAC.htm");
+    EXPECT_EQ(nativePath(""), "");
+}
+
+TEST(NativeName, KeepsADriveThatTheTableDoesNotKnow) {
+    EXPECT_EQ(nativePath("C:\\out\\a.htm"), "C:/out/a.htm");
+}
+
+TEST(NativeName, LiesUnderTheDirectoryOfItsDrive) {
+    DriveTable::set('C', "/data/caf\xC3\xA9");
+    EXPECT_EQ(nativePath("C:\\out\\a.htm"), "/data/caf\xC3\xA9/out/a.htm");
+    EXPECT_EQ(nativePath("c:/out"), "/data/caf\xC3\xA9/out");
+    EXPECT_EQ(nativePath("C:out"), "/data/caf\xC3\xA9/out");
+    EXPECT_EQ(nativePath("C:"), "/data/caf\xC3\xA9");
+    EXPECT_EQ(nativePath("D:\\out"), "D:/out");
+    DriveTable::set('C', "/");
+    EXPECT_EQ(nativePath("C:\\out"), "/out");
+    DriveTable::clear();
+}
+
+TEST(DriverName, HasBackslashesAndTheCodePage) {
+    EXPECT_EQ(driverPath("/home/caf\xC3\xA9"), "\\home\\caf\xE9");
+}
+
+TEST(NativeFile, IsFoundThroughItsDrive) {
+    const TempDir dir;
+    DriveTable::set('Q', dir.native());
+    EXPECT_TRUE(SysDirectory::create("Q:\\out\\pix"));
+    EXPECT_EQ(write("Q:\\out\\pix\\a.htm", "x"), WriteResult::done);
+    DriveTable::clear();
+    EXPECT_EQ(dir.content("out\\pix\\a.htm"), "x");
+}
+
+TEST(NativeFile, ThatTheDiskHasNoRoomForIsReported) {
+    EXPECT_EQ(write("/dev/full", "x"), WriteResult::writeFailed);
+    const std::string large(3'000'000, 'x');
+    EXPECT_EQ(write("/dev/full", large), WriteResult::writeFailed);
+}
+
+TEST(NativeFile, CopiedToADiskWithoutRoomIsReported) {
+    const TempDir dir;
+    dir.put("a.gif", "bytes");
+    EXPECT_FALSE(SysFile::copy(dir.file("a.gif"), "/dev/full"));
+    EXPECT_TRUE(SysFile::exists("/dev/full"));
+}
+
+TEST(NativeFile, ThatIsCutShortByALimitIsReportedAndLeavesNoCopy) {
+    const TempDir dir;
+    dir.put("a.gif", std::string(100000, 'x'));
+    // In a process of its own: a limit on the size of files would hit the test's report too.
+    const pid_t child = fork();
+    if (child == 0) {
+        const rlimit limit{4096, 4096};
+        signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &limit);
+        const bool written = write(dir.file("b.htm"), std::string(5000, 'y')) == WriteResult::done;
+        const bool copied = SysFile::copy(dir.file("a.gif"), dir.file("b.gif"));
+        _exit(written || copied ? 1 : 0);
+    }
+    int status = -1;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+    EXPECT_FALSE(dir.content("b.gif"));
+    EXPECT_EQ(dir.content("b.htm")->size(), 4096U);
+}
+
+TEST(NativeFile, IsTheSameUnderAnotherName) {
+    const TempDir dir;
+    dir.put("a.gif", "bytes");
+    ASSERT_EQ(link(dir.nativeFile("a.gif").c_str(), dir.nativeFile("hard.gif").c_str()), 0);
+    ASSERT_EQ(symlink("a.gif", dir.nativeFile("soft.gif").c_str()), 0);
+    EXPECT_TRUE(SysFile::copy(dir.file("a.gif"), dir.file("hard.gif")));
+    EXPECT_TRUE(SysFile::copy(dir.file("a.gif"), dir.file("soft.gif")));
+    EXPECT_TRUE(SysFile::copy(dir.file("soft.gif"), dir.file("a.gif")));
+    EXPECT_EQ(dir.content("a.gif"), "bytes");
+    EXPECT_TRUE(std::filesystem::is_symlink(dir.nativeFile("soft.gif")));
+}
+
+TEST(NativeFile, IsWrittenThroughALink) {
+    const TempDir dir;
+    ASSERT_EQ(symlink("real.htm", dir.nativeFile("link.htm").c_str()), 0);
+    EXPECT_FALSE(SysFile::exists(dir.file("link.htm")));
+    dir.put("a.htm", "x");
+    EXPECT_TRUE(SysFile::copy(dir.file("a.htm"), dir.file("link.htm")));
+    EXPECT_EQ(dir.content("real.htm"), "x");
+    EXPECT_TRUE(SysFile::exists(dir.file("link.htm")));
+}
+
+TEST(NativeFile, CopiedFromAReadOnlyOneCanBeCopiedAgain) {
+    const TempDir dir;
+    dir.put("a.css", "x");
+    ASSERT_EQ(chmod(dir.nativeFile("a.css").c_str(), 0444), 0);
+    EXPECT_TRUE(SysFile::copy(dir.file("a.css"), dir.file("b.css")));
+    struct stat status {};
+    ASSERT_EQ(stat(dir.nativeFile("b.css").c_str(), &status), 0);
+    EXPECT_NE(status.st_mode & S_IWUSR, 0U);
+}
+
+TEST(NativeFile, OfASizeThatTheSystemDoesNotKnowIsCopiedWhole) {
+    const TempDir dir;
+    EXPECT_TRUE(SysFile::copy("/proc/self/status", dir.file("status")));
+    EXPECT_NE(dir.content("status")->find("Pid:"), std::string::npos);
+}
+
+TEST(NativeFile, LeavesNoDescriptorOpen) {
+    const auto openDescriptors = [] {
+        std::size_t count = 0;
+        for ([[maybe_unused]] const auto& entry :
+             std::filesystem::directory_iterator("/proc/self/fd")) {
+            ++count;
+        }
+        return count;
+    };
+    const TempDir dir;
+    const std::size_t before = openDescriptors();
+    EXPECT_EQ(write(dir.file("a"), "x"), WriteResult::done);
+    EXPECT_TRUE(SysFile::copy(dir.file("a"), dir.file("b")));
+    EXPECT_EQ(write("/dev/full", "x"), WriteResult::writeFailed);
+    EXPECT_EQ(SysShell::start("/bin/true", ""), SysShell::started);
+    EXPECT_LT(SysShell::start("/none", ""), SysShell::started);
+    EXPECT_EQ(openDescriptors(), before);
+}
+
+TEST(UserConfiguration, LiesWhereTheEnvironmentSays) {
+    const EnvironmentVariable home("HOME", "/home/me");
+    {
+        const EnvironmentVariable config("XDG_CONFIG_HOME", "/conf/");
+        EXPECT_EQ(system_facts::userConfigurationDirectory(), "\\conf");
+        EXPECT_EQ(userSettingsPlace(), "/conf/quillmark/settings.ini");
+    }
+    const EnvironmentVariable config("XDG_CONFIG_HOME", "relative");
+    EXPECT_EQ(userSettingsPlace(), "/home/me/.config/quillmark/settings.ini");
+}
+
+TEST(UserConfiguration, KeepsTheUsersSettings) {
+    const TempDir dir;
+    const EnvironmentVariable config("XDG_CONFIG_HOME", dir.native());
+    EXPECT_TRUE(makeUserSettingsStore()->write("Html", "Navig", "3"));
+    EXPECT_EQ(dir.content("quillmark\\settings.ini"), "[Html]\nNavig=3\n");
+}
+
+TEST(TemporaryDirectory, IsTheOneOfTheEnvironmentOrTheSystems) {
+    {
+        const EnvironmentVariable named("TMPDIR", "/my/tmp/");
+        EXPECT_EQ(system_facts::temporaryDirectory(), "\\my\\tmp");
+    }
+    const EnvironmentVariable notNamed("TMPDIR", std::nullopt);
+    EXPECT_EQ(system_facts::temporaryDirectory(), "\\tmp");
+}
+
+TEST(IniFileOnPosix, LiesInTheConfigurationDirectoryWhenItsNameIsBare) {
+    const TempDir dir;
+    dir.put("Veltrano.ini", "[Quillmark]\nUseJavaPre7=TRUE\n");
+    const EnvironmentVariable config("XDG_CONFIG_HOME", dir.native());
+    EXPECT_EQ(IniFile::read("Veltrano.ini", "Quillmark", "UseJavaPre7", "FALSE", 4096), "TRUE");
+}
+
+/// Waits until a file has its text, for what another process does in its own time.
+std::string eventually(const TempDir& dir, const OrxString& name) {
+    for (int i = 0; i < 500; ++i) {
+        const std::string text = dir.content(name).value_or("");
+        if (text.ends_with("\n")) {
+            return text;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return "(never came)";
+}
+
+void putProgram(const TempDir& dir, const OrxString& name, std::string_view script) {
+    dir.put(name, script);
+    chmod(dir.nativeFile(name).c_str(), 0755);
+}
+
+TEST(Shell, StartsAProgramWithItsArguments) {
+    const TempDir dir;
+    putProgram(dir, "zip.exe",
+               "#!/bin/sh\nprintf '<%s>' \"$@\" > \"$0.tmp\"; echo >> \"$0.tmp\"; "
+               "mv \"$0.tmp\" \"$0.txt\"\n");
+    EXPECT_EQ(SysShell::start(dir.file("zip.exe"), "-m -q \"\\my out\\a.zip\""), SysShell::started);
+    EXPECT_EQ(eventually(dir, "zip.exe.txt"), "<-m><-q></my out/a.zip>\n");
+}
+
+TEST(Shell, DoesNotWaitForTheProgramAndLeavesNoChild) {
+    const TempDir dir;
+    putProgram(dir, "slow", "#!/bin/sh\nread line < \"$0.fifo\"; echo \"$line\" > \"$0.txt\"\n");
+    ASSERT_EQ(mkfifo(dir.nativeFile("slow.fifo").c_str(), 0600), 0);
+    // It returns although the program cannot end before the next line is written.
+    EXPECT_EQ(SysShell::start(dir.file("slow"), ""), SysShell::started);
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+    EXPECT_EQ(write(dir.file("slow.fifo"), "go on\n"), WriteResult::done);
+    EXPECT_EQ(eventually(dir, "slow.txt"), "go on\n");
+}
+
+TEST(Shell, DoesNotStartWhatIsNoProgram) {
+    const TempDir dir;
+    dir.put("data", "text");
+    SysDirectory::create(dir.file("dir"));
+    putProgram(dir, "broken", "#!/none/interpreter\n");
+    EXPECT_LT(SysShell::start(dir.file("none"), ""), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("data"), ""), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("dir"), ""), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("broken"), ""), SysShell::started);
+    EXPECT_LT(SysShell::start("", ""), SysShell::started);
+}
+
+TEST(Shell, DoesNotLookForAProgramOnTheSearchPath) {
+    EXPECT_LT(SysShell::start("true", ""), SysShell::started);
+}
+
+TEST(Shell, OpensAFileWithTheDesktopsTool) {
+    const TempDir dir;
+    putProgram(dir, "xdg-open",
+               "#!/bin/sh\nprintf '%s\\n' \"$1\" > \"${0%/*}/tmp\"; mv \"${0%/*}/tmp\" "
+               "\"${0%/*}/opened\"\n");
+    const EnvironmentVariable path("PATH", dir.native() + ":/usr/bin:/bin");
+    SysShell::open("\\out\\rep.htm");
+    EXPECT_EQ(eventually(dir, "opened"), "/out/rep.htm\n");
+}
+
+TEST(Shell, DoesNotMindAMissingDesktop) {
+    const EnvironmentVariable path("PATH", "/none");
+    EXPECT_NO_THROW(SysShell::open("\\out\\rep.htm"));
+}
+
+int hostSignals = 0;
+void hostHandler(int /*signal*/) {
+    ++hostSignals;
+}
+
+TEST(SignalGuardOnPosix, GivesTheHostItsHandlersBack) {
+    struct sigaction own {};
+    struct sigaction before {};
+    own.sa_handler = hostHandler;
+    ASSERT_EQ(sigaction(SIGFPE, &own, &before), 0);
+    CSignal2Exception::run([] {});
+    EXPECT_THROW(CSignal2Exception::run([] { raise(SIGFPE); }), OrxException);
+    hostSignals = 0;
+    raise(SIGFPE);
+    EXPECT_EQ(hostSignals, 1);
+    struct sigaction now {};
+    sigaction(SIGFPE, &before, &now);
+    EXPECT_EQ(now.sa_handler, hostHandler);
+}
+
+TEST(SignalGuardOnPosix, LeavesOtherThreadsToTheHost) {
+    struct sigaction own {};
+    struct sigaction before {};
+    own.sa_handler = hostHandler;
+    ASSERT_EQ(sigaction(SIGFPE, &own, &before), 0);
+    hostSignals = 0;
+    CSignal2Exception::run([] { std::thread([] { raise(SIGFPE); }).join(); });
+    EXPECT_EQ(hostSignals, 1);
+    sigaction(SIGFPE, &before, nullptr);
+}
+
+}  // namespace
+}  // namespace quillmark
+
+#endif

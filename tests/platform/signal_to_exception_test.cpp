@@ -1,0 +1,139 @@
+#include "platform/signal_to_exception.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "foundation/orx_exception.h"
+#include "support/capturing_exception_log.h"
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define UNDER_SANITIZER 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define UNDER_SANITIZER 1
+#endif
+#endif
+
+namespace quillmark {
+namespace {
+
+/// Writes where nothing is. The address is hidden from the compiler, which would warn.
+[[gnu::noinline]] void strikeWildAddress() {
+    int* volatile nowhere = nullptr;
+    *static_cast<volatile int*>(nowhere) = 1;
+}
+
+[[gnu::noinline]] void strikeIllegalInstruction() {
+    __builtin_trap();
+}
+
+std::string reasonOf(const std::function<void()>& body) {
+    try {
+        CSignal2Exception::run(body);
+    } catch (const OrxException& failure) {
+        return failure.reasonText().str();
+    }
+    return "no signal";
+}
+
+constexpr const char* wildAddress = "Processor signal SIGSEGV (invalid memory access)";
+
+#if defined(__clang__)
+#define NO_SIGNAL_CHECKS __attribute__((no_sanitize("undefined")))
+#else
+#define NO_SIGNAL_CHECKS __attribute__((no_sanitize_undefined))
+#endif
+
+#if defined(__x86_64__) || defined(__i386__)
+NO_SIGNAL_CHECKS [[gnu::noinline]] int divide(int number, int by) {
+    return number / by;
+}
+
+TEST(SignalGuard, TurnsADivisionByZeroIntoAnException) {
+    volatile int zero = 0;
+    EXPECT_EQ(reasonOf([&] { zero = divide(1, zero); }),
+              "Processor signal SIGFPE (arithmetic error)");
+}
+#endif
+
+TEST(SignalGuard, RunsItsBodyOnce) {
+    int runs = 0;
+    EXPECT_EQ(reasonOf([&] { ++runs; }), "no signal");
+    EXPECT_EQ(runs, 1);
+}
+
+TEST(SignalGuard, TurnsAWildAddressIntoAnException) {
+    EXPECT_EQ(reasonOf(strikeWildAddress), wildAddress);
+}
+
+TEST(SignalGuard, TurnsAnIllegalInstructionIntoAnException) {
+    EXPECT_EQ(reasonOf(strikeIllegalInstruction), "Processor signal SIGILL (illegal instruction)");
+}
+
+TEST(SignalGuard, TellsTheExceptionLog) {
+    const CapturingExceptionLog log;
+    EXPECT_EQ(reasonOf(strikeWildAddress), wildAddress);
+    EXPECT_EQ(log.messages(),
+              std::vector<std::string>{std::string("Exception throw: ") + wildAddress + "\n"});
+}
+
+TEST(SignalGuard, WorksAgainAndAgain) {
+    for (int i = 0; i < 100; ++i) {
+        ASSERT_EQ(reasonOf(strikeWildAddress), wildAddress);
+    }
+}
+
+TEST(SignalGuard, LetsExceptionsOfTheBodyPass) {
+    EXPECT_THROW(CSignal2Exception::run([] { throw std::runtime_error("own"); }),
+                 std::runtime_error);
+    EXPECT_EQ(reasonOf(strikeWildAddress), wildAddress);
+}
+
+TEST(SignalGuard, OfTheInnermostKindAnswers) {
+    std::string inner;
+    const std::string outer = reasonOf([&] {
+        inner = reasonOf(strikeWildAddress);
+        strikeIllegalInstruction();
+    });
+    EXPECT_EQ(inner, wildAddress);
+    EXPECT_EQ(outer, "Processor signal SIGILL (illegal instruction)");
+}
+
+TEST(SignalGuard, LetsAnInnerReasonLeaveTheOuterGuard) {
+    EXPECT_EQ(reasonOf([] { CSignal2Exception::run(strikeWildAddress); }), wildAddress);
+}
+
+TEST(SignalGuard, IsEachThreadsOwn) {
+    std::vector<std::thread> threads;
+    std::vector<std::string> reasons(4);
+    for (std::string& reason : reasons) {
+        threads.emplace_back([&reason] {
+            for (int i = 0; i < 50; ++i) {
+                reason = reasonOf(strikeWildAddress);
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(reasons, std::vector<std::string>(4, wildAddress));
+}
+
+#if GTEST_HAS_DEATH_TEST && !defined(UNDER_SANITIZER)
+TEST(SignalGuardDeathTest, LeavesSignalsOutsideAsTheyWere) {
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    EXPECT_DEATH(
+        {
+            CSignal2Exception::run([] {});
+            strikeWildAddress();
+        },
+        "");
+}
+#endif
+
+}  // namespace
+}  // namespace quillmark
