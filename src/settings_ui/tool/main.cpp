@@ -1,0 +1,12 @@
+#include <iostream>
+
+#include "platform/console.h"
+#include "settings_ui/tool/settings_tool.h"
+
+int main(int argc, char** argv) {
+    using quillmark::Console;
+    Console::readBytes();
+    return static_cast<int>(
+        quillmark::runSettingsTool(Console::arguments(argc, argv),
+                                   {std::cin, std::cout, std::cerr, Console::executablePath()}));
+}

@@ -1,0 +1,161 @@
+#include "settings_ui/tool/settings_commands.h"
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+#include "platform/register_dynamic.h"
+#include "platform/settings_table.h"
+#include "platform/sys_text.h"
+#include "settings_ui/settings_page.h"
+#include "settings_ui/tool/control_values.h"
+#include "settings_ui/tool/terminal_form.h"
+#include "settings_ui/tool/terminal_host.h"
+
+namespace quillmark {
+
+namespace {
+
+/// A setting by "NAME" or "GROUP.NAME". No name stands in two groups.
+const SettingDescription& settingNamed(const std::string& text) {
+    const std::size_t dot = text.find('.');
+    for (const SettingDescription& setting : allSettings()) {
+        const std::string_view group =
+            dot == std::string::npos ? setting.group : std::string_view(text).substr(0, dot);
+        const std::string_view name =
+            dot == std::string::npos ? text : std::string_view(text).substr(dot + 1);
+        if (findSetting(group, name) == &setting) {
+            return setting;
+        }
+    }
+    throw BadUsage("unknown setting \"" + text + "\"");
+}
+
+std::string address(const SettingDescription& setting) {
+    return std::string(setting.group) + "." + setting.name;
+}
+
+OrxString valueOf(const SettingDescription& setting) {
+    return RegisterDynamic().read(setting.group, setting.name, defaultValue(setting)).asString();
+}
+
+struct Assignment {
+    const SettingDescription* setting;
+    OrxString value;
+};
+
+Assignment assignmentOf(const std::string& text) {
+    const std::size_t equals = text.find('=');
+    if (equals == std::string::npos) {
+        throw BadUsage("set takes NAME=VALUE, not \"" + text + "\"");
+    }
+    const SettingDescription& setting = settingNamed(text.substr(0, equals));
+    const OrxString value = SysText::fromUtf8(text.substr(equals + 1));
+    if (!accepts(setting, value)) {
+        throw BadUsage(address(setting) + " takes " + acceptedValues(setting).str() + ", not \"" +
+                       text.substr(equals + 1) + "\"");
+    }
+    return {&setting, value};
+}
+
+/// The page without a window, loaded from the store in force.
+struct LoadedPage {
+    explicit LoadedPage(std::ostream& errors) : host(errors), page(controls, host) {
+        controls.listen([this](int id, ControlEvent event) { page.handle(id, event); });
+        controls.focus(control::imagesDirectory);
+    }
+    LoadedPage(const LoadedPage&) = delete;
+    LoadedPage& operator=(const LoadedPage&) = delete;
+
+    MemoryControls controls;
+    TerminalHost host;
+    SettingsPage page;
+};
+
+/// What the page has no controls for has no rules either: it is written in the table's order.
+void writeOthers(const std::vector<Assignment>& assignments) {
+    for (const SettingDescription& setting : allSettings()) {
+        for (const Assignment& assignment : assignments) {
+            if (assignment.setting == &setting && !isOnPage(setting)) {
+                RegisterDynamic().write(setting.group, setting.name,
+                                        RegEntry::ofString(assignment.value));
+            }
+        }
+    }
+}
+
+}  // namespace
+
+bool SettingsCommands::run(const ToolOptions& options) {
+    if (options.command == "set") {
+        return set(options.operands);
+    }
+    if (options.command == "edit") {
+        return edit();
+    }
+    if (options.command == "get") {
+        get(options.operands.front());
+    } else {
+        list();
+    }
+    return true;
+}
+
+void SettingsCommands::list() const {
+    for (const SettingDescription& setting : allSettings()) {
+        OrxString fallback = defaultValue(setting).asString();
+        if (&setting == findSetting(settingsGroup, "InstallDir")) {
+            fallback = store_.installDir();
+        }
+        around_.out << address(setting) << "=" << SysText::toUtf8(valueOf(setting))
+                    << "\n    default \"" << SysText::toUtf8(fallback) << "\", "
+                    << typeName(setting.type) << "\n    " << setting.meaning << "\n";
+    }
+}
+
+void SettingsCommands::get(const std::string& name) const {
+    around_.out << SysText::toUtf8(valueOf(settingNamed(name))) << "\n";
+}
+
+bool SettingsCommands::set(const std::vector<std::string>& assignments) const {
+    std::vector<Assignment> wanted;
+    std::ranges::transform(assignments, std::back_inserter(wanted), assignmentOf);
+    LoadedPage loaded(around_.errors);
+    std::vector<std::string_view> onPage;
+    for (const auto& [setting, value] : wanted) {
+        if (isOnPage(*setting)) {
+            putValue(loaded.controls, *setting, value);
+            onPage.emplace_back(setting->name);
+        }
+    }
+    if (!loaded.page.applyOnly(onPage)) {
+        return false;
+    }
+    writeOthers(wanted);
+    return true;
+}
+
+bool SettingsCommands::edit() const {
+    LoadedPage loaded(around_.errors);
+    TerminalForm form(loaded.controls, around_.in, around_.out);
+    around_.out
+        << "HTML Settings, kept in " << place_
+        << "\nEnter keeps a value, \"\" empties it, the end of the input keeps the rest.\n\n";
+    if (!form.fillIn()) {
+        around_.out << "\nNothing changed.\n";
+        return true;
+    }
+    while (!loaded.page.apply()) {
+        if (form.hasEnded()) {
+            return false;
+        }
+        around_.out << '\n';
+        form.fillIn();
+    }
+    if (store_.failures().empty()) {
+        around_.out << "Saved.\n";
+    }
+    return true;
+}
+
+}  // namespace quillmark

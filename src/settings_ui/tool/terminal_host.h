@@ -1,0 +1,29 @@
+#pragma once
+
+#include <ostream>
+
+#include "settings_ui/page_host.h"
+
+namespace quillmark {
+
+/// The page's messages on a stream, in UTF-8. Nothing can be picked on a terminal: names are
+/// typed.
+class TerminalHost : public PageHost {
+public:
+    explicit TerminalHost(std::ostream& errors) : errors_(errors) {}
+
+    void showMessage(const OrxString& text, const OrxString& title) override;
+    [[nodiscard]] std::optional<OrxString> chooseDirectory(const OrxString& /*title*/) override {
+        return std::nullopt;
+    }
+    [[nodiscard]] std::optional<OrxString> chooseFile(const FileChoice& /*choice*/) override {
+        return std::nullopt;
+    }
+    void showHelp(const OrxString& /*helpFile*/, unsigned long /*context*/) override {}
+    void dirtyChanged(bool /*dirty*/) override {}
+
+private:
+    std::ostream& errors_;
+};
+
+}  // namespace quillmark
