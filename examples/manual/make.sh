@@ -17,7 +17,7 @@ mkdir -p "$2"
 out=$(cd "$2" && pwd)
 shift 2
 work=${MANUAL_WORK_DIR:-$build/manual}
-replay=${DOCHTML_REPLAY:-$build/src/replay/dochtml-replay}
+replay=${DOCHTML_REPLAY:-$build/bin/dochtml-replay}
 
 # The report generator: calls, picture, model, image maps.
 "$build/examples/manual/manual_generator" --document "$out/manual.htm" "$work"

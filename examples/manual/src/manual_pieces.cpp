@@ -82,13 +82,13 @@ void Manual::linkFile(const std::string& name) {
 }
 
 void Manual::gallery() {
-    composer_.entryHeading(3, "Headings", {});
+    composer_.entryHeading(2, "Headings", {});
     composer_.line("Levels 1 and 2 head the pages of this manual. The deeper ones:");
     calls_.add("insertEndl");
     for (int level = 3; level <= 9; ++level) {
         composer_.plainHeading(level, "Heading " + std::to_string(level));
     }
-    composer_.entryHeading(3, "Alignment and fonts", {});
+    composer_.entryHeading(2, "Alignment and fonts", {});
     const std::map<int, std::string> alignments = {
         {left, "at the left"}, {centred, "in the middle"}, {right, "at the right"}};
     for (const auto& [alignment, text] : alignments) {
@@ -105,7 +105,7 @@ void Manual::gallery() {
         calls_.add("insertText", " ");
     }
     calls_.add("insertEndl");
-    composer_.entryHeading(3, "Lists", {});
+    composer_.entryHeading(2, "Lists", {});
     composer_.list("List Number", {"the first item", "the second item"});
     composer_.list("List Number 2", {"an item of the second level", "and another one"});
     composer_.list("List Bullet", {"an item",
@@ -116,7 +116,7 @@ void Manual::gallery() {
     composer_.list("List Bullet 2", {"an item of the second level"});
     composer_.line("A bulleted list is never closed, but the text behind it looks as usual.");
     calls_.add("insertEndl");
-    composer_.entryHeading(3, "Tables in tables", {});
+    composer_.entryHeading(2, "Tables in tables", {});
     composer_.startTable({"Outer", "Inner"});
     composer_.row({"a cell", ""});
     composer_.table({{"one", "two"}, {"three", "four"}});
