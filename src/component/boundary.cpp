@@ -1,0 +1,33 @@
+#include "component/boundary.h"
+
+#include <exception>
+#include <new>
+
+#include "foundation/orx_exception.h"
+
+namespace quillmark {
+
+void logCaughtException() noexcept {
+    try {
+        throw;
+    } catch (const OrxException& exception) {
+        OrxException::logCatch(exception.reasonText());
+    } catch (const std::exception& exception) {
+        OrxException::logCatch(exception.what());
+    } catch (...) {
+        OrxException::logCatch("unknown exception");
+    }
+}
+
+HRESULT resultOfCaughtException() noexcept {
+    logCaughtException();
+    try {
+        throw;
+    } catch (const std::bad_alloc&) {
+        return E_OUTOFMEMORY;
+    } catch (...) {
+        return E_UNEXPECTED;
+    }
+}
+
+}  // namespace quillmark

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "dochtml/automation.h"
+
+namespace quillmark {
+
+/// A value of a key. A text is UTF-8 under every store; other types are kept as they are.
+struct KeyValue {
+    static constexpr std::uint32_t textType = 1;
+
+    std::uint32_t type = textType;
+    std::string data;
+
+    friend bool operator==(const KeyValue&, const KeyValue&) = default;
+};
+
+/// A key with all that lies below it. The default value has the empty name.
+struct KeyTree {
+    std::map<std::string, KeyValue> values;
+    std::map<std::string, KeyTree> children;
+
+    friend bool operator==(const KeyTree&, const KeyTree&) = default;
+};
+
+/// Where classes are made known: the classes root of the registry, or a file of the user's.
+/// Paths have "\" between keys. Every function answers `S_OK` or a failing result.
+class ClassKeyStore {
+public:
+    virtual ~ClassKeyStore() = default;
+
+    /// The key as it is, or nothing when it is not there.
+    [[nodiscard]] virtual std::optional<KeyTree> read(const std::string& path) const = 0;
+    /// Makes the key and those above it; one that is there is left as it is.
+    [[nodiscard]] virtual HRESULT createKey(const std::string& path) = 0;
+    [[nodiscard]] virtual HRESULT setValue(const std::string& path, const std::string& name,
+                                           const KeyValue& value) = 0;
+    /// Removes the key and what lies below it; one that is not there counts as removed.
+    [[nodiscard]] virtual HRESULT removeTree(const std::string& path) = 0;
+    /// Makes the changes last. Before it they may or may not be seen by others.
+    [[nodiscard]] virtual HRESULT commit() = 0;
+};
+
+/// The store of this system, for the user who runs the process.
+[[nodiscard]] std::unique_ptr<ClassKeyStore> openClassKeyStore();
+
+}  // namespace quillmark

@@ -1,0 +1,51 @@
+#include "dochtml/entry_points.h"
+
+#include "component/boundary.h"
+#include "component/class_factory.h"
+#include "component/document_object.h"
+#include "component/driver_document.h"
+#include "component/module_state.h"
+#include "component/page_object.h"
+#include "component/server_registration.h"
+
+namespace quillmark {
+namespace {
+
+HRESULT createDocumentObject(IUnknown* outer, REFIID iid, void** object) {
+    return DocumentObject::make(&makeDriverDocument, outer, iid, object);
+}
+
+ObjectMaker findClass(REFCLSID classId) noexcept {
+    if (IsEqualIID(classId, CLSID_DocHtml)) {
+        return &createDocumentObject;
+    }
+    return IsEqualIID(classId, CLSID_HtmlComPage) ? &makePageObject : nullptr;
+}
+
+}  // namespace
+}  // namespace quillmark
+
+// The names that the library exports; the linker's list of them is windows/dochtmlcom.def or
+// posix/dochtmlcom.map.
+
+extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID classId, REFIID iid, void** object) {
+    if (object == nullptr) {
+        return E_POINTER;
+    }
+    *object = nullptr;
+    const auto maker = quillmark::findClass(classId);
+    return maker == nullptr ? CLASS_E_CLASSNOTAVAILABLE
+                            : quillmark::ClassFactory::make(maker, iid, object);
+}
+
+extern "C" HRESULT STDAPICALLTYPE DllCanUnloadNow() {
+    return quillmark::moduleIsIdle() ? S_OK : S_FALSE;
+}
+
+extern "C" HRESULT STDAPICALLTYPE DllRegisterServer() {
+    return quillmark::runGuarded(&quillmark::registerServer);
+}
+
+extern "C" HRESULT STDAPICALLTYPE DllUnregisterServer() {
+    return quillmark::runGuarded(&quillmark::unregisterServer);
+}

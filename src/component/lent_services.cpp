@@ -1,0 +1,90 @@
+#include "component/lent_services.h"
+
+#include "component/lent_adapters.h"
+#include "component/lent_model.h"
+#include "component/lent_text.h"
+#include "platform/drive_table.h"
+#include "platform/quillmark_mode.h"
+#include "platform/register_base.h"
+
+namespace quillmark {
+namespace {
+
+/// Puts a new service in force, then lets go of the one before: nobody ever sees one that is gone.
+template <typename Service, typename Record, typename Install>
+HRESULT replace(std::mutex& mutex, std::unique_ptr<Service>& kept, const Record* record,
+                std::unique_ptr<Service> (*make)(const Record&), Install install) {
+    std::unique_ptr<Service> next;
+    if (record != nullptr) {
+        next = make(*record);
+        if (next == nullptr) {
+            return E_INVALIDARG;
+        }
+    }
+    const std::lock_guard lock(mutex);
+    install(next.get());
+    kept = std::move(next);
+    return S_OK;
+}
+
+}  // namespace
+
+LentServices& LentServices::module() {
+    // Never destroyed: the driver may still look at a service while the process ends.
+    static LentServices& services = *new LentServices;
+    return services;
+}
+
+HRESULT LentServices::setSettingsStore(const DochtmlSettingsStore* store) {
+    if (store == nullptr) {
+        RegisterBase::setStore(nullptr);
+        return S_OK;
+    }
+    std::shared_ptr<SettingsStore> lent = lentSettingsStore(*store);
+    if (lent == nullptr) {
+        return E_INVALIDARG;
+    }
+    RegisterBase::setStore(std::move(lent));
+    return S_OK;
+}
+
+HRESULT LentServices::setProfilePath(const DochtmlText* path) {
+    return replace(mutex_, profile_, path, &lentProfile, &AppProfileInterface::setInterface);
+}
+
+HRESULT LentServices::setImageMaps(const DochtmlImageMaps* maps) {
+    return replace(mutex_, imageMaps_, maps, &lentImageMaps, &CImageMapInterface::setInterface);
+}
+
+HRESULT LentServices::setModel(const DochtmlModel* model) {
+    return replace(mutex_, schema_, model, &lentModel, &MMSchema::setSchema);
+}
+
+HRESULT LentServices::setTraceListener(const DochtmlTraceListener* listener) {
+    return replace(mutex_, listener_, listener, &lentTraceListener, &Trace::setListener);
+}
+
+HRESULT LentServices::setExceptionLog(const DochtmlExceptionLog* log) {
+    return replace(mutex_, log_, log, &lentExceptionLog, &OrxException::setLog);
+}
+
+HRESULT LentServices::setObserver(const DochtmlObserver* observer) {
+    return replace(mutex_, observer_, observer, &lentObserver, &DocumentObserver::install);
+}
+
+HRESULT LentServices::setSchemaType(LONG schemaType) noexcept {
+    CQuillmarkMode::SetSchemaType(static_cast<int>(schemaType));
+    return S_OK;
+}
+
+HRESULT LentServices::setDrive(SHORT letter, const DochtmlText* directory) {
+    const bool isLetter = (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
+    if (!isLetter) {
+        return E_INVALIDARG;
+    }
+    const std::string_view name = directory == nullptr ? std::string_view() : viewOf(*directory);
+    DriveTable::set(static_cast<char>(letter), std::string(name));
+    return S_OK;
+}
+
+}  // namespace quillmark

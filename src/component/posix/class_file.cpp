@@ -1,0 +1,134 @@
+#include "component/posix/class_file.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <string_view>
+#include <utility>
+
+namespace quillmark {
+namespace {
+
+constexpr std::string_view defaultValueName = "@";
+
+std::string environment(const char* name) {
+    const char* value = std::getenv(name);
+    return value == nullptr ? std::string() : std::string(value);
+}
+
+std::string escaped(std::string_view text) {
+    std::string out;
+    for (const char character : text) {
+        if (character == '\\') {
+            out += "\\\\";
+        } else if (character == '\n') {
+            out += "\\n";
+        } else {
+            out += character;
+        }
+    }
+    return out;
+}
+
+std::string unescaped(std::string_view text) {
+    std::string out;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\\' && i + 1 < text.size()) {
+            ++i;
+            out += text[i] == 'n' ? '\n' : text[i];
+        } else {
+            out += text[i];
+        }
+    }
+    return out;
+}
+
+/// The first key of a path, and what follows it.
+std::pair<std::string, std::string_view> splitPath(std::string_view path) {
+    const std::size_t end = path.find('\\');
+    if (end == std::string_view::npos) {
+        return {std::string(path), {}};
+    }
+    return {std::string(path.substr(0, end)), path.substr(end + 1)};
+}
+
+void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree) {
+    if (!path.empty()) {
+        out << '[' << path << "]\n";
+    }
+    for (const auto& [name, value] : tree.values) {
+        out << (name.empty() ? defaultValueName : std::string_view(name)) << '='
+            << escaped(value.data) << '\n';
+    }
+    for (const auto& [name, child] : tree.children) {
+        writeKeys(out, path.empty() ? name : path + '\\' + name, child);
+    }
+}
+
+}  // namespace
+
+std::filesystem::path classFilePath() {
+    const std::string data = environment("XDG_DATA_HOME");
+    // A relative directory there is to be passed over.
+    const std::filesystem::path base =
+        data.starts_with('/') ? std::filesystem::path(data)
+                              : std::filesystem::path(environment("HOME")) / ".local" / "share";
+    return base / "quillmark" / "classes.ini";
+}
+
+KeyTree readClassFile(const std::filesystem::path& file) {
+    KeyTree root;
+    KeyTree* key = nullptr;
+    std::ifstream in(file);
+    for (std::string line; std::getline(in, line);) {
+        const std::size_t equals = line.find('=');
+        if (line.starts_with('[') && line.ends_with(']') && line.size() > 2) {
+            key = &makeKey(root, std::string_view(line).substr(1, line.size() - 2));
+        } else if (key != nullptr && equals != std::string::npos && !line.starts_with(';')) {
+            const std::string name = line.substr(0, equals);
+            key->values[name == defaultValueName ? std::string() : name] = {
+                KeyValue::textType, unescaped(std::string_view(line).substr(equals + 1))};
+        }
+    }
+    return root;
+}
+
+bool writeClassFile(const std::filesystem::path& file, const KeyTree& root) {
+    std::error_code error;
+    std::filesystem::create_directories(file.parent_path(), error);
+    const std::filesystem::path next = file.string() + '.' + std::to_string(getpid());
+    std::ofstream out(next, std::ios::trunc);
+    out << "; The components that this user's programs find by name. Written by registration.\n";
+    writeKeys(out, {}, root);
+    out.close();
+    if (out) {
+        std::filesystem::rename(next, file, error);
+    }
+    if (!out || error) {
+        std::filesystem::remove(next, error);
+        return false;
+    }
+    return true;
+}
+
+const KeyTree* findKey(const KeyTree& root, std::string_view path) {
+    const auto [name, rest] = splitPath(path);
+    const auto child = root.children.find(name);
+    if (child == root.children.end()) {
+        return nullptr;
+    }
+    return rest.empty() ? &child->second : findKey(child->second, rest);
+}
+
+KeyTree* findKey(KeyTree& root, std::string_view path) {
+    return const_cast<KeyTree*>(findKey(std::as_const(root), path));
+}
+
+KeyTree& makeKey(KeyTree& root, std::string_view path) {
+    const auto [name, rest] = splitPath(path);
+    KeyTree& child = root.children[name];
+    return rest.empty() ? child : makeKey(child, rest);
+}
+
+}  // namespace quillmark

@@ -1,0 +1,50 @@
+#include "component/class_key_store.h"
+#include "component/posix/class_file.h"
+
+namespace quillmark {
+namespace {
+
+/// Changes a copy in memory; `commit` puts it in the file's place in one step.
+class FileKeyStore final : public ClassKeyStore {
+public:
+    explicit FileKeyStore(std::filesystem::path file)
+        : file_(std::move(file)), root_(readClassFile(file_)) {}
+
+    [[nodiscard]] std::optional<KeyTree> read(const std::string& path) const override {
+        const KeyTree* key = findKey(root_, path);
+        return key == nullptr ? std::nullopt : std::optional(*key);
+    }
+    [[nodiscard]] HRESULT createKey(const std::string& path) override {
+        static_cast<void>(makeKey(root_, path));
+        return S_OK;
+    }
+    [[nodiscard]] HRESULT setValue(const std::string& path, const std::string& name,
+                                   const KeyValue& value) override {
+        makeKey(root_, path).values[name] = value;
+        return S_OK;
+    }
+    [[nodiscard]] HRESULT removeTree(const std::string& path) override {
+        const std::size_t parentEnd = path.rfind('\\');
+        KeyTree* parent =
+            parentEnd == std::string::npos ? &root_ : findKey(root_, path.substr(0, parentEnd));
+        if (parent != nullptr) {
+            parent->children.erase(path.substr(parentEnd + 1));
+        }
+        return S_OK;
+    }
+    [[nodiscard]] HRESULT commit() override {
+        return writeClassFile(file_, root_) ? S_OK : REGDB_E_WRITEREGDB;
+    }
+
+private:
+    std::filesystem::path file_;
+    KeyTree root_;
+};
+
+}  // namespace
+
+std::unique_ptr<ClassKeyStore> openClassKeyStore() {
+    return std::make_unique<FileKeyStore>(classFilePath());
+}
+
+}  // namespace quillmark

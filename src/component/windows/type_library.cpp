@@ -1,0 +1,51 @@
+#include "component/type_information.h"
+#include "component/windows/module_handle.h"
+#include "dochtml/com_pointer.h"
+#include "dochtml/document.h"
+
+namespace quillmark {
+namespace {
+
+constexpr WORD majorVersion = 2;
+constexpr WORD minorVersion = 0;
+constexpr LCID englishUnitedStates = 1033;
+constexpr SYSKIND systemKind = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
+
+/// The type library is the library's resource 1, which is the one that a bare file name means.
+HRESULT loadTypeLibrary(ComPointer<ITypeLib>& library) {
+    return LoadTypeLibEx(wideModulePath().c_str(), REGKIND_NONE,
+                         reinterpret_cast<ITypeLib**>(library.receive()));
+}
+
+}  // namespace
+
+UINT documentTypeInfoCount() noexcept {
+    return 1;
+}
+
+HRESULT documentTypeInfo(LCID /*locale*/, ITypeInfo** info) {
+    ComPointer<ITypeLib> library;
+    const HRESULT loaded = loadTypeLibrary(library);
+    return FAILED(loaded) ? loaded : library->GetTypeInfoOfGuid(IID_IDocument, info);
+}
+
+HRESULT registerTypeLibrary() {
+    ComPointer<ITypeLib> library;
+    const HRESULT loaded = loadTypeLibrary(library);
+    if (FAILED(loaded)) {
+        return loaded;
+    }
+    std::wstring path = wideModulePath();
+    return RegisterTypeLib(library.get(), path.data(), nullptr);
+}
+
+HRESULT unregisterTypeLibrary() {
+    const HRESULT result = UnRegisterTypeLib(LIBID_DOCHTMLCOMLib, majorVersion, minorVersion,
+                                             englishUnitedStates, systemKind);
+    // What is gone already need not be removed.
+    const bool wasNotKnown =
+        result == TYPE_E_REGISTRYACCESS || result == HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
+    return wasNotKnown ? S_OK : result;
+}
+
+}  // namespace quillmark

@@ -1,0 +1,10 @@
+#include "component/owned_variant.h"
+
+namespace quillmark {
+
+HRESULT convertVariant(VARIANT& target, const VARIANT& source, LCID locale, VARTYPE type) {
+    // The system reads the source only.
+    return VariantChangeTypeEx(&target, const_cast<VARIANT*>(&source), locale, 0, type);
+}
+
+}  // namespace quillmark
