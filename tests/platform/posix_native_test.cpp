@@ -284,6 +284,33 @@ TEST(SignalGuardOnPosix, GivesTheHostItsHandlersBack) {
     EXPECT_EQ(now.sa_handler, hostHandler);
 }
 
+TEST(SignalGuardOnPosix, LetsTheSystemEndTheProcessOutside) {
+    const pid_t child = fork();
+    if (child == 0) {
+        signal(SIGSEGV, SIG_DFL);
+        CSignal2Exception::run([] {});
+        raise(SIGSEGV);
+        _exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(WTERMSIG(status), SIGSEGV);
+}
+
+TEST(SignalGuardOnPosix, LetsTheSystemEndTheProcessForAnotherThread) {
+    const pid_t child = fork();
+    if (child == 0) {
+        signal(SIGSEGV, SIG_DFL);
+        CSignal2Exception::run([] { std::thread([] { raise(SIGSEGV); }).join(); });
+        _exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(WTERMSIG(status), SIGSEGV);
+}
+
 TEST(SignalGuardOnPosix, LeavesOtherThreadsToTheHost) {
     struct sigaction own {};
     struct sigaction before {};

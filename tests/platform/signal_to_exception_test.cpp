@@ -10,14 +10,6 @@
 #include "foundation/orx_exception.h"
 #include "support/capturing_exception_log.h"
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define UNDER_SANITIZER 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define UNDER_SANITIZER 1
-#endif
-#endif
-
 namespace quillmark {
 namespace {
 
@@ -54,8 +46,9 @@ NO_SIGNAL_CHECKS [[gnu::noinline]] int divide(int number, int by) {
 }
 
 TEST(SignalGuard, TurnsADivisionByZeroIntoAnException) {
+    volatile int number = 1;
     volatile int zero = 0;
-    EXPECT_EQ(reasonOf([&] { zero = divide(1, zero); }),
+    EXPECT_EQ(reasonOf([&] { number = divide(number, zero); }),
               "Processor signal SIGFPE (arithmetic error)");
 }
 #endif
@@ -122,18 +115,6 @@ TEST(SignalGuard, IsEachThreadsOwn) {
     }
     EXPECT_EQ(reasons, std::vector<std::string>(4, wildAddress));
 }
-
-#if GTEST_HAS_DEATH_TEST && !defined(UNDER_SANITIZER)
-TEST(SignalGuardDeathTest, LeavesSignalsOutsideAsTheyWere) {
-    testing::GTEST_FLAG(death_test_style) = "threadsafe";
-    EXPECT_DEATH(
-        {
-            CSignal2Exception::run([] {});
-            strikeWildAddress();
-        },
-        "");
-}
-#endif
 
 }  // namespace
 }  // namespace quillmark

@@ -1,0 +1,16 @@
+#include "platform/drive_table.h"
+#include "platform/path_text.h"
+#include "platform/sys_text.h"
+
+namespace quillmark {
+
+// The system has drives of its own: the drive table has no say here.
+std::string nativePath(const OrxString& name) {
+    return path_text::inDriverForm(name).str();
+}
+
+OrxString driverPath(const std::string& native) {
+    return path_text::inDriverForm(SysText::fromUtf8(native));
+}
+
+}  // namespace quillmark

@@ -1,0 +1,92 @@
+#include "platform/sys_text.h"
+
+#include <cstdint>
+
+#include "foundation/code_page.h"
+#include "platform/windows/windows_api.h"
+
+namespace quillmark {
+
+namespace {
+
+/// Texts go to the system in pieces that a 32-bit length can hold and that no pair is cut by.
+constexpr std::size_t largestPiece = std::size_t{1} << 20U;
+
+/// Converts in one loop that the compiler can vectorise; false when a unit was no ASCII.
+bool narrowAscii(char* target, std::u16string_view text) noexcept {
+    std::uint16_t seen = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto unit = static_cast<std::uint16_t>(text[i]);
+        seen = static_cast<std::uint16_t>(seen | unit);
+        target[i] = static_cast<char>(static_cast<unsigned char>(unit));
+    }
+    return seen < 0x80;
+}
+
+bool isHighSurrogate(char16_t unit) noexcept {
+    return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+std::size_t pieceLength(std::u16string_view text) noexcept {
+    if (text.size() <= largestPiece) {
+        return text.size();
+    }
+    return isHighSurrogate(text[largestPiece - 1]) ? largestPiece - 1 : largestPiece;
+}
+
+void appendThroughSystem(std::string& out, std::u16string_view piece) {
+    static_assert(sizeof(wchar_t) == sizeof(char16_t));
+    const auto* const wide = reinterpret_cast<const wchar_t*>(piece.data());
+    const int length = static_cast<int>(piece.size());
+    // A letter that only looks like one of the code page is not taken for it. Where the code page
+    // is UTF-8 it holds every letter, and the system takes neither the flag nor the substitute.
+    const bool utf8 = GetACP() == CP_UTF8;
+    const DWORD flags = utf8 ? 0 : WC_NO_BEST_FIT_CHARS;
+    const char* const substitute = utf8 ? nullptr : "?";
+    const int size =
+        WideCharToMultiByte(CP_ACP, flags, wide, length, nullptr, 0, substitute, nullptr);
+    const std::size_t start = out.size();
+    out.resize(start + static_cast<std::size_t>(size));
+    WideCharToMultiByte(CP_ACP, flags, wide, length, out.data() + start, size, substitute, nullptr);
+}
+
+}  // namespace
+
+void SysText::appendNarrow(std::string& out, std::u16string_view text) {
+    const std::size_t start = out.size();
+    out.resize(start + text.size());
+    if (narrowAscii(out.data() + start, text)) {
+        return;
+    }
+    out.resize(start);
+    while (!text.empty()) {
+        const std::size_t length = pieceLength(text);
+        appendThroughSystem(out, text.substr(0, length));
+        text.remove_prefix(length);
+    }
+}
+
+OrxString SysText::narrow(std::u16string_view text) {
+    std::string bytes;
+    appendNarrow(bytes, text);
+    return bytes;
+}
+
+std::u16string SysText::widen(std::string_view text) {
+    const int length = static_cast<int>(text.size());
+    const int size = MultiByteToWideChar(CP_ACP, 0, text.data(), length, nullptr, 0);
+    std::u16string wide(static_cast<std::size_t>(size), u'\0');
+    MultiByteToWideChar(CP_ACP, 0, text.data(), length, reinterpret_cast<wchar_t*>(wide.data()),
+                        size);
+    return wide;
+}
+
+OrxString SysText::fromUtf8(std::string_view utf8) {
+    return narrow(code_page::fromUtf8(utf8));
+}
+
+std::string SysText::toUtf8(std::string_view text) {
+    return code_page::toUtf8(widen(text));
+}
+
+}  // namespace quillmark

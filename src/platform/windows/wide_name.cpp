@@ -1,0 +1,34 @@
+#include "platform/windows/wide_name.h"
+
+#include <algorithm>
+
+#include "platform/path_text.h"
+#include "platform/sys_text.h"
+
+namespace quillmark {
+
+// The system's wide character is a UTF-16 unit; only the language holds it for another type.
+static_assert(sizeof(wchar_t) == sizeof(char16_t));
+
+std::wstring wideText(std::string_view text) {
+    const std::u16string wide = SysText::widen(text);
+    return {wide.begin(), wide.end()};
+}
+
+std::wstring wideName(const OrxString& name) {
+    std::wstring wide = wideText(name);
+    std::replace(wide.begin(), wide.end(), L'/', L'\\');
+    // Where a directory may get 12 characters less than a file.
+    constexpr std::size_t longestPlain = MAX_PATH - 12;
+    const bool onDrive = path_text::hasDrive(name) && wide.size() > 2 && wide[2] == L'\\';
+    if (wide.size() > longestPlain && onDrive) {
+        wide.insert(0, L"\\\\?\\");
+    }
+    return wide;
+}
+
+OrxString narrowText(std::wstring_view text) {
+    return SysText::narrow(std::u16string(text.begin(), text.end()));
+}
+
+}  // namespace quillmark
