@@ -222,6 +222,10 @@ void DocHtmlPage::clearInsertPoint() noexcept {
     record_->insertPoint = SpliceText::none;
 }
 
+void DocHtmlPage::reserve(std::size_t bytes) {
+    record_->text.reserve(bytes);
+}
+
 void DocHtmlPage::compact() {
     record_->text.compact();
 }

@@ -71,6 +71,8 @@ public:
     /// Lets `append` write at the first mark of that name. False when there is none.
     bool setInsertPoint(std::string_view name);
     void clearInsertPoint() noexcept;
+    /// Makes room for that many bytes of body text at once, for who knows how much is coming.
+    void reserve(std::size_t bytes);
     /// Gives back memory held for growth; for a page that is held back until its marks are filled.
     void compact();
     /// The open marks in name order, equal names in the order of their making.

@@ -51,6 +51,8 @@ public:
     /// The whole text in order.
     [[nodiscard]] std::string merged() const;
 
+    /// Makes room for that many bytes more at the end, for who knows how much is coming.
+    void reserve(std::size_t bytes) { base_.reserve(base_.size() + bytes); }
     /// Gives back memory held for growth; for a text that is kept but grows no more.
     void compact();
 

@@ -3,11 +3,9 @@
 #include "foundation/orx_string.h"
 #include "toc/contents_context.h"
 
-namespace quillmark {
-
 /// Names of the files that are written when a document is closed. All lie in the output
 /// directory, and their pages link to each other by file name alone.
-namespace contents_names {
+namespace quillmark::contents_names {
 
 [[nodiscard]] OrxString startPage(const ContentsContext& context);
 [[nodiscard]] OrxString appletContents(const ContentsContext& context);
@@ -22,6 +20,4 @@ namespace contents_names {
 [[nodiscard]] OrxString fixedDetailLink(const ContentsContext& context);
 [[nodiscard]] OrxString fixedStaticContentsLink(const ContentsContext& context);
 
-}  // namespace contents_names
-
-}  // namespace quillmark
+}  // namespace quillmark::contents_names

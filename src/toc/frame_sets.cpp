@@ -21,6 +21,7 @@ void writeStaticContents(const ContentsContext& context) {
     page.setFileName(contents_names::staticContents(context));
     page.setTitle(context.title);
     page.append("<BODY>\n");
+    page.reserve(staticListingSize(context.entries));
     writeStaticListing(context.entries, page);
     page.append("\n</BODY>");
     page.close();

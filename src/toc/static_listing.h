@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "page/doc_html_page.h"
 #include "toc/toc_entry_list.h"
 
@@ -9,5 +11,8 @@ namespace quillmark {
 /// target, a heading, and one line an entry, indented by its level. The entries' texts are HTML
 /// and are written as they stand. See `IndentBudget` for levels that no page can show.
 void writeStaticListing(const TocEntryList& entries, DocHtmlPage& page);
+
+/// How many bytes that writes.
+[[nodiscard]] std::size_t staticListingSize(const TocEntryList& entries);
 
 }  // namespace quillmark

@@ -64,6 +64,15 @@ TEST_F(StaticListing, IndentsDeepLevelsExactly) {
                                     std::string("<A HREF=\"h\">t</a><BR>\n").size());
 }
 
+TEST_F(StaticListing, KnowsItsSizeInAdvance) {
+    EXPECT_EQ(staticListingSize(entries), listing().size());
+    entries.add({.href = "rep_dtl.htm#toc1", .text = "Intro", .level = 1});
+    entries.add({.href = "h", .text = "a<BR>\nb", .level = 7});
+    entries.add({.href = "h", .text = "t", .level = std::numeric_limits<std::int32_t>::max()});
+    entries.add({.href = "h", .text = "t", .level = -1});
+    EXPECT_EQ(staticListingSize(entries), listing().size());
+}
+
 TEST_F(StaticListing, StartsALineOfThePageForEveryWriteWithALineFeed) {
     entries.add({.href = "h", .text = "plain", .level = 3});
     entries.add({.href = "h", .text = "two<BR>\nlines<BR>\n", .level = 1});

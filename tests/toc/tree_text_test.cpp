@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <random>
 #include <string>
 #include <string_view>
+
+#include "foundation/orx_string.h"
 
 namespace quillmark {
 namespace {
@@ -66,6 +70,30 @@ TEST(TreeText, CopiesBytesAboveAscii) {
 
 TEST(TreeText, AnEmptyTextAddsNothing) {
     EXPECT_EQ(converted(""), "|");
+}
+
+/// The conversions as the format describes them: whole text, one after the other.
+std::string modelText(const std::string& text) {
+    OrxString model(text);
+    model.replaceStr("\\", "\\\\").replaceStr("\"", "\\\"").replaceStr("&lt;", "<");
+    model.replaceStr("&nbsp;", " ").replaceStr("\r", "").replaceStr("<BR>\n", "");
+    return "|" + model.str();
+}
+
+TEST(TreeText, IsTheModelsForAnyMixOfWhatIsConverted) {
+    constexpr std::array<std::string_view, 16> pieces = {
+        "\\",  "\"", "&lt;", "&nbsp;", "&",    "lt;",    "nbsp;", "<",
+        "BR>", "a",  " ",    "&gt;",   "\xE4", "<BR>\n", "\r",    "\n"};
+    std::mt19937 random(5);
+    for (int round = 0; round < 4000; ++round) {
+        // Every other text is one without line ends.
+        const std::size_t choices = round % 2 == 0 ? pieces.size() : pieces.size() - 3;
+        std::string text;
+        for (std::size_t count = random() % 12; count > 0; --count) {
+            text.append(pieces.at(random() % choices));
+        }
+        ASSERT_EQ(converted(text), modelText(text)) << text;
+    }
 }
 
 }  // namespace
