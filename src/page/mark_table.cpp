@@ -55,6 +55,12 @@ void MarkTable::forEach(const std::function<void(std::string_view, MarkId)>& eac
     }
 }
 
+void MarkTable::compact() {
+    chains_.shrink_to_fit();
+    entries_.shrink_to_fit();
+    freeEntries_.shrink_to_fit();
+}
+
 void MarkTable::clear() noexcept {
     names_.clear();
     chains_.clear();

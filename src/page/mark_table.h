@@ -29,6 +29,8 @@ public:
     /// Every open mark, in name order.
     void forEach(const std::function<void(std::string_view name, MarkId)>& each) const;
     void clear() noexcept;
+    /// Gives back memory held for growth.
+    void compact();
 
 private:
     struct Entry {

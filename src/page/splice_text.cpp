@@ -99,6 +99,7 @@ void SpliceText::compact() {
     base_.shrink_to_fit();
     pool_.shrink_to_fit();
     nodes_.shrink_to_fit();
+    free_.shrink_to_fit();
 }
 
 SpliceText::MarkId SpliceText::newNode() {
