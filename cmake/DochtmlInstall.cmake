@@ -28,6 +28,12 @@ if(EXISTS ${PROJECT_SOURCE_DIR}/src/component/include)
             DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
 endif()
 
+# The component is loaded by hosts, not linked; the tools install themselves.
+if(TARGET dochtmlcom)
+    install(TARGETS dochtmlcom RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+                               LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()
+
 install(EXPORT dochtmlTargets NAMESPACE dochtml:: DESTINATION ${DOCHTML_CMAKE_DIR})
 configure_package_config_file(cmake/dochtmlConfig.cmake.in dochtmlConfig.cmake
                               INSTALL_DESTINATION ${DOCHTML_CMAKE_DIR}
