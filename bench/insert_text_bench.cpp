@@ -22,7 +22,7 @@ char narrowed(char16_t unit) {
 }
 
 /// The floor: a unit narrowed, a byte appended.
-double secondsOfPlainLoop(const std::u16string& text, std::size_t count) {
+Seconds secondsOfPlainLoop(const std::u16string& text, std::size_t count) {
     std::string out;
     return secondsOf([&] {
         for (std::size_t i = 0; i < count; ++i) {
@@ -36,7 +36,7 @@ double secondsOfPlainLoop(const std::u16string& text, std::size_t count) {
 }
 
 /// A lower floor: each text narrowed as a whole into one buffer and appended at once.
-double secondsOfBlockLoop(const std::u16string& text, std::size_t count) {
+Seconds secondsOfBlockLoop(const std::u16string& text, std::size_t count) {
     std::string out;
     std::string narrow;
     return secondsOf([&] {
@@ -50,7 +50,7 @@ double secondsOfBlockLoop(const std::u16string& text, std::size_t count) {
     });
 }
 
-double secondsOfTable(IDocument& document, const std::u16string& text, std::size_t count) {
+Seconds secondsOfTable(IDocument& document, const std::u16string& text, std::size_t count) {
     const std::array<Argument, 1> arguments = {WideText(text)};
     return secondsOf([&] {
         for (std::size_t i = 0; i < count; ++i) {
@@ -59,7 +59,7 @@ double secondsOfTable(IDocument& document, const std::u16string& text, std::size
     });
 }
 
-double secondsOfInterface(IDocument& document, const std::u16string& text, std::size_t count) {
+Seconds secondsOfInterface(IDocument& document, const std::u16string& text, std::size_t count) {
     return secondsOf([&] {
         for (std::size_t i = 0; i < count; ++i) {
             benchmark::DoNotOptimize(document.insertText(text));
@@ -80,19 +80,20 @@ private:
 void insertText(benchmark::State& state, const std::u16string& text, double goal) {
     const SettingsInForce settings({{"Navig", "4"}});
     const std::size_t count = bytesPerRound / text.size();
-    std::array<std::vector<double>, 4> seconds;
+    std::array<std::vector<Seconds>, 4> seconds;
     for ([[maybe_unused]] auto _ : state) {
         seconds[0].push_back(secondsOfPlainLoop(text, count));
         seconds[1].push_back(secondsOfBlockLoop(text, count));
         seconds[2].push_back(secondsOfTable(*OpenDocument(), text, count));
         seconds[3].push_back(secondsOfInterface(*OpenDocument(), text, count));
-        state.SetIterationTime(seconds[2].back());
+        state.SetIterationTime(seconds[2].back().clock);
     }
-    const double plain = median(seconds[0]);
-    state.counters["ratio"] = median(seconds[2]) / plain;
-    state.counters["ratio_interface"] = median(seconds[3]) / plain;
-    state.counters["ratio_to_blocks"] = median(seconds[2]) / median(seconds[1]);
-    state.counters["ns_per_call"] = median(seconds[2]) * 1e9 / static_cast<double>(count);
+    const double plain = median(seconds[0]).processor;
+    const double table = median(seconds[2]).processor;
+    state.counters["ratio"] = table / plain;
+    state.counters["ratio_interface"] = median(seconds[3]).processor / plain;
+    state.counters["ratio_to_blocks"] = table / median(seconds[1]).processor;
+    state.counters["ns_per_call"] = table * 1e9 / static_cast<double>(count);
     state.counters["goal"] = goal;
 }
 

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <ctime>
 #include <fstream>
 #include <iterator>
 
@@ -34,12 +35,23 @@ void writePlainly(const fs::path& name, const std::string& bytes) {
     ::close(file);
 }
 
+double median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values.empty() ? 0 : values[values.size() / 2];
+}
+
 }  // namespace
 
-double secondsOfDocument(const fs::path& directory, Body body, std::size_t size) {
+double processorSeconds() noexcept {
+    timespec now{};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+Seconds secondsOfDocument(const fs::path& directory, Body body, std::size_t size) {
     const std::u16string fileName = (directory / "report.htm").u16string();
     const fs::path before = fs::current_path();
-    const double seconds = secondsOf([&] {
+    const Seconds seconds = secondsOf([&] {
         DocHtml document;
         document.create(fileName);
         body(document, size);
@@ -59,7 +71,7 @@ std::vector<FileBytes> filesBelow(const fs::path& directory) {
     return files;
 }
 
-double secondsOfPlainFiles(const fs::path& directory, const std::vector<FileBytes>& files) {
+Seconds secondsOfPlainFiles(const fs::path& directory, const std::vector<FileBytes>& files) {
     for (const FileBytes& file : files) {
         fs::create_directories((directory / file.name).parent_path());
     }
@@ -70,49 +82,58 @@ double secondsOfPlainFiles(const fs::path& directory, const std::vector<FileByte
     });
 }
 
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values.empty() ? 0 : values[values.size() / 2];
+Seconds median(const std::vector<Seconds>& values) {
+    std::vector<double> clock;
+    std::vector<double> processor;
+    for (const Seconds& value : values) {
+        clock.push_back(value.clock);
+        processor.push_back(value.processor);
+    }
+    return {median(clock), median(processor)};
 }
 
-double documentAgainstFloor(benchmark::State& state, Place place, Body body, std::size_t size) {
+Seconds documentAgainstFloor(benchmark::State& state, Place place, Body body, std::size_t size) {
     const fs::path warmUp = freshDirectory(place);
     resetPeakMemory();
     static_cast<void>(secondsOfDocument(warmUp, body, size));
     const double peak = peakMemoryGrowth();
     const std::vector<FileBytes> files = filesBelow(warmUp);
 
-    std::vector<double> documents;
-    std::vector<double> floors;
+    std::vector<Seconds> documents;
+    std::vector<Seconds> floors;
     for ([[maybe_unused]] auto _ : state) {
-        settle();
+        settle(place);
         floors.push_back(secondsOfPlainFiles(freshDirectory(place), files));
-        settle();
+        settle(place);
         documents.push_back(secondsOfDocument(freshDirectory(place), body, size));
-        state.SetIterationTime(documents.back());
+        state.SetIterationTime(documents.back().clock);
     }
 
     std::size_t bytes = 0;
     for (const FileBytes& file : files) {
         bytes += file.bytes.size();
     }
-    const double seconds = median(documents);
-    state.counters["ratio"] = seconds / median(floors);
-    state.counters["floor_s"] = median(floors);
+    const Seconds document = median(documents);
+    const Seconds floor = median(floors);
+    state.counters["ratio"] = document.clock / floor.clock;
+    state.counters["ratio_cpu"] = document.processor / floor.processor;
+    state.counters["floor_ms"] = floor.clock * 1e3;
     state.counters["files"] = static_cast<double>(files.size());
     state.counters["MB"] = static_cast<double>(bytes) / 1e6;
     state.counters["peak_MiB"] = peak;
-    state.counters["us_per_unit"] = seconds * 1e6 / static_cast<double>(size);
-    return seconds;
+    state.counters["us_per_unit"] = document.processor * 1e6 / static_cast<double>(size);
+    return document;
 }
 
 void documentDoubled(benchmark::State& state, Body body, std::size_t size) {
-    std::vector<double> halves;
+    std::vector<Seconds> halves;
     for (int run = 0; run < 3; ++run) {
         halves.push_back(secondsOfDocument(freshDirectory(Place::memory), body, size / 2));
     }
-    const double whole = documentAgainstFloor(state, Place::memory, body, size);
-    state.counters["doubling"] = whole / median(halves);
+    const Seconds whole = documentAgainstFloor(state, Place::memory, body, size);
+    const Seconds half = median(halves);
+    state.counters["doubling"] = whole.clock / half.clock;
+    state.counters["doubling_cpu"] = whole.processor / half.processor;
 }
 
 }  // namespace quillmark::bench

@@ -13,20 +13,32 @@
 
 namespace quillmark::bench {
 
-/// Seconds that a call takes.
+/// What a call takes: on the clock, and of the processor (the program and the system for it),
+/// which other load on the machine moves less.
+struct Seconds {
+    double clock = 0;
+    double processor = 0;
+};
+
+/// The processor's account of this process.
+[[nodiscard]] double processorSeconds() noexcept;
+
 template <typename Work>
-[[nodiscard]] double secondsOf(Work&& work) {
+[[nodiscard]] Seconds secondsOf(Work&& work) {
     const auto start = std::chrono::steady_clock::now();
+    const double processorStart = processorSeconds();
     work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    const double processor = processorSeconds() - processorStart;
+    const auto clock = std::chrono::steady_clock::now() - start;
+    return {std::chrono::duration<double>(clock).count(), processor};
 }
 
 /// The calls of a document between its `create` and its `close`, of a size.
 using Body = void (*)(IDocument& document, std::size_t size);
 
 /// Writes a document into the directory, from making the object to letting it go.
-[[nodiscard]] double secondsOfDocument(const std::filesystem::path& directory, Body body,
-                                       std::size_t size);
+[[nodiscard]] Seconds secondsOfDocument(const std::filesystem::path& directory, Body body,
+                                        std::size_t size);
 
 struct FileBytes {
     std::filesystem::path name;
@@ -37,18 +49,19 @@ struct FileBytes {
 [[nodiscard]] std::vector<FileBytes> filesBelow(const std::filesystem::path& directory);
 
 /// The floor: a plain loop that opens, writes once and closes each file.
-[[nodiscard]] double secondsOfPlainFiles(const std::filesystem::path& directory,
-                                         const std::vector<FileBytes>& files);
+[[nodiscard]] Seconds secondsOfPlainFiles(const std::filesystem::path& directory,
+                                          const std::vector<FileBytes>& files);
 
-/// The middle one.
-[[nodiscard]] double median(std::vector<double> values);
+/// The middle one of each.
+[[nodiscard]] Seconds median(const std::vector<Seconds>& values);
 
 /// Writes the document and the same files plainly, in turn, for every iteration of the
-/// benchmark, and reports the counters "ratio" (document by floor), "floor_s", "MB" and
-/// "us_per_unit" (of `size`). Returns the document's median seconds.
-double documentAgainstFloor(benchmark::State& state, Place place, Body body, std::size_t size);
+/// benchmark. Counters: "ratio" (document by floor, on the clock), "ratio_cpu" (of the
+/// processor), "floor_ms", "files", "MB", "peak_MiB" and "us_per_unit" (of `size`). Returns the
+/// document's median.
+Seconds documentAgainstFloor(benchmark::State& state, Place place, Body body, std::size_t size);
 
-/// As above, in memory, and adds "doubling": the seconds for `size` by those for half of it.
+/// As above, in memory, and adds "doubling" and "doubling_cpu": `size` by half of it.
 void documentDoubled(benchmark::State& state, Body body, std::size_t size);
 
 }  // namespace quillmark::bench

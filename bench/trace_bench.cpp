@@ -11,7 +11,7 @@ namespace {
 
 constexpr int calls = 1'000'000;
 
-double secondsOfBareCalls(IDocument& document) {
+Seconds secondsOfBareCalls(IDocument& document) {
     return secondsOf([&] {
         for (int i = 0; i < calls; ++i) {
             benchmark::DoNotOptimize(document.start());
@@ -19,7 +19,7 @@ double secondsOfBareCalls(IDocument& document) {
     });
 }
 
-double secondsOfTexts(IDocument& document) {
+Seconds secondsOfTexts(IDocument& document) {
     return secondsOf([&] {
         for (int i = 0; i < calls; ++i) {
             benchmark::DoNotOptimize(document.insertText(u"ten chars."));
@@ -29,17 +29,17 @@ double secondsOfTexts(IDocument& document) {
 
 void traceOff(benchmark::State& state) {
     const SettingsInForce settings({{"Navig", "4"}});
-    std::vector<double> bare;
-    std::vector<double> texts;
+    std::vector<Seconds> bare;
+    std::vector<Seconds> texts;
     for ([[maybe_unused]] auto _ : state) {
         DocHtml document;
         document.create((freshDirectory(Place::memory) / "report.htm").u16string());
         bare.push_back(secondsOfBareCalls(document));
         texts.push_back(secondsOfTexts(document));
-        state.SetIterationTime(bare.back());
+        state.SetIterationTime(bare.back().clock);
     }
-    state.counters["ns_per_call"] = median(bare) * 1e9 / calls;
-    state.counters["share_of_short_text"] = median(bare) / median(texts);
+    state.counters["ns_per_call"] = median(bare).processor * 1e9 / calls;
+    state.counters["share_of_short_text"] = median(bare).processor / median(texts).processor;
 }
 BENCHMARK(traceOff)->UseManualTime()->Iterations(7)->Unit(benchmark::kMillisecond);
 

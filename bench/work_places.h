@@ -14,7 +14,7 @@ enum class Place { disk, memory };
 /// DOCHTML_BENCH_MEMORY or else /dev/shm.
 [[nodiscard]] std::filesystem::path freshDirectory(Place place);
 
-/// Lets the disk finish what earlier runs left to it.
-void settle();
+/// Lets a disk finish what earlier runs left to it.
+void settle(Place place);
 
 }  // namespace quillmark::bench
