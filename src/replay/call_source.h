@@ -32,6 +32,9 @@ struct Call {
 
 enum class ReadResult { call, end, malformed };
 
+/// What `malformed` stands for when the input ended too early.
+inline constexpr const char* unreadable = "the input cannot be read to its end";
+
 /// Where calls come from, one after the other.
 class CallSource {
 public:

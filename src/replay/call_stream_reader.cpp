@@ -108,10 +108,6 @@ CallStreamReader::CallStreamReader(InputBuffer& input)
 
 CallStreamReader::~CallStreamReader() = default;
 
-const std::string& CallStreamReader::problem() const noexcept {
-    return parser_->problem();
-}
-
 bool CallStreamReader::takeLine(std::span<char>& line) {
     std::size_t searched = 0;
     for (;;) {
@@ -140,7 +136,15 @@ ReadResult CallStreamReader::next(Call& call) {
             continue;
         }
         call.line = line_;
-        return parser_->parse(line, call) ? ReadResult::call : ReadResult::malformed;
+        if (!parser_->parse(line, call)) {
+            problem_ = parser_->problem();
+            return ReadResult::malformed;
+        }
+        return ReadResult::call;
+    }
+    if (input_.failed()) {
+        problem_ = unreadable;
+        return ReadResult::malformed;
     }
     return ReadResult::end;
 }

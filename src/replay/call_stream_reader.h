@@ -17,7 +17,7 @@ public:
     ~CallStreamReader() override;
 
     [[nodiscard]] ReadResult next(Call& call) override;
-    [[nodiscard]] const std::string& problem() const noexcept override;
+    [[nodiscard]] const std::string& problem() const noexcept override { return problem_; }
     [[nodiscard]] std::size_t line() const noexcept override { return line_; }
 
 private:
@@ -28,6 +28,7 @@ private:
 
     InputBuffer& input_;
     std::unique_ptr<Parser> parser_;
+    std::string problem_;
     std::size_t line_ = 0;
 };
 

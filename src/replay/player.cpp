@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/path_text.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_text.h"
+#include "replay/bad_input.h"
 
 namespace quillmark::replay {
 
@@ -42,15 +44,23 @@ Player::Player(Settings settings, Listeners listeners, HeardTrace& trace,
 LateBoundDocument& Player::document() {
     if (document_ == nullptr) {
         document_ = settings_.makeDocument();
-        std::ranges::transform(operations(), ids_.begin(), [this](const Operation& operation) {
-            return document_->idOf(operation.name);
-        });
+        learnIdentifiers();
         if (settings_.traceLevel) {
             const Argument level = std::int64_t{*settings_.traceLevel};
             invoke(operationOf("trace"), {&level, 1});
         }
     }
     return *document_;
+}
+
+void Player::learnIdentifiers() {
+    std::ranges::transform(operations(), ids_.begin(), [this](const Operation& operation) {
+        const int id = document_->idOf(operation.name);
+        if (id == 0) {
+            throw BadInput(std::string("the document does not know ") + operation.name);
+        }
+        return id;
+    });
 }
 
 void Player::finish() {
@@ -73,13 +83,19 @@ void Player::invoke(const Operation& operation, std::span<const Argument> argume
     }
 }
 
-/// Puts the name that the document is to have into a call of `create`, and into its line.
+/// Puts the name that the document is to have into a call of `create`, and into its line. A name
+/// that is absolute already is left exactly as the host gave it.
 void Player::adaptCreate(Call& call) {
     OrxString name = SysText::narrow(std::get<WideText>(call.arguments[0]));
-    if (settings_.outputName) {
+    const bool replaced = settings_.outputName.has_value();
+    if (replaced) {
         name = *std::exchange(settings_.outputName, std::nullopt);
     }
-    name = SysDirectory::getSpecificPath(settings_.startDirectory, name);
+    if (!path_text::isAbsolute(name)) {
+        name = SysDirectory::getSpecificPath(settings_.startDirectory, name);
+    } else if (!replaced) {
+        return;
+    }
     fileName_ = SysText::widen(name);
     call.arguments[0] = WideText(fileName_);
     if (!call.recorded.empty()) {
@@ -132,7 +148,8 @@ ReadResult Player::takeOff(CallSource& source, Call& call) {
     ReadResult result = source.next(call);
     for (std::uint32_t i = 1; i < heard.size(); ++i) {
         const bool same = result == ReadResult::call && heard[i] == call.recorded;
-        if (!same && !diverged) {
+        // A line that cannot be read is told when its turn comes.
+        if (!same && !diverged && result != ReadResult::malformed) {
             diverged = true;
             const bool more = result == ReadResult::call;
             tell(more ? call.line : servedLine,

@@ -52,6 +52,7 @@ public:
 
 private:
     LateBoundDocument& document();
+    void learnIdentifiers();
     void playCall(Call& call);
     void invoke(const Operation& operation, std::span<const Argument> arguments);
     void adaptCreate(Call& call);

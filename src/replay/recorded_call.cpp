@@ -22,7 +22,7 @@ constexpr std::array<std::string_view, 15> silent = {
     "showLast",          "getDocType", "overrideRegistry", "insertMark",    "setOrientation",
     "setTableRowHeight", "startFile",  "insertLocate",     "pushDirectory", "popDirectory"};
 
-constexpr std::array<std::string_view, 6> reportOpenings = {"ERR ",
+constexpr std::array<std::string_view, 6> reportOpenings = {"ERR",
                                                             "WARNING: ",
                                                             "created bookmark:",
                                                             "Unresolved references on page ",

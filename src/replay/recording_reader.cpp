@@ -170,7 +170,10 @@ ReadResult RecordingReader::next(Call& call) {
     line_ = nextLine_;
     call.line = line_;
     inReport_ = false;
-    return more ? readCall(call) : ReadResult::end;
+    if (more) {
+        return readCall(call);
+    }
+    return input_.failed() ? malformed(unreadable) : ReadResult::end;
 }
 
 }  // namespace quillmark::replay

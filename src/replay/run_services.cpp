@@ -1,5 +1,7 @@
 #include "replay/run_services.h"
 
+#include <system_error>
+
 #include "platform/drive_table.h"
 #include "platform/settings_table.h"
 #include "platform/sys_text.h"
@@ -69,6 +71,8 @@ RunServices::RunServices(const Options& options, const OptionFiles& files,
 
 bool LateFile::write(std::string_view text) {
     if (!file_.is_open() && !told_) {
+        std::error_code failure;
+        std::filesystem::create_directories(name_.parent_path(), failure);
         file_.open(name_, std::ios::binary | std::ios::trunc);
     }
     file_ << text << std::flush;

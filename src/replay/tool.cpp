@@ -20,9 +20,11 @@ namespace {
 
 constexpr std::string_view toolName = "dochtml-replay";
 
-/// Whether lines can be added to a file; one that is not there yet is not left behind.
+/// Whether lines can be added to a file; one that is not there yet is not left behind, but its
+/// directory is made.
 bool canAppend(const std::filesystem::path& file) {
     std::error_code failure;
+    std::filesystem::create_directories(file.parent_path(), failure);
     const bool existed = std::filesystem::exists(file, failure);
     const bool opens = std::ofstream(file, std::ios::binary | std::ios::app).is_open();
     if (opens && !existed) {

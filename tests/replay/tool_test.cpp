@@ -1,0 +1,368 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+
+#include "support/run_tool.h"
+
+namespace quillmark::replay {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+/// A report with everything that makes the driver call itself: an embedded link, tables open at a
+/// page break, directories, references forward and back.
+constexpr const char* report = R"(["create","rep.htm"]
+["setOption","title","A \"report\""]
+["startHeader"]
+["insertText","header "]
+["insertField",3]
+["endHeader"]
+["startFooter"]
+["insertField",1]
+["insertField",4]
+["endFooter"]
+["setStyle","Heading 1"]
+["insertText","Chapter \u00e9\u20ac\ud83d\ude00\ud800 end"]
+["insertEndl"]
+["setStyle","List Number 2"]
+["setTextAlign",2]
+["setFontName","Courier"]
+["setFontSize",14]
+["setFontAttribute",1,true]
+["setFontAttribute",16,true]
+["setFontAttribute",8,0]
+["insertText","see <a href=\"#GUID-12\">Class A</a> now, <a href=\"#GUID-13\">B</a>"]
+["insertText","quotes \"here\");\nand \"there\",\"too\",3);\r\nend\""]
+["insertText",""]
+["startTable"]
+["addRow"]
+["addCell"]
+["insertText","cell"]
+["startTable"]
+["addCell"]
+["insertXref","to \"x\",\"y\"","GUID-12"]
+["insertPageBreak"]
+["insertMark",5,false]
+["insertMark",4294967295,true]
+["startTOCEntry"]
+["insertText","entry"]
+["endTOCEntry"]
+["insertTag","GUID-12"]
+["insertTag","GUID-12"]
+["insertTag","two\nlines"]
+["insertFile","missing.txt",3]
+["insertImage","missing.gif",""]
+["insertTOC"]
+["insertText","last"]
+["close"]
+)";
+
+class ReplayTool : public ::testing::Test {
+protected:
+    ToolResult run(const std::vector<std::string>& arguments, const std::string& input = {}) {
+        return ToolRunner(DOCHTML_REPLAY_PROGRAM, dir_).run(arguments, input);
+    }
+    [[nodiscard]] std::string native(const std::string& name) const {
+        return dir_.nativeFile(name);
+    }
+    [[nodiscard]] std::string content(const std::string& name) const {
+        return dir_.content(name).value_or("(missing)");
+    }
+    [[nodiscard]] bool exists(const std::string& name) const {
+        return std::filesystem::exists(native(name));
+    }
+    /// All files below a directory with their bytes.
+    [[nodiscard]] std::map<std::string, std::string> filesIn(const std::string& dir) const {
+        std::map<std::string, std::string> files;
+        const std::filesystem::path root = native(dir);
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
+            if (entry.is_regular_file()) {
+                const std::string name = entry.path().lexically_relative(root).generic_string();
+                files[name] = content(dir + "/" + name);
+            }
+        }
+        return files;
+    }
+    void makeDirectory(const std::string& name) const {
+        std::filesystem::create_directories(native(name));
+    }
+
+    TempDir dir_;
+};
+
+TEST_F(ReplayTool, makesADocumentSetFromACallStream) {
+    const ToolResult result = run({"-"},
+                                  "[\"create\",\"rep.htm\"]\n[\"insertText\",\"Hello\"]\n"
+                                  "[\"close\"]\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.output, "");
+    EXPECT_EQ(result.errors,
+              "dochtml-replay: 3 pages written, 1 contents entry, 3 files copied, "
+              "0 unresolved references, 0 errors\n");
+    EXPECT_THAT(content("rep_dtl.htm"), HasSubstr(">Hello"));
+    EXPECT_TRUE(exists("default.css"));
+    EXPECT_TRUE(exists("rep_cnt.htm"));
+}
+
+TEST_F(ReplayTool, saysNothingWhenQuiet) {
+    dir_.put("calls", "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
+    const ToolResult result = run({"-q", "calls"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, "");
+}
+
+TEST_F(ReplayTool, replaysItsOwnRecordingToTheSameBytes) {
+    makeDirectory("first");
+    makeDirectory("second");
+    dir_.put("calls", report);
+    const ToolResult first =
+        run({"--trace", "10", "--log", "trace.txt", "-o", "first/rep.htm", "calls"});
+    EXPECT_EQ(first.status, 0) << first.errors;
+    EXPECT_THAT(content("trace.txt"), HasSubstr("dochtml->insertXref(\"Class A\",\"GUID-12\");"));
+    EXPECT_THAT(content("trace.txt"), HasSubstr("dochtml->endTable();"));
+
+    const ToolResult second = run({"-o", "second/rep.htm", "trace.txt"});
+    EXPECT_EQ(second.status, 0) << second.errors;
+    EXPECT_THAT(second.errors, Not(HasSubstr("diverged")));
+    const auto files = filesIn("first");
+    EXPECT_GT(files.size(), 5U);
+    EXPECT_EQ(filesIn("second"), files);
+}
+
+TEST_F(ReplayTool, replaysARecordingOfEveryLevelAndRecordsItAgain) {
+    dir_.put("calls", report);
+    run({"--trace", "11", "--log", "trace.txt", "-o", "rep.htm", "calls"});
+    const std::string trace = content("trace.txt");
+    EXPECT_THAT(trace, HasSubstr("created bookmark:two\nlines as "));
+    const ToolResult again = run({"--trace", "11", "--log", "again.txt", "trace.txt"});
+    EXPECT_EQ(again.status, 0) << again.errors;
+    EXPECT_EQ(content("again.txt"), trace);
+}
+
+TEST_F(ReplayTool, makesTheSameBytesInEveryRun) {
+    makeDirectory("first");
+    makeDirectory("second");
+    dir_.put("calls", report);
+    run({"-o", "first/rep.htm", "calls"});
+    run({"-o", "second/rep.htm", "calls"});
+    EXPECT_EQ(filesIn("first"), filesIn("second"));
+    EXPECT_THAT(content("first/rep_dtl.htm"), HasSubstr("01/01/70"));
+}
+
+TEST_F(ReplayTool, tellsWhereAReplayDiverges) {
+    const ToolResult result = run({"-q", "-"},
+                                  "dochtml->create(\"rep.htm\");\n"
+                                  "dochtml->startTable();\n"
+                                  "dochtml->addCell();\n"
+                                  "dochtml->insertPageBreak();\n\n"
+                                  "dochtml->insertText(\"x\");\n"
+                                  "dochtml->close();\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              "-:6: replay diverged: the driver called dochtml->endTable();, the recording has "
+              "dochtml->insertText(\"x\");\n");
+    EXPECT_THAT(content("rep_dtl2.htm"), HasSubstr("x"));
+}
+
+TEST_F(ReplayTool, putsFilesOfADriveUnderItsDirectory) {
+    const ToolResult result =
+        run({"-q", "--drive", "C=disk", "--trace", "10", "--log", "c:\\log.txt", "-"},
+            "[\"create\",\"C:\\\\out\\\\rep.htm\"]\n[\"close\"]\n");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_TRUE(exists("disk/out/rep_dtl.htm"));
+    EXPECT_EQ(content("disk/log.txt").substr(0, 35), "dochtml->create(\"C:\\out\\rep.htm\");\nd");
+}
+
+TEST_F(ReplayTool, readsItsOwnFilesFromADrive) {
+    makeDirectory("disk");
+    dir_.put("disk/store.ini", "[Html]\nNavig=2\n");
+    const ToolResult result = run({"-q", "--drive=C=disk", "--settings=C:store.ini", "-"},
+                                  "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_TRUE(exists("rep.htm"));
+    EXPECT_FALSE(exists("rep_dtl.htm"));
+}
+
+TEST_F(ReplayTool, takesSettingsFromTheStoreAndOverIt) {
+    dir_.put("store.ini", "[Html]\nNavig=2\nBodyTags=STORED\nHtmlPixDir=p\n");
+    const ToolResult result = run({"-q", "--settings", "store.ini", "--set", "Html.BodyTags=FIRST",
+                                   "--set", "Html.BodyTags=\xC3\xA9", "-"},
+                                  "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_THAT(content("rep.htm"), HasSubstr("<BODY \xE9 >"));
+    EXPECT_TRUE(exists("p/backOFF.gif"));
+}
+
+TEST_F(ReplayTool, takesTheInstallationDirectoryOfTheStoreAndTheCommandLine) {
+    makeDirectory("stored");
+    makeDirectory("given");
+    dir_.put("stored/default.css", "stored");
+    dir_.put("given/default.css", "given");
+    dir_.put("store.ini", "[Settings]\nInstallDir=" + native("stored") + "\n");
+    const std::string calls = "[\"create\",\"rep.htm\"]\n[\"close\"]\n";
+    run({"-q", "--settings", "store.ini", "-"}, calls);
+    EXPECT_EQ(content("default.css"), "stored");
+    run({"-q", "--settings", "store.ini", "--install-dir", "given", "-"}, calls);
+    EXPECT_EQ(content("default.css"), "given");
+}
+
+TEST_F(ReplayTool, takesTheIniFile) {
+    dir_.put("own.ini", "[Quillmark]\nUseJavaPre7=TRUE\n");
+    run({"-q", "--ini", "own.ini", "-"}, "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
+    EXPECT_FALSE(exists("toc2.jnlp"));
+    run({"-q", "-"}, "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
+    EXPECT_TRUE(exists("toc2.jnlp"));
+}
+
+TEST_F(ReplayTool, takesIconsFromTheModelAndRegionsFromImageMaps) {
+    dir_.put("model.json", R"({"schemaType": 1, "elements": {"0x0000000700000005":
+        {"class": "Operation", "attributes": {"visibility": "public"}}}})");
+    dir_.put("maps.json", R"({"a.gif": ["A", "Page 1", "1,2,3,4"]})");
+    dir_.put("a.gif", "GIF");
+    const ToolResult result =
+        run({"-q", "--model", "model.json", "--image-maps", "maps.json", "-"},
+            "[\"create\",\"rep.htm\"]\n[\"insertMark\",5,false]\n[\"insertMark\",7,true]\n"
+            "[\"setStyle\",\"Heading 1\"]\n[\"insertText\",\"x\"]\n[\"insertEndl\"]\n"
+            "[\"insertImage\",\"a.gif\",\"\"]\n[\"close\"]\n");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_THAT(content("rep_toc.dat"), HasSubstr("Operation_public.gif"));
+    EXPECT_THAT(content("rep_dtl.htm"), HasSubstr("<MAP NAME=\"map0\">"));
+}
+
+TEST_F(ReplayTool, printsWhatOperationsAnswer) {
+    const ToolResult result = run({"-q", "-"}, "[\"getDocType\"]\n[\"getPropPages\"]\n");
+    EXPECT_EQ(result.output, "Html\n{474BDD93-0170-11D3-A6BF-00104B2AEFE1}\n");
+}
+
+TEST_F(ReplayTool, playsSeveralFilesIntoOneDocument) {
+    dir_.put("a", "[\"create\",\"rep.htm\"]\n[\"insertText\",\"one\"]\n");
+    dir_.put("b", "dochtml->insertText(\"two\");\n");
+    const ToolResult result = run({"-q", "a", "b", "-"}, "[\"close\"]\n");
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_THAT(content("rep_dtl.htm"), HasSubstr(">onetwo"));
+}
+
+TEST_F(ReplayTool, makesAFreshObjectWhenAsked) {
+    run({"-q", "-"},
+        "[\"create\",\"a.htm\"]\n[\"insertPageBreak\"]\n[\"close\"]\n[\"new\"]\n"
+        "[\"create\",\"b.htm\"]\n[\"close\"]\n");
+    EXPECT_TRUE(exists("b_dtl.htm"));
+    EXPECT_FALSE(exists("b_dtl2.htm"));
+}
+
+TEST_F(ReplayTool, endsADocumentThatWasNotClosed) {
+    const ToolResult result =
+        run({"-q", "-"}, "[\"create\",\"rep.htm\"]\n[\"insertText\",\"left open\"]\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(content("rep_dtl.htm"), HasSubstr("left open"));
+}
+
+TEST_F(ReplayTool, stopsAtAMalformedLineWithAllThatWasDrivenOnDisk) {
+    dir_.put("calls",
+             "[\"create\",\"rep.htm\"]\n[\"insertText\",\"kept\"]\n"
+             "[\"insertText\",\"a\",\"b\"]\n[\"insertText\",\"lost\"]\n");
+    const ToolResult result = run({"--trace", "10", "--log", "trace.txt", "calls"});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.errors,
+              "calls:3: insertText takes 1 argument, not 2\n"
+              "dochtml-replay: 3 pages written, 1 contents entry, 3 files copied, "
+              "0 unresolved references, 0 errors\n");
+    EXPECT_THAT(content("rep_dtl.htm"), HasSubstr(">kept"));
+    EXPECT_THAT(content("rep_dtl.htm"), Not(HasSubstr("lost")));
+    EXPECT_THAT(content("trace.txt"), HasSubstr("dochtml->close();"));
+}
+
+TEST_F(ReplayTool, tellsThatCreateFailed) {
+    const ToolResult result =
+        run({"-q", "--set", "Html.StyleSheet=/none/x.css", "-"}, "[\"create\",\"rep.htm\"]\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "dochtml-replay: Html style sheet does not exist. /none/x.css\n");
+}
+
+TEST_F(ReplayTool, tellsThatAPageCouldNotBeWrittenAndGoesOn) {
+    // A directory in the place of the page's file stops it for every user.
+    makeDirectory("rep_dtl.htm");
+    const ToolResult result =
+        run({"--exceptions", "exceptions.txt", "-"},
+            "[\"create\",\"rep.htm\"]\n[\"insertText\",\"x\"]\n[\"insertPageBreak\"]\n"
+            "[\"insertText\",\"y\"]\n[\"close\"]\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr("dochtml-replay: Error opening file: "));
+    EXPECT_THAT(result.errors, HasSubstr("rep_dtl.htm\n"));
+    EXPECT_THAT(content("rep_dtl2.htm"), HasSubstr(">y"));
+    EXPECT_THAT(content("exceptions.txt"), HasSubstr("Exception throw: Error opening file: "));
+    EXPECT_THAT(content("exceptions.txt"), HasSubstr("Exception catch: Error opening file: "));
+}
+
+TEST_F(ReplayTool, countsWarningsWithoutFailing) {
+    const ToolResult result = run({"-"},
+                                  "[\"create\",\"rep.htm\"]\n"
+                                  "[\"insertImage\",\"none.gif\",\"\"]\n"
+                                  "[\"insertXref\",\"x\",\"nowhere\"]\n[\"close\"]\n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.errors, HasSubstr("2 unresolved references, 0 errors, 1 warning\n"));
+}
+
+TEST_F(ReplayTool, makesLogFilesOnlyWhenSomethingIsWritten) {
+    run({"-q", "--trace", "10", "--log", "trace.txt", "--exceptions", "exceptions.txt", "-"},
+        "[\"insertMark\",1,false]\n");
+    EXPECT_FALSE(exists("trace.txt"));
+    EXPECT_FALSE(exists("exceptions.txt"));
+}
+
+TEST_F(ReplayTool, makesTheDirectoryOfALog) {
+    run({"-q", "--trace", "10", "--log", "logs/trace.txt", "-"}, "[\"insertEndl\"]\n");
+    EXPECT_EQ(content("logs/trace.txt").substr(0, 23), "dochtml->insertEndl();\n");
+}
+
+TEST_F(ReplayTool, tellsThatALogCannotBeWritten) {
+    dir_.put("file", "");
+    const ToolResult result = run({"-q", "--trace", "10", "--log", "file/trace.txt", "-"}, "");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors, "dochtml-replay: cannot write file/trace.txt\n");
+}
+
+TEST_F(ReplayTool, refusesBadUsageBeforeAnythingIsDriven) {
+    dir_.put("calls", "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
+    const std::map<std::vector<std::string>, std::string> cases = {
+        {{}, "no calls given; try --help"},
+        {{"--colour", "calls"}, "unknown option --colour"},
+        {{"calls", "none"}, "cannot read none"},
+        {{"calls", "."}, "cannot read ."},
+        {{"--settings", "none", "calls"}, "cannot read none"},
+        {{"--model", "none", "calls"}, "cannot read none"},
+        {{"--image-maps", "none", "calls"}, "cannot read none"},
+        {{"--model", "calls", "calls"},
+         "calls:2: malformed JSON: The document root must not be followed by other values."},
+    };
+    for (const auto& [arguments, message] : cases) {
+        const ToolResult result = run(arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_EQ(result.errors, "dochtml-replay: " + message + "\n");
+    }
+    EXPECT_FALSE(exists("rep_dtl.htm"));
+}
+
+TEST_F(ReplayTool, tellsItsVersionAndItsUse) {
+    const ToolResult version = run({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.output, "dochtml-replay 2.1.0\n");
+    const ToolResult help = run({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_THAT(help.output, HasSubstr("Usage: dochtml-replay [OPTIONS] CALLS..."));
+}
+
+TEST_F(ReplayTool, playsNothingFromAnEmptyInput) {
+    const ToolResult result = run({"-"}, "\n  \n");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors,
+              "dochtml-replay: 0 pages written, 0 contents entries, 0 files copied, "
+              "0 unresolved references, 0 errors\n");
+}
+
+}  // namespace
+}  // namespace quillmark::replay

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstdlib>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/temp_dir.h"
+
+namespace quillmark {
+
+/// How a program ended and what it said.
+struct ToolResult {
+    int status = -1;
+    std::string output;
+    std::string errors;
+};
+
+/// Runs a program of the project as a user would: through the system's command interpreter, in a
+/// directory of its own, with settings that nobody else has.
+class ToolRunner {
+public:
+    /// `program` is its path. `dir` is where it is started; it stays the caller's.
+    ToolRunner(std::string program, const TempDir& dir) : program_(std::move(program)), dir_(dir) {
+        setEnvironment("XDG_CONFIG_HOME", dir.nativeFile("config"));
+        setEnvironment("SOURCE_DATE_EPOCH", "0");
+    }
+
+    void setEnvironment(std::string name, std::string value) {
+        environment_.emplace_back(std::move(name), std::move(value));
+    }
+
+    [[nodiscard]] ToolResult run(const std::vector<std::string>& arguments,
+                                 const std::string& input = {}) const {
+        const TempDir scratch;
+        scratch.put("in", input);
+        std::string command = "cd " + quoted(dir_.native()) + " && ";
+        for (const auto& [name, value] : environment_) {
+            command += assignment(name, value);
+        }
+        command += quoted(program_);
+        for (const std::string& argument : arguments) {
+            command += " " + quoted(argument);
+        }
+        command += " <" + quoted(scratch.nativeFile("in")) + " >" +
+                   quoted(scratch.nativeFile("out")) + " 2>" + quoted(scratch.nativeFile("err"));
+        ToolResult result;
+        result.status = exitStatus(std::system(command.c_str()));
+        result.output = scratch.content("out").value_or("");
+        result.errors = scratch.content("err").value_or("");
+        return result;
+    }
+
+private:
+#ifdef _WIN32
+    static std::string quoted(const std::string& text) {
+        return "\"" + text + "\"";
+    }
+    static std::string assignment(const std::string& name, const std::string& value) {
+        return "set " + quoted(name + "=" + value) + "&& ";
+    }
+    static int exitStatus(int status) {
+        return status;
+    }
+#else
+    static std::string quoted(const std::string& text) {
+        std::string result = "'";
+        for (const char c : text) {
+            result += c == '\'' ? std::string("'\\''") : std::string(1, c);
+        }
+        return result + "'";
+    }
+    static std::string assignment(const std::string& name, const std::string& value) {
+        return name + "=" + quoted(value) + " ";
+    }
+    /// What the interpreter answers with, or -1 when a signal ended the program.
+    static int exitStatus(int status) {
+        return (status & 0x7F) == 0 ? (status >> 8) & 0xFF : -1;
+    }
+#endif
+
+    std::string program_;
+    const TempDir& dir_;
+    std::vector<std::pair<std::string, std::string>> environment_;
+};
+
+}  // namespace quillmark
