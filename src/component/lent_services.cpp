@@ -30,9 +30,17 @@ HRESULT replace(std::mutex& mutex, std::unique_ptr<Service>& kept, const Record*
 }  // namespace
 
 LentServices& LentServices::module() {
-    // Never destroyed: the driver may still look at a service while the process ends.
-    static LentServices& services = *new LentServices;
+    static LentServices services;
     return services;
+}
+
+LentServices::~LentServices() {
+    DocumentObserver::install(nullptr);
+    OrxException::setLog(nullptr);
+    Trace::setListener(nullptr);
+    MMSchema::setSchema(nullptr);
+    CImageMapInterface::setInterface(nullptr);
+    AppProfileInterface::setInterface(nullptr);
 }
 
 HRESULT LentServices::setSettingsStore(const DochtmlSettingsStore* store) {

@@ -34,7 +34,8 @@ public:
 
 private:
     LentServices() = default;
-    ~LentServices() = default;
+    /// When the library is unloaded nothing lent may be looked at any more.
+    ~LentServices();
 
     std::mutex mutex_;
     std::unique_ptr<AppProfileInterface> profile_;

@@ -26,7 +26,8 @@ public:
 
     std::vector<RegisteredKey> read() {
         expect("HKCR");
-        readBlock({});
+        expect("{");
+        readKeysToBlockEnd({});
         if (!atEnd_) {
             fail("the end");
         }
@@ -34,14 +35,6 @@ public:
     }
 
 private:
-    void readBlock(const std::string& parent) {
-        expect("{");
-        while (!token_.is("}")) {
-            readKey(parent);
-        }
-        advance();
-    }
-
     void readKey(const std::string& parent) {
         RegisteredKey key;
         key.isShared = takeIf("NoRemove");
@@ -50,28 +43,29 @@ private:
         if (takeIf("=")) {
             key.value = takeValue();
         }
-        const std::size_t position = keys_.size();
+        const bool hasBlock = takeIf("{");
+        if (hasBlock) {
+            readNamedValues(key);
+        }
+        const std::string path = key.path;
         keys_.push_back(std::move(key));
-        if (token_.is("{")) {
-            advance();
-            readNamedValues(position);
-            readChildren(keys_[position].path);
+        if (hasBlock) {
+            readKeysToBlockEnd(path);
         }
     }
 
-    void readNamedValues(std::size_t position) {
+    void readNamedValues(RegisteredKey& key) {
         while (takeIf("val")) {
             std::string name = takeName();
             expect("=");
-            keys_[position].namedValues.emplace(std::move(name), takeValue());
+            key.namedValues.emplace(std::move(name), takeValue());
         }
     }
 
-    void readChildren(const std::string& path) {
-        while (!token_.is("}")) {
-            readKey(path);
+    void readKeysToBlockEnd(const std::string& parent) {
+        while (!takeIf("}")) {
+            readKey(parent);
         }
-        advance();
     }
 
     std::string takeName() {

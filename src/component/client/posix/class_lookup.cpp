@@ -1,0 +1,100 @@
+#include "component/client/posix/class_lookup.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "component/posix/class_file.h"
+#include "dochtml/client.h"
+
+namespace quillmark {
+namespace {
+
+int hexDigit(char character) noexcept {
+    if (character >= '0' && character <= '9') {
+        return character - '0';
+    }
+    const auto lower = static_cast<char>(character | 0x20);
+    return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+}
+
+/// The key's default value, when the key is there and has one.
+std::optional<std::string> defaultValue(const KeyTree& root, const std::string& path) {
+    const KeyTree* key = findKey(root, path);
+    if (key == nullptr) {
+        return std::nullopt;
+    }
+    const auto value = key->values.find({});
+    return value == key->values.end() ? std::nullopt : std::optional(value->second.data);
+}
+
+std::optional<std::string> classOfProgram(const KeyTree& root, const std::string& program) {
+    if (auto classId = defaultValue(root, program + "\\CLSID")) {
+        return classId;
+    }
+    const auto current = defaultValue(root, program + "\\CurVer");
+    return current ? defaultValue(root, *current + "\\CLSID") : std::nullopt;
+}
+
+/// Class identifiers are the same in either case of their letters.
+const KeyTree* findClassKey(const KeyTree& root, const GUID& classId) {
+    const KeyTree* classes = findKey(root, "CLSID");
+    if (classes == nullptr) {
+        return nullptr;
+    }
+    const auto found =
+        std::find_if(classes->children.begin(), classes->children.end(), [&](const auto& child) {
+            const auto id = parseGuid(child.first);
+            return id && *id == classId;
+        });
+    return found == classes->children.end() ? nullptr : &found->second;
+}
+
+}  // namespace
+
+RegisteredClass findRegisteredClass(const std::string& identifier) {
+    const KeyTree root = readClassFile(classFilePath());
+    const auto text = identifier.starts_with('{') ? identifier : classOfProgram(root, identifier);
+    const auto classId = text ? parseGuid(*text) : std::nullopt;
+    if (!classId) {
+        throw ComponentError(identifier + " is not registered", CO_E_CLASSSTRING);
+    }
+    const KeyTree* key = findClassKey(root, *classId);
+    const auto library = key == nullptr ? std::nullopt : defaultValue(*key, "InprocServer32");
+    if (!library) {
+        throw ComponentError("the class of " + identifier + " is not registered",
+                             REGDB_E_CLASSNOTREG);
+    }
+    return {*classId, *library};
+}
+
+std::optional<GUID> parseGuid(std::string_view text) {
+    constexpr std::string_view shape = "{xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx}";
+    if (text.size() != shape.size()) {
+        return std::nullopt;
+    }
+    std::uint8_t bytes[16] = {};
+    std::size_t digits = 0;
+    for (std::size_t i = 0; i < shape.size(); ++i) {
+        if (shape[i] != 'x') {
+            if (text[i] != shape[i]) {
+                return std::nullopt;
+            }
+            continue;
+        }
+        const int digit = hexDigit(text[i]);
+        if (digit < 0) {
+            return std::nullopt;
+        }
+        bytes[digits / 2] = static_cast<std::uint8_t>(bytes[digits / 2] << 4 | digit);
+        ++digits;
+    }
+    GUID guid{};
+    guid.Data1 = std::uint32_t{bytes[0]} << 24 | std::uint32_t{bytes[1]} << 16 |
+                 std::uint32_t{bytes[2]} << 8 | bytes[3];
+    guid.Data2 = static_cast<std::uint16_t>(bytes[4] << 8 | bytes[5]);
+    guid.Data3 = static_cast<std::uint16_t>(bytes[6] << 8 | bytes[7]);
+    std::copy(bytes + 8, bytes + 16, guid.Data4);
+    return guid;
+}
+
+}  // namespace quillmark
