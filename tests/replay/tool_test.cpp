@@ -174,7 +174,7 @@ TEST_F(ReplayTool, putsFilesOfADriveUnderItsDirectory) {
             "[\"create\",\"C:\\\\out\\\\rep.htm\"]\n[\"close\"]\n");
     EXPECT_EQ(result.status, 0) << result.errors;
     EXPECT_TRUE(exists("disk/out/rep_dtl.htm"));
-    EXPECT_EQ(content("disk/log.txt").substr(0, 35), "dochtml->create(\"C:\\out\\rep.htm\");\nd");
+    EXPECT_EQ(content("disk/log.txt").substr(0, 35), "dochtml->create(\"C:\\out\\rep.htm\");\n");
 }
 
 TEST_F(ReplayTool, readsItsOwnFilesFromADrive) {
