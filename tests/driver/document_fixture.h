@@ -86,6 +86,14 @@ protected:
         doc().close();
         return between(out("rep.htm"), "<BODY  >\n", "<HR>\n");
     }
+    /// Closes the document and returns the contents' entries, as a listing at the end of its
+    /// current page shows them.
+    std::string contents(const OrxString& page = "rep.htm") {
+        doc().insertTOC();
+        doc().close();
+        return between(out(page), "<BASE TARGET=\"main\">\n<H2>Table of Contents</H2>\n",
+                       "\n\n</BODY>");
+    }
     /// The call lines, warnings and errors until now; they are forgotten then.
     std::string traced() {
         std::string text = trace.text();
