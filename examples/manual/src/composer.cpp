@@ -88,7 +88,7 @@ void Composer::startTable(const std::vector<std::string>& head) {
         if (i == 0) {
             calls_.add("setFontAttribute", bold, true);
         }
-        calls_.add("insertText", shown(head[i]));
+        line(head[i]);
     }
     calls_.add("setFontAttribute", bold, false);
 }
