@@ -6,10 +6,18 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
 
+# build PRESET [CMAKE_OPTION...]
 build() {
     say "Building: $1"
-    cmake --preset "$1" >"build/$1.configure.log" 2>&1 || { cat "build/$1.configure.log"; exit 1; }
+    cmake --preset "$@" >"build/$1.configure.log" 2>&1 || { cat "build/$1.configure.log"; exit 1; }
     cmake --build --preset "$1"
+}
+
+# The browser tests' own tool, in the version that package-lock.json names.
+need_node_modules() {
+    [ node_modules/.package-lock.json -nt package-lock.json ] && return
+    say "Installing the tool of the browser tests"
+    npm ci --no-audit --no-fund || npm ci --no-audit --no-fund
 }
 
 # One run over the tests of several builds, so that one total speaks for all of them.
@@ -27,12 +35,14 @@ mkdir -p build
 case ${1-} in
     --quick)
         need build quick
-        build debug
+        build debug -D DOCHTML_BROWSER_TESTS=OFF
         ctest --preset debug --label-regex 'native|structure'
         ;;
     '')
         need build quick full
-        for preset in debug asan mingw64 mingw32 tidy release; do
+        need_node_modules
+        build debug -D DOCHTML_BROWSER_TESTS=ON
+        for preset in asan mingw64 mingw32 tidy release; do
             build "$preset"
         done
         test_builds debug asan mingw64 mingw32 tidy release
