@@ -6,37 +6,39 @@ namespace quillmark {
 
 namespace {
 
-OrxString pictureLink(const DocumentContext& context, const char* picture) {
-    return context.documentLink(SysFile::appendToDir(context.settings.pixDir, picture));
-}
-
-OrxString arrowTo(const DocumentContext& context, std::uint32_t pageNumber, const char* picture) {
-    OrxString arrow("<A HREF=\"./");
-    arrow.append(SysFile::stripDir(context.names.pageFileName(pageNumber, "")));
-    arrow.append("\"><IMG SRC=\"").append(pictureLink(context, picture));
-    return arrow.append("\" BORDER=\"0\" HSPACE=5 NOSAVE HEIGHT=20 WIDTH=19></A>\n");
-}
-
-/// The dead arrows write their attributes in two different orders; browsers do not mind, and
-/// comparisons of document sets do.
-OrxString deadBackArrow(const DocumentContext& context) {
-    return "<IMG SRC=\"" + pictureLink(context, "backOFF.gif") +
-           "\" BORDER=\"0\" NOSAVE HEIGHT=20 WIDTH=22>\n";
-}
-
-OrxString deadNextArrow(const DocumentContext& context) {
-    return "<IMG SRC=\"" + pictureLink(context, "forwardOFF.gif") +
-           "\" NOSAVE BORDER=\"0\" HEIGHT=20 WIDTH=22>\n";
-}
+constexpr std::array<const char*, 4> pictureNames = {"backON.gif", "backOFF.gif", "forwardON.gif",
+                                                     "forwardOFF.gif"};
 
 }  // namespace
 
-OrxString arrowBar(const DocumentContext& context, std::uint32_t pageNumber, bool lastPage) {
-    OrxString bar = pageNumber == OutputNames::firstPageNumber
-                        ? deadBackArrow(context)
-                        : arrowTo(context, pageNumber - 1, "backON.gif");
-    bar.append(lastPage ? deadNextArrow(context)
-                        : arrowTo(context, pageNumber + 1, "forwardON.gif"));
+OrxString ArrowBar::pictureLink(Picture picture) {
+    const OrxString file = SysFile::appendToDir(context_.settings.pixDir, pictureNames.at(picture));
+    return context_.documentLink(file, links_.at(picture));
+}
+
+void ArrowBar::appendArrow(OrxString& bar, std::uint32_t pageNumber, Picture picture) {
+    bar.append("<A HREF=\"./");
+    bar.append(SysFile::stripDir(context_.names.pageFileName(pageNumber, "")));
+    bar.append("\"><IMG SRC=\"").append(pictureLink(picture));
+    bar.append("\" BORDER=\"0\" HSPACE=5 NOSAVE HEIGHT=20 WIDTH=19></A>\n");
+}
+
+OrxString ArrowBar::bar(std::uint32_t pageNumber, bool lastPage) {
+    OrxString bar;
+    // The dead arrows write their attributes in two different orders; browsers do not mind, and
+    // comparisons of document sets do.
+    if (pageNumber == OutputNames::firstPageNumber) {
+        bar.append("<IMG SRC=\"").append(pictureLink(backOff));
+        bar.append("\" BORDER=\"0\" NOSAVE HEIGHT=20 WIDTH=22>\n");
+    } else {
+        appendArrow(bar, pageNumber - 1, backOn);
+    }
+    if (lastPage) {
+        bar.append("<IMG SRC=\"").append(pictureLink(forwardOff));
+        bar.append("\" NOSAVE BORDER=\"0\" HEIGHT=20 WIDTH=22>\n");
+    } else {
+        appendArrow(bar, pageNumber + 1, forwardOn);
+    }
     return bar.append("<BR>\n");
 }
 

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "foundation/decimal.h"
-#include "page/links.h"
 #include "page/page_marks.h"
 #include "toc/entry_icons.h"
 #include "toc/static_listing.h"
@@ -55,7 +54,7 @@ void ContentsCollector::addEntry(OrxString& anchor, const OrxString& text, std::
         return;
     }
     pageHasTocEntry_ = true;
-    OrxString href = links::relativeFile(out_.page().getFileName(), outputDir_);
+    OrxString href = pageLink_.relativeFile(out_.page().getFileName(), outputDir_);
     href.append('#').append(anchor);
     const EntryIcons icons = showIcons_ ? entryIconsOf(currentElement_) : EntryIcons{};
     entries_.add(TocEntryView{href, text, level, icons.gif, icons.stereoGif});

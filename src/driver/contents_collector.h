@@ -5,6 +5,7 @@
 
 #include "driver/bookmarks.h"
 #include "driver/output_router.h"
+#include "page/link_memo.h"
 #include "toc/toc_entry_list.h"
 
 namespace quillmark {
@@ -61,6 +62,7 @@ private:
     Bookmarks& bookmarks_;
     TocEntryList entries_;
     OrxString outputDir_;
+    LinkMemo pageLink_;
     std::uint32_t tocLevel_ = 0;
     bool showIcons_ = true;
     std::uint64_t currentElement_ = 0;

@@ -10,8 +10,13 @@ OrxString DocumentContext::pageDir() const {
 }
 
 OrxString DocumentContext::documentLink(const OrxString& fileName) const {
+    LinkMemo forThisOnce;
+    return documentLink(fileName, forThisOnce);
+}
+
+OrxString DocumentContext::documentLink(const OrxString& fileName, LinkMemo& memo) const {
     if (settings.useRelative) {
-        return links::relativeFile(fileName, pageDir());
+        return memo.relativeFile(fileName, pageDir());
     }
     return "file:///" + links::fromPath(fileName);
 }

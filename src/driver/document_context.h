@@ -4,6 +4,7 @@
 #include "driver/output_names.h"
 #include "driver/output_router.h"
 #include "page/file_copier.h"
+#include "page/link_memo.h"
 #include "platform/trace.h"
 
 namespace quillmark {
@@ -22,6 +23,8 @@ struct DocumentContext {
     /// The link of a file as pages refer to it: relative to the current page, or an absolute file
     /// URL when relative links are off.
     [[nodiscard]] OrxString documentLink(const OrxString& fileName) const;
+    /// The same for a file that many pages refer to.
+    [[nodiscard]] OrxString documentLink(const OrxString& fileName, LinkMemo& memo) const;
     /// Copies a file under its own name and returns the name to refer to.
     OrxString copyTo(const OrxString& directory, const OrxString& fileName);
     /// Writes an error line to the trace.

@@ -1,9 +1,8 @@
 #include "driver/page_turner.h"
 
+#include <algorithm>
 #include <string>
 
-#include "driver/arrow_bar.h"
-#include "page/links.h"
 #include "page/page_marks.h"
 #include "platform/sys_file.h"
 
@@ -16,6 +15,9 @@ OrxString PageTurner::pageFileName() const {
 void PageTurner::newPage() {
     auto page = OrxCountedPtr<DocHtmlPage>::make();
     page->setTrace(context_.trace);
+    // Pages of a report are alike; a page that is much larger than others says nothing of the next.
+    constexpr std::size_t commonPage = 64 * 1024;
+    page->reserve(std::min(expectedSize_, commonPage));
     context_.out.setPage(std::move(page));
 }
 
@@ -54,8 +56,9 @@ void PageTurner::endPage(bool last, const std::function<void()>& closeTables) {
     writeTail();
     DocHtmlPage& page = context_.out.page();
     const OrxString& styleSheet = context_.settings.styleSheet;
-    page.setStyleSheet(styleSheet.isEmpty() ? OrxString()
-                                            : links::relativeFile(styleSheet, context_.pageDir()));
+    page.setStyleSheet(styleSheet.isEmpty()
+                           ? OrxString()
+                           : styleSheetLink_.relativeFile(styleSheet, context_.pageDir()));
     page.setTitle(title_);
     contents_.finishPage(pageNumber_);
     dispatchPage(last);
@@ -67,7 +70,7 @@ void PageTurner::writeTop(bool last) {
     page.appendTop(context_.settings.bodyTags);
     page.appendTop(" >\n");
     if (context_.settings.hasArrows()) {
-        page.appendTop(arrowBar(context_, pageNumber_, last));
+        page.appendTop(arrows_.bar(pageNumber_, last));
     }
     if (const DocHtmlSection* const header = context_.out.section(SectionMode::header);
         header != nullptr) {
@@ -115,6 +118,7 @@ void PageTurner::dispatchPage(bool last) {
         }
     };
     DocHtmlPage& page = context_.out.page();
+    expectedSize_ = page.bodySize();
     if (last) {
         bookmarks_.heldPages().finishAll(finish);
         bookmarks_.clear();

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "driver/arrow_bar.h"
 #include "driver/bookmarks.h"
 #include "driver/contents_collector.h"
 #include "driver/document_context.h"
@@ -24,7 +25,8 @@ public:
           bookmarks_(bookmarks),
           contents_(contents),
           font_(font),
-          style_(style) {}
+          style_(style),
+          arrows_(context) {}
 
     void startPage();
     /// `closeTables` ends every open table, through the document's own interface. The last page's
@@ -65,6 +67,10 @@ private:
     OrxString title_;
     OrxString subDirectory_;
     DocHtmlTextState savedState_;
+    ArrowBar arrows_;
+    LinkMemo styleSheetLink_;
+    /// Bytes in the body of the page before this one.
+    std::size_t expectedSize_ = 0;
 };
 
 }  // namespace quillmark

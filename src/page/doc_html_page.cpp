@@ -226,6 +226,10 @@ void DocHtmlPage::reserve(std::size_t bytes) {
     record_->text.reserve(bytes);
 }
 
+std::size_t DocHtmlPage::bodySize() const noexcept {
+    return record_->text.plain().size();
+}
+
 void DocHtmlPage::compact() {
     record_->text.compact();
 }

@@ -73,6 +73,8 @@ public:
     void clearInsertPoint() noexcept;
     /// Makes room for that many bytes of body text at once, for who knows how much is coming.
     void reserve(std::size_t bytes);
+    /// Bytes of the body written so far, what was put in at marks not counted.
+    [[nodiscard]] std::size_t bodySize() const noexcept;
     /// Gives back memory held for growth; for a page that is held back until its marks are filled.
     void compact();
     /// The open marks in name order, equal names in the order of their making.

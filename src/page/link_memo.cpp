@@ -1,0 +1,17 @@
+#include "page/link_memo.h"
+
+#include "page/links.h"
+
+namespace quillmark {
+
+const OrxString& LinkMemo::relativeFile(const OrxString& fileName, const OrxString& base) {
+    if (!known_ || fileName != fileName_ || base != base_) {
+        link_ = links::relativeFile(fileName, base);
+        fileName_ = fileName;
+        base_ = base;
+        known_ = true;
+    }
+    return link_;
+}
+
+}  // namespace quillmark
