@@ -122,19 +122,27 @@ bool isReportLine(std::string_view line) noexcept {
         reportOpenings, [line](std::string_view opening) { return line.starts_with(opening); });
 }
 
-bool closesCall(std::string_view text, const RecordedOperation& what) noexcept {
+/// Whether the two texts are apart from each other. The quote in front of the first one does not
+/// count, nor does the one behind the second.
+bool CallEnd::hasTwoTexts(std::string_view arguments) noexcept {
+    const std::string_view searched = arguments.substr(0, arguments.size() - textEnd.size());
+    const std::size_t found = searched.find(between, searched_);
+    const std::size_t missing = std::max(searched.size(), between.size()) - between.size() + 1;
+    searched_ = found != std::string_view::npos ? found : std::max(searched_, missing);
+    return found != std::string_view::npos;
+}
+
+bool CallEnd::isAtEndOf(std::string_view text) noexcept {
     if (!text.ends_with(callEnd)) {
         return false;
     }
-    const std::string_view arguments = text.substr(std::min(what.arguments, text.size()));
-    switch (what.form) {
+    const std::string_view arguments = text.substr(std::min(what_.arguments, text.size()));
+    switch (what_.form) {
         case RecordedForm::text:
             // The opening quote is not the closing one.
             return arguments.size() > textEnd.size() && arguments.ends_with(textEnd);
         case RecordedForm::twoTexts:
-            return arguments.ends_with(textEnd) &&
-                   arguments.substr(0, arguments.size() - textEnd.size()).find(between, 1) !=
-                       std::string_view::npos;
+            return arguments.ends_with(textEnd) && hasTwoTexts(arguments);
         case RecordedForm::textAndNumber: {
             const std::size_t quote =
                 quoteBeforeNumber(arguments.substr(0, arguments.size() - callEnd.size()));

@@ -34,9 +34,21 @@ inline constexpr std::size_t openingSize = 64;
 /// reports.
 [[nodiscard]] bool isReportLine(std::string_view line) noexcept;
 
-/// Whether the call line could end where `text` ends, just in front of a line end: its arguments
-/// are complete there.
-[[nodiscard]] bool closesCall(std::string_view text, const RecordedOperation& what) noexcept;
+/// Finds where a call line could end: just in front of a line end, with its arguments complete.
+class CallEnd {
+public:
+    explicit CallEnd(const RecordedOperation& what) noexcept : what_(what) {}
+
+    /// Whether that can be the whole call. `text` begins with the call and grows from question to
+    /// question, so that what has been searched is not searched again.
+    [[nodiscard]] bool isAtEndOf(std::string_view text) noexcept;
+
+private:
+    [[nodiscard]] bool hasTwoTexts(std::string_view arguments) noexcept;
+
+    const RecordedOperation& what_;
+    std::size_t searched_ = 1;
+};
 
 /// The texts of a recorded call as the operation takes them.
 using RecordedTexts = std::array<std::u16string, 2>;

@@ -76,11 +76,12 @@ RecordingReader::Extent RecordingReader::extentTo(std::size_t lineEnd) {
 
 std::optional<RecordingReader::Extent> RecordingReader::findExtent(const RecordedOperation& what) {
     const bool hasText = what.form >= RecordedForm::text;
+    CallEnd end(what);
     std::optional<Extent> first;
     std::size_t position = 0;
     while (const std::optional<std::size_t> lineEnd = lineEndFrom(position)) {
         const Extent extent = extentTo(*lineEnd);
-        const bool closes = closesCall(input_.view().substr(0, extent.textSize), what);
+        const bool closes = end.isAtEndOf(input_.view().substr(0, extent.textSize));
         if (!hasText) {
             return closes ? std::optional(extent) : std::nullopt;
         }

@@ -241,6 +241,17 @@ TEST(RecordingReader, needsNoLineEndBehindTheLastCall) {
     EXPECT_THAT(read("dochtml->insertText(\"a\");").calls, ElementsAre("insertText(\"a\")"));
 }
 
+TEST(RecordingReader, comesToAnEndWithATextThatLooksClosedOnEveryLine) {
+    std::string text;
+    for (int i = 0; i < 200000; ++i) {
+        text += "x\");\n";
+    }
+    EXPECT_EQ(read("dochtml->insertXref(\"" + text).problem,
+              "1: the call of insertXref is not complete");
+    EXPECT_THAT(read("dochtml->insertXref(\"" + text + "\",\"y\");\ndochtml->close();\n").calls,
+                ElementsAre("insertXref(\"" + text + "\",\"y\")", "close()"));
+}
+
 TEST(RecordingReader, passesOverAReportLargerThanItsBuffer) {
     EXPECT_THAT(read("ERR " + std::string(3U << 20U, 'x') + "\ndochtml->close();\n").calls,
                 ElementsAre("close()"));
