@@ -3,12 +3,10 @@
 #include <string>
 #include <string_view>
 
-namespace quillmark {
-
 /// Windows-1252, the 8-bit code page of every system that has no ANSI code page of its own.
 ///
 /// Both conversions are total: nothing fails, and the same input gives the same bytes everywhere.
-namespace code_page {
+namespace quillmark::code_page {
 
 /// Appends `text` to `out`, one byte for each UTF-16 unit. A unit that Windows-1252 cannot hold
 /// becomes "?"; so does each half of a surrogate pair, and a lone surrogate.
@@ -23,6 +21,4 @@ void appendNarrowed(std::string& out, std::u16string_view text);
 /// UTF-16 to UTF-8; a lone surrogate becomes U+FFFD.
 [[nodiscard]] std::string toUtf8(std::u16string_view text);
 
-}  // namespace code_page
-
-}  // namespace quillmark
+}  // namespace quillmark::code_page

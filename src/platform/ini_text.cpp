@@ -78,8 +78,7 @@ bool canBeKey(std::string_view name) noexcept {
 
 }  // namespace
 
-IniText::IniText(std::string_view text) {
-    endsInLineEnd_ = text.empty() || text.ends_with('\n');
+IniText::IniText(std::string_view text) : endsInLineEnd_(text.empty() || text.ends_with('\n')) {
     if (text.find("\r\n") != std::string_view::npos) {
         lineEnd_ = "\r\n";
     }

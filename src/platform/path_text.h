@@ -6,11 +6,9 @@
 
 #include "foundation/orx_string.h"
 
-namespace quillmark {
-
 /// Paths as texts, for the name questions of `SysFile` and `SysDirectory`. Nothing here looks at
 /// the disk.
-namespace path_text {
+namespace quillmark::path_text {
 
 [[nodiscard]] constexpr bool isSeparator(char c) noexcept {
     return c == '\\' || c == '/';
@@ -35,6 +33,4 @@ namespace path_text {
 [[nodiscard]] OrxString relativePath(const OrxString& base, const OrxString& target,
                                      bool ignoreCase);
 
-}  // namespace path_text
-
-}  // namespace quillmark
+}  // namespace quillmark::path_text

@@ -14,7 +14,7 @@ std::optional<std::string> readWhole(const OrxString& fileName) {
         return std::nullopt;
     }
     std::string bytes;
-    std::array<char, 4096> buffer;
+    std::array<char, 4096> buffer{};
     while (const std::size_t taken = file->read(buffer)) {
         bytes.append(buffer.data(), taken);
     }

@@ -4,10 +4,8 @@
 
 #include "foundation/orx_string.h"
 
-namespace quillmark {
-
 /// What differs from system to system and is a plain fact: asked here, never by a macro.
-namespace system_facts {
+namespace quillmark::system_facts {
 
 /// Whether two file names that differ in case only are the same file.
 [[nodiscard]] bool namesIgnoreCase() noexcept;
@@ -25,6 +23,4 @@ namespace system_facts {
 /// Tells this process from every other that runs on the system.
 [[nodiscard]] unsigned long processId() noexcept;
 
-}  // namespace system_facts
-
-}  // namespace quillmark
+}  // namespace quillmark::system_facts

@@ -13,8 +13,15 @@
 namespace quillmark {
 namespace {
 
+// The strikes are meant: the sanitizers must not catch them first.
+#if defined(__clang__)
+#define NO_SIGNAL_CHECKS __attribute__((noinline, no_sanitize("undefined")))
+#else
+#define NO_SIGNAL_CHECKS __attribute__((noinline, no_sanitize_undefined))
+#endif
+
 /// Writes where nothing is. The address is hidden from the compiler, which would warn.
-[[gnu::noinline]] void strikeWildAddress() {
+NO_SIGNAL_CHECKS void strikeWildAddress() {
     int* volatile nowhere = nullptr;
     *static_cast<volatile int*>(nowhere) = 1;
 }
@@ -34,14 +41,8 @@ std::string reasonOf(const std::function<void()>& body) {
 
 constexpr const char* wildAddress = "Processor signal SIGSEGV (invalid memory access)";
 
-#if defined(__clang__)
-#define NO_SIGNAL_CHECKS __attribute__((no_sanitize("undefined")))
-#else
-#define NO_SIGNAL_CHECKS __attribute__((no_sanitize_undefined))
-#endif
-
 #if defined(__x86_64__) || defined(__i386__)
-NO_SIGNAL_CHECKS [[gnu::noinline]] int divide(int number, int by) {
+NO_SIGNAL_CHECKS int divide(int number, int by) {
     return number / by;
 }
 

@@ -71,7 +71,7 @@ Copied copyWith(Call call) noexcept {
 }
 
 bool copyThroughBuffer(const Descriptor& source, const Descriptor& target) noexcept {
-    std::array<char, 65536> buffer;
+    std::array<char, 65536> buffer{};
     for (;;) {
         const long taken = readSome(source, buffer);
         if (taken <= 0) {
@@ -94,11 +94,12 @@ Descriptor openFile(const char* path, int flags) noexcept {
 
 bool writeAll(const Descriptor& file, std::span<const std::string_view> pieces) noexcept {
     constexpr std::size_t batch = 256;
-    std::array<iovec, batch> vectors;
+    std::array<iovec, batch> vectors{};
     while (!pieces.empty()) {
         const std::size_t count = std::min(batch, pieces.size());
         for (std::size_t i = 0; i < count; ++i) {
             // The system's structure serves reading too and so has no const.
+            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
             vectors[i] = {const_cast<char*>(pieces[i].data()), pieces[i].size()};
         }
         if (!writeVectors(file.number(), {vectors.data(), count})) {

@@ -1,12 +1,12 @@
 #include "platform/posix/launch.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 
 #include "platform/posix/descriptor.h"
 
@@ -77,6 +77,7 @@ bool launchDetached(const std::string& program, const std::vector<std::string>& 
     std::vector<std::string> texts = {program};
     texts.insert(texts.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (std::string& text : texts) {
         pointers.push_back(text.data());
     }

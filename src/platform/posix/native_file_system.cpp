@@ -1,12 +1,13 @@
 #include <fcntl.h>
-#include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include "platform/drive_table.h"
@@ -166,8 +167,9 @@ public:
     }
 
     OrxString currentDirectory() const override {
-        const std::unique_ptr<char, decltype(&free)> path(getcwd(nullptr, 0), &free);
-        return path != nullptr ? driverPath(path.get()) : OrxString();
+        std::error_code failure;
+        const std::filesystem::path path = std::filesystem::current_path(failure);
+        return failure ? OrxString() : driverPath(path.string());
     }
 
     std::unique_ptr<InputFile> openForReading(const OrxString& name) override {

@@ -1,9 +1,8 @@
 #include "platform/signal_to_exception.h"
 
-#include <setjmp.h>
-#include <signal.h>
-
 #include <array>
+#include <csetjmp>
+#include <csignal>
 #include <cstddef>
 #include <mutex>
 
@@ -150,7 +149,7 @@ int signalDuring(const std::function<void()>& body, Landing& landing) {
 void CSignal2Exception::run(const std::function<void()>& body) {
     int signal = 0;
     {
-        Landing landing;
+        Landing landing{};
         const Guard guard(landing);
         signal = signalDuring(body, landing);
     }

@@ -20,7 +20,7 @@ constexpr int fileNotFound = 2;
 constexpr int accessDenied = 5;
 
 /// A name that no program takes for an option or for a command of the search path.
-std::string asPath(std::string name) {
+std::string asPath(const std::string& name) {
     return name.find('/') != std::string::npos ? name : "./" + name;
 }
 
