@@ -32,7 +32,7 @@ public:
 
 private:
     /// A text that finds no memory is dropped: nothing may be thrown through a callback.
-    static void STDMETHODCALLTYPE put(void* context, const DochtmlText* text) noexcept;
+    static void put(void* context, const DochtmlText* text) noexcept;
 
     std::vector<OrxString> texts_;
 };

@@ -5,8 +5,9 @@
  *
  * A record is copied when it is handed in; its `context` goes back into every call and must stay
  * valid until the service is taken back. A callback must not throw. It may come on any thread that
- * drives a document. Texts are 8-bit, in the code page of the driver (the system's ANSI code page
- * on Windows, Windows-1252 elsewhere), and are valid during the call only.
+ * drives a document, and has the default calling convention of C. Texts are 8-bit, in the code page
+ * of the driver (the system's ANSI code page on Windows, Windows-1252 elsewhere), and are valid
+ * during the call only.
  */
 
 #include <stddef.h>
@@ -27,18 +28,18 @@ typedef struct DochtmlText {
 /* Takes a text that a callback answers with: call `put` once, during the callback. */
 typedef struct DochtmlSink {
     void* context;
-    void(STDMETHODCALLTYPE* put)(void* context, const DochtmlText* text);
+    void (*put)(void* context, const DochtmlText* text);
 } DochtmlSink;
 
 /* The settings store, in the place of the user's own. */
 typedef struct DochtmlSettingsStore {
     void* context;
     /* Puts the value kept and answers 1; answers 0 when there is none. */
-    int32_t(STDMETHODCALLTYPE* read)(void* context, const DochtmlText* group,
-                                     const DochtmlText* name, const DochtmlSink* value);
+    int32_t (*read)(void* context, const DochtmlText* group, const DochtmlText* name,
+                    const DochtmlSink* value);
     /* Answers 1 when the value is kept. */
-    int32_t(STDMETHODCALLTYPE* write)(void* context, const DochtmlText* group,
-                                      const DochtmlText* name, const DochtmlText* value);
+    int32_t (*write)(void* context, const DochtmlText* group, const DochtmlText* name,
+                     const DochtmlText* value);
 } DochtmlSettingsStore;
 
 /* The clickable regions of pictures. */
@@ -46,8 +47,7 @@ typedef struct DochtmlImageMaps {
     void* context;
     /* Puts the texts of a picture's regions one after the other, three a region: element name,
      * target bookmark, polygon coordinates. */
-    void(STDMETHODCALLTYPE* regions)(void* context, const DochtmlText* picture,
-                                     const DochtmlSink* texts);
+    void (*regions)(void* context, const DochtmlText* picture, const DochtmlSink* texts);
 } DochtmlImageMaps;
 
 /* An object and a class of the host's model, as the host wishes. */
@@ -59,31 +59,31 @@ typedef const void* DochtmlClass;
 typedef struct DochtmlModel {
     void* context;
     /* Null when the model does not know the handle. */
-    HRESULT(STDMETHODCALLTYPE* object)(void* context, uint64_t handle, DochtmlObject* object);
+    HRESULT (*object)(void* context, uint64_t handle, DochtmlObject* object);
     /* Null when the schema has no class of that name. */
-    HRESULT(STDMETHODCALLTYPE* findClass)
+    HRESULT(*findClass)
     (void* context, const DochtmlText* name, DochtmlClass* modelClass);
-    HRESULT(STDMETHODCALLTYPE* classOf)
+    HRESULT(*classOf)
     (void* context, DochtmlObject object, DochtmlClass* modelClass);
-    HRESULT(STDMETHODCALLTYPE* className)
+    HRESULT(*className)
     (void* context, DochtmlClass modelClass, const DochtmlSink* name);
-    HRESULT(STDMETHODCALLTYPE* attributeExists)
+    HRESULT(*attributeExists)
     (void* context, DochtmlClass modelClass, const DochtmlText* attribute, int32_t* exists);
-    HRESULT(STDMETHODCALLTYPE* associationExists)
+    HRESULT(*associationExists)
     (void* context, DochtmlClass modelClass, const DochtmlText* association, int32_t* exists);
     /* Whether the object has a value for the attribute. */
-    HRESULT(STDMETHODCALLTYPE* hasAttribute)
+    HRESULT(*hasAttribute)
     (void* context, DochtmlObject object, const DochtmlText* attribute, int32_t* exists);
-    HRESULT(STDMETHODCALLTYPE* attributeText)
+    HRESULT(*attributeText)
     (void* context, DochtmlObject object, const DochtmlText* attribute, const DochtmlSink* value);
-    HRESULT(STDMETHODCALLTYPE* attributeBoolean)
+    HRESULT(*attributeBoolean)
     (void* context, DochtmlObject object, const DochtmlText* attribute, int32_t* value);
-    HRESULT(STDMETHODCALLTYPE* attributeLong)
+    HRESULT(*attributeLong)
     (void* context, DochtmlObject object, const DochtmlText* attribute, int32_t* value);
-    HRESULT(STDMETHODCALLTYPE* attributeDouble)
+    HRESULT(*attributeDouble)
     (void* context, DochtmlObject object, const DochtmlText* attribute, double* value);
     /* The n-th object at the end of an association, in the model's order; null behind the last. */
-    HRESULT(STDMETHODCALLTYPE* associated)
+    HRESULT(*associated)
     (void* context, DochtmlObject object, const DochtmlText* association, uint32_t index,
      DochtmlObject* other);
 } DochtmlModel;
@@ -93,25 +93,24 @@ typedef struct DochtmlTraceListener {
     void* context;
     /* The deepest level wanted: 1 errors, 10 calls, 11 reports. */
     int32_t level;
-    void(STDMETHODCALLTYPE* line)(void* context, int32_t level, const DochtmlText* text);
+    void (*line)(void* context, int32_t level, const DochtmlText* text);
 } DochtmlTraceListener;
 
 /* The exception log. */
 typedef struct DochtmlExceptionLog {
     void* context;
     /* Not 0 when messages of that category ("Throw", "Catch") are wanted. */
-    int32_t(STDMETHODCALLTYPE* records)(void* context, const DochtmlText* category);
-    void(STDMETHODCALLTYPE* write)(void* context, const DochtmlText* message);
+    int32_t (*records)(void* context, const DochtmlText* category);
+    void (*write)(void* context, const DochtmlText* message);
 } DochtmlExceptionLog;
 
 /* Hears what became of a document. Each callback may be null. */
 typedef struct DochtmlObserver {
     void* context;
-    void(STDMETHODCALLTYPE* pageWritten)(void* context, const DochtmlText* fileName);
-    void(STDMETHODCALLTYPE* fileCopied)(void* context, const DochtmlText* target);
-    void(STDMETHODCALLTYPE* contentsEntryAdded)(void* context);
-    void(STDMETHODCALLTYPE* unresolvedReferences)(void* context, const DochtmlText* fileName,
-                                                  size_t count);
+    void (*pageWritten)(void* context, const DochtmlText* fileName);
+    void (*fileCopied)(void* context, const DochtmlText* target);
+    void (*contentsEntryAdded)(void* context);
+    void (*unresolvedReferences)(void* context, const DochtmlText* fileName, size_t count);
 } DochtmlObserver;
 
 #ifdef __cplusplus
