@@ -1,0 +1,102 @@
+#include "page/mark_table.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quillmark {
+namespace {
+
+using Marks = std::vector<MarkTable::MarkId>;
+
+Marks taken(MarkTable& table, std::string_view name) {
+    Marks marks;
+    table.take(name, [&](MarkTable::MarkId mark) { marks.push_back(mark); });
+    return marks;
+}
+
+std::string listed(const MarkTable& table) {
+    std::string all;
+    table.forEach([&](std::string_view name, MarkTable::MarkId mark) {
+        all.append(name).append("=").append(std::to_string(mark)).append(" ");
+    });
+    return all;
+}
+
+TEST(MarkTable, IsEmptyAtFirst) {
+    MarkTable table;
+    EXPECT_EQ(table.size(), 0U);
+    EXPECT_EQ(table.first("a"), SpliceText::none);
+    EXPECT_EQ(taken(table, "a"), Marks{});
+    EXPECT_EQ(listed(table), "");
+}
+
+TEST(MarkTable, HandsOutTheMarksOfANameInTheOrderOfTheirMaking) {
+    MarkTable table;
+    table.add("a", 5);
+    table.add("b", 4);
+    table.add("a", 3);
+    table.add("a", 9);
+    EXPECT_EQ(table.size(), 4U);
+    EXPECT_EQ(table.first("a"), 5U);
+    EXPECT_EQ(taken(table, "a"), (Marks{5, 3, 9}));
+    EXPECT_EQ(table.size(), 1U);
+    EXPECT_EQ(table.first("a"), SpliceText::none);
+    EXPECT_EQ(taken(table, "a"), Marks{});
+}
+
+TEST(MarkTable, ListsNamesInTheOrderOfTheirBytes) {
+    MarkTable table;
+    table.add("b", 1);
+    table.add("\xe4", 2);
+    table.add("B", 3);
+    table.add("", 4);
+    table.add("b", 5);
+    table.add("ba", 6);
+    EXPECT_EQ(listed(table), "=4 B=3 b=1 b=5 ba=6 \xe4=2 ");
+}
+
+TEST(MarkTable, TakesANameUpAgain) {
+    MarkTable table;
+    table.add("a", 1);
+    table.add("b", 2);
+    static_cast<void>(taken(table, "a"));
+    table.add("b", 3);
+    table.add("a", 4);
+    EXPECT_EQ(listed(table), "a=4 b=2 b=3 ");
+}
+
+TEST(MarkTable, CountsWhileItHandsOut) {
+    MarkTable table;
+    table.add("a", 1);
+    table.add("a", 2);
+    std::vector<std::size_t> sizes;
+    table.take("a", [&](MarkTable::MarkId) { sizes.push_back(table.size()); });
+    EXPECT_EQ(sizes, (std::vector<std::size_t>{1, 0}));
+}
+
+TEST(MarkTable, IsEmptyOnceCleared) {
+    MarkTable table;
+    table.add("a", 1);
+    table.clear();
+    EXPECT_EQ(table.size(), 0U);
+    EXPECT_EQ(table.first("a"), SpliceText::none);
+    table.add("a", 2);
+    EXPECT_EQ(listed(table), "a=2 ");
+}
+
+TEST(MarkTable, KeepsTenThousandNamesApart) {
+    MarkTable table;
+    for (MarkTable::MarkId i = 0; i < 10000; ++i) {
+        table.add(std::to_string(i), i);
+        table.add(std::to_string(i), i + 10000);
+    }
+    for (MarkTable::MarkId i = 0; i < 10000; ++i) {
+        ASSERT_EQ(taken(table, std::to_string(i)), (Marks{i, i + 10000}));
+    }
+    EXPECT_EQ(table.size(), 0U);
+}
+
+}  // namespace
+}  // namespace quillmark
