@@ -1,5 +1,7 @@
 #include "bridges.h"
 
+#include <utility>
+
 namespace quillmark::manual {
 
 namespace {
@@ -18,8 +20,8 @@ std::string into(const std::string& directory) {
 
 class BridgeBuilder {
 public:
-    BridgeBuilder(const DocumentName& document, const std::string& pictureDirectory)
-        : document_(document), pictureDirectory_(pictureDirectory) {}
+    BridgeBuilder(const DocumentName& document, std::string pictureDirectory)
+        : document_(document), pictureDirectory_(std::move(pictureDirectory)) {}
 
     /// Lays a page under the name of page `number` into `here`; the page itself is in `there`.
     void lay(std::size_t number, const std::string& here, const std::string& there) {

@@ -16,7 +16,13 @@
 namespace {
 
 namespace fs = std::filesystem;
-using namespace quillmark::manual;
+using quillmark::manual::bridgesBetween;
+using quillmark::manual::DocumentName;
+using quillmark::manual::Manual;
+using quillmark::manual::ManualData;
+using quillmark::manual::operationsMarkdown;
+using quillmark::manual::readManualData;
+using quillmark::manual::SubsystemDiagram;
 
 constexpr const char* usage =
     "usage: manual_generator [OPTIONS] DIRECTORY\n"

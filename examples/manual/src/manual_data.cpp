@@ -54,10 +54,11 @@ void addToOperation(OperationText& operation, const DataEntry& entry) {
 std::vector<OperationGroup> groupsOf(const std::vector<DataEntry>& entries) {
     std::vector<OperationGroup> groups;
     for (const DataEntry& entry : entries) {
+        if (groups.empty() && entry.keyword != "group") {
+            misplaced(entry);
+        }
         if (entry.keyword == "group") {
             groups.push_back({entry.value, {}, {}, {}});
-        } else if (groups.empty()) {
-            misplaced(entry);
         } else if (entry.keyword == "title") {
             groups.back().title = entry.value;
         } else if (entry.keyword == "intro") {
@@ -76,10 +77,11 @@ std::vector<OperationGroup> groupsOf(const std::vector<DataEntry>& entries) {
 std::vector<Chapter> chaptersOf(const std::vector<DataEntry>& entries) {
     std::vector<Chapter> chapters;
     for (const DataEntry& entry : entries) {
+        if (chapters.empty() && entry.keyword != "chapter") {
+            misplaced(entry);
+        }
         if (entry.keyword == "chapter") {
             chapters.push_back({entry.value, {}, 1, {}, {}, {}});
-        } else if (chapters.empty()) {
-            misplaced(entry);
         } else if (entry.keyword == "title") {
             chapters.back().title = entry.value;
         } else if (entry.keyword == "level") {
