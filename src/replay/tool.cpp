@@ -51,6 +51,8 @@ public:
         checkLog();
         {
             const RegisteredServices registered(hostServices());
+            const std::shared_ptr<void> lent =
+                around_.lendServices ? around_.lendServices(hostServices()) : nullptr;
             Player player(playerSettings(), listeners(), trace_, exceptions_);
             for (const Inputs::Input& input : inputs_.all()) {
                 if (!playInput(player, input)) {

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <istream>
+#include <memory>
 #include <ostream>
 #include <span>
 #include <string>
 
+#include "replay/host_services.h"
 #include "replay/late_bound_document.h"
 
 namespace quillmark::replay {
@@ -18,6 +21,9 @@ struct Surroundings {
     /// Where the program lies (UTF-8); the support files are found from there.
     std::string executable;
     DocumentMaker makeDocument;
+    /// Lends the run's services to where the documents come from, for the life of what it returns.
+    /// Empty when they are documents of this process, which finds the services without it.
+    std::function<std::shared_ptr<void>(const HostServices&)> lendServices = {};
 };
 
 /// How a run ended: the exit status of the tool.

@@ -23,6 +23,7 @@ public:
     /// `program` is its path. `dir` is where it is started; it stays the caller's.
     ToolRunner(std::string program, const TempDir& dir) : program_(std::move(program)), dir_(dir) {
         setEnvironment("XDG_CONFIG_HOME", dir.nativeFile("config"));
+        setEnvironment("XDG_DATA_HOME", dir.nativeFile("data"));
         setEnvironment("SOURCE_DATE_EPOCH", "0");
     }
 

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string_view>
+
+#include "dochtml/callbacks.h"
+
+namespace quillmark::replay {
+
+[[nodiscard]] inline std::string_view viewOf(const DochtmlText* text) noexcept {
+    return {text->data, text->size};
+}
+
+inline void answer(const DochtmlSink* sink, std::string_view text) {
+    const DochtmlText lent{text.data(), text.size()};
+    sink->put(sink->context, &lent);
+}
+
+/// Runs a callback's work; an exception ends here and gives `failed`.
+template <typename Result, typename Body>
+Result guarded(Result failed, Body body) noexcept {
+    try {
+        return body();
+    } catch (...) {
+        return failed;
+    }
+}
+
+template <typename Body>
+void guarded(Body body) noexcept {
+    guarded(0, [&] {
+        body();
+        return 0;
+    });
+}
+
+}  // namespace quillmark::replay
