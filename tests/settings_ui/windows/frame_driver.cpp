@@ -1,7 +1,8 @@
 #include "settings_ui/windows/frame_driver.h"
 
+#include "settings_ui/windows/completed_frame.h"
+
 #include <atomic>
-#include <fstream>
 #include <future>
 #include <stdexcept>
 
@@ -15,12 +16,8 @@ namespace quillmark {
 
 namespace {
 
-constexpr CLSID pageClass{
-    0x474BDD93, 0x0170, 0x11D3, {0xA6, 0xBF, 0x00, 0x10, 0x4B, 0x2A, 0xEF, 0xE1}};
 constexpr const char* frameTitle = "Report settings";
-constexpr int applyButton = 0x3021;
 constexpr int messageText = 0xFFFF;
-constexpr int messageIcon = 0x14;
 constexpr int firstBox = 5601;
 
 struct WindowSearch {
@@ -30,10 +27,18 @@ struct WindowSearch {
 
 BOOL CALLBACK matchTitle(HWND window, LPARAM search) {
     auto& wanted = *reinterpret_cast<WindowSearch*>(search);
-    if (IsWindowVisible(window) != FALSE && windowText(window).starts_with(wanted.title)) {
+    if (IsWindowVisible(window) != FALSE &&
+        windowText(window).find(wanted.title) != std::string::npos) {
         wanted.found = window;
     }
     return wanted.found == nullptr ? TRUE : FALSE;
+}
+
+BOOL CALLBACK cancelDialog(HWND window, LPARAM /*unused*/) {
+    if (IsWindowVisible(window) != FALSE && IsWindowEnabled(window) != FALSE) {
+        PostMessageA(window, WM_COMMAND, IDCANCEL, 0);
+    }
+    return TRUE;
 }
 
 BOOL CALLBACK matchPage(HWND window, LPARAM found) {
@@ -64,6 +69,16 @@ LRESULT CALLBACK noticeMarks(int code, WPARAM wparam, LPARAM lparam) {
         lastMark = message->wParam;
     }
     return CallNextHookEx(nullptr, code, wparam, lparam);
+}
+
+HWND iconIn(HWND box) {
+    HWND child = nullptr;
+    while ((child = FindWindowExA(box, child, "Static", nullptr)) != nullptr) {
+        if ((GetWindowLongA(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON) {
+            return child;
+        }
+    }
+    return nullptr;
 }
 
 /// Something that the frame may be about; the page wants nothing of it.
@@ -100,24 +115,30 @@ std::string windowText(HWND window) {
     return text;
 }
 
-FrameDriver::FrameDriver() {
+FrameDriver::FrameDriver(const CLSID& pageClass) : pageClass_(pageClass) {
     std::promise<DWORD> started;
     thread_ = std::thread([this, &started] {
         started.set_value(GetCurrentThreadId());
         run();
     });
     threadId_ = started.get_future().get();
-    waitFor("the frame", [this] {
-        frame_ = findWindow(frameTitle);
-        page_ = frame_ == nullptr ? nullptr : pageIn(frame_);
-        return page_ != nullptr && IsWindowVisible(page_) != FALSE;
-    });
-    waitUntilIdle();
+    try {
+        waitFor("the frame", [this] {
+            frame_ = findWindow(frameTitle);
+            page_ = frame_ == nullptr ? nullptr : pageIn(frame_);
+            return page_ != nullptr && IsWindowVisible(page_) != FALSE;
+        });
+        waitUntilIdle();
+    } catch (...) {
+        // A frame that does not come cannot be closed: its thread ends with the program.
+        thread_.detach();
+        throw;
+    }
 }
 
 FrameDriver::~FrameDriver() {
     while (isOpen()) {
-        pressFrameButton(IDCANCEL);
+        EnumThreadWindows(threadId_, cancelDialog, 0);
         Sleep(20);
     }
     thread_.join();
@@ -127,9 +148,10 @@ void FrameDriver::run() {
     OleInitialize(nullptr);
     SetWindowsHookExA(WH_GETMESSAGE, noticeMarks, nullptr, GetCurrentThreadId());
     {
+        const CompletedPageClass completed;
         Nothing nothing;
         IUnknown* object = &nothing;
-        CLSID page = pageClass;
+        CLSID page = pageClass_;
         OleCreatePropertyFrame(nullptr, 0, 0, L"Report settings", 1, &object, 1, &page,
                                MAKELCID(MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US), SORT_DEFAULT),
                                0, nullptr);
@@ -217,7 +239,7 @@ MessageBoxSeen FrameDriver::pressApply() const {
         }
         seen.title = windowText(box);
         seen.text = windowText(GetDlgItem(box, messageText));
-        const LRESULT icon = SendMessageA(GetDlgItem(box, messageIcon), STM_GETICON, 0, 0);
+        const LRESULT icon = SendMessageA(iconIn(box), STM_GETICON, 0, 0);
         seen.hasExclamation =
             icon == reinterpret_cast<LRESULT>(LoadIconA(nullptr, IDI_EXCLAMATION));
         PostMessageA(box, WM_COMMAND, IDOK, 0);
@@ -249,40 +271,6 @@ void FrameDriver::withDialog(int button, const std::string& title,
     play(dialog);
     waitFor("the dialog to go", [dialog] { return IsWindow(dialog) == FALSE; });
     waitUntilIdle();
-}
-
-void saveScreenshot(HWND window, const std::string& file) {
-    RECT place{};
-    GetWindowRect(window, &place);
-    const int width = place.right - place.left;
-    const int height = place.bottom - place.top;
-    const HDC screen = GetDC(nullptr);
-    const HDC memory = CreateCompatibleDC(screen);
-    BITMAPINFOHEADER info{};
-    info.biSize = sizeof(info);
-    info.biWidth = width;
-    info.biHeight = height;
-    info.biPlanes = 1;
-    info.biBitCount = 32;
-    void* pixels = nullptr;
-    const HBITMAP bitmap = CreateDIBSection(memory, reinterpret_cast<const BITMAPINFO*>(&info),
-                                            DIB_RGB_COLORS, &pixels, nullptr, 0);
-    const HGDIOBJ previous = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, screen, place.left, place.top, SRCCOPY);
-    GdiFlush();
-    const DWORD size = static_cast<DWORD>(width) * static_cast<DWORD>(height) * 4;
-    BITMAPFILEHEADER head{};
-    head.bfType = 0x4D42;
-    head.bfOffBits = sizeof(head) + sizeof(info);
-    head.bfSize = head.bfOffBits + size;
-    std::ofstream out(file, std::ios::binary);
-    out.write(reinterpret_cast<const char*>(&head), sizeof(head));
-    out.write(reinterpret_cast<const char*>(&info), sizeof(info));
-    out.write(static_cast<const char*>(pixels), static_cast<std::streamsize>(size));
-    SelectObject(memory, previous);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
 }
 
 HWND FrameDriver::findWindow(const std::string& title) const {

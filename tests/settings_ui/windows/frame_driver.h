@@ -6,8 +6,12 @@
 #include <vector>
 
 #include "platform/windows/windows_api.h"
+#include "settings_ui/windows/completed_frame.h"
 
 namespace quillmark {
+
+/// The frame's Apply button.
+inline constexpr int applyButton = 0x3021;
 
 /// A message box as a person sees it.
 struct MessageBoxSeen {
@@ -20,8 +24,8 @@ struct MessageBoxSeen {
 /// everything reaches it by control identifiers and window messages.
 class FrameDriver {
 public:
-    /// Opens the frame and waits until its page is there and has the focus.
-    FrameDriver();
+    /// Opens the frame with a page of that class and waits until the page is there.
+    explicit FrameDriver(const CLSID& pageClass = completedPageClass);
     FrameDriver(const FrameDriver&) = delete;
     FrameDriver& operator=(const FrameDriver&) = delete;
     /// Cancels what is still open.
@@ -59,7 +63,7 @@ public:
     void withDialog(int button, const std::string& title,
                     const std::function<void(HWND)>& play) const;
 
-    /// A top-level window of the frame's thread with that title, or null.
+    /// A top-level window of the frame's thread whose title holds that text, or null.
     [[nodiscard]] HWND findWindow(const std::string& title) const;
 
 private:
@@ -67,6 +71,7 @@ private:
     void pressFrameButton(int id) const;
     void waitUntilIdle() const;
 
+    CLSID pageClass_;
     std::thread thread_;
     DWORD threadId_ = 0;
     HWND frame_ = nullptr;
@@ -75,9 +80,6 @@ private:
 
 /// Waits until the condition holds; throws when it never does.
 void waitFor(const char* what, const std::function<bool()>& condition);
-
-/// Saves what the screen shows where the window is as a bitmap file.
-void saveScreenshot(HWND window, const std::string& file);
 
 [[nodiscard]] std::string windowText(HWND window);
 

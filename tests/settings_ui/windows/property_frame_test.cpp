@@ -7,6 +7,7 @@
 #include "platform/register_dynamic.h"
 #include "platform/settings_store.h"
 #include "settings_ui/windows/frame_driver.h"
+#include "settings_ui/windows/screenshot.h"
 
 // This needs the types of windows_api.h above it.
 #include <commctrl.h>
@@ -15,13 +16,17 @@ namespace quillmark {
 
 namespace {
 
-constexpr const char* settingsKey = "Software\\Quillmark";
+/// The user's settings, all of them, as a key below HKEY_CURRENT_USER.
+std::string settingsKey() {
+    const std::string place = userSettingsPlace().str();
+    return place.substr(place.find('\\') + 1);
+}
 
 /// A person in front of the frame, with a registry in which everything is acceptable.
 class PropertyFrameTest : public testing::Test {
 protected:
     PropertyFrameTest() {
-        RegDeleteTreeA(HKEY_CURRENT_USER, settingsKey);
+        RegDeleteTreeA(HKEY_CURRENT_USER, settingsKey().c_str());
         put("StyleSheet", "");
     }
 
@@ -33,14 +38,14 @@ protected:
         return value ? value->str() : "(nothing)";
     }
     static void expectRefusal(const FrameDriver& driver, const std::string& message) {
-        const int before = driver.focused();
         const MessageBoxSeen seen = driver.pressApply();
         EXPECT_EQ(seen.title, "Invalid Value");
         EXPECT_EQ(seen.text, message);
         EXPECT_TRUE(seen.hasExclamation);
         EXPECT_TRUE(driver.isOpen());
         EXPECT_TRUE(driver.applyIsEnabled());
-        EXPECT_EQ(driver.focused(), before);
+        // The page moves the focus nowhere: the button that was pressed has it.
+        EXPECT_EQ(driver.focused(), applyButton);
     }
     static void expectAccepted(const FrameDriver& driver) {
         EXPECT_EQ(driver.pressApply().text, "");
@@ -80,6 +85,14 @@ TEST_F(PropertyFrameTest, TheTabCarriesTheTitleWithoutItsAccessMark) {
     item.cchTextMax = static_cast<int>(title.size());
     EXPECT_NE(SendMessageA(tabs, TCM_GETITEMA, 0, reinterpret_cast<LPARAM>(&item)), 0);
     EXPECT_STREQ(item.pszText, "&HTML");
+}
+
+TEST_F(PropertyFrameTest, AFrameMakesThePageFromItsRegisteredClass) {
+    put("HtmlPixDir", "images");
+    const FrameDriver driver(settingsPageClass);
+    EXPECT_EQ(driver.focused(), 5601);
+    EXPECT_EQ(driver.text(5601), "images");
+    EXPECT_TRUE(driver.isChecked(5208));
 }
 
 class FrameClick : public PropertyFrameTest, public testing::WithParamInterface<int> {};
@@ -264,8 +277,11 @@ TEST_F(PropertyFrameTest, AStyleSheetCanBePicked) {
     std::ofstream(sheet) << "x";
     const FrameDriver driver;
     driver.withDialog(5206, "Select Html Style Sheet", [&](HWND dialog) {
-        SetDlgItemTextA(dialog, 0x480, sheet.string().c_str());
-        PostMessageA(dialog, WM_COMMAND, IDOK, 0);
+        // The name box is an edit or, with the newer look, a combo box.
+        const HWND edit = GetDlgItem(dialog, 0x480);
+        const HWND box = edit != nullptr ? edit : GetDlgItem(dialog, 0x47C);
+        SendMessageA(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(sheet.string().c_str()));
+        PostMessageA(GetDlgItem(dialog, IDOK), BM_CLICK, 0, 0);
     });
     EXPECT_EQ(driver.text(5205), sheet.string());
     EXPECT_TRUE(driver.applyIsEnabled());
@@ -274,6 +290,8 @@ TEST_F(PropertyFrameTest, AStyleSheetCanBePicked) {
 TEST_F(PropertyFrameTest, IsSavedAsAPicture) {
     put("Navig", "3");
     const FrameDriver driver;
+    // A box would show a blinking caret.
+    driver.giveFocus(5213);
     saveScreenshot(driver.frame(), "settings-page.bmp");
     EXPECT_GT(std::filesystem::file_size("settings-page.bmp"), 100000U);
 }
