@@ -6,10 +6,15 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
 
+# configure PRESET [CMAKE_OPTION...]
+configure() {
+    cmake --preset "$@" >"build/$1.configure.log" 2>&1 || { cat "build/$1.configure.log"; exit 1; }
+}
+
 # build PRESET [CMAKE_OPTION...]
 build() {
     say "Building: $1"
-    cmake --preset "$@" >"build/$1.configure.log" 2>&1 || { cat "build/$1.configure.log"; exit 1; }
+    configure "$@"
     cmake --build --preset "$1"
 }
 
@@ -42,10 +47,13 @@ case ${1-} in
         need build quick full
         need_node_modules
         build debug -D DOCHTML_BROWSER_TESTS=ON
-        for preset in asan mingw64 mingw32 tidy release; do
-            build "$preset"
-        done
-        test_builds debug asan mingw64 mingw32 tidy release
+        build asan
+        build mingw64
+        # Debian's Wine for 64 bits runs no 32-bit program; what is checked is the binaries.
+        build mingw32 -D DOCHTML_TEST_PROGRAMS=OFF
+        build release
+        configure tidy
+        test_builds debug asan mingw64 mingw32 release tidy
         ;;
     *)
         echo "usage: scripts/test.sh [--quick]" >&2
