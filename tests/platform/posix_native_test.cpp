@@ -269,19 +269,49 @@ void hostHandler(int /*signal*/) {
     ++hostSignals;
 }
 
-TEST(SignalGuardOnPosix, GivesTheHostItsHandlersBack) {
+TEST(SignalGuardOnPosix, PassesSignalsOutsideOnToTheHost) {
     struct sigaction own {};
     struct sigaction before {};
     own.sa_handler = hostHandler;
-    ASSERT_EQ(sigaction(SIGFPE, &own, &before), 0);
+    ASSERT_EQ(sigaction(SIGSEGV, &own, &before), 0);
+    EXPECT_THROW(CSignal2Exception::run([] { raise(SIGSEGV); }), OrxException);
+    hostSignals = 0;
+    raise(SIGSEGV);
+    EXPECT_EQ(hostSignals, 1);
+    raise(SIGSEGV);
+    EXPECT_EQ(hostSignals, 2);
+    sigaction(SIGSEGV, &before, nullptr);
+}
+
+TEST(SignalGuardOnPosix, HoldsAfterTheHostBroughtAHandlerOfItsOwn) {
     CSignal2Exception::run([] {});
+    struct sigaction own {};
+    struct sigaction before {};
+    own.sa_handler = hostHandler;
+    ASSERT_EQ(sigaction(SIGSEGV, &own, &before), 0);
+    EXPECT_THROW(CSignal2Exception::run([] { raise(SIGSEGV); }), OrxException);
     EXPECT_THROW(CSignal2Exception::run([] { raise(SIGFPE); }), OrxException);
     hostSignals = 0;
-    raise(SIGFPE);
+    raise(SIGSEGV);
     EXPECT_EQ(hostSignals, 1);
-    struct sigaction now {};
-    sigaction(SIGFPE, &before, &now);
-    EXPECT_EQ(now.sa_handler, hostHandler);
+    sigaction(SIGSEGV, &before, nullptr);
+}
+
+TEST(SignalGuardOnPosix, CallsAHandlerForOneSignalOnce) {
+    const pid_t child = fork();
+    if (child == 0) {
+        struct sigaction own {};
+        own.sa_handler = hostHandler;
+        own.sa_flags = static_cast<int>(SA_RESETHAND);
+        sigaction(SIGSEGV, &own, nullptr);
+        CSignal2Exception::run([] {});
+        raise(SIGSEGV);
+        raise(SIGSEGV);
+        _exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status));
 }
 
 TEST(SignalGuardOnPosix, LetsTheSystemEndTheProcessOutside) {
@@ -315,11 +345,11 @@ TEST(SignalGuardOnPosix, LeavesOtherThreadsToTheHost) {
     struct sigaction own {};
     struct sigaction before {};
     own.sa_handler = hostHandler;
-    ASSERT_EQ(sigaction(SIGFPE, &own, &before), 0);
+    ASSERT_EQ(sigaction(SIGSEGV, &own, &before), 0);
     hostSignals = 0;
-    CSignal2Exception::run([] { std::thread([] { raise(SIGFPE); }).join(); });
+    CSignal2Exception::run([] { std::thread([] { raise(SIGSEGV); }).join(); });
     EXPECT_EQ(hostSignals, 1);
-    sigaction(SIGFPE, &before, nullptr);
+    sigaction(SIGSEGV, &before, nullptr);
 }
 
 }  // namespace

@@ -1,10 +1,14 @@
 #include "platform/signal_to_exception.h"
 
 #include <array>
+#include <atomic>
 #include <csetjmp>
 #include <csignal>
 #include <cstddef>
+#include <memory>
 #include <mutex>
+#include <utility>
+#include <vector>
 
 #include "foundation/orx_exception.h"
 
@@ -30,41 +34,61 @@ struct Landing {
     Landing* outer;
 };
 
-thread_local Landing* innermost = nullptr;
+/// The handler reads this; with this model it is there in every thread from its start, so that
+/// reading it never allocates.
+[[gnu::tls_model("initial-exec")]] thread_local Landing* innermost = nullptr;
 
-/// What the host had in place, kept while any guard of the process is open.
-struct Installation {
-    std::mutex mutex;
-    int guards = 0;
-    std::array<struct sigaction, guardedSignals.size()> before{};
+/// What the host had in place. Written before it is published, never changed afterwards but for
+/// the marks of handlers that are good for one signal only.
+struct HostActions {
+    std::array<struct sigaction, guardedSignals.size()> actions{};
+    std::array<std::atomic<bool>, guardedSignals.size()> spent{};
 };
 
-Installation& installation() noexcept {
-    static Installation instance;
-    return instance;
+std::atomic<HostActions*> hostActions{nullptr};
+
+void takeSystemsAnswer(int signal, const siginfo_t& info) noexcept {
+    struct sigaction systems {};
+    systems.sa_handler = SIG_DFL;
+    sigaction(signal, &systems, nullptr);
+    // What the processor raised strikes again on return, at the very place; what a program sent
+    // has to be sent again.
+    if (info.si_code <= 0) {
+        raise(signal);
+    }
 }
 
-const struct sigaction& actionBefore(int signal) noexcept {
-    std::size_t i = 0;
-    while (i + 1 < guardedSignals.size() && guardedSignals[i].number != signal) {
-        ++i;
+void callHostHandler(const struct sigaction& action, int signal, siginfo_t* info,
+                     void* context) noexcept {
+    sigset_t blocked = action.sa_mask;
+    if ((action.sa_flags & SA_NODEFER) == 0) {
+        sigaddset(&blocked, signal);
     }
-    return installation().before[i];
+    sigset_t before;
+    pthread_sigmask(SIG_BLOCK, &blocked, &before);
+    if ((action.sa_flags & SA_SIGINFO) != 0) {
+        action.sa_sigaction(signal, info, context);
+    } else {
+        action.sa_handler(signal);
+    }
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
 
 /// A signal in a thread without a guard: what the host had in place answers it.
 void passOn(int signal, siginfo_t* info, void* context) noexcept {
-    const struct sigaction& before = actionBefore(signal);
-    if ((before.sa_flags & SA_SIGINFO) != 0) {
-        before.sa_sigaction(signal, info, context);
-    } else if (before.sa_handler != SIG_DFL && before.sa_handler != SIG_IGN) {
-        before.sa_handler(signal);
-    } else if (before.sa_handler == SIG_DFL || info->si_code > 0) {
-        // The system's own answer ends the process; it gets the signal again on return.
-        struct sigaction systems {};
-        systems.sa_handler = SIG_DFL;
-        sigaction(signal, &systems, nullptr);
-        raise(signal);
+    HostActions& host = *hostActions.load(std::memory_order_acquire);
+    std::size_t i = 0;
+    while (i + 1 < guardedSignals.size() && guardedSignals[i].number != signal) {
+        ++i;
+    }
+    const struct sigaction& action = host.actions[i];
+    const bool isHandler = (action.sa_flags & SA_SIGINFO) != 0 ||
+                           (action.sa_handler != SIG_DFL && action.sa_handler != SIG_IGN);
+    if (isHandler && !host.spent[i].load()) {
+        host.spent[i].store((action.sa_flags & SA_RESETHAND) != 0);
+        callHostHandler(action, signal, info, context);
+    } else if (isHandler || action.sa_handler == SIG_DFL || info->si_code > 0) {
+        takeSystemsAnswer(signal, *info);
     }
 }
 
@@ -76,47 +100,84 @@ void onSignal(int signal, siginfo_t* info, void* context) {
     siglongjmp(innermost->place, signal);
 }
 
-void install() noexcept {
-    Installation& handlers = installation();
-    const std::lock_guard lock(handlers.mutex);
-    if (handlers.guards++ > 0) {
-        return;
-    }
-    struct sigaction action {};
-    action.sa_sigaction = onSignal;
-    // Not deferred: the handler is left by a jump, and the signal must strike again later.
-    action.sa_flags = SA_SIGINFO | SA_NODEFER | SA_ONSTACK;
-    for (std::size_t i = 0; i < guardedSignals.size(); ++i) {
-        sigaction(guardedSignals[i].number, &action, &handlers.before[i]);
-    }
+bool isOurs(const struct sigaction& action) noexcept {
+    return (action.sa_flags & SA_SIGINFO) != 0 && action.sa_sigaction == onSignal;
 }
 
-void uninstall() noexcept {
-    Installation& handlers = installation();
-    const std::lock_guard lock(handlers.mutex);
-    if (--handlers.guards > 0) {
-        return;
+struct sigaction currentAction(int signal) noexcept {
+    struct sigaction action {};
+    sigaction(signal, nullptr, &action);
+    return action;
+}
+
+/// The handlers stay in place from the first guard on: putting them there and taking them away
+/// again would cost eight system calls a page. Outside a guard they pass every signal on.
+class Installation {
+public:
+    Installation() = default;
+    Installation(const Installation&) = delete;
+    Installation& operator=(const Installation&) = delete;
+    /// A library that is unloaded must leave no handler behind.
+    ~Installation() {
+        const HostActions* const host = hostActions.load(std::memory_order_acquire);
+        for (std::size_t i = 0; host != nullptr && i < guardedSignals.size(); ++i) {
+            if (isOurs(currentAction(guardedSignals[i].number))) {
+                sigaction(guardedSignals[i].number, &host->actions[i], nullptr);
+            }
+        }
     }
-    for (std::size_t i = 0; i < guardedSignals.size(); ++i) {
-        sigaction(guardedSignals[i].number, &handlers.before[i], nullptr);
+
+    /// Makes sure that they are in place. A host that brings its own later does so for wild
+    /// addresses above all, so this is the signal looked at.
+    void check() {
+        if (!isOurs(currentAction(SIGSEGV))) {
+            install();
+        }
     }
+
+private:
+    void install() {
+        const std::lock_guard lock(mutex_);
+        auto next = std::make_unique<HostActions>();
+        const HostActions* const last = hostActions.load(std::memory_order_acquire);
+        for (std::size_t i = 0; i < guardedSignals.size(); ++i) {
+            const struct sigaction current = currentAction(guardedSignals[i].number);
+            const bool known = last != nullptr && isOurs(current);
+            next->actions[i] = known ? last->actions[i] : current;
+            next->spent[i] = known && last->spent[i];
+        }
+        // Published first, so that no handler ever finds nothing to pass a signal on to.
+        hostActions.store(next.get(), std::memory_order_release);
+        published_.push_back(std::move(next));
+        struct sigaction ours {};
+        ours.sa_sigaction = onSignal;
+        // Not deferred: the handler is left by a jump, and the signal must strike again later.
+        ours.sa_flags = SA_SIGINFO | SA_NODEFER | SA_ONSTACK;
+        for (const GuardedSignal& guarded : guardedSignals) {
+            sigaction(guarded.number, &ours, nullptr);
+        }
+    }
+
+    std::mutex mutex_;
+    /// A handler in another thread may still read an older one.
+    std::vector<std::unique_ptr<HostActions>> published_;
+};
+
+Installation& installation() {
+    static Installation instance;
+    return instance;
 }
 
 /// A guard of the thread. Nested ones find the handlers in place.
 class Guard {
 public:
-    explicit Guard(Landing& landing) noexcept : landing_(landing) {
+    explicit Guard(Landing& landing) : landing_(landing) {
         landing_.outer = innermost;
         if (landing_.outer == nullptr) {
-            install();
+            installation().check();
         }
     }
-    ~Guard() {
-        innermost = landing_.outer;
-        if (landing_.outer == nullptr) {
-            uninstall();
-        }
-    }
+    ~Guard() { innermost = landing_.outer; }
     Guard(const Guard&) = delete;
     Guard& operator=(const Guard&) = delete;
 
