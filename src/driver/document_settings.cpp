@@ -53,6 +53,8 @@ void DocumentSettings::readTexts(const RegisterCache& settings) {
     passThrough = readHtml(settings, "PassThrough").asBool();
     locateInBrowser = readHtml(settings, "LocateInBrowser").asBool();
     testLevel = readDirectly("TestLevel").asInt();
+    // Asked for and not kept: the host draws the diagrams, but a store may count on being asked.
+    static_cast<void>(readHtml(settings, "DiagramType"));
 }
 
 bool DocumentSettings::readIniFile() {
