@@ -216,6 +216,23 @@ TEST_F(Lifecycle, CountsAnchorsAnewAtASecondCreate) {
     EXPECT_NE((doc().close(), out("other.htm")).find("<a name=\"toc1\"></a>"), std::string::npos);
 }
 
+TEST_F(Lifecycle, KeepsTwoDocumentsApart) {
+    DocHtml other;
+    open();
+    other.create(u"C:\\out\\other.htm");
+    doc().setStyle(u"Heading 1");
+    doc().insertText(u"a");
+    other.insertText(u"b");
+    doc().insertTag(u"target");
+    other.insertXref(u"x", u"target");
+    doc().startHeader();
+    other.insertText(u"c");
+    other.close();
+    EXPECT_EQ(bodyOf("other.htm"), "bxc");
+    doc().endHeader();
+    EXPECT_EQ(body(), "<H1><a name=\"toc1\"></a>a<a name=\"target\"></a></H1>\n");
+}
+
 TEST_F(Lifecycle, KnowsOnlyTheTitleOfAllOptions) {
     open();
     doc().setOption(u"title", u"A < B");
