@@ -26,6 +26,6 @@ namespace quillmark {
 [[nodiscard]] const KeyTree* findKey(const KeyTree& root, std::string_view path);
 [[nodiscard]] KeyTree* findKey(KeyTree& root, std::string_view path);
 /// The same; keys that are missing are made.
-[[nodiscard]] KeyTree& makeKey(KeyTree& root, std::string_view path);
+KeyTree& makeKey(KeyTree& root, std::string_view path);
 
 }  // namespace quillmark

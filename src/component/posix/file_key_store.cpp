@@ -15,7 +15,7 @@ public:
         return key == nullptr ? std::nullopt : std::optional(*key);
     }
     [[nodiscard]] HRESULT createKey(const std::string& path) override {
-        static_cast<void>(makeKey(root_, path));
+        makeKey(root_, path);
         return S_OK;
     }
     [[nodiscard]] HRESULT setValue(const std::string& path, const std::string& name,

@@ -1,0 +1,164 @@
+#include "component/posix/class_file.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+#include "component/client/posix/class_lookup.h"
+#include "component/server_registration.h"
+#include "dochtml/client.h"
+#include "support/environment_variable.h"
+#include "support/temp_dir.h"
+
+namespace quillmark::testing {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::StartsWith;
+
+class ClassFile : public ::testing::Test {
+protected:
+    fs::path file() const { return dir_.nativeFile("quillmark\\classes.ini"); }
+    std::string content() const { return dir_.content("quillmark\\classes.ini").value_or(""); }
+    KeyTree tree() const { return readClassFile(file()); }
+
+    TempDir dir_;
+    EnvironmentVariable data_{"XDG_DATA_HOME", dir_.native()};
+};
+
+TEST_F(ClassFile, liesInTheUsersDataDirectory) {
+    EXPECT_EQ(classFilePath(), file());
+    const EnvironmentVariable home("HOME", "/home/somebody");
+    const EnvironmentVariable none("XDG_DATA_HOME", std::nullopt);
+    EXPECT_EQ(classFilePath(), "/home/somebody/.local/share/quillmark/classes.ini");
+    const EnvironmentVariable relative("XDG_DATA_HOME", "data");
+    EXPECT_EQ(classFilePath(), "/home/somebody/.local/share/quillmark/classes.ini");
+}
+
+TEST_F(ClassFile, isAnEmptyTreeWhenItIsNotThere) {
+    EXPECT_EQ(tree(), KeyTree());
+}
+
+TEST_F(ClassFile, keepsEveryKeyAndValue) {
+    KeyTree root;
+    makeKey(root, "A\\B\\C").values[""] = {KeyValue::textType, "path=\\with\nall; sorts"};
+    makeKey(root, "A").values["Name"] = {KeyValue::textType, ""};
+    makeKey(root, "Empty");
+    ASSERT_TRUE(writeClassFile(file(), root));
+    EXPECT_EQ(tree(), root);
+    EXPECT_THAT(content(), ::testing::EndsWith("[A]\nName=\n[A\\B]\n[A\\B\\C]\n"
+                                               "@=path=\\\\with\\nall; sorts\n[Empty]\n"));
+}
+
+TEST_F(ClassFile, passesOverWhatIsNothing) {
+    fs::create_directories(file().parent_path());
+    std::ofstream(file()) << "stray=1\n\n; a remark=\n[Key]\nno value\n;x=1\n@=y\n[]\n";
+    KeyTree expected;
+    makeKey(expected, "Key").values[""] = {KeyValue::textType, "y"};
+    EXPECT_EQ(tree(), expected);
+}
+
+TEST_F(ClassFile, cannotBeWrittenWhereAFileStandsForItsDirectory) {
+    dir_.put("quillmark", "in the way");
+    EXPECT_FALSE(writeClassFile(file(), KeyTree()));
+    EXPECT_EQ(registerServer(), REGDB_E_WRITEREGDB);
+}
+
+TEST_F(ClassFile, holdsTheRegisteredClasses) {
+    ASSERT_EQ(registerServer(), S_OK);
+    const std::string once = content();
+    ASSERT_EQ(registerServer(), S_OK);
+    EXPECT_EQ(content(), once);
+    const std::string library = fs::read_symlink("/proc/self/exe").string();
+    EXPECT_EQ(once,
+              "; The components that this user's programs find by name. Written by registration.\n"
+              "[CLSID]\n"
+              "[CLSID\\{474BDD91-0170-11d3-A6BF-00104B2AEFE1}]\n"
+              "@=DocHtml Class\n"
+              "[CLSID\\{474BDD91-0170-11d3-A6BF-00104B2AEFE1}\\InprocServer32]\n"
+              "@=" +
+                  library +
+                  "\n"
+                  "ThreadingModel=Apartment\n"
+                  "[CLSID\\{474BDD91-0170-11d3-A6BF-00104B2AEFE1}\\ProgID]\n"
+                  "@=DocHtml.DocHtml.2.1.0\n"
+                  "[CLSID\\{474BDD91-0170-11d3-A6BF-00104B2AEFE1}\\Programmable]\n"
+                  "[CLSID\\{474BDD91-0170-11d3-A6BF-00104B2AEFE1}\\VersionIndependentProgID]\n"
+                  "@=DocHtml.DocHtml\n"
+                  "[CLSID\\{474BDD93-0170-11d3-A6BF-00104B2AEFE1}]\n"
+                  "@=HtmlComPage Class\n"
+                  "[CLSID\\{474BDD93-0170-11d3-A6BF-00104B2AEFE1}\\InprocServer32]\n"
+                  "@=" +
+                  library +
+                  "\n"
+                  "ThreadingModel=Apartment\n"
+                  "[CLSID\\{474BDD93-0170-11d3-A6BF-00104B2AEFE1}\\Programmable]\n"
+                  "[DocHtml.DocHtml]\n"
+                  "@=DocHtml Class\n"
+                  "[DocHtml.DocHtml\\CurVer]\n"
+                  "@=DocHtml.DocHtml.2.1.0\n"
+                  "[DocHtml.DocHtml.2.1.0]\n"
+                  "@=DocHtml Class\n"
+                  "[DocHtml.DocHtml.2.1.0\\CLSID]\n"
+                  "@={474BDD91-0170-11d3-A6BF-00104B2AEFE1}\n"
+                  "[HtmlComPage.HtmlComPage]\n"
+                  "@=HtmlComPage Class\n"
+                  "[HtmlComPage.HtmlComPage\\CurVer]\n"
+                  "@=HtmlComPage.HtmlComPage.2.1.0\n"
+                  "[HtmlComPage.HtmlComPage.2.1.0]\n"
+                  "@=HtmlComPage Class\n"
+                  "[HtmlComPage.HtmlComPage.2.1.0\\CLSID]\n"
+                  "@={474BDD93-0170-11d3-A6BF-00104B2AEFE1}\n");
+}
+
+TEST_F(ClassFile, keepsTheSharedKeyAndOthersClassesWhenUnregistered) {
+    KeyTree others;
+    makeKey(others, "CLSID\\{1}").values[""] = {KeyValue::textType, "Another"};
+    ASSERT_TRUE(writeClassFile(file(), others));
+    ASSERT_EQ(registerServer(), S_OK);
+    ASSERT_EQ(unregisterServer(), S_OK);
+    EXPECT_EQ(tree(), others);
+}
+
+TEST_F(ClassFile, leadsFromEveryNameToTheClass) {
+    ASSERT_EQ(registerServer(), S_OK);
+    for (const char* name :
+         {"DocHtml.DocHtml.2.1.0", "DocHtml.DocHtml", "{474BDD91-0170-11D3-A6BF-00104B2AEFE1}",
+          "{474bdd91-0170-11d3-a6bf-00104b2aefe1}"}) {
+        EXPECT_EQ(findRegisteredClass(name).classId, CLSID_DocHtml) << name;
+        EXPECT_THAT(findRegisteredClass(name).library, StartsWith("/")) << name;
+    }
+}
+
+HRESULT failureOf(const std::string& name) {
+    try {
+        static_cast<void>(findRegisteredClass(name));
+        return S_OK;
+    } catch (const ComponentError& failure) {
+        EXPECT_TRUE(failure.isNotRegistered());
+        return failure.result();
+    }
+}
+
+TEST_F(ClassFile, saysWhenANameLeadsNowhere) {
+    EXPECT_EQ(failureOf("DocHtml.DocHtml"), CO_E_CLASSSTRING);
+    EXPECT_EQ(failureOf("{474BDD91-0170-11D3-A6BF-00104B2AEFE1}"), REGDB_E_CLASSNOTREG);
+    EXPECT_EQ(failureOf("{474BDD91}"), CO_E_CLASSSTRING);
+    EXPECT_EQ(failureOf(""), CO_E_CLASSSTRING);
+    ASSERT_EQ(registerServer(), S_OK);
+    EXPECT_EQ(failureOf("DocHtml.DocHtml.1.0"), CO_E_CLASSSTRING);
+    EXPECT_EQ(failureOf("{474BDD92-0170-11D3-A6BF-00104B2AEFE1}"), REGDB_E_CLASSNOTREG);
+}
+
+TEST(Guid, readsOnlyItsOneForm) {
+    EXPECT_EQ(parseGuid("{474BDD91-0170-11d3-A6BF-00104B2AEFE1}"), CLSID_DocHtml);
+    for (const char* text :
+         {"", "474BDD91-0170-11d3-A6BF-00104B2AEFE1", "{474BDD91-0170-11d3-A6BF-00104B2AEFE1",
+          "{474BDD91-0170-11d3-A6BF-00104B2AEFE1} ", "{474BDD91-0170-11d3-A6BF-00104B2AEFEg}",
+          "{474BDD91-0170-11d3-A6BF000-104B2AEFE1}"}) {
+        EXPECT_EQ(parseGuid(text), std::nullopt) << text;
+    }
+}
+
+}  // namespace
+}  // namespace quillmark::testing
