@@ -1,7 +1,5 @@
 #include "platform/sys_text.h"
 
-#include <cstdint>
-
 #include "foundation/code_page.h"
 #include "platform/windows/windows_api.h"
 
@@ -11,17 +9,6 @@ namespace {
 
 /// Texts go to the system in pieces that a 32-bit length can hold and that no pair is cut by.
 constexpr std::size_t largestPiece = std::size_t{1} << 20U;
-
-/// Converts in one loop that the compiler can vectorise; false when a unit was no ASCII.
-bool narrowAscii(char* target, std::u16string_view text) noexcept {
-    std::uint16_t seen = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto unit = static_cast<std::uint16_t>(text[i]);
-        seen = static_cast<std::uint16_t>(seen | unit);
-        target[i] = static_cast<char>(static_cast<unsigned char>(unit));
-    }
-    return seen < 0x80;
-}
 
 bool isHighSurrogate(char16_t unit) noexcept {
     return unit >= 0xD800 && unit <= 0xDBFF;
@@ -55,7 +42,7 @@ void appendThroughSystem(std::string& out, std::u16string_view piece) {
 void SysText::appendNarrow(std::string& out, std::u16string_view text) {
     const std::size_t start = out.size();
     out.resize(start + text.size());
-    if (narrowAscii(out.data() + start, text)) {
+    if (code_page::copyAscii(out.data() + start, text)) {
         return;
     }
     out.resize(start);
