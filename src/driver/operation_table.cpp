@@ -14,8 +14,11 @@ namespace {
 /// constant of its own.
 template <std::size_t size>
 struct ParameterName {
-    consteval ParameterName(const char (&literal)[size]) { std::copy_n(literal, size, text); }
-    char text[size];
+    // Only an array keeps its size on the way from the literal to the template.
+    consteval ParameterName(const char (&literal)[size]) {  // NOLINT(modernize-avoid-c-arrays)
+        std::copy_n(literal, size, text.begin());
+    }
+    std::array<char, size> text{};
 };
 
 template <typename T>
@@ -58,7 +61,7 @@ struct Signature<DocResult (IDocument::*)(Types...)> {
 
     template <ParameterName... names>
     static constexpr std::array<Parameter, count> parameters{
-        Parameter{names.text, kindOf<Types>()}...};
+        Parameter{names.text.data(), kindOf<Types>()}...};
 
     template <auto method>
     static DocResult call(IDocument& document,

@@ -14,6 +14,8 @@ class CallStreamReader final : public CallSource {
 public:
     /// `input` stays the caller's.
     explicit CallStreamReader(InputBuffer& input);
+    CallStreamReader(const CallStreamReader&) = delete;
+    CallStreamReader& operator=(const CallStreamReader&) = delete;
     ~CallStreamReader() override;
 
     [[nodiscard]] ReadResult next(Call& call) override;
