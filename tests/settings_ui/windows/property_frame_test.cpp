@@ -8,6 +8,7 @@
 #include "platform/settings_store.h"
 #include "settings_ui/windows/frame_driver.h"
 #include "settings_ui/windows/screenshot.h"
+#include "settings_ui/windows/user_settings.h"
 
 // This needs the types of windows_api.h above it.
 #include <commctrl.h>
@@ -16,17 +17,11 @@ namespace quillmark {
 
 namespace {
 
-/// The user's settings, all of them, as a key below HKEY_CURRENT_USER.
-std::string settingsKey() {
-    const std::string place = userSettingsPlace().str();
-    return place.substr(place.find('\\') + 1);
-}
-
 /// A person in front of the frame, with a registry in which everything is acceptable.
 class PropertyFrameTest : public testing::Test {
 protected:
     PropertyFrameTest() {
-        RegDeleteTreeA(HKEY_CURRENT_USER, settingsKey().c_str());
+        removeUserSettings();
         put("StyleSheet", "");
     }
 

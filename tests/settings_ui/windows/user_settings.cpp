@@ -1,0 +1,16 @@
+#include "settings_ui/windows/user_settings.h"
+
+#include <string>
+
+#include "platform/settings_store.h"
+#include "platform/windows/windows_api.h"
+
+namespace quillmark {
+
+void removeUserSettings() {
+    // The place is told with the name of the root key in front.
+    const std::string place = userSettingsPlace().str();
+    RegDeleteTreeA(HKEY_CURRENT_USER, place.substr(place.find('\\') + 1).c_str());
+}
+
+}  // namespace quillmark
