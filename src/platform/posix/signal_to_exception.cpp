@@ -47,6 +47,11 @@ struct HostActions {
 
 std::atomic<HostActions*> hostActions{nullptr};
 
+/// The flags are an integer with a sign in the structure, and one of them is its highest bit.
+bool hasFlag(const struct sigaction& action, unsigned flag) noexcept {
+    return (static_cast<unsigned>(action.sa_flags) & flag) != 0;
+}
+
 void takeSystemsAnswer(int signal, const siginfo_t& info) noexcept {
     struct sigaction systems {};
     systems.sa_handler = SIG_DFL;
@@ -61,12 +66,12 @@ void takeSystemsAnswer(int signal, const siginfo_t& info) noexcept {
 void callHostHandler(const struct sigaction& action, int signal, siginfo_t* info,
                      void* context) noexcept {
     sigset_t blocked = action.sa_mask;
-    if ((action.sa_flags & SA_NODEFER) == 0) {
+    if (!hasFlag(action, SA_NODEFER)) {
         sigaddset(&blocked, signal);
     }
     sigset_t before;
     pthread_sigmask(SIG_BLOCK, &blocked, &before);
-    if ((action.sa_flags & SA_SIGINFO) != 0) {
+    if (hasFlag(action, SA_SIGINFO)) {
         action.sa_sigaction(signal, info, context);
     } else {
         action.sa_handler(signal);
@@ -82,10 +87,10 @@ void passOn(int signal, siginfo_t* info, void* context) noexcept {
         ++i;
     }
     const struct sigaction& action = host.actions[i];
-    const bool isHandler = (action.sa_flags & SA_SIGINFO) != 0 ||
+    const bool isHandler = hasFlag(action, SA_SIGINFO) ||
                            (action.sa_handler != SIG_DFL && action.sa_handler != SIG_IGN);
     if (isHandler && !host.spent[i].load()) {
-        host.spent[i].store((action.sa_flags & SA_RESETHAND) != 0);
+        host.spent[i].store(hasFlag(action, SA_RESETHAND));
         callHostHandler(action, signal, info, context);
     } else if (isHandler || action.sa_handler == SIG_DFL || info->si_code > 0) {
         takeSystemsAnswer(signal, *info);
@@ -101,7 +106,7 @@ void onSignal(int signal, siginfo_t* info, void* context) {
 }
 
 bool isOurs(const struct sigaction& action) noexcept {
-    return (action.sa_flags & SA_SIGINFO) != 0 && action.sa_sigaction == onSignal;
+    return hasFlag(action, SA_SIGINFO) && action.sa_sigaction == onSignal;
 }
 
 struct sigaction currentAction(int signal) noexcept {

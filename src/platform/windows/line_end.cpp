@@ -2,6 +2,8 @@
 
 namespace quillmark {
 
-std::string_view systemLineEnd() noexcept { return "\r\n"; }
+std::string_view systemLineEnd() noexcept {
+    return "\r\n";
+}
 
 }  // namespace quillmark
