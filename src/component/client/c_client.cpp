@@ -1,6 +1,7 @@
 #include <map>
 #include <mutex>
 #include <new>
+#include <optional>
 
 #include "dochtml/client.h"
 #include "dochtml/dochtml_c.h"
@@ -46,6 +47,12 @@ HRESULT guarded(const char* name, void* out, Body&& body) noexcept {
     }
 }
 
+/// The thread's apartment between `dochtml_initialize` and `dochtml_uninitialize`.
+std::optional<Apartment>& threadsApartment() {
+    thread_local std::optional<Apartment> apartment;
+    return apartment;
+}
+
 Component openLibrary(const std::string& file) {
     return Component::fromLibrary(file);
 }
@@ -74,6 +81,27 @@ HRESULT findServices(const char* name, DochtmlHostServices** services, Open open
 
 }  // namespace
 }  // namespace quillmark
+
+HRESULT dochtml_initialize() {
+    try {
+        quillmark::threadsApartment().emplace();
+        return S_OK;
+    } catch (const quillmark::ComponentError& error) {
+        return error.result();
+    }
+}
+
+void dochtml_uninitialize() {
+    quillmark::threadsApartment().reset();
+}
+
+BSTR dochtml_text_from_utf8(const char* utf8) {
+    try {
+        return quillmark::textFromUtf8(utf8 == nullptr ? "" : utf8).release();
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
 
 HRESULT dochtml_create_document(const char* identifier, DochtmlDocument** document) {
     return quillmark::createDocument(identifier, document, &quillmark::Component::byName);

@@ -4,10 +4,12 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 #include "dochtml/com_pointer.h"
 #include "dochtml/document.h"
 #include "dochtml/host_services.h"
+#include "dochtml/text.h"
 
 namespace quillmark {
 
@@ -66,6 +68,9 @@ private:
     std::shared_ptr<Library> library_;
     ComPointer<IClassFactory> factory_;
 };
+
+/// A text from UTF-8, as the arguments of a program are. What is no UTF-8 becomes U+FFFD.
+[[nodiscard]] Text textFromUtf8(std::string_view utf8);
 
 /// The name of the component's library file on this system: "dochtmlcom.dll" or
 /// "libdochtmlcom.so".

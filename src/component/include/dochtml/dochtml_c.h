@@ -6,12 +6,14 @@
  *
  *     DochtmlDocument* document = NULL;
  *     BSTR name = SysAllocString(OLESTR("C:\\out\\rep.htm"));
+ *     dochtml_initialize();
  *     if (SUCCEEDED(dochtml_create_document("DocHtml.DocHtml", &document))) {
  *         document->table->create(document, name);
  *         document->table->close(document);
  *         document->table->Release(document);
  *     }
  *     SysFreeString(name);
+ *     dochtml_uninitialize();
  *
  * The tables are those that C++ hosts see as interfaces (dochtml/document.h says what holds for
  * every operation, dochtml/host_services.h what a host can lend).
@@ -127,8 +129,12 @@ struct DochtmlHostServices {
 /* The functions of the static library dochtml_client. The component's library, once loaded by
  * one of them, stays loaded until the process ends. */
 
-/* A fresh document by program identifier ("DocHtml.DocHtml") or class identifier in braces. The
- * thread has an apartment on Windows (`CoInitialize`). */
+/* Makes the thread ready to use components, and ends that. */
+HRESULT dochtml_initialize(void);
+void dochtml_uninitialize(void);
+/* A text from UTF-8, for the caller to free with `SysFreeString`; null when out of memory. */
+BSTR dochtml_text_from_utf8(const char* utf8);
+/* A fresh document by program identifier ("DocHtml.DocHtml") or class identifier in braces. */
 HRESULT dochtml_create_document(const char* identifier, DochtmlDocument** document);
 /* The same from a library file (UTF-8 name) that need not be registered. */
 HRESULT dochtml_create_document_from(const char* library, DochtmlDocument** document);

@@ -1,0 +1,178 @@
+"""The example hosts, the registration command and the replay tool against one component.
+
+    hosts_test.py BUILD-DIRECTORY LIBRARY [--approve]
+
+With --approve the C++ host's document set becomes the expected one; look at the difference."""
+
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+import document_set
+
+BUILD = pathlib.Path()
+LIBRARY = pathlib.Path()
+DRIVER_CLASS = "{474BDD91-0170-11d3-A6BF-00104B2AEFE1}"
+
+
+class HostsTest(unittest.TestCase):
+    def setUp(self):
+        self.maxDiff = None
+        directory = tempfile.TemporaryDirectory()
+        self.addCleanup(directory.cleanup)
+        self.work = pathlib.Path(directory.name)
+        self.environment = dict(
+            os.environ,
+            XDG_DATA_HOME=str(self.work / "data"),
+            XDG_CONFIG_HOME=str(self.work / "config"),
+            SOURCE_DATE_EPOCH="0",
+        )
+        self.classes = self.work / "data" / "quillmark" / "classes.ini"
+
+    def run_program(self, program, *arguments, cwd=None):
+        return subprocess.run(
+            [BUILD / program, *arguments],
+            env=self.environment,
+            cwd=cwd or self.work,
+            capture_output=True,
+            text=True,
+            timeout=60,
+        )
+
+    def register(self, *arguments):
+        return self.run_program("bin/dochtml-register", *arguments)
+
+    def report(self, host, *component):
+        """Runs a host; answers with how it ended and the document set that it made."""
+        out = self.work / ("out-" + host)
+        ended = self.run_program(
+            "examples/hosts/" + host, out / "rep.htm", document_set.STYLE_SHEET, *component
+        )
+        return ended, document_set.read(out)
+
+    def check_report(self, host, *component):
+        ended, files = self.report(host, *component)
+        self.assertEqual((ended.returncode, ended.stderr), (0, ""))
+        self.assertEqual(files, document_set.expected("posix"))
+
+    def test_hosts_load_a_library_that_is_not_registered(self):
+        for host in "report_host", "report_c_host":
+            self.check_report(host, LIBRARY)
+        self.assertFalse(self.classes.exists())
+
+    def test_hosts_find_no_component_before_it_is_registered(self):
+        ended, files = self.report("report_host")
+        self.assertEqual(ended.returncode, 1)
+        self.assertEqual(ended.stderr, "report: DocHtml.DocHtml is not registered\n")
+        ended, files = self.report("report_c_host")
+        self.assertEqual(ended.returncode, 1)
+        self.assertEqual(ended.stderr, "report_c: no document, result 0x800401F3\n")
+        self.assertEqual(files, {})
+
+    def test_hosts_find_a_registered_component_by_every_name(self):
+        self.assertEqual(self.register(LIBRARY).returncode, 0)
+        for host in "report_host", "report_c_host":
+            for name in "DocHtml.DocHtml", "DocHtml.DocHtml.2.1.0", DRIVER_CLASS:
+                self.check_report(host, name)
+
+    def test_registering_twice_leaves_one_copy(self):
+        self.register(LIBRARY)
+        once = self.classes.read_text()
+        self.assertEqual(self.register(LIBRARY).returncode, 0)
+        self.assertEqual(self.classes.read_text(), once)
+        self.assertIn(f"\n@={LIBRARY}\nThreadingModel=Apartment\n", once)
+
+    def test_unregistering_leaves_the_parent_key(self):
+        self.register(LIBRARY)
+        self.assertEqual(self.register("--unregister", LIBRARY).returncode, 0)
+        self.assertEqual(self.classes.read_text().split("\n")[1:], ["[CLSID]", ""])
+        self.assertEqual(self.report("report_host")[0].returncode, 1)
+
+    def test_registration_finds_the_library_installed_with_it(self):
+        self.assertEqual(self.register().returncode, 0)
+        self.check_report("report_host")
+
+    def test_registration_says_what_failed(self):
+        self.assertEqual(self.register(self.work / "none.so").returncode, 1)
+        self.assertEqual(self.register("--wrong").returncode, 2)
+        self.assertEqual(self.register(LIBRARY, LIBRARY).returncode, 2)
+        self.assertEqual(self.register("--help").returncode, 0)
+        (self.work / "data").write_text("in the way")
+        ended = self.register(LIBRARY)
+        self.assertEqual(ended.returncode, 1)
+        self.assertEqual(
+            ended.stderr, "dochtml-register: DllRegisterServer failed with result 0x80040151\n"
+        )
+
+    def replay(self):
+        out = pathlib.Path(tempfile.mkdtemp(dir=self.work))
+        ended = self.run_program(
+            "bin/dochtml-replay",
+            "--quiet",
+            "--set",
+            f"Html.StyleSheet={document_set.STYLE_SHEET}",
+            "--set",
+            "Html.IconFile=",
+            "--set",
+            "Settings.InstallDir=",
+            document_set.REPORT / "report.jsonl",
+            cwd=out,
+        )
+        return ended, document_set.read(out)
+
+    def test_replay_tool_makes_the_same_document_set(self):
+        ended, files = self.replay()
+        self.assertEqual((ended.returncode, ended.stderr), (0, ""))
+        self.assertEqual(files, document_set.expected("posix"))
+
+    def test_replay_tool_takes_the_registered_component(self):
+        self.register(LIBRARY)
+        self.assertEqual(self.replay()[1], document_set.expected("posix"))
+        # A registered library that is gone shows that the name was followed.
+        text = self.classes.read_text().replace(str(LIBRARY), str(self.work / "gone.so"))
+        self.classes.write_text(text)
+        ended, files = self.replay()
+        self.assertEqual(ended.returncode, 2)
+        self.assertIn("gone.so", ended.stderr)
+        self.assertEqual(files, {})
+
+    def test_library_exports_the_four_entry_points_alone(self):
+        listed = subprocess.run(
+            ["nm", "-D", "--defined-only", "--format=posix", LIBRARY],
+            capture_output=True,
+            text=True,
+            check=True,
+        ).stdout
+        names = sorted(line.split()[0] for line in listed.splitlines())
+        self.assertEqual(
+            names,
+            ["DllCanUnloadNow", "DllGetClassObject", "DllRegisterServer", "DllUnregisterServer"],
+        )
+
+
+def main():
+    global BUILD, LIBRARY
+    BUILD = pathlib.Path(sys.argv[1])
+    LIBRARY = pathlib.Path(sys.argv[2])
+    if "--approve" in sys.argv:
+        with tempfile.TemporaryDirectory() as out:
+            subprocess.run(
+                [
+                    BUILD / "examples/hosts/report_host",
+                    out + "/rep.htm",
+                    document_set.STYLE_SHEET,
+                    LIBRARY,
+                ],
+                env=dict(os.environ, XDG_CONFIG_HOME=out + "/none", SOURCE_DATE_EPOCH="0"),
+                check=True,
+            )
+            document_set.approve(out)
+        return
+    unittest.main(argv=sys.argv[:1], verbosity=0)
+
+
+if __name__ == "__main__":
+    main()
