@@ -21,11 +21,12 @@ struct GuardedSignal {
     const char* reason;
 };
 
+/// The one that is looked at to see whether the handlers are in place comes last.
 constexpr std::array<GuardedSignal, 4> guardedSignals = {{
-    {SIGSEGV, "Processor signal SIGSEGV (invalid memory access)"},
     {SIGBUS, "Processor signal SIGBUS (invalid memory access)"},
     {SIGFPE, "Processor signal SIGFPE (arithmetic error)"},
     {SIGILL, "Processor signal SIGILL (illegal instruction)"},
+    {SIGSEGV, "Processor signal SIGSEGV (invalid memory access)"},
 }};
 
 /// Where a signal goes on in the thread that it struck.
@@ -143,6 +144,9 @@ public:
 private:
     void install() {
         const std::lock_guard lock(mutex_);
+        if (isOurs(currentAction(SIGSEGV))) {
+            return;  // Another thread was quicker.
+        }
         auto next = std::make_unique<HostActions>();
         const HostActions* const last = hostActions.load(std::memory_order_acquire);
         for (std::size_t i = 0; i < guardedSignals.size(); ++i) {
@@ -159,7 +163,9 @@ private:
         // Not deferred: the handler is left by a jump, and the signal must strike again later.
         ours.sa_flags = SA_SIGINFO | SA_NODEFER | SA_ONSTACK;
         for (const GuardedSignal& guarded : guardedSignals) {
-            sigaction(guarded.number, &ours, nullptr);
+            if (!isOurs(currentAction(guarded.number))) {
+                sigaction(guarded.number, &ours, nullptr);
+            }
         }
     }
 
