@@ -7,6 +7,7 @@
 #include <ctime>
 #include <fstream>
 #include <iterator>
+#include <string_view>
 
 #include "driver/doc_html.h"
 #include "peak_memory.h"
@@ -33,6 +34,18 @@ void writePlainly(const fs::path& name, const std::string& bytes) {
         done += static_cast<std::size_t>(written);
     }
     ::close(file);
+}
+
+/// The same text, put together from pieces that end with a tag or a line.
+std::string collectedByPieces(std::string_view text) {
+    std::string collected;
+    while (!text.empty()) {
+        const std::size_t end = text.find_first_of(">\n");
+        const std::size_t length = end == std::string_view::npos ? text.size() : end + 1;
+        collected += text.substr(0, length);
+        text.remove_prefix(length);
+    }
+    return collected;
 }
 
 double median(std::vector<double> values) {
@@ -78,6 +91,17 @@ Seconds secondsOfPlainFiles(const fs::path& directory, const std::vector<FileByt
     return secondsOf([&] {
         for (const FileBytes& file : files) {
             writePlainly(directory / file.name, file.bytes);
+        }
+    });
+}
+
+Seconds secondsOfStreaming(const fs::path& directory, const std::vector<FileBytes>& files) {
+    for (const FileBytes& file : files) {
+        fs::create_directories((directory / file.name).parent_path());
+    }
+    return secondsOf([&] {
+        for (const FileBytes& file : files) {
+            writePlainly(directory / file.name, collectedByPieces(file.bytes));
         }
     });
 }
@@ -132,6 +156,10 @@ void documentDoubled(benchmark::State& state, Body body, std::size_t size) {
     }
     const Seconds whole = documentAgainstFloor(state, Place::memory, body, size);
     const Seconds half = median(halves);
+    const fs::path last = freshDirectory(Place::memory);
+    static_cast<void>(secondsOfDocument(last, body, size));
+    const Seconds streaming = secondsOfStreaming(freshDirectory(Place::memory), filesBelow(last));
+    state.counters["ratio_streaming"] = whole.processor / streaming.processor;
     state.counters["doubling"] = whole.clock / half.clock;
     state.counters["doubling_cpu"] = whole.processor / half.processor;
 }

@@ -52,6 +52,11 @@ struct FileBytes {
 [[nodiscard]] Seconds secondsOfPlainFiles(const std::filesystem::path& directory,
                                           const std::vector<FileBytes>& files);
 
+/// A writer that knows every target in advance: it collects each file tag by tag and line by
+/// line, as a program does that generates it, and writes it once.
+[[nodiscard]] Seconds secondsOfStreaming(const std::filesystem::path& directory,
+                                         const std::vector<FileBytes>& files);
+
 /// The middle one of each.
 [[nodiscard]] Seconds median(const std::vector<Seconds>& values);
 
@@ -61,7 +66,8 @@ struct FileBytes {
 /// document's median.
 Seconds documentAgainstFloor(benchmark::State& state, Place place, Body body, std::size_t size);
 
-/// As above, in memory, and adds "doubling" and "doubling_cpu": `size` by half of it.
+/// As above, in memory, and adds "doubling" and "doubling_cpu" (`size` by half of it) and
+/// "ratio_streaming" (of the processor).
 void documentDoubled(benchmark::State& state, Body body, std::size_t size);
 
 }  // namespace quillmark::bench
