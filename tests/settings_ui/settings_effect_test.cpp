@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <sstream>
 #include <string>
 
@@ -27,16 +28,20 @@ protected:
     }
     [[nodiscard]] bool isShown() const {
         scene_.clear();
-        const std::string command = std::string("\"") + DOCHTML_REPLAY_PROGRAM +
-                                    "\" --quiet --settings \"" + store() +
-                                    "\" --drive \"C=" + scene_.directory().string() + "\" \"" +
-                                    scene_.calls().string() + "\"";
-        EXPECT_EQ(std::system(command.c_str()), 0);
+        const std::string program =
+            std::filesystem::path(DOCHTML_REPLAY_PROGRAM).make_preferred().string();
+        const std::string command = quoted(program) + " --quiet --settings " + quoted(store()) +
+                                    " --drive " + quoted("C=" + scene_.directory().string()) + " " +
+                                    quoted(scene_.calls().string());
+        // Where names have backslashes the command interpreter takes a pair of quotes away.
+        const bool takesQuotes = std::filesystem::path::preferred_separator == '\\';
+        EXPECT_EQ(std::system(takesQuotes ? quoted(command).c_str() : command.c_str()), 0);
         return scene_.shows(GetParam());
     }
     [[nodiscard]] const EffectScene& scene() const { return scene_; }
 
 private:
+    static std::string quoted(const std::string& text) { return '"' + text + '"'; }
     static std::string uniqueName() {
         const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
         std::string name = std::string("quillmark_effect_") + test->name();
