@@ -75,9 +75,10 @@ std::span<const SettingDescription> allSettings() noexcept {
 }
 
 const SettingDescription* findSetting(std::string_view group, std::string_view name) noexcept {
-    const auto found = std::ranges::find_if(settingRows, [&](const SettingDescription& setting) {
-        return equalIgnoringCase(setting.group, group) && equalIgnoringCase(setting.name, name);
-    });
+    const auto* const found =
+        std::ranges::find_if(settingRows, [&](const SettingDescription& setting) {
+            return equalIgnoringCase(setting.group, group) && equalIgnoringCase(setting.name, name);
+        });
     return found == settingRows.end() ? nullptr : &*found;
 }
 

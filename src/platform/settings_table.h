@@ -14,14 +14,14 @@ enum class SettingType { text, boolean, shortInteger, integer };
 /// One row of the table of all settings: the single truth about names and defaults, for the
 /// driver, which reads them, and for the settings page and tool, which edit them.
 struct SettingDescription {
-    const char* group;
-    const char* name;
-    SettingType type;
+    const char* group = "";
+    const char* name = "";
+    SettingType type = SettingType::text;
     /// The value in force while nothing is stored. `defaultValue` is the whole answer: for the
     /// style sheet this is only the file part.
-    const char* defaultText;
+    const char* defaultText = "";
     /// One line for a person.
-    const char* meaning;
+    const char* meaning = "";
     /// The default is a file of the installation directory (setting "InstallDir").
     bool defaultInInstallDir = false;
 };

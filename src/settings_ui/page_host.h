@@ -23,9 +23,9 @@ public:
 
 /// What a file-open dialog is told.
 struct FileChoice {
-    const char* filterName;
-    const char* pattern;
-    const char* title;
+    const char* filterName = "";
+    const char* pattern = "";
+    const char* title = "";
     /// The name that the dialog opens with.
     OrxString initialName;
     /// Characters that the name buffer holds.

@@ -67,7 +67,7 @@ const PageControl* findControl(int id) noexcept {
     if (id == control::none) {
         return nullptr;
     }
-    const auto found = std::ranges::find(controlRows, id, &PageControl::id);
+    const auto* const found = std::ranges::find(controlRows, id, &PageControl::id);
     return found == controlRows.end() ? nullptr : &*found;
 }
 
@@ -76,7 +76,7 @@ PageAction routeOf(int id, ControlEvent event) noexcept {
     if (row == nullptr) {
         return PageAction::none;
     }
-    const auto found = std::ranges::find(row->routes, event, &Route::event);
+    const auto* const found = std::ranges::find(row->routes, event, &Route::event);
     return found == row->routes.end() ? PageAction::none : found->action;
 }
 

@@ -72,8 +72,8 @@ struct Route {
 /// One row: a control with its text, the setting of group "Html" that it carries (null for none)
 /// and its routes. Two controls may carry one setting between them.
 struct PageControl {
-    int id;
-    ControlKind kind;
+    int id = control::none;
+    ControlKind kind = ControlKind::label;
     const char* text = "";
     const char* setting = nullptr;
     std::array<Route, 2> routes{};

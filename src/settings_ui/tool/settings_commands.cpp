@@ -66,6 +66,7 @@ struct LoadedPage {
     }
     LoadedPage(const LoadedPage&) = delete;
     LoadedPage& operator=(const LoadedPage&) = delete;
+    ~LoadedPage() = default;
 
     MemoryControls controls;
     TerminalHost host;

@@ -28,7 +28,7 @@ private:
 };
 
 std::filesystem::path pathOf(const std::string& utf8) {
-    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+    return {std::u8string(utf8.begin(), utf8.end())};
 }
 
 /// The installed support files lie beside the program's directory, in a build tree too.
