@@ -89,6 +89,37 @@ TEST_F(Arrows, LeadToDetailPagesBesideContentsPages) {
     EXPECT_EQ(top("rep_dtl2.html"), back("rep_dtl.html") + deadNext("pix") + "<BR>\n");
 }
 
+TEST_F(Arrows, FollowTheNextDocumentsPlacesAndSettings) {
+    open();
+    doc().insertPageBreak();
+    doc().close();
+    html("HtmlPixDir", "img");
+    open(u"C:\\out\\deep\\other.htm");
+    doc().close();
+    EXPECT_EQ(top("deep\\other2.htm"),
+              arrow("other.htm", "img/backON.gif") + deadNext("img") + "<BR>\n");
+    html("UseRelative", "false");
+    open(u"C:\\out\\deep\\last.htm");
+    doc().close();
+    EXPECT_EQ(top("deep\\last2.htm"), arrow("last.htm", "file:///C|/out/deep/img/backON.gif") +
+                                          deadNext("file:///C|/out/deep/img") + "<BR>\n");
+}
+
+TEST_F(Arrows, FollowThePagesDirectoryAndTheWayBack) {
+    open();
+    doc().pushDirectory(u"a");
+    doc().insertPageBreak();
+    doc().insertEndl();
+    doc().pushDirectory(u"b\\c");
+    doc().insertEndl();
+    doc().pushDirectory(u"");
+    doc().close();
+    EXPECT_NE(out("a\\rep.htm").find("SRC=\"../pix/backOFF.gif\""), std::string::npos);
+    EXPECT_NE(out("a\\rep2.htm").find("SRC=\"../pix/backON.gif\""), std::string::npos);
+    EXPECT_NE(out("b\\c\\rep3.htm").find("SRC=\"../../pix/backON.gif\""), std::string::npos);
+    EXPECT_NE(out("rep4.htm").find("SRC=\"pix/backON.gif\""), std::string::npos);
+}
+
 TEST_F(Arrows, BringTheirPicturesAlong) {
     open();
     for (const char* const name : {"forwardON", "forwardOFF", "backON", "backOFF"}) {
