@@ -36,7 +36,7 @@ document.insertEndl
 document.setStyle "Normal"
 document.insertText "The figures are in "
 document.insertXref "the table", "figures"
-document.insertText ", those of Z" & ChrW(252) & "rich too."
+document.insertText ", those of Z" & Chr(252) & "rich too."
 document.insertEndl
 
 document.insertPageBreak

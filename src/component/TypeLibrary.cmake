@@ -1,5 +1,5 @@
 # Compiles dochtml.idl to the type library that is the component's resource 1, and to the header
-# that a Windows host would compile from it (the tests use that one).
+# and identifiers that a Windows host would compile from it (the tests use those).
 find_program(DOCHTML_WIDL NAMES ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32-widl widl REQUIRED
              DOC "IDL compiler")
 find_path(DOCHTML_IDL_DIR oaidl.idl REQUIRED NO_CMAKE_FIND_ROOT_PATH
@@ -16,19 +16,23 @@ endif()
 set(idl ${CMAKE_CURRENT_SOURCE_DIR}/dochtml.idl)
 set(type_library ${CMAKE_CURRENT_BINARY_DIR}/dochtml.tlb)
 set(idl_header ${CMAKE_CURRENT_BINARY_DIR}/idl/dochtml_idl.h)
+set(idl_guids ${CMAKE_CURRENT_BINARY_DIR}/idl/dochtml_idl.c)
 file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/idl)
 
-# The time that the compiler writes into the library is fixed: the same source, the same bytes.
 add_custom_command(
     OUTPUT ${type_library}
-    COMMAND ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=0 ${DOCHTML_WIDL} ${widl_word}
-            -I ${DOCHTML_IDL_DIR} -L ${DOCHTML_STDOLE_DIR} -t -o ${type_library} ${idl}
+    COMMAND ${DOCHTML_WIDL} ${widl_word} -I ${DOCHTML_IDL_DIR} -L ${DOCHTML_STDOLE_DIR}
+            -t -o ${type_library} ${idl}
     DEPENDS ${idl} VERBATIM)
 add_custom_command(
     OUTPUT ${idl_header}
     COMMAND ${DOCHTML_WIDL} ${widl_word} -I ${DOCHTML_IDL_DIR} -h -o ${idl_header} ${idl}
     DEPENDS ${idl} VERBATIM)
-add_custom_target(dochtml_idl DEPENDS ${type_library} ${idl_header})
+add_custom_command(
+    OUTPUT ${idl_guids}
+    COMMAND ${DOCHTML_WIDL} ${widl_word} -I ${DOCHTML_IDL_DIR} -u -o ${idl_guids} ${idl}
+    DEPENDS ${idl} VERBATIM)
+add_custom_target(dochtml_idl DEPENDS ${type_library} ${idl_header} ${idl_guids})
 
 # The resources: type library, scripts, strings, version, and the settings page's dialog.
 enable_language(RC)

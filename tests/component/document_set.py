@@ -36,3 +36,11 @@ def approve(directory):
         target = EXPECTED / name
         target.parent.mkdir(parents=True, exist_ok=True)
         target.write_bytes(content)
+
+
+def check(test, actual, system):
+    """Fails the test case where a document set is not the expected one, file by file."""
+    wanted = expected(system)
+    test.assertEqual(sorted(actual), sorted(wanted))
+    for name, content in wanted.items():
+        test.assertEqual(actual[name].decode("latin-1"), content.decode("latin-1"), name)

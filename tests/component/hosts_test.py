@@ -56,7 +56,7 @@ class HostsTest(unittest.TestCase):
     def check_report(self, host, *component):
         ended, files = self.report(host, *component)
         self.assertEqual((ended.returncode, ended.stderr), (0, ""))
-        self.assertEqual(files, document_set.expected("posix"))
+        document_set.check(self, files, "posix")
 
     def test_hosts_load_a_library_that_is_not_registered(self):
         for host in "report_host", "report_c_host":
@@ -126,11 +126,11 @@ class HostsTest(unittest.TestCase):
     def test_replay_tool_makes_the_same_document_set(self):
         ended, files = self.replay()
         self.assertEqual((ended.returncode, ended.stderr), (0, ""))
-        self.assertEqual(files, document_set.expected("posix"))
+        document_set.check(self, files, "posix")
 
     def test_replay_tool_takes_the_registered_component(self):
         self.register(LIBRARY)
-        self.assertEqual(self.replay()[1], document_set.expected("posix"))
+        document_set.check(self, self.replay()[1], "posix")
         # A registered library that is gone shows that the name was followed.
         text = self.classes.read_text().replace(str(LIBRARY), str(self.work / "gone.so"))
         self.classes.write_text(text)

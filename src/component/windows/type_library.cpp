@@ -2,6 +2,7 @@
 #include "component/windows/module_handle.h"
 #include "dochtml/com_pointer.h"
 #include "dochtml/document.h"
+#include "dochtml/text.h"
 
 namespace quillmark {
 namespace {
@@ -40,12 +41,14 @@ HRESULT registerTypeLibrary() {
 }
 
 HRESULT unregisterTypeLibrary() {
-    const HRESULT result = UnRegisterTypeLib(LIBID_DOCHTMLCOMLib, majorVersion, minorVersion,
-                                             englishUnitedStates, systemKind);
-    // What is gone already need not be removed.
-    const bool wasNotKnown =
-        result == TYPE_E_REGISTRYACCESS || result == HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND);
-    return wasNotKnown ? S_OK : result;
+    Text path;
+    if (FAILED(QueryPathOfRegTypeLib(LIBID_DOCHTMLCOMLib, majorVersion, minorVersion,
+                                     englishUnitedStates, path.receive()))) {
+        // What is gone already need not be removed.
+        return S_OK;
+    }
+    return UnRegisterTypeLib(LIBID_DOCHTMLCOMLib, majorVersion, minorVersion, englishUnitedStates,
+                             systemKind);
 }
 
 }  // namespace quillmark
