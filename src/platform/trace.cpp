@@ -59,6 +59,20 @@ private:
     std::atomic<bool> failed_{false};
 };
 
+/// What copies of a trace share from an `open` to the next `close` of any of them. Two documents
+/// that trace into one log have a stream each.
+class Trace::Stream {
+public:
+    explicit Stream(std::shared_ptr<Log> log) noexcept : log_(std::move(log)) {}
+
+    [[nodiscard]] bool isOpen() const noexcept { return log_ != nullptr && !log_->failed(); }
+    void close() noexcept { log_ = nullptr; }
+    void write(std::string_view text) { log_->write(text); }
+
+private:
+    std::shared_ptr<Log> log_;
+};
+
 namespace {
 
 /// A log is known by its absolute name, whatever the current directory is later.
@@ -121,12 +135,16 @@ Trace& Trace::operator=(Trace&&) noexcept = default;
 Trace::~Trace() = default;
 
 void Trace::open(const OrxString& name) {
-    log_ = registry<Log>().take(logFileName(name));
-    log_->forgiveFailure();
+    std::shared_ptr<Log> log = registry<Log>().take(logFileName(name));
+    log->forgiveFailure();
+    stream_ = std::make_shared<Stream>(std::move(log));
 }
 
 void Trace::close() {
-    log_ = nullptr;
+    if (stream_ != nullptr) {
+        stream_->close();
+        stream_ = nullptr;
+    }
 }
 
 void Trace::purgeBefore(const OrxString& name) {
@@ -134,12 +152,12 @@ void Trace::purgeBefore(const OrxString& name) {
 }
 
 bool Trace::hasLog() const noexcept {
-    return log_ != nullptr && !log_->failed();
+    return stream_ != nullptr && stream_->isOpen();
 }
 
 void Trace::write(int level, std::string_view text) {
     if (level <= level_ && hasLog()) {
-        log_->write(text);
+        stream_->write(text);
     }
     TraceListener* const listener = listener_.load(std::memory_order_acquire);
     if (listener != nullptr && level <= listener->level()) {

@@ -42,6 +42,7 @@ public:
     /// system's temporary directory. The file is made by the first line written to it; one that
     /// cannot be opened leaves the trace silent until the next `open`.
     void open(const OrxString& name);
+    /// Closes the stream, for the copies that share it too.
     void close();
     void setLevel(int level) noexcept { level_ = level; }
     /// Drops what an earlier process left in the log of that name, once a process and name. A
@@ -61,6 +62,7 @@ public:
 
 private:
     class Log;
+    class Stream;
 
     static bool listenerHears(int level) noexcept {
         const TraceListener* const listener = listener_.load(std::memory_order_acquire);
@@ -69,7 +71,7 @@ private:
     [[nodiscard]] bool hasLog() const noexcept;
 
     static std::atomic<TraceListener*> listener_;
-    std::shared_ptr<Log> log_;
+    std::shared_ptr<Stream> stream_;
     int level_ = 0;
 };
 

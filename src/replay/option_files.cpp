@@ -34,6 +34,17 @@ OptionFiles::OptionFiles(std::vector<HostServices::Drive> drives) : drives_(std:
     }
 }
 
+std::vector<HostServices::Drive> OptionFiles::allDrives() const {
+    std::vector<HostServices::Drive> all;
+    for (char letter = 'A'; letter <= 'Z' && !systemHasDrives; ++letter) {
+        const std::filesystem::path place =
+            std::filesystem::current_path() / std::string{letter, ':'};
+        all.push_back({letter, utf8Path(place)});
+    }
+    all.insert(all.end(), drives_.begin(), drives_.end());
+    return all;
+}
+
 const HostServices::Drive* OptionFiles::driveOf(const std::string& name) const {
     if (systemHasDrives || name.size() < 2 || name[1] != ':') {
         return nullptr;

@@ -20,10 +20,10 @@ public:
     [[nodiscard]] std::filesystem::path native(const std::string& name) const;
     /// The name as the driver takes it; a name on a drive keeps its letter.
     [[nodiscard]] OrxString driver(const std::string& name) const;
-    /// The drives, with directories that no change of the current directory moves.
-    [[nodiscard]] const std::vector<HostServices::Drive>& drives() const noexcept {
-        return drives_;
-    }
+    /// The drives of the run, with directories that no change of the current directory moves. On
+    /// a system without drives a letter that was given no directory lies in one of its own name,
+    /// "C:", where the tool was started.
+    [[nodiscard]] std::vector<HostServices::Drive> allDrives() const;
 
 private:
     [[nodiscard]] const HostServices::Drive* driveOf(const std::string& name) const;

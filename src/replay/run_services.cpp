@@ -21,7 +21,10 @@ std::shared_ptr<SettingsStore> openStore(const Options& options, const OptionFil
     if (!options.settingsFile) {
         return makeUserSettingsStore();
     }
-    if (!std::filesystem::is_regular_file(files.native(*options.settingsFile))) {
+    // A pipe could be read only once, and settings are read when they are asked for.
+    const std::filesystem::path file = files.native(*options.settingsFile);
+    if (!std::filesystem::exists(file) || std::filesystem::is_directory(file) ||
+        std::filesystem::is_fifo(file)) {
         throw BadInput("cannot read " + *options.settingsFile);
     }
     auto store = makeIniSettingsStore(files.driver(*options.settingsFile));
@@ -54,7 +57,7 @@ std::shared_ptr<RunSettings> makeSettings(const Options& options, const OptionFi
 RunServices::RunServices(const Options& options, const OptionFiles& files,
                          const std::string& executable) {
     services_.settings = makeSettings(options, files, executable);
-    services_.drives = files.drives();
+    services_.drives = files.allDrives();
     if (options.iniFile) {
         services_.profilePath = files.driver(*options.iniFile);
     }

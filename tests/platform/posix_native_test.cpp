@@ -238,10 +238,12 @@ TEST(Shell, DoesNotStartWhatIsNoProgram) {
     dir.put("data", "text");
     SysDirectory::create(dir.file("dir"));
     putProgram(dir, "broken", "#!/none/interpreter\n");
+    putProgram(dir, "foreign", "MZ, a program of another system\n");
     EXPECT_LT(SysShell::start(dir.file("none"), ""), SysShell::started);
     EXPECT_LT(SysShell::start(dir.file("data"), ""), SysShell::started);
     EXPECT_LT(SysShell::start(dir.file("dir"), ""), SysShell::started);
     EXPECT_LT(SysShell::start(dir.file("broken"), ""), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("foreign"), ""), SysShell::started);
     EXPECT_LT(SysShell::start("", ""), SysShell::started);
 }
 

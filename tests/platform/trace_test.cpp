@@ -101,14 +101,25 @@ TEST_F(TraceLog, IsSharedByCopiesThatEachHaveTheirLevel) {
     EXPECT_EQ(logged(), lines("document\npage\ndocument again\n"));
 }
 
-TEST_F(TraceLog, StaysOpenForTheCopyWhenTheOriginalCloses) {
+TEST_F(TraceLog, IsClosedForTheCopiesWhenTheOriginalCloses) {
     Trace document = openTrace(name, Trace::calls);
     Trace page = document;
+    document.write(Trace::calls, "before\n");
     document.close();
     document.write(Trace::calls, "not wanted\n");
+    page.write(Trace::calls, "not wanted either\n");
     EXPECT_FALSE(document.isTrace(Trace::errors));
-    page.write(Trace::calls, "page\n");
-    EXPECT_EQ(logged(), lines("page\n"));
+    EXPECT_FALSE(page.isTrace(Trace::errors));
+    EXPECT_EQ(memory.openFiles(), 0);
+    EXPECT_EQ(logged(), lines("before\n"));
+}
+
+TEST_F(TraceLog, StaysOpenForAnotherDocumentThatTracesIntoIt) {
+    Trace one = openTrace(name, Trace::calls);
+    Trace other = openTrace(name, Trace::calls);
+    one.close();
+    other.write(Trace::calls, "other\n");
+    EXPECT_EQ(logged(), lines("other\n"));
 }
 
 TEST_F(TraceLog, IsOneForTwoTracesOfTheSameName) {

@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstring>
 
 #include "platform/posix/descriptor.h"
 
@@ -48,7 +49,12 @@ void unblockSignals() noexcept {
     setsid();
     silenceStreams();
     unblockSignals();
-    execvp(launch.program, launch.arguments);
+    if (strchr(launch.program, '/') != nullptr) {
+        // Not execvp: it hands a file that is no program to a shell, which then counts as started.
+        execv(launch.program, launch.arguments);
+    } else {
+        execvp(launch.program, launch.arguments);
+    }
     tellFailure(launch);
 }
 
