@@ -132,6 +132,12 @@ struct IUnknown;
 struct IDispatch;
 struct ITypeInfo;
 
+/* A variant has room for two pointers: hosts know its size. */
+typedef struct VariantRoom {
+    void* data;
+    void* record;
+} VariantRoom;
+
 typedef struct VARIANT {
     VARTYPE vt;
     WORD wReserved1;
@@ -161,10 +167,7 @@ typedef struct VARIANT {
         int16_t* piVal;
         int32_t* plVal;
         VARIANT_BOOL* pboolVal;
-        struct {
-            void* data;
-            void* record;
-        } reserved;
+        VariantRoom reserved;
     };
 } VARIANT;
 typedef VARIANT VARIANTARG;
