@@ -53,23 +53,22 @@ def registered_keys():
         f"CLSID\\{PAGE}\\Programmable": {},
         f"CLSID\\{PAGE}\\InprocServer32": server,
     }
-    # What the system itself writes for a type library.
+    # What the system itself writes for a type library, for both of its word sizes.
     library = f"TypeLib\\{LIBRARY_ID}"
-    keys |= {
+    interface = f"Interface\\{INTERFACE}"
+    described = {
         library: {},
         f"{library}\\2.0": {"": "Document HTML 2.0 Type Library"},
         f"{library}\\2.0\\409": {},
         f"{library}\\2.0\\409\\win64": {"": module},
         f"{library}\\2.0\\FLAGS": {"": "8"},
         f"{library}\\2.0\\HELPDIR": {"": module.rpartition("\\")[0]},
+        interface: {"": "IDocument"},
+        f"{interface}\\ProxyStubClsid": {"": MARSHALER},
+        f"{interface}\\ProxyStubClsid32": {"": MARSHALER},
+        f"{interface}\\TypeLib": {"": LIBRARY_ID, "Version": "2.0"},
     }
-    for interface in f"Interface\\{INTERFACE}", f"Wow6432Node\\Interface\\{INTERFACE}":
-        keys |= {
-            interface: {"": "IDocument"},
-            f"{interface}\\ProxyStubClsid": {"": MARSHALER},
-            f"{interface}\\ProxyStubClsid32": {"": MARSHALER},
-            f"{interface}\\TypeLib": {"": LIBRARY_ID, "Version": "2.0"},
-        }
+    keys |= described | {f"Wow6432Node\\{key}": values for key, values in described.items()}
     return {name.lower(): values for name, values in keys.items()}
 
 
