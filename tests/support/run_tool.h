@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/line_end.h"
+#include "platform/sys_text.h"
 #include "support/temp_dir.h"
 
 namespace quillmark {
@@ -35,7 +37,7 @@ public:
                                  const std::string& input = {}) const {
         const TempDir scratch;
         scratch.put("in", input);
-        std::string command = "cd " + quoted(dir_.native()) + " && ";
+        std::string command = changeDirectory + quoted(dir_.native()) + " && ";
         for (const auto& [name, value] : environment_) {
             command += assignment(name, value);
         }
@@ -46,14 +48,20 @@ public:
         command += " <" + quoted(scratch.nativeFile("in")) + " >" +
                    quoted(scratch.nativeFile("out")) + " 2>" + quoted(scratch.nativeFile("err"));
         ToolResult result;
-        result.status = exitStatus(std::system(command.c_str()));
-        result.output = scratch.content("out").value_or("");
-        result.errors = scratch.content("err").value_or("");
+        result.status = exitStatus(std::system(inSystemForm(command).c_str()));
+        result.output = asLines(scratch.content("out").value_or(""));
+        result.errors = asLines(scratch.content("err").value_or(""));
         return result;
+    }
+
+    /// A text file's lines, each ended by a line feed whatever the system ends them with.
+    [[nodiscard]] static std::string asLines(const std::string& text) {
+        return OrxString(text).replaceStr(systemLineEnd(), "\n").str();
     }
 
 private:
 #ifdef _WIN32
+    static constexpr const char* changeDirectory = "cd /d ";
     static std::string quoted(const std::string& text) {
         return "\"" + text + "\"";
     }
@@ -63,7 +71,12 @@ private:
     static int exitStatus(int status) {
         return status;
     }
+    /// The interpreter is given its command in the code page.
+    static std::string inSystemForm(const std::string& utf8) {
+        return SysText::fromUtf8(utf8).str();
+    }
 #else
+    static constexpr const char* changeDirectory = "cd ";
     static std::string quoted(const std::string& text) {
         std::string result = "'";
         for (const char c : text) {
@@ -73,6 +86,9 @@ private:
     }
     static std::string assignment(const std::string& name, const std::string& value) {
         return name + "=" + quoted(value) + " ";
+    }
+    static std::string inSystemForm(const std::string& utf8) {
+        return utf8;
     }
     /// What the interpreter answers with, or -1 when a signal ended the program.
     static int exitStatus(int status) {
