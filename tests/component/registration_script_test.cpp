@@ -65,7 +65,7 @@ TEST(RegistrationScript, refusesWhatItCannotRead) {
          {"", "HKLM { }", "HKCR", "HKCR {", "HKCR { A", "HKCR { A = s", "HKCR { A = s bare }",
           "HKCR { A = d '5' }", "HKCR { A = s 'open }", "HKCR { = s 'x' }", "HKCR { } B",
           "HKCR { A { val } }", "HKCR { A { val X } }", "HKCR { { } }"}) {
-        EXPECT_THROW(readRegistrationScript(script, ""), OrxException) << script;
+        EXPECT_THROW(static_cast<void>(readRegistrationScript(script, "")), OrxException) << script;
     }
 }
 

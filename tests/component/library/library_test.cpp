@@ -136,12 +136,23 @@ TEST(Apartments, writeDocumentsSideBySide) {
     EXPECT_EQ(pages[1].size(), pages[0].size() + 200);
 }
 
+bool isRefused(const std::string& file, const CLSID& classId = CLSID_DocHtml) {
+    try {
+        static_cast<void>(Component::fromLibrary(file, classId));
+        return false;
+    } catch (const ComponentError& failure) {
+        EXPECT_FALSE(failure.isNotRegistered());
+        return true;
+    }
+}
+
 TEST(LoadedComponent, refusesALibraryThatIsNone) {
     const TempDir dir;
     dir.put("no.so", "not a library");
-    EXPECT_THROW(Component::fromLibrary(dir.nativeFile("no.so")), ComponentError);
-    EXPECT_THROW(Component::fromLibrary(dir.nativeFile("missing.so")), ComponentError);
-    EXPECT_THROW(Component::fromLibrary(DOCHTML_TEST_LIBRARY, unknownClass), ComponentError);
+    EXPECT_TRUE(isRefused(dir.nativeFile("no.so")));
+    EXPECT_TRUE(isRefused(dir.nativeFile("missing.so")));
+    EXPECT_TRUE(isRefused(DOCHTML_TEST_LIBRARY, unknownClass));
+    EXPECT_FALSE(isRefused(DOCHTML_TEST_LIBRARY));
 }
 
 }  // namespace
