@@ -14,6 +14,7 @@ namespace quillmark {
 /// and life; the outer object holds the object by its inner unknown. Without an outer object the
 /// inner unknown is the outer one.
 template <typename Interface>
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): its last release deletes it.
 class AggregableObject : public Interface {
 public:
     AggregableObject(const AggregableObject&) = delete;
@@ -38,6 +39,7 @@ protected:
     [[nodiscard]] virtual IUnknown* findInterface(REFIID iid) noexcept = 0;
 
 private:
+    // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): a part of its owner.
     class InnerUnknown final : public IUnknown {
     public:
         explicit InnerUnknown(AggregableObject& owner) noexcept : owner_(owner) {}
@@ -88,6 +90,7 @@ HRESULT createAggregable(IUnknown* outer, REFIID iid, void** object, Arguments&&
     if (outer != nullptr && !IsEqualIID(iid, IID_IUnknown)) {
         return CLASS_E_NOAGGREGATION;
     }
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): counted; its last release deletes it.
     auto* made = new Object(outer, std::forward<Arguments>(arguments)...);
     const auto owner = ComPointer<IUnknown>::adopt(made->innerUnknown());
     return owner->QueryInterface(iid, object);

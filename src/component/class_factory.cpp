@@ -7,6 +7,7 @@ namespace quillmark {
 
 HRESULT ClassFactory::make(ObjectMaker maker, REFIID iid, void** object) {
     return runGuarded([&]() -> HRESULT {
+        // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): counted; its last release deletes it.
         auto* factory = new ClassFactory(maker);
         const HRESULT result = factory->QueryInterface(iid, object);
         factory->Release();

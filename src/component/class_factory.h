@@ -12,6 +12,7 @@ namespace quillmark {
 using ObjectMaker = HRESULT (*)(IUnknown* outer, REFIID iid, void** object);
 
 /// The class object of one class. Each also offers `IHostServices`, one set for the module.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): its last release deletes it.
 class ClassFactory final : public IClassFactory, public IHostServices {
 public:
     /// Makes a class object and hands out the interface asked for.

@@ -15,6 +15,7 @@ using DocumentMaker = std::unique_ptr<DriverDocument> (*)();
 
 /// A document as hosts see it: the 42 operations by table, by dispatch identifier and by name, in
 /// front of one driver. Nothing that the driver throws gets past it.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): its last release deletes it.
 class DocumentObject final : public AggregableObject<::IDocument> {
 public:
     /// Makes an object for `outer` (may be null) and hands out the interface asked for.

@@ -1,5 +1,6 @@
 #include "component/lent_model.h"
 
+#include <array>
 #include <cstdio>
 #include <map>
 #include <mutex>
@@ -13,10 +14,10 @@ namespace {
 
 void check(HRESULT result) {
     if (FAILED(result)) {
-        char reason[64];
-        std::snprintf(reason, sizeof reason, "The host's model failed with result 0x%08X.",
+        std::array<char, 64> reason{};
+        std::snprintf(reason.data(), reason.size(), "The host's model failed with result 0x%08X.",
                       static_cast<unsigned>(result));
-        OrxException::raise(OrxString(reason));
+        OrxException::raise(OrxString(reason.data()));
     }
 }
 

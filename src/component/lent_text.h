@@ -23,6 +23,7 @@ public:
     CollectedTexts() = default;
     CollectedTexts(const CollectedTexts&) = delete;
     CollectedTexts& operator=(const CollectedTexts&) = delete;
+    ~CollectedTexts() = default;
 
     /// For the callback; valid as long as this object.
     [[nodiscard]] DochtmlSink sink() noexcept { return {this, &CollectedTexts::put}; }

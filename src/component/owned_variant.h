@@ -7,7 +7,7 @@ namespace quillmark {
 /// A variant that lets go of what it holds.
 class OwnedVariant {
 public:
-    OwnedVariant() noexcept { VariantInit(&variant_); }
+    OwnedVariant() noexcept = default;
     OwnedVariant(const OwnedVariant&) = delete;
     OwnedVariant& operator=(const OwnedVariant&) = delete;
     ~OwnedVariant() { VariantClear(&variant_); }
@@ -16,7 +16,8 @@ public:
     [[nodiscard]] const VARIANT& get() const noexcept { return variant_; }
 
 private:
-    VARIANT variant_;
+    /// All zero is the empty variant.
+    VARIANT variant_{};
 };
 
 /// Fills the empty `target` with the value of `source`, which may be a reference, as `type`

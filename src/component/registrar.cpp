@@ -91,7 +91,10 @@ HRESULT Registrar::writeTree(const std::string& path, const KeyTree& tree) {
     }
     for (const auto& [name, child] : tree.children) {
         if (SUCCEEDED(result)) {
-            result = writeTree(path + '\\' + name, child);
+            std::string childPath = path;
+            childPath += '\\';
+            childPath += name;
+            result = writeTree(childPath, child);
         }
     }
     return result;
@@ -103,10 +106,12 @@ void Registrar::takeBack() noexcept {
         return;
     }
     runOperation([this] {
-        for (auto root = before_.rbegin(); root != before_.rend(); ++root) {
-            HRESULT result = store_.removeTree(root->first);
-            if (SUCCEEDED(result) && root->second) {
-                result = writeTree(root->first, *root->second);
+        while (!before_.empty()) {
+            const auto [path, tree] = std::move(before_.back());
+            before_.pop_back();
+            HRESULT result = store_.removeTree(path);
+            if (SUCCEEDED(result) && tree) {
+                result = writeTree(path, *tree);
             }
         }
         static_cast<void>(store_.commit());

@@ -1,5 +1,6 @@
 #include "replay/component_document.h"
 
+#include <array>
 #include <limits>
 #include <vector>
 
@@ -78,9 +79,9 @@ InvokeStatus statusOf(HRESULT result) noexcept {
 
 int ComponentDocument::idOf(std::string_view name) {
     const Text wide(std::u16string(name.begin(), name.end()));
-    LPOLESTR names[] = {wide.get()};
+    std::array<LPOLESTR, 1> names = {wide.get()};
     DISPID id = DISPID_UNKNOWN;
-    const HRESULT result = document_->GetIDsOfNames(IID_NULL, names, 1, 0, &id);
+    const HRESULT result = document_->GetIDsOfNames(IID_NULL, names.data(), 1, 0, &id);
     return SUCCEEDED(result) ? static_cast<int>(id) : 0;
 }
 

@@ -106,7 +106,7 @@ HRESULT findAssociated(void* /*context*/, DochtmlObject object, const DochtmlTex
 }  // namespace
 
 DochtmlModel recordOf(const MMSchema& schema) {
-    // A context is never written through; C has no better word for it.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): never written through.
     return {const_cast<MMSchema*>(&schema),
             &findObject,
             &findClass,

@@ -19,6 +19,7 @@ public:
     explicit LoadedComponent(std::string executable) : executable_(std::move(executable)) {}
     LoadedComponent(const LoadedComponent&) = delete;
     LoadedComponent& operator=(const LoadedComponent&) = delete;
+    ~LoadedComponent() = default;
 
     [[nodiscard]] std::unique_ptr<LateBoundDocument> makeDocument();
     /// Lends the services for the life of what it returns.

@@ -1,3 +1,4 @@
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -16,7 +17,7 @@ std::uint32_t takeCharacter(std::string_view& rest) noexcept {
         return lead;
     }
     const std::size_t following = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
-    constexpr std::uint32_t leastOf[] = {0, 0x80, 0x800, 0x10000};
+    constexpr std::array<std::uint32_t, 4> leastOf = {0, 0x80, 0x800, 0x10000};
     std::uint32_t value = lead & (0x3FU >> following);
     if (lead < 0xC2 || lead > 0xF4 || rest.size() < following) {
         return replacement;

@@ -53,6 +53,23 @@ std::pair<std::string, std::string_view> splitPath(std::string_view path) {
     return {std::string(path.substr(0, end)), path.substr(end + 1)};
 }
 
+template <typename Tree>
+Tree* find(Tree& root, std::string_view path) {
+    const auto [name, rest] = splitPath(path);
+    const auto child = root.children.find(name);
+    if (child == root.children.end()) {
+        return nullptr;
+    }
+    return rest.empty() ? &child->second : find<Tree>(child->second, rest);
+}
+
+std::string joined(const std::string& parent, const std::string& name) {
+    std::string path = parent;
+    path += parent.empty() ? "" : "\\";
+    path += name;
+    return path;
+}
+
 void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree) {
     if (!path.empty()) {
         out << '[' << path << "]\n";
@@ -62,7 +79,7 @@ void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree) 
             << escaped(value.data) << '\n';
     }
     for (const auto& [name, child] : tree.children) {
-        writeKeys(out, path.empty() ? name : path + '\\' + name, child);
+        writeKeys(out, joined(path, name), child);
     }
 }
 
@@ -113,16 +130,11 @@ bool writeClassFile(const std::filesystem::path& file, const KeyTree& root) {
 }
 
 const KeyTree* findKey(const KeyTree& root, std::string_view path) {
-    const auto [name, rest] = splitPath(path);
-    const auto child = root.children.find(name);
-    if (child == root.children.end()) {
-        return nullptr;
-    }
-    return rest.empty() ? &child->second : findKey(child->second, rest);
+    return find(root, path);
 }
 
 KeyTree* findKey(KeyTree& root, std::string_view path) {
-    return const_cast<KeyTree*>(findKey(std::as_const(root), path));
+    return find(root, path);
 }
 
 KeyTree& makeKey(KeyTree& root, std::string_view path) {

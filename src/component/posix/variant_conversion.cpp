@@ -1,3 +1,4 @@
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -192,9 +193,9 @@ std::optional<bool> booleanOf(const VARIANT& value) {
 }
 
 std::string shownReal(double value, int digits) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%.*G", digits, value);
-    return text;
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.*G", digits, value);
+    return text.data();
 }
 
 std::string shownNumber(const VARIANT& value, const Number& number) {

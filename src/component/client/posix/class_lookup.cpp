@@ -1,6 +1,7 @@
 #include "component/client/posix/class_lookup.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 #include "component/posix/class_file.h"
@@ -72,7 +73,7 @@ std::optional<GUID> parseGuid(std::string_view text) {
     if (text.size() != shape.size()) {
         return std::nullopt;
     }
-    std::uint8_t bytes[16] = {};
+    std::array<std::uint8_t, sizeof(GUID)> bytes{};
     std::size_t digits = 0;
     for (std::size_t i = 0; i < shape.size(); ++i) {
         if (shape[i] != 'x') {
@@ -93,7 +94,7 @@ std::optional<GUID> parseGuid(std::string_view text) {
                  std::uint32_t{bytes[2]} << 8 | bytes[3];
     guid.Data2 = static_cast<std::uint16_t>(bytes[4] << 8 | bytes[5]);
     guid.Data3 = static_cast<std::uint16_t>(bytes[6] << 8 | bytes[7]);
-    std::copy(bytes + 8, bytes + 16, guid.Data4);
+    std::copy(bytes.begin() + 8, bytes.end(), guid.Data4);
     return guid;
 }
 

@@ -35,6 +35,7 @@ public:
     Apartment();
     Apartment(const Apartment&) = delete;
     Apartment& operator=(const Apartment&) = delete;
+    // NOLINTNEXTLINE(performance-trivially-destructible): on Windows there is something to do.
     ~Apartment();
 };
 
