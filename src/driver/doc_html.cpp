@@ -17,9 +17,9 @@ namespace {
 
 /// The style sheet of the setting as a file that exists.
 OrxString installedStyleSheet(const DocumentSettings& settings) {
-    const OrxString path = SysFile::getDir(settings.styleSheet).isEmpty()
-                               ? SysFile::appendToDir(settings.installDir, settings.styleSheet)
-                               : settings.styleSheet;
+    OrxString path = SysFile::getDir(settings.styleSheet).isEmpty()
+                         ? SysFile::appendToDir(settings.installDir, settings.styleSheet)
+                         : settings.styleSheet;
     if (!SysFile::exists(path)) {
         OrxException::raise("Html style sheet does not exist.\n" + path);
     }

@@ -27,6 +27,8 @@ struct DocHtmlImpl;
 class DocHtml : public IDocument {
 public:
     DocHtml();
+    DocHtml(const DocHtml&) = delete;
+    DocHtml& operator=(const DocHtml&) = delete;
     ~DocHtml() override;
 
     DocResult create(WideText fileName) override;

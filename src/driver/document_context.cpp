@@ -21,7 +21,7 @@ OrxString DocumentContext::documentLink(const OrxString& fileName, LinkMemo& mem
     return "file:///" + links::fromPath(fileName);
 }
 
-OrxString DocumentContext::copyTo(const OrxString& directory, const OrxString& fileName) {
+OrxString DocumentContext::copyTo(const OrxString& directory, const OrxString& fileName) const {
     return copier.copyToDir(fileName, directory, "", trace);
 }
 

@@ -26,7 +26,7 @@ struct DocumentContext {
     /// The same for a file that many pages refer to.
     [[nodiscard]] OrxString documentLink(const OrxString& fileName, LinkMemo& memo) const;
     /// Copies a file under its own name and returns the name to refer to.
-    OrxString copyTo(const OrxString& directory, const OrxString& fileName);
+    OrxString copyTo(const OrxString& directory, const OrxString& fileName) const;
     /// Writes an error line to the trace.
     void traceError(std::string_view opening, std::string_view subject);
 };

@@ -16,7 +16,7 @@ void PageTurner::newPage() {
     auto page = OrxCountedPtr<DocHtmlPage>::make();
     page->setTrace(context_.trace);
     // Pages of a report are alike; a page that is much larger than others says nothing of the next.
-    constexpr std::size_t commonPage = 64 * 1024;
+    constexpr std::size_t commonPage = 65536;
     page->reserve(std::min(expectedSize_, commonPage));
     context_.out.setPage(std::move(page));
 }

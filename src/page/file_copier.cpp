@@ -15,7 +15,7 @@ OrxString FileCopier::copyToDir(const OrxString& source, const OrxString& target
     }
     SysDirectory::checkDirectoryAndCreate(targetDir);
     const OrxString name = targetName.isEmpty() ? SysFile::stripDir(source) : targetName;
-    const OrxString target = SysFile::appendToDir(targetDir, name);
+    OrxString target = SysFile::appendToDir(targetDir, name);
     if (SysFile::copy(source, target)) {
         DocumentObserver::current().fileCopied(target);
         return target;

@@ -2,10 +2,8 @@
 
 #include "foundation/orx_string.h"
 
-namespace quillmark {
-
 /// The way from paths to links. All of it is text work; nothing is looked up on the disk.
-namespace links {
+namespace quillmark::links {
 
 /// Every ":" becomes "|" and every "\" becomes "/".
 [[nodiscard]] OrxString fromPath(OrxString path);
@@ -23,6 +21,4 @@ namespace links {
 [[nodiscard]] OrxString defaultBase();
 void setDefaultBase(const OrxString& directory);
 
-}  // namespace links
-
-}  // namespace quillmark
+}  // namespace quillmark::links
