@@ -44,7 +44,7 @@ TEST_F(Section, FillsFileAndNumberPerPage) {
     section.insertField(4);
     EXPECT_EQ(shown(7, "p.htm"), "p.htm 7");
     EXPECT_EQ(shown(-1, ""), " -1");
-    EXPECT_EQ(shown(4294967295L, "q"), "q 4294967295");
+    EXPECT_EQ(shown(2147483647L, "q"), "q 2147483647");
 }
 
 TEST_F(Section, FillsOnlyTheFirstTokenOfAKind) {
