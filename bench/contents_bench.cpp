@@ -34,7 +34,7 @@ void contentsPages(benchmark::State& state) {
     const SettingsInForce settings({{"SupportOld", state.range(0) != 0 ? "true" : "false"},
                                     {"LocateInBrowser", state.range(1) != 0 ? "true" : "false"},
                                     {"ShowIcons", state.range(2) != 0 ? "true" : "false"}});
-    documentDoubled(state, contents, 100'000);
+    documentDoubled(state, Place::memory, contents, 100'000);
     state.counters["goal"] = goal;
 }
 BENCHMARK(contentsPages)

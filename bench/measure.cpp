@@ -11,6 +11,7 @@
 
 #include "driver/doc_html.h"
 #include "peak_memory.h"
+#include "tags_are_no_files.h"
 
 namespace quillmark::bench {
 
@@ -149,19 +150,28 @@ Seconds documentAgainstFloor(benchmark::State& state, Place place, Body body, st
     return document;
 }
 
-void documentDoubled(benchmark::State& state, Body body, std::size_t size) {
+void documentDoubled(benchmark::State& state, Place place, Body body, std::size_t size) {
     std::vector<Seconds> halves;
     for (int run = 0; run < 3; ++run) {
-        halves.push_back(secondsOfDocument(freshDirectory(Place::memory), body, size / 2));
+        settle(place);
+        halves.push_back(secondsOfDocument(freshDirectory(place), body, size / 2));
     }
-    const Seconds whole = documentAgainstFloor(state, Place::memory, body, size);
+    const Seconds whole = documentAgainstFloor(state, place, body, size);
     const Seconds half = median(halves);
-    const fs::path last = freshDirectory(Place::memory);
-    static_cast<void>(secondsOfDocument(last, body, size));
-    const Seconds streaming = secondsOfStreaming(freshDirectory(Place::memory), filesBelow(last));
-    state.counters["ratio_streaming"] = whole.processor / streaming.processor;
     state.counters["doubling"] = whole.clock / half.clock;
     state.counters["doubling_cpu"] = whole.processor / half.processor;
+
+    const fs::path last = freshDirectory(place);
+    settle(place);
+    Seconds withoutLooks;
+    {
+        const TagsAreNoFiles files;
+        withoutLooks = secondsOfDocument(last, body, size);
+    }
+    settle(place);
+    const Seconds streaming = secondsOfStreaming(freshDirectory(place), filesBelow(last));
+    state.counters["ratio_streaming"] = whole.processor / streaming.processor;
+    state.counters["ratio_without_looks"] = withoutLooks.processor / streaming.processor;
 }
 
 }  // namespace quillmark::bench

@@ -66,8 +66,8 @@ struct FileBytes {
 /// document's median.
 Seconds documentAgainstFloor(benchmark::State& state, Place place, Body body, std::size_t size);
 
-/// As above, in memory, and adds "doubling" and "doubling_cpu" (`size` by half of it) and
-/// "ratio_streaming" (of the processor).
-void documentDoubled(benchmark::State& state, Body body, std::size_t size);
+/// As above, and adds "doubling" and "doubling_cpu" (`size` by half of it), "ratio_streaming" (of
+/// the processor) and the same "ratio_without_looks" at the disk for every link's target.
+void documentDoubled(benchmark::State& state, Place place, Body body, std::size_t size);
 
 }  // namespace quillmark::bench

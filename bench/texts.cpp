@@ -23,4 +23,9 @@ std::u16string numbered(const char16_t* prefix, std::size_t number) {
     return text;
 }
 
+std::u16string tagName(std::size_t number) {
+    static const std::u16string opening(tagOpening.begin(), tagOpening.end());
+    return numbered(opening.c_str(), number);
+}
+
 }  // namespace quillmark::bench

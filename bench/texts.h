@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace quillmark::bench {
 
@@ -10,5 +11,9 @@ namespace quillmark::bench {
 
 /// The prefix with the number behind it.
 [[nodiscard]] std::u16string numbered(const char16_t* prefix, std::size_t number);
+
+/// How the name of every tag begins: as the 8-bit file system sees it, and as the host tells it.
+inline constexpr std::string_view tagOpening = "GUID-";
+[[nodiscard]] std::u16string tagName(std::size_t number);
 
 }  // namespace quillmark::bench

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 #include "driver/operation_table.h"
 
 namespace quillmark::testing {
@@ -9,258 +12,95 @@ namespace {
 
 using namespace std::string_literals;
 using Arguments = std::vector<CallArgument>;
-using TableCall = HRESULT (*)(::IDocument&, const Arguments&, Text&);
+using TableCall = std::function<HRESULT(::IDocument&, const Arguments&, Text&)>;
+
+/// An argument of a step as the table of operations takes it.
+class TableArgument {
+public:
+    TableArgument(const CallArgument& argument, Text& out) : argument_(argument), out_(out) {
+        if (const auto* text = std::get_if<std::u16string>(&argument_)) {
+            text_ = Text(*text);
+        }
+    }
+    operator BSTR() const { return text_.get(); }
+    operator BSTR*() const { return out_.receive(); }
+    operator LONG() const { return std::get<std::int32_t>(argument_); }
+    /// Booleans are short integers in the table.
+    operator SHORT() const {
+        const bool* truth = std::get_if<bool>(&argument_);
+        if (truth == nullptr) {
+            return std::get<std::int16_t>(argument_);
+        }
+        return *truth ? VARIANT_TRUE : VARIANT_FALSE;
+    }
+
+private:
+    const CallArgument& argument_;
+    Text& out_;
+    Text text_;
+};
+
+template <typename... Parameters, std::size_t... Positions>
+TableCall byTable(HRESULT (STDMETHODCALLTYPE ::IDocument::*operation)(Parameters...),
+                  std::index_sequence<Positions...>) {
+    return [operation](::IDocument& document, const Arguments& arguments, Text& out) {
+        static_cast<void>(arguments);
+        static_cast<void>(out);
+        return std::invoke(operation, document,
+                           static_cast<Parameters>(TableArgument(arguments.at(Positions), out))...);
+    };
+}
+
+template <typename... Parameters>
+TableCall byTable(HRESULT (STDMETHODCALLTYPE ::IDocument::*operation)(Parameters...)) {
+    return byTable(operation, std::index_sequence_for<Parameters...>());
+}
 
 const std::map<std::string, TableCall>& tableCalls() {
-    static const std::map<std::string, TableCall> calls = {{"create",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.create(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get());
-                                                            }},
-                                                           {"close",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.close(); }},
-                                                           {"insertText",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.insertText(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get());
-                                                            }},
-                                                           {"insertEndl",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.insertEndl(); }},
-                                                           {"insertDiagram",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.insertDiagram(
-                                                                    std::get<std::int32_t>(a[0]),
-                                                                    std::get<std::int16_t>(a[1]),
-                                                                    std::get<std::int16_t>(a[2]));
-                                                            }},
-                                                           {"insertPageBreak",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) {
-                                                                return d.insertPageBreak();
-                                                            }},
-                                                           {"insertField",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.insertField(
-                                                                    std::get<std::int16_t>(a[0]));
-                                                            }},
-                                                           {"startHeader",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.startHeader(); }},
-                                                           {"endHeader",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.endHeader(); }},
-                                                           {"startFooter",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.startFooter(); }},
-                                                           {"endFooter",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.endFooter(); }},
-                                                           {"setStyle",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.setStyle(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get());
-                                                            }},
-                                                           {"setFontName",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.setFontName(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get());
-                                                            }},
-                                                           {"setOption",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.setOption(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get(),
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[1]))
-                                                                        .get());
-                                                            }},
-                                                           {"trace",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.trace(
-                                                                    std::get<std::int16_t>(a[0]));
-                                                            }},
-                                                           {"getPropPages",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text& out) {
-                                                                return d.getPropPages(
-                                                                    out.receive());
-                                                            }},
-                                                           {"start",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.start(); }},
-                                                           {"stop",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.stop(); }},
-                                                           {"showLast",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.showLast(); }},
-                                                           {"setFontSize",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.setFontSize(
-                                                                    std::get<std::int16_t>(a[0]));
-                                                            }},
-                                                           {"setFontAttribute",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.setFontAttribute(
-                                                                    std::get<std::int16_t>(a[0]),
-                                                                    std::get<bool>(a[1])
-                                                                        ? VARIANT_TRUE
-                                                                        : VARIANT_FALSE);
-                                                            }},
-                                                           {"setTextAlign",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.setTextAlign(
-                                                                    std::get<std::int16_t>(a[0]));
-                                                            }},
-                                                           {"insertFile",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.insertFile(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get(),
-                                                                    std::get<std::int16_t>(a[1]));
-                                                            }},
-                                                           {"getDocType",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text& out) {
-                                                                return d.getDocType(out.receive());
-                                                            }},
-                                                           {"overrideRegistry",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.overrideRegistry(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get(),
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[1]))
-                                                                        .get(),
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[2]))
-                                                                        .get(),
-                                                                    std::get<std::int16_t>(a[3]));
-                                                            }},
-                                                           {"insertTOC",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.insertTOC(); }},
-                                                           {"startTable",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.startTable(); }},
-                                                           {"endTable",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.endTable(); }},
-                                                           {"addCell",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.addCell(); }},
-                                                           {"addRow",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.addRow(); }},
-                                                           {"insertMark",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.insertMark(
-                                                                    std::get<std::int32_t>(a[0]),
-                                                                    std::get<bool>(a[1])
-                                                                        ? VARIANT_TRUE
-                                                                        : VARIANT_FALSE);
-                                                            }},
-                                                           {"startTOCEntry",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) {
-                                                                return d.startTOCEntry();
-                                                            }},
-                                                           {"endTOCEntry",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.endTOCEntry(); }},
-                                                           {"insertImage",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.insertImage(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get(),
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[1]))
-                                                                        .get());
-                                                            }},
-                                                           {"setOrientation",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.setOrientation(
-                                                                    std::get<std::int16_t>(a[0]));
-                                                            }},
-                                                           {"setTableRowHeight",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.setTableRowHeight(
-                                                                    std::get<std::int32_t>(a[0]));
-                                                            }},
-                                                           {"insertTag",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.insertTag(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get());
-                                                            }},
-                                                           {"insertXref",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.insertXref(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get(),
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[1]))
-                                                                        .get());
-                                                            }},
-                                                           {"startFile",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.startFile(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get());
-                                                            }},
-                                                           {"insertLocate",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) { return d.insertLocate(); }},
-                                                           {"pushDirectory",
-                                                            [](::IDocument& d, const Arguments& a,
-                                                               Text&) {
-                                                                return d.pushDirectory(
-                                                                    Text(std::get<std::u16string>(
-                                                                             a[0]))
-                                                                        .get());
-                                                            }},
-                                                           {"popDirectory",
-                                                            [](::IDocument& d, const Arguments&,
-                                                               Text&) {
-                                                                return d.popDirectory();
-                                                            }}};
+    static const std::map<std::string, TableCall> calls = {
+        {"create", byTable(&::IDocument::create)},
+        {"close", byTable(&::IDocument::close)},
+        {"insertText", byTable(&::IDocument::insertText)},
+        {"insertEndl", byTable(&::IDocument::insertEndl)},
+        {"insertDiagram", byTable(&::IDocument::insertDiagram)},
+        {"insertPageBreak", byTable(&::IDocument::insertPageBreak)},
+        {"insertField", byTable(&::IDocument::insertField)},
+        {"startHeader", byTable(&::IDocument::startHeader)},
+        {"endHeader", byTable(&::IDocument::endHeader)},
+        {"startFooter", byTable(&::IDocument::startFooter)},
+        {"endFooter", byTable(&::IDocument::endFooter)},
+        {"setStyle", byTable(&::IDocument::setStyle)},
+        {"setFontName", byTable(&::IDocument::setFontName)},
+        {"setOption", byTable(&::IDocument::setOption)},
+        {"trace", byTable(&::IDocument::trace)},
+        {"getPropPages", byTable(&::IDocument::getPropPages)},
+        {"start", byTable(&::IDocument::start)},
+        {"stop", byTable(&::IDocument::stop)},
+        {"showLast", byTable(&::IDocument::showLast)},
+        {"setFontSize", byTable(&::IDocument::setFontSize)},
+        {"setFontAttribute", byTable(&::IDocument::setFontAttribute)},
+        {"setTextAlign", byTable(&::IDocument::setTextAlign)},
+        {"insertFile", byTable(&::IDocument::insertFile)},
+        {"getDocType", byTable(&::IDocument::getDocType)},
+        {"overrideRegistry", byTable(&::IDocument::overrideRegistry)},
+        {"insertTOC", byTable(&::IDocument::insertTOC)},
+        {"startTable", byTable(&::IDocument::startTable)},
+        {"endTable", byTable(&::IDocument::endTable)},
+        {"addCell", byTable(&::IDocument::addCell)},
+        {"addRow", byTable(&::IDocument::addRow)},
+        {"insertMark", byTable(&::IDocument::insertMark)},
+        {"startTOCEntry", byTable(&::IDocument::startTOCEntry)},
+        {"endTOCEntry", byTable(&::IDocument::endTOCEntry)},
+        {"insertImage", byTable(&::IDocument::insertImage)},
+        {"setOrientation", byTable(&::IDocument::setOrientation)},
+        {"setTableRowHeight", byTable(&::IDocument::setTableRowHeight)},
+        {"insertTag", byTable(&::IDocument::insertTag)},
+        {"insertXref", byTable(&::IDocument::insertXref)},
+        {"startFile", byTable(&::IDocument::startFile)},
+        {"insertLocate", byTable(&::IDocument::insertLocate)},
+        {"pushDirectory", byTable(&::IDocument::pushDirectory)},
+        {"popDirectory", byTable(&::IDocument::popDirectory)},
+    };
     return calls;
 }
 
