@@ -1,5 +1,6 @@
 #include "foundation/name_index.h"
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -13,7 +14,10 @@ std::uint32_t hashOf(std::string_view name) noexcept {
     return static_cast<std::uint32_t>(hash ^ (hash >> 31U));
 }
 
-constexpr std::size_t firstTableSize = 8;
+/// Up to here names are looked through one by one, and no table is held for them: most indexes
+/// are those of pages with a link or two.
+constexpr std::size_t fewNames = 8;
+constexpr std::size_t firstTableSize = 16;
 
 }  // namespace
 
@@ -26,11 +30,24 @@ std::size_t NameIndex::slotOf(std::string_view name, std::uint32_t hash) const n
     return at;
 }
 
+NameIndex::Id NameIndex::findAmongFew(std::string_view name) const noexcept {
+    for (Id id = 0; id < names_.size(); ++id) {
+        if (names_[id] == name) {
+            return id;
+        }
+    }
+    return none;
+}
+
 NameIndex::Id NameIndex::find(std::string_view name) const noexcept {
-    return slots_.empty() ? none : slots_[slotOf(name, hashOf(name))].id;
+    return slots_.empty() ? findAmongFew(name) : slots_[slotOf(name, hashOf(name))].id;
 }
 
 NameIndex::Id NameIndex::add(std::string_view name) {
+    if (slots_.empty() && names_.size() < fewNames) {
+        const Id found = findAmongFew(name);
+        return found != none ? found : names_.add(name);
+    }
     if ((names_.size() + 1) * 4 > slots_.size() * 3) {
         grow();
     }
@@ -44,7 +61,12 @@ NameIndex::Id NameIndex::add(std::string_view name) {
 
 void NameIndex::grow() {
     std::vector<Slot> old = std::exchange(slots_, {});
-    slots_.resize(old.empty() ? firstTableSize : old.size() * 2);
+    if (old.empty()) {
+        for (Id id = 0; id < names_.size(); ++id) {
+            old.push_back({hashOf(names_[id]), id});
+        }
+    }
+    slots_.resize(std::max(firstTableSize, old.size() * 2));
     const std::size_t mask = slots_.size() - 1;
     for (const Slot& slot : old) {
         if (slot.id == none) {

@@ -11,8 +11,9 @@ namespace quillmark {
 
 /// Gives every distinct name a small number, in the order in which the names first come.
 ///
-/// A flat table with open addressing: finding a name costs one probe or two however many there
-/// are. Names are compared byte by byte; nothing is ever removed but by `clear`.
+/// A flat table with open addressing, made when the names are more than a few: finding a name
+/// costs one probe or two however many there are. Names are compared byte by byte; nothing is ever
+/// removed but by `clear`.
 class NameIndex {
 public:
     using Id = std::uint32_t;
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] std::string_view name(Id id) const noexcept { return names_[id]; }
     [[nodiscard]] std::size_t size() const noexcept { return names_.size(); }
     void clear() noexcept;
+    /// Gives back memory held for growth.
+    void compact() { names_.compact(); }
 
 private:
     struct Slot {
@@ -33,11 +36,12 @@ private:
         Id id = none;
     };
 
+    [[nodiscard]] Id findAmongFew(std::string_view name) const noexcept;
     [[nodiscard]] std::size_t slotOf(std::string_view name, std::uint32_t hash) const noexcept;
     void grow();
 
     PackedTexts names_;
-    std::vector<Slot> slots_;  // a power of two, at most three quarters full
+    std::vector<Slot> slots_;  // none, or a power of two and at most three quarters full
 };
 
 }  // namespace quillmark

@@ -23,6 +23,11 @@ public:
         return std::string_view(bytes_).substr(start, ends_[index] - start);
     }
     [[nodiscard]] std::size_t size() const noexcept { return ends_.size(); }
+    /// Gives back memory held for growth.
+    void compact() {
+        bytes_.shrink_to_fit();
+        ends_.shrink_to_fit();
+    }
     void clear() noexcept {
         bytes_.clear();
         ends_.clear();

@@ -47,7 +47,6 @@ struct DocHtmlPage::Record {
     MarkTable marks;
     SpliceText::MarkId insertPoint = SpliceText::none;
     Trace trace;
-    std::string filled;  // kept between calls for its memory alone
 
     void writeFile() const;
     void reportUnresolved() const;
@@ -197,7 +196,7 @@ void DocHtmlPage::removeMarks(std::string_view name) {
 
 void DocHtmlPage::resolveMarks(std::string_view name, std::string_view reference) {
     SpliceText& text = record_->text;
-    std::string& filled = record_->filled;
+    std::string filled;
     record_->marks.take(name, [&](SpliceText::MarkId mark) {
         filled.clear();
         fillMarkup(filled, text.markup(mark), name, reference);
@@ -232,6 +231,7 @@ std::size_t DocHtmlPage::bodySize() const noexcept {
 
 void DocHtmlPage::compact() {
     record_->text.compact();
+    record_->marks.compact();
 }
 
 std::vector<std::pair<OrxString, htmlMarkPosition>> DocHtmlPage::marks() const {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace quillmark {
 
@@ -24,10 +25,9 @@ NameIndex::Id MarkTable::idOf(std::string_view name) {
 }
 
 std::uint32_t MarkTable::newEntry(MarkId mark) {
-    if (!freeEntries_.empty()) {
-        const std::uint32_t reused = freeEntries_.back();
-        freeEntries_.pop_back();
-        entries_[reused] = {mark, NameIndex::none};
+    if (firstFree_ != NameIndex::none) {
+        const std::uint32_t reused = firstFree_;
+        firstFree_ = std::exchange(entries_[reused], {mark, NameIndex::none}).next;
         return reused;
     }
     entries_.push_back({mark, NameIndex::none});
@@ -56,16 +56,16 @@ void MarkTable::forEach(const std::function<void(std::string_view, MarkId)>& eac
 }
 
 void MarkTable::compact() {
+    names_.compact();
     chains_.shrink_to_fit();
     entries_.shrink_to_fit();
-    freeEntries_.shrink_to_fit();
 }
 
 void MarkTable::clear() noexcept {
     names_.clear();
     chains_.clear();
     entries_.clear();
-    freeEntries_.clear();
+    firstFree_ = NameIndex::none;
     open_ = 0;
     lastAdded_ = NameIndex::none;
 }

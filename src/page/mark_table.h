@@ -35,7 +35,7 @@ public:
 private:
     struct Entry {
         MarkId mark = SpliceText::none;
-        std::uint32_t next = NameIndex::none;  // entry of the same name
+        std::uint32_t next = NameIndex::none;  // entry of the same name; or the next free one
     };
     struct Chain {
         std::uint32_t first = NameIndex::none;
@@ -50,7 +50,7 @@ private:
     NameIndex names_;
     std::vector<Chain> chains_;  // by the name's number
     std::vector<Entry> entries_;
-    std::vector<std::uint32_t> freeEntries_;
+    std::uint32_t firstFree_ = NameIndex::none;  // in entries_
     std::size_t open_ = 0;
     NameIndex::Id lastAdded_ = NameIndex::none;
 };
@@ -65,7 +65,8 @@ void MarkTable::take(std::string_view name, const Each& each) {
     chains_[id] = {};
     while (entry != NameIndex::none) {
         const Entry taken = entries_[entry];
-        freeEntries_.push_back(entry);
+        entries_[entry].next = firstFree_;
+        firstFree_ = entry;
         --open_;
         each(taken.mark);
         entry = taken.next;

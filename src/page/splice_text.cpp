@@ -1,5 +1,7 @@
 #include "page/splice_text.h"
 
+#include <utility>
+
 namespace quillmark {
 
 void SpliceText::append(std::string_view text) {
@@ -66,7 +68,8 @@ void SpliceText::insertAt(MarkId mark, std::string_view text) {
 
 void SpliceText::drop(MarkId mark) {
     unlink(mark);
-    free_.push_back(mark);
+    nodes_[mark].next = firstFree_;
+    firstFree_ = mark;
 }
 
 std::string_view SpliceText::markup(MarkId mark) const noexcept {
@@ -99,14 +102,12 @@ void SpliceText::compact() {
     base_.shrink_to_fit();
     pool_.shrink_to_fit();
     nodes_.shrink_to_fit();
-    free_.shrink_to_fit();
 }
 
 SpliceText::MarkId SpliceText::newNode() {
-    if (!free_.empty()) {
-        const MarkId reused = free_.back();
-        free_.pop_back();
-        nodes_[reused] = {};
+    if (firstFree_ != none) {
+        const MarkId reused = firstFree_;
+        firstFree_ = std::exchange(nodes_[reused], {}).next;
         return reused;
     }
     nodes_.emplace_back();

@@ -84,7 +84,7 @@ private:
     std::int32_t lineCount_ = 0;
     std::string pool_;
     std::vector<Node> nodes_;
-    std::vector<MarkId> free_;
+    MarkId firstFree_ = none;  // in nodes_; the others behind it by `next`
     MarkId head_ = none;
     MarkId tail_ = none;
     std::size_t insertedBytes_ = 0;
