@@ -3,6 +3,8 @@
 import pathlib
 
 HERE = pathlib.Path(__file__).resolve().parent
+HOSTS = HERE.parent.parent / "examples" / "hosts"
+DOCUMENTATION = HERE.parent.parent / "docs" / "component.md"
 REPORT = HERE / "report"
 EXPECTED = REPORT / "expected"
 STYLE_SHEET = REPORT / "plain.css"
@@ -44,3 +46,11 @@ def check(test, actual, system):
     test.assertEqual(sorted(actual), sorted(wanted))
     for name, content in wanted.items():
         test.assertEqual(actual[name].decode("latin-1"), content.decode("latin-1"), name)
+
+
+def check_hello(test, actual):
+    """Fails the test case where a document set is not that of the smallest hosts."""
+    test.assertEqual(
+        sorted(actual), ["plain.css", "rep.htm", "rep_cnt.htm", "rep_dtl.htm", "rep_toc.dat"]
+    )
+    test.assertIn(b'<H1><a name="toc1"></a>Hello', actual["rep_dtl.htm"])

@@ -78,6 +78,19 @@ class HostsTest(unittest.TestCase):
             for name in "DocHtml.DocHtml", "DocHtml.DocHtml.2.1.0", DRIVER_CLASS:
                 self.check_report(host, name)
 
+    def test_hosts_of_the_documentation_say_hello(self):
+        self.register(LIBRARY)
+        for host in "hello_host", "hello_c_host":
+            ended, files = self.report(host)
+            self.assertEqual((ended.returncode, ended.stderr), (0, ""))
+            document_set.check_hello(self, files)
+
+    def test_documentation_shows_the_hosts_that_run_here(self):
+        shown = document_set.DOCUMENTATION.read_text(encoding="utf-8")
+        for host, language in ("hello.js", "js"), ("hello.cpp", "cpp"), ("hello_c.c", "c"):
+            source = (document_set.HOSTS / host).read_text(encoding="utf-8")
+            self.assertIn(f"```{language}\n{source}```\n", shown)
+
     def test_registering_twice_leaves_one_copy(self):
         self.register(LIBRARY)
         once = self.classes.read_text()

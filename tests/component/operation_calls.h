@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <ostream>
 #include <string>
 #include <variant>
 #include <vector>
@@ -23,6 +24,8 @@ struct OperationCall {
     std::function<HRESULT(::IDocument&)> byTable;
     /// What a document that writes down its calls has then.
     std::string recorded;
+
+    friend void PrintTo(const OperationCall& call, std::ostream* out) { *out << call.name; }
 };
 
 /// A call of every operation, in the order of the identifiers.

@@ -17,7 +17,6 @@ import unittest
 import document_set
 
 BUILD, LIBRARY, REGISTERED_TESTS, LIBRARY_TESTS = map(pathlib.Path, sys.argv[1:5])
-HOSTS = document_set.HERE.parent.parent / "examples" / "hosts"
 
 DRIVER = "{474BDD91-0170-11d3-A6BF-00104B2AEFE1}"
 PAGE = "{474BDD93-0170-11d3-A6BF-00104B2AEFE1}"
@@ -173,35 +172,41 @@ class WineTest(unittest.TestCase):
         # A second time finds nothing to remove.
         self.unregister()
 
-    def check_script(self, script):
+    def files_of_script(self, script):
         self.register()
         out = pathlib.Path(tempfile.mkdtemp(dir=self.directory))
         ended = self.wine(
             "cscript",
             "//nologo",
-            windows_name(HOSTS / script),
+            windows_name(document_set.HOSTS / script),
             windows_name(out / "rep.htm"),
             windows_name(document_set.STYLE_SHEET),
         )
         self.assertEqual((ended.returncode, ended.stdout, ended.stderr), (0, b"", b""))
-        document_set.check(self, document_set.read(out), "windows")
+        return document_set.read(out)
 
-    def test_jscript_host_writes_the_report(self):
-        self.check_script("report.js")
+    def test_script_hosts_write_the_report(self):
+        for script in "report.js", "report.vbs":
+            document_set.check(self, self.files_of_script(script), "windows")
 
-    def test_vbscript_host_writes_the_report(self):
-        self.check_script("report.vbs")
+    def test_hosts_of_the_documentation_say_hello(self):
+        document_set.check_hello(self, self.files_of_script("hello.js"))
+        for host in "hello_host.exe", "hello_c_host.exe":
+            document_set.check_hello(self, self.files_of_program(host))
 
-    def check_program(self, program, component):
+    def files_of_program(self, program, *component):
         out = pathlib.Path(tempfile.mkdtemp(dir=self.directory))
         ended = self.wine(
             BUILD / "examples" / "hosts" / program,
             windows_name(out / "rep.htm"),
             windows_name(document_set.STYLE_SHEET),
-            component,
+            *component,
         )
         self.assertEqual((ended.returncode, ended.stderr), (0, b""))
-        document_set.check(self, document_set.read(out), "windows")
+        return document_set.read(out)
+
+    def check_program(self, program, component):
+        document_set.check(self, self.files_of_program(program, component), "windows")
 
     def test_compiled_hosts_write_the_report(self):
         self.register()

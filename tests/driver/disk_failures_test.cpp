@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <ostream>
 
 #include "driver/document_fixture.h"
 #include "support/failing_file_system.h"
@@ -123,14 +124,22 @@ TEST_F(DiskFailures, AreOnlyAskedForWhenTheLogWantsThem) {
         (std::vector<std::string>{"Exception catch: Error opening file: C:\\out\\rep.htm\n"}));
 }
 
+struct FailingOperation {
+    FailingFileSystem::Operation operation;
+    const char* name;
+
+    friend void PrintTo(const FailingOperation& failing, std::ostream* out) {
+        *out << failing.name;
+    }
+};
+
 /// One failure at a time, at every place where one can come.
-class EveryFailure : public DiskFailures,
-                     public ::testing::WithParamInterface<FailingFileSystem::Operation> {};
+class EveryFailure : public DiskFailures, public ::testing::WithParamInterface<FailingOperation> {};
 
 TEST_P(EveryFailure, LeavesAnObjectThatWritesTheNextDocument) {
     html("Navig", "3");
     for (std::size_t number = 1; number <= 30; ++number) {
-        failing.failAt(GetParam(), number);
+        failing.failAt(GetParam().operation, number);
         try {
             writeDocument();
         } catch (const OrxException& problem) {
@@ -147,16 +156,19 @@ TEST_P(EveryFailure, LeavesAnObjectThatWritesTheNextDocument) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(OfEveryKind, EveryFailure,
-                         ::testing::Values(FailingFileSystem::Operation::openForReading,
-                                           FailingFileSystem::Operation::openForWriting,
-                                           FailingFileSystem::Operation::write,
-                                           FailingFileSystem::Operation::close,
-                                           FailingFileSystem::Operation::makeDirectories,
-                                           FailingFileSystem::Operation::copyFile,
-                                           FailingFileSystem::Operation::deleteFile,
-                                           FailingFileSystem::Operation::replaceFile,
-                                           FailingFileSystem::Operation::setCurrentDirectory));
+using Kind = FailingFileSystem::Operation;
+INSTANTIATE_TEST_SUITE_P(
+    OfEveryKind, EveryFailure,
+    ::testing::Values(FailingOperation{Kind::openForReading, "openForReading"},
+                      FailingOperation{Kind::openForWriting, "openForWriting"},
+                      FailingOperation{Kind::write, "write"},
+                      FailingOperation{Kind::close, "close"},
+                      FailingOperation{Kind::makeDirectories, "makeDirectories"},
+                      FailingOperation{Kind::copyFile, "copyFile"},
+                      FailingOperation{Kind::deleteFile, "deleteFile"},
+                      FailingOperation{Kind::replaceFile, "replaceFile"},
+                      FailingOperation{Kind::setCurrentDirectory, "setCurrentDirectory"}),
+    [](const auto& test) { return std::string(test.param.name); });
 
 TEST_F(DiskFailures, OfADiskThatFillsAtEveryByteAreSurvived) {
     html("Navig", "3");

@@ -3,6 +3,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -57,6 +58,8 @@ using SubjectMaker = std::function<std::unique_ptr<Subject>()>;
 struct NamedMaker {
     const char* name;
     SubjectMaker make;
+
+    friend void PrintTo(const NamedMaker& maker, std::ostream* out) { *out << maker.name; }
 };
 
 class FileSystemContract : public testing::TestWithParam<NamedMaker> {

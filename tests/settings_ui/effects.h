@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <ostream>
 #include <span>
 #include <string>
 
@@ -18,6 +19,10 @@ struct Effect {
     /// The text in it that comes or goes; empty when the file itself does.
     const char* text;
     bool comes;
+
+    friend void PrintTo(const Effect& effect, std::ostream* out) {
+        *out << effect.setting << " = " << effect.value;
+    }
 };
 
 /// One for every setting that a person can reach on the page.

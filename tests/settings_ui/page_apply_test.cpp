@@ -1,4 +1,5 @@
 #include <gmock/gmock.h>
+#include <ostream>
 
 #include "settings_ui/page_fixture.h"
 
@@ -92,6 +93,10 @@ TEST_F(PageApplyTest, ARefusedHeadingLevelLeavesTheChecksWritten) {
 struct LevelCase {
     std::string text;
     std::string stored;  ///< empty: refused
+
+    friend void PrintTo(const LevelCase& level, std::ostream* out) {
+        *out << testing::PrintToString(level.text);
+    }
 };
 
 class HeadingLevel : public PageApplyTest, public testing::WithParamInterface<LevelCase> {};
