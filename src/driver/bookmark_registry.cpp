@@ -1,7 +1,5 @@
 #include "driver/bookmark_registry.h"
 
-#include <utility>
-
 #include "platform/path_text.h"
 
 namespace quillmark {
@@ -38,27 +36,10 @@ OrxString BookmarkRegistry::reference(Id id) const {
 }
 
 void BookmarkRegistry::addWaiting(Id id, const WaitingPage& page) {
-    std::uint32_t& list = records_[id].waiting;
-    if (list == none && freeWaiting_.empty()) {
-        list = static_cast<std::uint32_t>(waiting_.size());
-        waiting_.emplace_back();
-    } else if (list == none) {
-        list = freeWaiting_.back();
-        freeWaiting_.pop_back();
+    PooledLists<WaitingPage>::List& list = records_[id].waiting;
+    if (list.isEmpty() || waiting_.last(list).page != page.page) {
+        waiting_.append(list, page);
     }
-    std::vector<WaitingPage>& pages = waiting_[list];
-    if (pages.empty() || pages.back().page != page.page) {
-        pages.push_back(page);
-    }
-}
-
-std::vector<WaitingPage> BookmarkRegistry::takeWaiting(Id id) {
-    const std::uint32_t list = std::exchange(records_[id].waiting, none);
-    if (list == none) {
-        return {};
-    }
-    freeWaiting_.push_back(list);
-    return std::exchange(waiting_[list], {});
 }
 
 void BookmarkRegistry::clear() noexcept {

@@ -7,6 +7,7 @@
 #include "foundation/name_index.h"
 #include "foundation/orx_counted_ptr.h"
 #include "foundation/orx_string.h"
+#include "foundation/pooled_lists.h"
 #include "page/doc_html_page.h"
 
 namespace quillmark {
@@ -49,8 +50,11 @@ public:
     /// Lets a page wait; one that waits already does not wait twice. Pages must come in the order
     /// of their making, each as long as it is the current one.
     void addWaiting(Id id, const WaitingPage& page);
-    /// The pages that waited, in the order of their making; none waits afterwards.
-    [[nodiscard]] std::vector<WaitingPage> takeWaiting(Id id);
+    /// Hands over the pages that waited, in the order of their making; none waits afterwards.
+    template <typename Each>
+    void takeWaiting(Id id, const Each& each) {
+        waiting_.take(records_[id].waiting, each);
+    }
 
     void clear() noexcept;
 
@@ -58,14 +62,13 @@ private:
     static constexpr std::uint32_t none = 0xFFFFFFFF;
     struct Record {
         std::uint32_t pageFile = none;  // in pageFiles_
-        std::uint32_t waiting = none;   // in waiting_
+        PooledLists<WaitingPage>::List waiting;
     };
 
     NameIndex names_;
     std::vector<Record> records_;
     PackedTexts pageFiles_;
-    std::vector<std::vector<WaitingPage>> waiting_;
-    std::vector<std::uint32_t> freeWaiting_;
+    PooledLists<WaitingPage> waiting_;
     Id lastAdded_ = unknown;
 };
 

@@ -48,13 +48,13 @@ void Bookmarks::writeAnchor(BookmarkRegistry::Id id, std::string_view name) {
 }
 
 void Bookmarks::resolve(BookmarkRegistry::Id id, std::string_view name) {
-    for (const WaitingPage& waiting : registry_.takeWaiting(id)) {
+    registry_.takeWaiting(id, [&](const WaitingPage& waiting) {
         DocHtmlPage& page = *waiting.page;
         page.resolveMarks(name, relativeReference(id, page));
         if (&page != &out_.page() && !page.hasMarks()) {
             held_.finish(waiting.number, page);
         }
-    }
+    });
 }
 
 void Bookmarks::reference(std::string_view name, std::string_view markup) {

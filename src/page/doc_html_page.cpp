@@ -18,22 +18,6 @@ namespace {
 constexpr std::string_view fileEnd = "\n</HTML>\n";
 constexpr std::string_view hrefOpening = "HREF=\"";
 
-/// Appends what takes the place of a mark. The name's first occurrence in the markup counts
-/// wherever it stands, in the tag's own letters too: a place named "A" is found in "<A A>" at the
-/// tag.
-void fillMarkup(std::string& out, std::string_view markup, std::string_view name,
-                std::string_view reference) {
-    const std::size_t hit = markup.empty() ? 0 : markup.find(name);
-    if (hit == std::string_view::npos) {
-        out.append(markup);  // the end of a link
-        return;
-    }
-    out.append(markup.substr(0, hit)).append(hrefOpening).append(reference).append("\"");
-    if (!markup.empty()) {
-        out.append(markup.substr(hit + name.size()));
-    }
-}
-
 }  // namespace
 
 struct DocHtmlPage::Record {
@@ -48,10 +32,30 @@ struct DocHtmlPage::Record {
     SpliceText::MarkId insertPoint = SpliceText::none;
     Trace trace;
 
+    void fillMark(SpliceText::MarkId mark, std::string_view name, std::string_view reference);
     void writeFile() const;
     void reportUnresolved() const;
     void reset();
 };
+
+/// The name's first occurrence in the markup counts wherever it stands, in the tag's own letters
+/// too: a place named "A" is found in "<A A>" at the tag.
+void DocHtmlPage::Record::fillMark(SpliceText::MarkId mark, std::string_view name,
+                                   std::string_view reference) {
+    const std::string_view markup = text.markup(mark);
+    const std::size_t hit = markup.empty() ? 0 : markup.find(name);
+    text.rewind(mark);
+    if (hit == std::string_view::npos) {
+        text.insertAt(mark, markup);  // the end of a link
+        return;
+    }
+    const std::size_t behind = markup.empty() ? 0 : hit + name.size();
+    text.insertAt(mark, markup.substr(0, hit));
+    text.insertAt(mark, hrefOpening);
+    text.insertAt(mark, reference);
+    text.insertAt(mark, "\"");
+    text.insertAt(mark, text.markup(mark).substr(behind));
+}
 
 void DocHtmlPage::Record::writeFile() const {
     const std::string head = htmlHead(title, styleSheetLink, headExtra);
@@ -195,14 +199,9 @@ void DocHtmlPage::removeMarks(std::string_view name) {
 }
 
 void DocHtmlPage::resolveMarks(std::string_view name, std::string_view reference) {
-    SpliceText& text = record_->text;
-    std::string filled;
     record_->marks.take(name, [&](SpliceText::MarkId mark) {
-        filled.clear();
-        fillMarkup(filled, text.markup(mark), name, reference);
-        text.rewind(mark);
-        text.insertAt(mark, filled);
-        text.drop(mark);
+        record_->fillMark(mark, name, reference);
+        record_->text.drop(mark);
     });
     clearInsertPoint();
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "foundation/name_index.h"
+#include "foundation/pooled_lists.h"
 #include "page/splice_text.h"
 
 namespace quillmark {
@@ -33,24 +34,15 @@ public:
     void compact();
 
 private:
-    struct Entry {
-        MarkId mark = SpliceText::none;
-        std::uint32_t next = NameIndex::none;  // entry of the same name; or the next free one
-    };
-    struct Chain {
-        std::uint32_t first = NameIndex::none;
-        std::uint32_t last = NameIndex::none;
-    };
+    using Marks = PooledLists<MarkId>;
 
-    std::uint32_t newEntry(MarkId mark);
     /// The number of the name. The end of a link follows its beginning, so the name added last is
     /// found without a search.
     NameIndex::Id idOf(std::string_view name);
 
     NameIndex names_;
-    std::vector<Chain> chains_;  // by the name's number
-    std::vector<Entry> entries_;
-    std::uint32_t firstFree_ = NameIndex::none;  // in entries_
+    std::vector<Marks::List> lists_;  // by the name's number
+    Marks marks_;
     std::size_t open_ = 0;
     NameIndex::Id lastAdded_ = NameIndex::none;
 };
@@ -61,16 +53,10 @@ void MarkTable::take(std::string_view name, const Each& each) {
     if (id == NameIndex::none) {
         return;
     }
-    std::uint32_t entry = chains_[id].first;
-    chains_[id] = {};
-    while (entry != NameIndex::none) {
-        const Entry taken = entries_[entry];
-        entries_[entry].next = firstFree_;
-        firstFree_ = entry;
+    marks_.take(lists_[id], [&](MarkId mark) {
         --open_;
-        each(taken.mark);
-        entry = taken.next;
-    }
+        each(mark);
+    });
 }
 
 }  // namespace quillmark

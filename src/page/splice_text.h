@@ -28,7 +28,8 @@ public:
     void append(std::string_view text);
     /// Marks the end. `markup` is kept with the mark until it is dropped.
     MarkId addMark(std::string_view markup, std::uint32_t sequence);
-    /// Puts text in at an open mark, behind what was put in there since the last `rewind`.
+    /// Puts text in at an open mark, behind what was put in there since the last `rewind`. It may
+    /// be the mark's own markup; views of that end with the call.
     void insertAt(MarkId mark, std::string_view text);
     /// Goes back to the mark itself: what is put in next stands in front of what is there.
     void rewind(MarkId mark) noexcept { nodes_[mark].lastText = none; }

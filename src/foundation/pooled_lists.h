@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+namespace quillmark {
+
+/// Any number of lists in one block of memory: an entry costs four bytes besides its value and
+/// nothing of its own from the heap, so that hundreds of thousands of lists of one value stay
+/// small. A list is held by its owner and means something to this pool alone.
+///
+///     PooledLists<int> pool;
+///     PooledLists<int>::List odd;
+///     pool.append(odd, 1);
+///     pool.append(odd, 3);
+///     pool.take(odd, [](int number) { use(number); });      // 1, 3; the list is empty again
+template <typename Value>
+class PooledLists {
+public:
+    class List {
+    public:
+        [[nodiscard]] bool isEmpty() const noexcept { return first_ == none; }
+
+    private:
+        friend class PooledLists;
+        std::uint32_t first_ = none;
+        std::uint32_t last_ = none;
+    };
+
+    void append(List& list, Value value) {
+        const std::uint32_t entry = newEntry(std::move(value));
+        (list.isEmpty() ? list.first_ : entries_[list.last_].next) = entry;
+        list.last_ = entry;
+    }
+
+    /// The ends of a list that is not empty.
+    [[nodiscard]] const Value& first(const List& list) const { return entries_[list.first_].value; }
+    [[nodiscard]] const Value& last(const List& list) const { return entries_[list.last_].value; }
+
+    /// Empties the list and hands each value over, the first one first. `each` may use the pool.
+    template <typename Each>
+    void take(List& list, const Each& each) {
+        std::uint32_t entry = std::exchange(list, {}).first_;
+        while (entry != none) {
+            const Value value = std::exchange(entries_[entry].value, Value());
+            const std::uint32_t next = std::exchange(entries_[entry].next, firstFree_);
+            firstFree_ = entry;
+            each(value);
+            entry = next;
+        }
+    }
+
+    template <typename Each>
+    void forEach(const List& list, const Each& each) const {
+        for (std::uint32_t entry = list.first_; entry != none; entry = entries_[entry].next) {
+            each(entries_[entry].value);
+        }
+    }
+
+    /// Lets go of all values; lists that were not empty must not be used again.
+    void clear() noexcept {
+        entries_.clear();
+        firstFree_ = none;
+    }
+    /// Gives back memory held for growth.
+    void compact() { entries_.shrink_to_fit(); }
+
+private:
+    static constexpr std::uint32_t none = 0xFFFFFFFF;
+    struct Entry {
+        Value value;
+        std::uint32_t next;  // in its list, or in that of the free ones
+    };
+
+    std::uint32_t newEntry(Value value) {
+        if (firstFree_ == none) {
+            entries_.push_back({std::move(value), none});
+            return static_cast<std::uint32_t>(entries_.size() - 1);
+        }
+        const std::uint32_t reused = firstFree_;
+        firstFree_ = std::exchange(entries_[reused], {std::move(value), none}).next;
+        return reused;
+    }
+
+    std::vector<Entry> entries_;
+    std::uint32_t firstFree_ = none;
+};
+
+}  // namespace quillmark
