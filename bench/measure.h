@@ -63,8 +63,9 @@ struct FileBytes {
 /// Writes the document and the same files plainly, in turn, for every iteration of the
 /// benchmark. Counters: "ratio" (document by floor, on the clock), "ratio_cpu" (of the
 /// processor), "floor_ms", "files", "MB", "peak_MiB" and "us_per_unit" (of `size`). Returns the
-/// document's median.
-Seconds documentAgainstFloor(benchmark::State& state, Place place, Body body, std::size_t size);
+/// document's files.
+std::vector<FileBytes> documentAgainstFloor(benchmark::State& state, Place place, Body body,
+                                            std::size_t size);
 
 /// As above, and adds "doubling" and "doubling_cpu" (`size` by half of it), "ratio_streaming" (of
 /// the processor) and the same "ratio_without_looks" at the disk for every link's target.

@@ -17,6 +17,7 @@ namespace {
 
 constexpr std::string_view fileEnd = "\n</HTML>\n";
 constexpr std::string_view hrefOpening = "HREF=\"";
+constexpr std::string_view hrefEnd = "\"";
 
 }  // namespace
 
@@ -43,18 +44,13 @@ struct DocHtmlPage::Record {
 void DocHtmlPage::Record::fillMark(SpliceText::MarkId mark, std::string_view name,
                                    std::string_view reference) {
     const std::string_view markup = text.markup(mark);
-    const std::size_t hit = markup.empty() ? 0 : markup.find(name);
-    text.rewind(mark);
-    if (hit == std::string_view::npos) {
-        text.insertAt(mark, markup);  // the end of a link
-        return;
+    if (markup.empty()) {
+        text.fill(mark, 0, 0, {hrefOpening, reference, hrefEnd});
+    } else if (const std::size_t hit = markup.find(name); hit != std::string_view::npos) {
+        text.fill(mark, hit, name.size(), {hrefOpening, reference, hrefEnd});
+    } else {
+        text.fill(mark);  // the end of a link
     }
-    const std::size_t behind = markup.empty() ? 0 : hit + name.size();
-    text.insertAt(mark, markup.substr(0, hit));
-    text.insertAt(mark, hrefOpening);
-    text.insertAt(mark, reference);
-    text.insertAt(mark, "\"");
-    text.insertAt(mark, text.markup(mark).substr(behind));
 }
 
 void DocHtmlPage::Record::writeFile() const {
@@ -199,10 +195,8 @@ void DocHtmlPage::removeMarks(std::string_view name) {
 }
 
 void DocHtmlPage::resolveMarks(std::string_view name, std::string_view reference) {
-    record_->marks.take(name, [&](SpliceText::MarkId mark) {
-        record_->fillMark(mark, name, reference);
-        record_->text.drop(mark);
-    });
+    record_->marks.take(name,
+                        [&](SpliceText::MarkId mark) { record_->fillMark(mark, name, reference); });
     clearInsertPoint();
 }
 

@@ -72,6 +72,32 @@ void SpliceText::drop(MarkId mark) {
     firstFree_ = mark;
 }
 
+// The mark itself becomes the text: hundreds of thousands that are filled in any order then stay
+// in memory in the order in which they are read.
+void SpliceText::fill(MarkId mark) {
+    if (nodes_[mark].poolLength == 0) {
+        drop(mark);
+        return;
+    }
+    moveBehindEquals(mark);
+    nodes_[mark].isText = true;
+    insertedBytes_ += nodes_[mark].poolLength;
+}
+
+void SpliceText::fill(MarkId mark, std::size_t start, std::size_t length,
+                      std::initializer_list<std::string_view> replacement) {
+    Node& node = nodes_[mark];
+    const std::size_t filled = pool_.size();
+    pool_.append(pool_, node.poolStart, start);
+    for (const std::string_view text : replacement) {
+        pool_.append(text);
+    }
+    pool_.append(pool_, node.poolStart + start + length, node.poolLength - start - length);
+    node.poolStart = filled;
+    node.poolLength = static_cast<std::uint32_t>(pool_.size() - filled);
+    fill(mark);
+}
+
 std::string_view SpliceText::markup(MarkId mark) const noexcept {
     return pooled(nodes_[mark]);
 }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,13 +29,17 @@ public:
     void append(std::string_view text);
     /// Marks the end. `markup` is kept with the mark until it is dropped.
     MarkId addMark(std::string_view markup, std::uint32_t sequence);
-    /// Puts text in at an open mark, behind what was put in there since the last `rewind`. It may
-    /// be the mark's own markup; views of that end with the call.
+    /// Puts text in at an open mark, behind what was put in there since the last `rewind`.
     void insertAt(MarkId mark, std::string_view text);
     /// Goes back to the mark itself: what is put in next stands in front of what is there.
     void rewind(MarkId mark) noexcept { nodes_[mark].lastText = none; }
     /// Forgets an open mark; what was put in there stays.
     void drop(MarkId mark);
+    /// Puts the mark's markup in at the mark, in front of what is there, and forgets the mark.
+    void fill(MarkId mark);
+    /// The same with another text in the place of `length` bytes of the markup from `start`.
+    void fill(MarkId mark, std::size_t start, std::size_t length,
+              std::initializer_list<std::string_view> replacement);
 
     /// Lines in use; 0 while nothing was ever written or marked.
     [[nodiscard]] std::int32_t lineCount() const noexcept { return lineCount_; }

@@ -150,6 +150,56 @@ TEST(SpliceText, EndsNoLineWithATextPutIn) {
     EXPECT_EQ(text.column(two), 6U);
 }
 
+TEST(SpliceText, FillsAMarkWithItsMarkup) {
+    SpliceText text;
+    text.append("a");
+    const auto mark = text.addMark("</A>", 1);
+    text.append("b");
+    text.fill(mark);
+    EXPECT_EQ(text.merged(), "a</A>b");
+    EXPECT_FALSE(text.isPlain());
+}
+
+TEST(SpliceText, FillsAMarkWithAPartOfItsMarkupReplaced) {
+    SpliceText text;
+    const auto mark = text.addMark("<A name>", 1);
+    text.append("b");
+    text.fill(mark, 3, 4, {"HREF=\"", "x.htm", "\""});
+    EXPECT_EQ(text.merged(), "<A HREF=\"x.htm\">b");
+}
+
+TEST(SpliceText, FillsAMarkWithoutMarkup) {
+    SpliceText text;
+    const auto nothing = text.addMark("", 1);
+    const auto replaced = text.addMark("", 1);
+    text.append("b");
+    text.fill(nothing);
+    EXPECT_TRUE(text.isPlain());
+    text.fill(replaced, 0, 0, {"x", "", "y"});
+    EXPECT_EQ(text.merged(), "xyb");
+}
+
+TEST(SpliceText, FillsAMarkInFrontOfWhatWasPutInThere) {
+    SpliceText text;
+    const auto mark = text.addMark("m", 1);
+    text.append("b");
+    text.insertAt(mark, "x");
+    text.fill(mark);
+    EXPECT_EQ(text.merged(), "mxb");
+}
+
+TEST(SpliceText, FillsMarksOfTheSamePlaceByTheirSequence) {
+    for (const std::uint32_t other : {0U, 1U, 2U}) {
+        SpliceText text;
+        const auto first = text.addMark("a", 1);
+        const auto second = text.addMark("b", other);
+        text.fill(first);
+        EXPECT_EQ(text.column(second), other > 1 ? 2U : 1U);
+        text.fill(second);
+        EXPECT_EQ(text.merged(), other > 1 ? "ab" : "ba") << other;
+    }
+}
+
 TEST(SpliceText, KeepsWhatWasPutInAtADroppedMark) {
     SpliceText text;
     const auto one = text.addMark("", 1);
