@@ -67,8 +67,9 @@ struct FileBytes {
 std::vector<FileBytes> documentAgainstFloor(benchmark::State& state, Place place, Body body,
                                             std::size_t size);
 
-/// As above, and adds "doubling" and "doubling_cpu" (`size` by half of it), "ratio_streaming" (of
-/// the processor) and the same "ratio_without_looks" at the disk for every link's target.
+/// As above, and adds, of the processor: "doubling" (`size` by half of it), "ratio_streaming", and
+/// both "blind", with tags that are known to be no files: what is left of them without the looks at
+/// the disk for every link's target.
 void documentDoubled(benchmark::State& state, Place place, Body body, std::size_t size);
 
 }  // namespace quillmark::bench

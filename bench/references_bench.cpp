@@ -100,41 +100,27 @@ void backwardReferences(IDocument& document, std::size_t count) {
     }
 }
 
-/// What pages that are held back may take: twice their text, and 200 bytes a pending reference.
-double allowanceMiB(double megabytes, std::size_t pending) {
-    return (2 * megabytes * 1e6 + 200 * static_cast<double>(pending)) / (1024.0 * 1024.0);
-}
-
-enum class Direction { forward, backward };
-
-void run(benchmark::State& state, Direction direction, Place place, Body body, std::size_t size) {
+void run(benchmark::State& state, Place place, Body body, std::size_t size) {
     const SettingsInForce settings({{"Navig", "4"}});
     documentDoubled(state, place, body, size);
     state.counters["goal"] = goal;
-    if (direction == Direction::forward) {
-        state.counters["peak_by_allowance"] =
-            state.counters["peak_MiB"] / allowanceMiB(state.counters["MB"], size);
-    }
 }
 
-void references(const char* name, Direction direction, Place place, Body body, std::size_t size) {
-    benchmark::RegisterBenchmark(
-        name, [=](benchmark::State& state) { run(state, direction, place, body, size); })
+void references(const char* name, Place place, Body body, std::size_t size) {
+    benchmark::RegisterBenchmark(name,
+                                 [=](benchmark::State& state) { run(state, place, body, size); })
         ->UseManualTime()
         ->Iterations(3)
         ->Unit(benchmark::kMillisecond);
 }
 
 const bool registered = [] {
-    references("millionForwardReferences", Direction::forward, Place::disk,
-               indexOfForwardReferences, 1'000'000);
-    references("singleLineInOrder", Direction::forward, Place::disk, singleLineInOrder, 200'000);
-    references("singleLineReversed", Direction::forward, Place::disk, singleLineReversed, 200'000);
-    references("singleLineShuffled", Direction::forward, Place::disk, singleLineShuffled, 200'000);
-    references("pagesWaitingForOneName", Direction::forward, Place::memory, pagesWaitingForOneName,
-               100'000);
-    references("millionBackwardReferences", Direction::backward, Place::disk, backwardReferences,
-               1'000'000);
+    references("millionForwardReferences", Place::disk, indexOfForwardReferences, 1'000'000);
+    references("singleLineInOrder", Place::disk, singleLineInOrder, 200'000);
+    references("singleLineReversed", Place::disk, singleLineReversed, 200'000);
+    references("singleLineShuffled", Place::disk, singleLineShuffled, 200'000);
+    references("pagesWaitingForOneName", Place::memory, pagesWaitingForOneName, 100'000);
+    references("millionBackwardReferences", Place::disk, backwardReferences, 1'000'000);
     return true;
 }();
 

@@ -1,5 +1,6 @@
 #include "work_places.h"
 
+#include <malloc.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -48,6 +49,7 @@ fs::path freshDirectory(Place place) {
 }
 
 void settle(Place place) {
+    ::malloc_trim(0);
     if (place == Place::disk) {
         ::sync();
     }

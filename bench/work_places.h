@@ -14,7 +14,8 @@ enum class Place { disk, memory };
 /// DOCHTML_BENCH_MEMORY or else /dev/shm.
 [[nodiscard]] std::filesystem::path freshDirectory(Place place);
 
-/// Lets a disk finish what earlier runs left to it.
+/// Lets a disk finish what earlier runs left to it, and hands back the memory that they used, so
+/// that every run begins alike.
 void settle(Place place);
 
 }  // namespace quillmark::bench
