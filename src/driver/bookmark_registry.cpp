@@ -35,13 +35,6 @@ OrxString BookmarkRegistry::reference(Id id) const {
     return text.append(filePart).append("#").append(name);
 }
 
-void BookmarkRegistry::addWaiting(Id id, const WaitingPage& page) {
-    PooledLists<WaitingPage>::List& list = records_[id].waiting;
-    if (list.isEmpty() || waiting_.last(list).page != page.page) {
-        waiting_.append(list, page);
-    }
-}
-
 void BookmarkRegistry::clear() noexcept {
     *this = BookmarkRegistry();
 }

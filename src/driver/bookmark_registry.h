@@ -12,10 +12,11 @@
 
 namespace quillmark {
 
-/// A page that waits for a bookmark, with its page number.
+/// A page that waits for a bookmark.
 struct WaitingPage {
     OrxCountedPtr<DocHtmlPage> page;
-    std::uint32_t number = 0;
+    std::uint32_t number = 0;  // the page number that it is held under
+    DocHtmlPage::MarkName name = DocHtmlPage::unknownName;
 };
 
 /// The document's bookmarks: every name that was defined or referred to, and for each the page
@@ -47,9 +48,13 @@ public:
     [[nodiscard]] OrxString reference(Id id) const;
     [[nodiscard]] std::string_view name(Id id) const noexcept { return names_.name(id); }
 
-    /// Lets a page wait; one that waits already does not wait twice. Pages must come in the order
-    /// of their making, each as long as it is the current one.
-    void addWaiting(Id id, const WaitingPage& page);
+    /// Lets a page wait. Pages come in the order of their making.
+    void addWaiting(Id id, const WaitingPage& page) { waiting_.append(records_[id].waiting, page); }
+    /// The page that waits for the bookmark and was made last; null when none does.
+    [[nodiscard]] const WaitingPage* lastWaiting(Id id) const noexcept {
+        const auto& list = records_[id].waiting;
+        return list.isEmpty() ? nullptr : &waiting_.last(list);
+    }
     /// Hands over the pages that waited, in the order of their making; none waits afterwards.
     template <typename Each>
     void takeWaiting(Id id, const Each& each) {

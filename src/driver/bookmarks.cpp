@@ -50,7 +50,7 @@ void Bookmarks::writeAnchor(BookmarkRegistry::Id id, std::string_view name) {
 void Bookmarks::resolve(BookmarkRegistry::Id id, std::string_view name) {
     registry_.takeWaiting(id, [&](const WaitingPage& waiting) {
         DocHtmlPage& page = *waiting.page;
-        page.resolveMarks(name, relativeReference(id, page));
+        page.resolveMarks(name, relativeReference(id, page), waiting.name);
         if (&page != &out_.page() && !page.hasMarks()) {
             held_.finish(waiting.number, page);
         }
@@ -63,8 +63,14 @@ void Bookmarks::reference(std::string_view name, std::string_view markup) {
         writeReference(name, markup, relativeReference(id, out_.page()));
         return;
     }
-    out_.page().addMark(name, markup);
-    registry_.addWaiting(id, {out_.sharedPage(), pageNumber_});
+    DocHtmlPage& page = out_.page();
+    const WaitingPage* last = registry_.lastWaiting(id);
+    if (last != nullptr && last->page.get() == &page) {
+        page.addMark(name, markup, last->name);
+    } else {
+        const DocHtmlPage::MarkName pageName = page.addMark(name, markup);
+        registry_.addWaiting(id, {out_.sharedPage(), pageNumber_, pageName});
+    }
 }
 
 void Bookmarks::writeReference(std::string_view name, std::string_view markup,

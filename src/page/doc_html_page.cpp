@@ -169,9 +169,10 @@ OrxString DocHtmlPage::relativeLink(const OrxString& target, const OrxString& ba
     return links::relative(target, base);
 }
 
-void DocHtmlPage::addMark(std::string_view name, std::string_view markup) {
+DocHtmlPage::MarkName DocHtmlPage::addMark(std::string_view name, std::string_view markup,
+                                           MarkName hint) {
     const auto sequence = static_cast<std::uint32_t>(record_->marks.size() + 1);
-    record_->marks.add(name, record_->text.addMark(markup, sequence));
+    return record_->marks.add(name, record_->text.addMark(markup, sequence), hint);
 }
 
 bool DocHtmlPage::hasMarks() const noexcept {
@@ -194,9 +195,9 @@ void DocHtmlPage::removeMarks(std::string_view name) {
     });
 }
 
-void DocHtmlPage::resolveMarks(std::string_view name, std::string_view reference) {
-    record_->marks.take(name,
-                        [&](SpliceText::MarkId mark) { record_->fillMark(mark, name, reference); });
+void DocHtmlPage::resolveMarks(std::string_view name, std::string_view reference, MarkName hint) {
+    const auto fill = [&](SpliceText::MarkId mark) { record_->fillMark(mark, name, reference); };
+    record_->marks.take(name, fill, hint);
     clearInsertPoint();
 }
 

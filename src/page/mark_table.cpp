@@ -5,19 +5,22 @@
 
 namespace quillmark {
 
-void MarkTable::add(std::string_view name, MarkId mark) {
-    marks_.append(lists_[idOf(name)], mark);
+MarkTable::NameId MarkTable::add(std::string_view name, MarkId mark, NameId hint) {
+    const NameId id = idOf(name, hint);
+    marks_.append(lists_[id], mark);
     ++open_;
+    return id;
 }
 
-NameIndex::Id MarkTable::idOf(std::string_view name) {
-    if (lastAdded_ == NameIndex::none || names_.name(lastAdded_) != name) {
-        lastAdded_ = names_.add(name);
-        if (lastAdded_ == lists_.size()) {
-            lists_.emplace_back();
-        }
+MarkTable::NameId MarkTable::idOf(std::string_view name, NameId hint) {
+    if (isNameOf(hint, name)) {
+        return hint;
     }
-    return lastAdded_;
+    const NameId id = names_.add(name);
+    if (id == lists_.size()) {
+        lists_.emplace_back();
+    }
+    return id;
 }
 
 MarkTable::MarkId MarkTable::first(std::string_view name) const noexcept {
@@ -47,7 +50,6 @@ void MarkTable::clear() noexcept {
     lists_.clear();
     marks_.clear();
     open_ = 0;
-    lastAdded_ = NameIndex::none;
 }
 
 }  // namespace quillmark

@@ -17,8 +17,11 @@ namespace quillmark {
 class MarkTable {
 public:
     using MarkId = SpliceText::MarkId;
+    /// The table's own number of a name. Told with the name again it spares the search; one that
+    /// is another name's, or no name's, does no harm.
+    using NameId = NameIndex::Id;
 
-    void add(std::string_view name, MarkId mark);
+    NameId add(std::string_view name, MarkId mark, NameId hint = NameIndex::none);
     /// Number of open marks of all names.
     [[nodiscard]] std::size_t size() const noexcept { return open_; }
     /// The first open mark of the name, or `SpliceText::none`.
@@ -26,7 +29,7 @@ public:
     /// Removes the marks of the name and hands each to `each(MarkId)`, in the order of their
     /// making.
     template <typename Each>
-    void take(std::string_view name, const Each& each);
+    void take(std::string_view name, const Each& each, NameId hint = NameIndex::none);
     /// Every open mark, in name order.
     void forEach(const std::function<void(std::string_view name, MarkId)>& each) const;
     void clear() noexcept;
@@ -36,20 +39,21 @@ public:
 private:
     using Marks = PooledLists<MarkId>;
 
-    /// The number of the name. The end of a link follows its beginning, so the name added last is
-    /// found without a search.
-    NameIndex::Id idOf(std::string_view name);
+    [[nodiscard]] bool isNameOf(NameId id, std::string_view name) const noexcept {
+        return id < names_.size() && names_.name(id) == name;
+    }
+    /// The number of the name, which gets one when it is new.
+    NameId idOf(std::string_view name, NameId hint);
 
     NameIndex names_;
     std::vector<Marks::List> lists_;  // by the name's number
     Marks marks_;
     std::size_t open_ = 0;
-    NameIndex::Id lastAdded_ = NameIndex::none;
 };
 
 template <typename Each>
-void MarkTable::take(std::string_view name, const Each& each) {
-    const NameIndex::Id id = names_.find(name);
+void MarkTable::take(std::string_view name, const Each& each, NameId hint) {
+    const NameId id = isNameOf(hint, name) ? hint : names_.find(name);
     if (id == NameIndex::none) {
         return;
     }

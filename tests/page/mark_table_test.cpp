@@ -46,6 +46,27 @@ TEST(MarkTable, HandsOutTheMarksOfANameInTheOrderOfTheirMaking) {
     EXPECT_EQ(taken(table, "a"), Marks{});
 }
 
+TEST(MarkTable, FindsANameByItsNumberAndByAWrongOneToo) {
+    MarkTable table;
+    const auto a = table.add("a", 1);
+    const auto b = table.add("b", 2);
+    EXPECT_EQ(table.add("a", 3, a), a);
+    EXPECT_EQ(table.add("a", 4, b), a);
+    EXPECT_EQ(table.add("a", 5, 77), a);
+    EXPECT_EQ(listed(table), "a=1 a=3 a=4 a=5 b=2 ");
+    Marks marks;
+    const auto keep = [&](MarkTable::MarkId mark) { marks.push_back(mark); };
+    table.take("a", keep, a);
+    table.take("b", keep, a);
+    table.take("c", keep, a);
+    EXPECT_EQ(marks, (Marks{1, 3, 4, 5, 2}));
+    // After a fresh start old numbers mean nothing.
+    table.clear();
+    table.add("c", 6, a);
+    table.take("a", keep, a);
+    EXPECT_EQ(listed(table), "c=6 ");
+}
+
 TEST(MarkTable, ListsNamesInTheOrderOfTheirBytes) {
     MarkTable table;
     table.add("b", 1);
