@@ -45,9 +45,11 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/dochtmlConfig.cmake
 
 list(TRANSFORM DOCHTML_SYSTEM_LIBRARIES PREPEND -l OUTPUT_VARIABLE DOCHTML_PC_LIBRARIES)
 list(JOIN DOCHTML_PC_LIBRARIES " " DOCHTML_PC_LIBRARIES)
-configure_file(cmake/dochtml.pc.in dochtml.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/dochtml.pc
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+foreach(package dochtml dochtml_client)
+    configure_file(cmake/${package}.pc.in ${package}.pc @ONLY)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc
+            DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endforeach()
 
 if(EXISTS ${PROJECT_SOURCE_DIR}/support)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/support/ DESTINATION ${CMAKE_INSTALL_DATADIR}/dochtml

@@ -1,3 +1,5 @@
+#include <stdio.h>
+
 #include "dochtml/dochtml_c.h"
 
 static void with_text(DochtmlDocument* document,
@@ -18,19 +20,31 @@ static void use_style_sheet(DochtmlDocument* document, const char* file) {
     SysFreeString(value);
 }
 
-int main(int count, char** arguments) {
+static void say_hello(DochtmlDocument* document, const char* file, const char* style_sheet) {
+    const DochtmlDocumentTable* call = document->table;
+    use_style_sheet(document, style_sheet);
+    with_text(document, call->create, file);
+    with_text(document, call->setStyle, "Heading 1");
+    with_text(document, call->insertText, "Hello");
+    call->insertEndl(document);
+    call->close(document);
+}
+
+int main(int argc, char** argv) {
     DochtmlDocument* document = NULL;
+    HRESULT result;
+    if (argc != 3) {
+        fputs("Usage: hello_c OUTPUT-FILE STYLE-SHEET\n", stderr);
+        return 2;
+    }
     dochtml_initialize();
-    if (count == 3 && SUCCEEDED(dochtml_create_document("DocHtml.DocHtml", &document))) {
-        const DochtmlDocumentTable* call = document->table;
-        use_style_sheet(document, arguments[2]);
-        with_text(document, call->create, arguments[1]);
-        with_text(document, call->setStyle, "Heading 1");
-        with_text(document, call->insertText, "Hello");
-        call->insertEndl(document);
-        call->close(document);
-        call->Release(document);
+    result = dochtml_create_document("DocHtml.DocHtml", &document);
+    if (SUCCEEDED(result)) {
+        say_hello(document, argv[1], argv[2]);
+        document->table->Release(document);
+    } else {
+        fprintf(stderr, "hello_c: no document, result 0x%08X\n", (unsigned)result);
     }
     dochtml_uninitialize();
-    return 0;
+    return SUCCEEDED(result) ? 0 : 1;
 }

@@ -80,7 +80,8 @@ public:
     [[nodiscard]] virtual std::unique_ptr<OutputFile> openForAppending(const OrxString& name) = 0;
 
     /// Makes `target` hold what `source` holds, in one step that nobody sees half done; `source`
-    /// is gone afterwards. On failure both are as they were.
+    /// is gone afterwards. A link stays a link, and who may read the file stays. On failure both
+    /// are as they were.
     [[nodiscard]] virtual bool replaceFile(const OrxString& source, const OrxString& target) = 0;
 
     /// The one in force; the native one unless `install` put another in its place.

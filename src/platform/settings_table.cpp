@@ -43,16 +43,18 @@ constexpr std::array settingRows{
     SettingDescription{
         htmlGroup, "PassThrough", SettingType::boolean, "false",
         "A text may carry markup of its own; \"<<\" in it is then written as \"&lt;&lt;\""},
-    SettingDescription{htmlGroup, "LocateInBrowser", SettingType::boolean, "true",
-                       "Frame sets that can locate model elements in the browser"},
+    SettingDescription{
+        htmlGroup, "LocateInBrowser", SettingType::boolean, "true",
+        "Locate buttons in the pages, which show a model element in the model browser"},
     SettingDescription{htmlGroup, "DiagramType", SettingType::shortInteger, "0",
                        "Picture type that the host draws diagrams in (0 JPEG, 1 GIF)"},
     SettingDescription{settingsGroup, "InstallDir", SettingType::text, "",
                        "Installation directory: style sheet, arrow pictures and support files"},
     SettingDescription{settingsGroup, "TestLevel", SettingType::integer, "",
                        "Not 0: dates and times in headers and footers are frozen"},
-    SettingDescription{settingsGroup, "UserFilesDir", SettingType::text, "",
-                       "Directory of the user's own files, searched for pictures and documents"},
+    SettingDescription{
+        settingsGroup, "UserFilesDir", SettingType::text, "",
+        "Directory of the user's own files; the pictures of the locate buttons lie below it"},
     SettingDescription{settingsGroup, "HelpFile", SettingType::text, "",
                        "Help file of the settings page"},
     SettingDescription{logGroup, "LogName", SettingType::text, "",

@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "foundation/orx_exception.h"
 #include "platform/file_system.h"
 #include "platform/line_end.h"
 #include "platform/sys_directory.h"
@@ -26,24 +27,32 @@ public:
     /// A new `open` gives a log that could not be opened another chance.
     void forgiveFailure() noexcept { failed_.store(false, std::memory_order_relaxed); }
 
+    /// A log that the disk does not take lines for goes silent, which the exception log is told
+    /// once; the document goes on.
     void write(std::string_view text) {
-        const std::lock_guard lock(mutex_);
-        if (file_ == nullptr && !failed()) {
-            file_ = FileSystem::current().openForAppending(name_);
-            failed_.store(file_ == nullptr, std::memory_order_relaxed);
-        }
-        if (file_ == nullptr) {
-            return;
-        }
-        // A log that the disk no longer takes lines for goes silent; the document goes on.
-        const bool done = systemLineEnd() == "\n" ? put(text) : put(withLineEnds(text));
-        if (!done) {
-            file_ = nullptr;
-            failed_.store(true, std::memory_order_relaxed);
+        if (failsNow(text)) {
+            OrxException::logCatch("Error writing to file: " + name_);
         }
     }
 
 private:
+    [[nodiscard]] bool failsNow(std::string_view text) {
+        const std::lock_guard lock(mutex_);
+        if (failed()) {
+            return false;
+        }
+        if (file_ == nullptr) {
+            file_ = FileSystem::current().openForAppending(name_);
+        }
+        const bool done =
+            file_ != nullptr && (systemLineEnd() == "\n" ? put(text) : put(withLineEnds(text)));
+        if (!done) {
+            file_ = nullptr;
+            failed_.store(true, std::memory_order_relaxed);
+        }
+        return !done;
+    }
+
     [[nodiscard]] bool put(std::string_view text) {
         const std::array<std::string_view, 1> pieces = {text};
         return file_->write(pieces);

@@ -53,6 +53,9 @@ Inputs::Inputs(std::span<const std::string> names, std::istream& standardInput) 
     }
     for (Input& input : inputs_) {
         input.format = detectFormat(*input.buffer);
+        if (input.format == InputFormat::nothing && input.buffer->failed()) {
+            throw BadInput("cannot read " + (input.file ? input.name : "the standard input"));
+        }
     }
 }
 

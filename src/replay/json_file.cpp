@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 #include "platform/sys_text.h"
 #include "replay/bad_input.h"
@@ -12,12 +12,16 @@ namespace quillmark::replay {
 namespace {
 
 std::string readBytes(const std::filesystem::path& file, std::string_view shown) {
-    std::ifstream input(file, std::ios::binary);
-    std::string bytes(std::istreambuf_iterator<char>(input), {});
-    if (!input.is_open() || input.bad() || std::filesystem::is_directory(file)) {
+    std::ifstream input;
+    if (!std::filesystem::is_directory(file)) {
+        input.open(file, std::ios::binary);
+    }
+    std::ostringstream bytes;
+    bytes << input.rdbuf();
+    if (!input.is_open() || input.bad()) {
         throw BadInput("cannot read " + std::string(shown));
     }
-    return bytes;
+    return std::move(bytes).str();
 }
 
 [[noreturn]] void refuse(std::string_view shown, std::string_view text, std::size_t offset,

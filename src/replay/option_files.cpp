@@ -5,6 +5,7 @@
 
 #include "platform/drive_table.h"
 #include "platform/sys_text.h"
+#include "replay/bad_input.h"
 
 namespace quillmark::replay {
 
@@ -17,7 +18,29 @@ char upper(char letter) noexcept {
     return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
 }
 
+/// What the driver's 8-bit code page cannot hold would come out as another file's name.
+OrxString heldName(const std::string& utf8, OrxString held) {
+    std::string wanted = utf8;
+    std::string back = SysText::toUtf8(held);
+    std::ranges::replace(wanted, '\\', '/');
+    std::ranges::replace(back, '\\', '/');
+    if (wanted != back) {
+        throw BadInput("a file name that the driver's 8-bit code page cannot hold: " + utf8);
+    }
+    return held;
+}
+
 }  // namespace
+
+std::filesystem::path startDirectory() {
+    std::error_code failure;
+    std::filesystem::path directory = std::filesystem::current_path(failure);
+    if (failure) {
+        throw BadInput("the working directory cannot be told: " + failure.message());
+    }
+    heldName(utf8Path(directory), driverPath(utf8Path(directory)));
+    return directory;
+}
 
 std::string utf8Path(const std::filesystem::path& path) {
     const std::u8string text = path.u8string();
@@ -30,15 +53,14 @@ std::filesystem::path pathFrom(const std::string& utf8) {
 
 OptionFiles::OptionFiles(std::vector<HostServices::Drive> drives) : drives_(std::move(drives)) {
     for (HostServices::Drive& drive : drives_) {
-        drive.directory = utf8Path(std::filesystem::absolute(pathFrom(drive.directory)));
+        drive.directory = utf8Path(startDirectory() / pathFrom(drive.directory));
     }
 }
 
 std::vector<HostServices::Drive> OptionFiles::allDrives() const {
     std::vector<HostServices::Drive> all;
     for (char letter = 'A'; letter <= 'Z' && !systemHasDrives; ++letter) {
-        const std::filesystem::path place =
-            std::filesystem::current_path() / std::string{letter, ':'};
+        const std::filesystem::path place = startDirectory() / std::string{letter, ':'};
         all.push_back({letter, utf8Path(place)});
     }
     all.insert(all.end(), drives_.begin(), drives_.end());
@@ -59,7 +81,7 @@ const HostServices::Drive* OptionFiles::driveOf(const std::string& name) const {
 std::filesystem::path OptionFiles::native(const std::string& name) const {
     const HostServices::Drive* const drive = driveOf(name);
     if (drive == nullptr) {
-        return std::filesystem::absolute(pathFrom(name));
+        return startDirectory() / pathFrom(name);
     }
     std::string rest = name.substr(2);
     std::ranges::replace(rest, '\\', '/');
@@ -67,7 +89,11 @@ std::filesystem::path OptionFiles::native(const std::string& name) const {
 }
 
 OrxString OptionFiles::driver(const std::string& name) const {
-    return driveOf(name) != nullptr ? SysText::fromUtf8(name) : driverPath(utf8Path(native(name)));
+    if (driveOf(name) != nullptr) {
+        return heldName(name, SysText::fromUtf8(name));
+    }
+    const std::string full = utf8Path(native(name));
+    return heldName(full, driverPath(full));
 }
 
 }  // namespace quillmark::replay

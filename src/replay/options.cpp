@@ -77,7 +77,7 @@ constexpr std::array options{
            "writes the exception log there"},
     Option{"quiet", 'q', "", [](Options& o, const std::string&) { o.quiet = true; },
            "no progress, no summary"},
-    Option{"help", 0, "", [](Options& o, const std::string&) { o.help = true; },
+    Option{"help", 'h', "", [](Options& o, const std::string&) { o.help = true; },
            "shows this and ends"},
     Option{"version", 0, "", [](Options& o, const std::string&) { o.version = true; },
            "shows the version and ends"},
@@ -114,11 +114,11 @@ private:
             throw BadInput("unknown option " + name);
         }
         if (equals == std::string::npos) {
-            option->take(result_, valueFor(*option, name));
+            take(*option, name, valueFor(*option, name));
         } else if (option->value.empty()) {
             throw BadInput("option " + name + " takes no value");
         } else {
-            option->take(result_, argument.substr(equals + 1));
+            take(*option, name, argument.substr(equals + 1));
         }
     }
 
@@ -130,10 +130,10 @@ private:
                 throw BadInput("unknown option " + name);
             }
             if (!option->value.empty() && i + 1 < argument.size()) {
-                option->take(result_, argument.substr(i + 1));
+                take(*option, name, argument.substr(i + 1));
                 return;
             }
-            option->take(result_, valueFor(*option, name));
+            take(*option, name, valueFor(*option, name));
         }
     }
 
@@ -142,9 +142,20 @@ private:
             return {};
         }
         if (position_ == arguments_.size()) {
-            throw BadInput("option " + name + " needs a value: " + std::string(option.value));
+            refuseNothing(option, name);
         }
         return arguments_[position_++];
+    }
+
+    void take(const Option& option, const std::string& name, const std::string& value) {
+        if (value.empty() && (option.value == "FILE" || option.value == "DIR")) {
+            refuseNothing(option, name);
+        }
+        option.take(result_, value);
+    }
+
+    [[noreturn]] static void refuseNothing(const Option& option, const std::string& name) {
+        throw BadInput("option " + name + " needs a value: " + std::string(option.value));
     }
 
     std::span<const std::string> arguments_;

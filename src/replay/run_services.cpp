@@ -18,16 +18,18 @@ std::filesystem::path supportFiles(const std::string& executable) {
 }
 
 std::shared_ptr<SettingsStore> openStore(const Options& options, const OptionFiles& files) {
-    if (!options.settingsFile) {
-        return makeUserSettingsStore();
+    std::shared_ptr<SettingsStore> store;
+    if (options.settingsFile) {
+        // A pipe could be read only once, and settings are read when they are asked for.
+        const std::filesystem::path file = files.native(*options.settingsFile);
+        if (!std::filesystem::exists(file) || std::filesystem::is_directory(file) ||
+            std::filesystem::is_fifo(file)) {
+            throw BadInput("cannot read " + *options.settingsFile);
+        }
+        store = makeIniSettingsStore(files.driver(*options.settingsFile));
+    } else {
+        store = makeUserSettingsStore();
     }
-    // A pipe could be read only once, and settings are read when they are asked for.
-    const std::filesystem::path file = files.native(*options.settingsFile);
-    if (!std::filesystem::exists(file) || std::filesystem::is_directory(file) ||
-        std::filesystem::is_fifo(file)) {
-        throw BadInput("cannot read " + *options.settingsFile);
-    }
-    auto store = makeIniSettingsStore(files.driver(*options.settingsFile));
     if (const OrxString problem = store->problem(); !problem.isEmpty()) {
         throw BadInput(SysText::toUtf8(problem));
     }

@@ -5,7 +5,7 @@
 #include <system_error>
 
 #include "foundation/code_page.h"
-#include "platform/file_system.h"
+#include "platform/drive_table.h"
 #include "platform/sys_text.h"
 #include "replay/bad_input.h"
 #include "replay/inputs.h"
@@ -19,19 +19,6 @@ namespace quillmark::replay {
 namespace {
 
 constexpr std::string_view toolName = "dochtml-replay";
-
-/// Whether lines can be added to a file; one that is not there yet is not left behind, but its
-/// directory is made.
-bool canAppend(const std::filesystem::path& file) {
-    std::error_code failure;
-    std::filesystem::create_directories(file.parent_path(), failure);
-    const bool existed = std::filesystem::exists(file, failure);
-    const bool opens = std::ofstream(file, std::ios::binary | std::ios::app).is_open();
-    if (opens && !existed) {
-        std::filesystem::remove(file, failure);
-    }
-    return opens;
-}
 
 /// One run over all inputs.
 class Run {
@@ -48,7 +35,7 @@ public:
                       exceptionWriter()) {}
 
     int play() {
-        checkLog();
+        makeLogDirectory();
         {
             const RegisteredServices registered(hostServices());
             const std::shared_ptr<void> lent =
@@ -63,6 +50,7 @@ public:
             player.finish();
         }
         messages_.clearProgress();
+        checkOutput();
         if (!options_.quiet) {
             tellSummary();
         }
@@ -92,7 +80,7 @@ private:
     Player::Settings playerSettings() {
         Player::Settings settings;
         settings.makeDocument = around_.makeDocument;
-        settings.startDirectory = FileSystem::current().currentDirectory();
+        settings.startDirectory = driverPath(utf8Path(startDirectory()));
         settings.traceLevel = options_.traceLevel;
         if (options_.output) {
             settings.outputName = files_.driver(*options_.output);
@@ -129,10 +117,18 @@ private:
         };
     }
 
-    /// A trace that has nowhere to go stays silent; the tool says so.
-    void checkLog() {
-        if (options_.logFile && !canAppend(files_.native(*options_.logFile))) {
-            tellError("cannot write " + *options_.logFile);
+    /// The log itself is made when its first line comes; the driver tells when it cannot be.
+    void makeLogDirectory() {
+        if (options_.logFile) {
+            std::error_code failure;
+            std::filesystem::create_directories(files_.native(*options_.logFile).parent_path(),
+                                                failure);
+        }
+    }
+
+    void checkOutput() {
+        if (!around_.output.flush()) {
+            tellError("cannot write the output");
         }
     }
 
@@ -173,15 +169,20 @@ private:
 int runTool(std::span<const std::string> arguments, const Surroundings& around) {
     try {
         const Options options = parseOptions(arguments);
+        if (!options.help && !options.version) {
+            return Run(options, around).play();
+        }
         if (options.help) {
             writeHelp(around.output);
-            return exitDone;
-        }
-        if (options.version) {
+        } else {
             around.output << toolName << ' ' << DOCHTML_VERSION << '\n';
-            return exitDone;
         }
-        return Run(options, around).play();
+        if (!around.output.flush()) {
+            Messages(around.errors, false)
+                .tell(std::string(toolName) + ": cannot write the output");
+            return exitFailed;
+        }
+        return exitDone;
     } catch (const std::exception& failure) {
         Messages(around.errors, false).tell(std::string(toolName) + ": " + failure.what());
         return exitBadInput;

@@ -117,7 +117,9 @@ class HostsTest(unittest.TestCase):
         ended = self.register(LIBRARY)
         self.assertEqual(ended.returncode, 1)
         self.assertEqual(
-            ended.stderr, "dochtml-register: DllRegisterServer failed with result 0x80040151\n"
+            ended.stderr,
+            "dochtml-register: DllRegisterServer failed with result 0x80040151; "
+            f"the classes are kept in {self.classes}\n",
         )
 
     def replay(self):

@@ -9,6 +9,9 @@ foreach(wanted
         "lib[^;]*/libdochtmlcom.so"
         "lib[^;]*/cmake/dochtml/dochtmlConfig.cmake"
         "lib[^;]*/pkgconfig/dochtml.pc"
+        "lib[^;]*/pkgconfig/dochtml_client.pc"
+        "bin/dochtml-register"
+        "include/dochtml/client.h"
         "include/dochtml/driver/doc_html.h"
         "share/dochtml/default.css"
         "share/doc/dochtml/README.md")

@@ -38,7 +38,8 @@ TEST(Options, takeAValueBehindOrWithinTheOption) {
     EXPECT_EQ(parsed({"-ox", "a"}).output, "x");
     EXPECT_EQ(parsed({"-qo", "x", "a"}).output, "x");
     EXPECT_TRUE(parsed({"-qo", "x", "a"}).quiet);
-    EXPECT_EQ(parsed({"--log=", "a"}).logFile, "");
+    EXPECT_EQ(refusal({"--log=", "a"}), "option --log needs a value: FILE");
+    EXPECT_EQ(refusal({"--install-dir", "", "a"}), "option --install-dir needs a value: DIR");
 }
 
 TEST(Options, takeTheFilesOfARun) {

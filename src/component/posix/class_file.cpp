@@ -2,20 +2,16 @@
 
 #include <unistd.h>
 
-#include <cstdlib>
 #include <fstream>
 #include <string_view>
 #include <utility>
+
+#include "platform/posix/home_directory.h"
 
 namespace quillmark {
 namespace {
 
 constexpr std::string_view defaultValueName = "@";
-
-std::string environment(const char* name) {
-    const char* value = std::getenv(name);
-    return value == nullptr ? std::string() : std::string(value);
-}
 
 std::string escaped(std::string_view text) {
     std::string out;
@@ -86,11 +82,9 @@ void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree) 
 }  // namespace
 
 std::filesystem::path classFilePath() {
-    const std::string data = environment("XDG_DATA_HOME");
-    // A relative directory there is to be passed over.
+    const std::filesystem::path data = environmentDirectory("XDG_DATA_HOME");
     const std::filesystem::path base =
-        data.starts_with('/') ? std::filesystem::path(data)
-                              : std::filesystem::path(environment("HOME")) / ".local" / "share";
+        data.empty() ? std::filesystem::path(homeDirectory()) / ".local" / "share" : data;
     return base / "quillmark" / "classes.ini";
 }
 

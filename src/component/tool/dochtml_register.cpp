@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "component/posix/class_file.h"
 #include "dochtml/entry_points.h"
 
 // Registers a component library with the user's file of classes: what a system with a registry
@@ -53,7 +54,8 @@ int run(const Order& order) {
     const HRESULT result = reinterpret_cast<DochtmlEntryPoint>(found)();
     if (FAILED(result)) {
         std::cerr << "dochtml-register: " << entry << " failed with result 0x" << std::hex
-                  << static_cast<unsigned>(result) << '\n';
+                  << static_cast<unsigned>(result) << "; the classes are kept in "
+                  << quillmark::classFilePath().string() << '\n';
         return exitFailed;
     }
     return exitDone;

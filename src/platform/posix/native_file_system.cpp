@@ -106,6 +106,16 @@ bool makeDirectoryChain(const std::string& path) {
            (mkdir(path.c_str(), everybodyAsFarAsTheMaskAllows) == 0 || isDirectory(statusOf(path)));
 }
 
+constexpr mode_t allPermissions = 07777;
+
+/// The file that a name leads to, so that a link to it stays a link. A link that leads nowhere is
+/// a name like any other.
+std::string behindLinks(const std::string& path) {
+    std::error_code failure;
+    const std::filesystem::path found = std::filesystem::canonical(path, failure);
+    return failure ? path : found.string();
+}
+
 class NativeFileSystem final : public FileSystem {
 public:
     bool fileExists(const OrxString& name) const override {
@@ -188,7 +198,15 @@ public:
 
     bool replaceFile(const OrxString& source, const OrxString& target) override {
         const std::string from = nativePath(source);
-        return isFile(statusOf(from)) && rename(from.c_str(), nativePath(target).c_str()) == 0;
+        const std::string to = behindLinks(nativePath(target));
+        if (!isFile(statusOf(from))) {
+            return false;
+        }
+        if (const std::optional<struct stat> there = statusOf(to)) {
+            // Who may read the file stays as the user has set it, as far as this user may.
+            static_cast<void>(chmod(from.c_str(), there->st_mode & allPermissions));
+        }
+        return rename(from.c_str(), to.c_str()) == 0;
     }
 };
 

@@ -1,37 +1,15 @@
 #include "platform/system_facts.h"
 
-#include <pwd.h>
 #include <unistd.h>
 
-#include <array>
-#include <cstdlib>
 #include <string>
 
 #include "platform/drive_table.h"
+#include "platform/posix/home_directory.h"
 
 namespace quillmark::system_facts {
 
 namespace {
-
-/// A directory that the environment names; empty unless it is an absolute one.
-std::string environmentDirectory(const char* name) {
-    const char* const value = std::getenv(name);
-    return value != nullptr && *value == '/' ? value : "";
-}
-
-std::string homeDirectory() {
-    std::string home = environmentDirectory("HOME");
-    if (home.empty()) {
-        passwd entry{};
-        passwd* found = nullptr;
-        std::array<char, 4096> buffer{};
-        if (getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found) == 0 &&
-            found != nullptr && found->pw_dir != nullptr) {
-            home = found->pw_dir;
-        }
-    }
-    return home;
-}
 
 OrxString withoutLastSeparator(std::string directory) {
     while (directory.size() > 1 && directory.back() == '/') {

@@ -88,7 +88,7 @@ typedef struct DochtmlModel {
      DochtmlObject* other);
 } DochtmlModel;
 
-/* Hears every line of every trace, besides the log. */
+/* Hears every line of every trace, besides the log; the text ends with the line's "\n". */
 typedef struct DochtmlTraceListener {
     void* context;
     /* The deepest level wanted: 1 errors, 10 calls, 11 reports. */

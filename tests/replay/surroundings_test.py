@@ -1,0 +1,95 @@
+"""The replay tool where its surroundings fail: streams that cannot be read or written, names that
+the driver cannot hold, stores that mean nothing.
+
+    surroundings_test.py REPLAY-TOOL"""
+
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+TOOL = sys.argv[1]
+CALLS = '["create","rep.htm"]\n["insertText","a"]\n["getDocType"]\n["close"]\n'
+
+
+class Surroundings(unittest.TestCase):
+    def setUp(self):
+        directory = tempfile.TemporaryDirectory()
+        self.addCleanup(directory.cleanup)
+        self.work = pathlib.Path(directory.name)
+        self.store = self.work / "config" / "quillmark" / "settings.ini"
+        (self.work / "calls").write_text(CALLS)
+
+    def play(self, order, cwd=None):
+        """Runs a shell's order in which TOOL stands for the tool; answers with status and errors."""
+        environment = dict(os.environ, XDG_CONFIG_HOME=str(self.work / "config"))
+        environment["XDG_DATA_HOME"] = str(self.work / "data")
+        ended = subprocess.run(
+            ["sh", "-c", order.replace("TOOL", f"'{TOOL}' -q")],
+            env=environment,
+            cwd=cwd or self.work,
+            stderr=subprocess.PIPE,
+            stdout=subprocess.DEVNULL,
+            timeout=60,
+        )
+        return ended.returncode, ended.stderr.decode()
+
+    def test_a_standard_input_that_cannot_be_read_is_refused(self):
+        refused = (2, "dochtml-replay: cannot read the standard input\n")
+        self.assertEqual(self.play("TOOL - <&-"), refused)
+        self.assertEqual(self.play("TOOL - </"), refused)
+
+    def test_answers_that_cannot_be_written_are_told(self):
+        failed = (1, "dochtml-replay: cannot write the output\n")
+        self.assertEqual(self.play("TOOL calls >/dev/full"), failed)
+        self.assertEqual(self.play("TOOL calls >&-"), failed)
+        self.assertEqual(self.play("TOOL --help >/dev/full"), failed)
+
+    def test_a_trace_that_the_disk_does_not_take_is_told_once(self):
+        failed = (1, "dochtml-replay: Error writing to file: \\dev\\full\n")
+        self.assertEqual(self.play("TOOL --trace 10 --log /dev/full calls"), failed)
+        stream = '["trace",10]\n' + CALLS
+        (self.work / "tracing").write_text(stream)
+        self.assertEqual(self.play("TOOL --set Log.LogName=/dev/full tracing"), failed)
+
+    def test_names_that_the_driver_cannot_hold_are_refused(self):
+        status, errors = self.play("TOOL -o 日.htm calls")
+        self.assertEqual(status, 2)
+        self.assertRegex(errors, "8-bit code page cannot hold: .*/日.htm\n$")
+        strange = self.work / "日"
+        strange.mkdir()
+        status, errors = self.play("TOOL ../calls", cwd=strange)
+        self.assertEqual(status, 2)
+        self.assertRegex(errors, "8-bit code page cannot hold: .*/日\n$")
+        self.assertEqual(sorted(path.name for path in self.work.iterdir()), ["calls", "日"])
+
+    def test_a_working_directory_that_is_gone_is_refused(self):
+        gone = self.work / "gone"
+        gone.mkdir()
+        status, errors = self.play("rmdir ../gone; TOOL ../calls", cwd=gone)
+        self.assertEqual(status, 2)
+        self.assertRegex(errors, "^dochtml-replay: the working directory cannot be told: ")
+
+    def test_a_store_of_the_users_own_that_means_nothing_is_refused(self):
+        self.store.parent.mkdir(parents=True)
+        self.store.write_text("oops\n")
+        status, errors = self.play("TOOL calls")
+        self.assertEqual(status, 2)
+        self.assertRegex(errors, "Line 1 of the settings file .* is neither a section nor a sett")
+        self.store.unlink()
+        self.store.mkdir()
+        status, errors = self.play("TOOL calls")
+        self.assertEqual(status, 2)
+        self.assertRegex(errors, "Cannot read the settings file ")
+
+    def test_directories_in_the_place_of_files_are_refused(self):
+        for option in "--model", "--image-maps", "--settings":
+            self.assertEqual(
+                self.play(f"TOOL {option} / calls"), (2, "dochtml-replay: cannot read /\n")
+            )
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1], verbosity=0)
