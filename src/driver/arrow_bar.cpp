@@ -1,13 +1,15 @@
 #include "driver/arrow_bar.h"
 
 #include "platform/sys_file.h"
+#include "toc/support_files.h"
 
 namespace quillmark {
 
 namespace {
 
-constexpr std::array<const char*, 4> pictureNames = {"backON.gif", "backOFF.gif", "forwardON.gif",
-                                                     "forwardOFF.gif"};
+/// In the order of `ArrowBar::Picture`.
+constexpr std::array pictureNames = {arrow_pictures::back, arrow_pictures::backDead,
+                                     arrow_pictures::forward, arrow_pictures::forwardDead};
 
 }  // namespace
 

@@ -16,7 +16,7 @@ namespace quillmark {
 struct WaitingPage {
     OrxCountedPtr<DocHtmlPage> page;
     std::uint32_t number = 0;  // the page number that it is held under
-    DocHtmlPage::MarkName name = DocHtmlPage::unknownName;
+    DocHtmlPage::MarkNameId nameId = DocHtmlPage::unknownName;
 };
 
 /// The document's bookmarks: every name that was defined or referred to, and for each the page
@@ -30,7 +30,6 @@ public:
     using Id = NameIndex::Id;
     static constexpr Id unknown = NameIndex::none;
 
-    [[nodiscard]] Id find(std::string_view name) const noexcept { return names_.find(name); }
     /// The bookmark of that name, registered now when it is new. The last name asked for is found
     /// without a search: the end of a link follows its beginning.
     [[nodiscard]] Id add(std::string_view name);

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "page/link_attribute.h"
 #include "page/links.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
@@ -12,8 +13,6 @@ namespace {
 
 constexpr std::string_view anchorOpening = "<a name=\"";
 constexpr std::string_view anchorEnd = "\"></a>";
-constexpr std::string_view hrefOpening = "HREF=\"";
-constexpr std::string_view hrefEnd = "\"";
 
 }  // namespace
 
@@ -50,7 +49,7 @@ void Bookmarks::writeAnchor(BookmarkRegistry::Id id, std::string_view name) {
 void Bookmarks::resolve(BookmarkRegistry::Id id, std::string_view name) {
     registry_.takeWaiting(id, [&](const WaitingPage& waiting) {
         DocHtmlPage& page = *waiting.page;
-        page.resolveMarks(name, relativeReference(id, page), waiting.name);
+        page.resolveMarks(name, relativeReference(id, page), waiting.nameId);
         if (&page != &out_.page() && !page.hasMarks()) {
             held_.finish(waiting.number, page);
         }
@@ -66,28 +65,28 @@ void Bookmarks::reference(std::string_view name, std::string_view markup) {
     DocHtmlPage& page = out_.page();
     const WaitingPage* last = registry_.lastWaiting(id);
     if (last != nullptr && last->page.get() == &page) {
-        page.addMark(name, markup, last->name);
+        page.addMark(name, markup, last->nameId);
     } else {
-        const DocHtmlPage::MarkName pageName = page.addMark(name, markup);
-        registry_.addWaiting(id, {out_.sharedPage(), pageNumber_, pageName});
+        const DocHtmlPage::MarkNameId nameId = page.addMark(name, markup);
+        registry_.addWaiting(id, {out_.sharedPage(), pageNumber_, nameId});
     }
 }
 
 void Bookmarks::writeReference(std::string_view name, std::string_view markup,
                                std::string_view reference) {
-    const std::size_t hit = markup.empty() ? 0 : markup.find(name);
-    if (hit == std::string_view::npos) {
-        out_.writeOut(markup);  // the end of a link
+    const auto place = LinkAttribute::placeIn(markup, name);
+    if (!place.isThere()) {
+        out_.writeOut(markup);
         return;
     }
     if (!markup.empty()) {
-        out_.writeOut(markup.substr(0, hit));
+        out_.writeOut(markup.substr(0, place.start));
     }
-    out_.writeOut(hrefOpening);
+    out_.writeOut(LinkAttribute::opening);
     out_.writeOut(reference);
-    out_.writeOut(hrefEnd);
+    out_.writeOut(LinkAttribute::end);
     if (!markup.empty()) {
-        out_.writeOut(markup.substr(hit + name.size()));
+        out_.writeOut(markup.substr(place.start + place.length));
     }
 }
 

@@ -41,6 +41,8 @@ DocHtml::~DocHtml() {
         impl_->pages.releaseHeldPages();
     } catch (const std::exception& problem) {
         OrxException::logCatch(problem.what());
+    } catch (...) {
+        OrxException::logCatch("unknown exception");  // a service of the host's
     }
 }
 

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "platform/sys_file.h"
+#include "toc/support_files.h"
 
 namespace quillmark {
 
@@ -14,8 +15,8 @@ bool ImageWriter::findImage(OrxString& name) {
         return true;
     }
     if (isImageName(name) && SysFile::getDir(name).isEmpty()) {
-        const OrxString installed =
-            SysFile::appendToDir(SysFile::appendToDir(context_.settings.installDir, "pix"), name);
+        const OrxString installed = SysFile::appendToDir(
+            SysFile::appendToDir(context_.settings.installDir, installedPicturesName), name);
         if (SysFile::exists(installed)) {
             name = installed;
             return true;

@@ -1,5 +1,6 @@
 #include "driver/link_writer.h"
 
+#include "page/link_attribute.h"
 #include "platform/path_text.h"
 #include "platform/sys_file.h"
 
@@ -36,7 +37,8 @@ LinkWriter::End LinkWriter::open(const OrxString& target) {
 }
 
 void LinkWriter::writeStart(const OrxString& href) {
-    markup_.assign(linkOpening).append("HREF=\"").append(href).append("\">");
+    markup_.assign(linkOpening).append(LinkAttribute::opening).append(href);
+    markup_.append(LinkAttribute::end).append(">");
     context_.out.writeOut(markup_);
 }
 

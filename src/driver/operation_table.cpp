@@ -135,9 +135,9 @@ static_assert(isInOrder(), "the n-th operation has dispatch identifier n");
 
 /// Finds a name with one look: a slot for each name, without collisions, worked out when the
 /// program is built.
-class NameIndex {
+class NameSlots {
 public:
-    consteval NameIndex() {
+    consteval NameSlots() {
         while (!fill()) {
             ++seed_;
         }
@@ -177,7 +177,7 @@ private:
     std::array<std::uint8_t, slotCount> ids_{};
 };
 
-constexpr NameIndex nameIndex;
+constexpr NameSlots nameIndex;
 
 template <typename T>
 bool fits(std::int64_t value) noexcept {

@@ -4,6 +4,7 @@
 
 #include "foundation/orx_exception.h"
 #include "page/html_head.h"
+#include "page/link_attribute.h"
 #include "page/links.h"
 #include "page/mark_table.h"
 #include "page/splice_text.h"
@@ -16,8 +17,6 @@ namespace quillmark {
 namespace {
 
 constexpr std::string_view fileEnd = "\n</HTML>\n";
-constexpr std::string_view hrefOpening = "HREF=\"";
-constexpr std::string_view hrefEnd = "\"";
 
 }  // namespace
 
@@ -39,17 +38,14 @@ struct DocHtmlPage::Record {
     void reset();
 };
 
-/// The name's first occurrence in the markup counts wherever it stands, in the tag's own letters
-/// too: a place named "A" is found in "<A A>" at the tag.
 void DocHtmlPage::Record::fillMark(SpliceText::MarkId mark, std::string_view name,
                                    std::string_view reference) {
-    const std::string_view markup = text.markup(mark);
-    if (markup.empty()) {
-        text.fill(mark, 0, 0, {hrefOpening, reference, hrefEnd});
-    } else if (const std::size_t hit = markup.find(name); hit != std::string_view::npos) {
-        text.fill(mark, hit, name.size(), {hrefOpening, reference, hrefEnd});
+    const auto place = LinkAttribute::placeIn(text.markup(mark), name);
+    if (place.isThere()) {
+        text.fill(mark, place.start, place.length,
+                  {LinkAttribute::opening, reference, LinkAttribute::end});
     } else {
-        text.fill(mark);  // the end of a link
+        text.fill(mark);
     }
 }
 
@@ -88,7 +84,7 @@ void DocHtmlPage::Record::reportUnresolved() const {
         }
         report.append('\n');
     });
-    Trace(trace).write(Trace::reports, report);
+    trace.write(Trace::reports, report);
 }
 
 void DocHtmlPage::Record::reset() {
@@ -117,6 +113,8 @@ DocHtmlPage::~DocHtmlPage() {
         close();
     } catch (const std::exception& problem) {
         OrxException::logCatch(problem.what());
+    } catch (...) {
+        OrxException::logCatch("unknown exception");  // a service of the host's
     }
 }
 
@@ -169,8 +167,8 @@ OrxString DocHtmlPage::relativeLink(const OrxString& target, const OrxString& ba
     return links::relative(target, base);
 }
 
-DocHtmlPage::MarkName DocHtmlPage::addMark(std::string_view name, std::string_view markup,
-                                           MarkName hint) {
+DocHtmlPage::MarkNameId DocHtmlPage::addMark(std::string_view name, std::string_view markup,
+                                             MarkNameId hint) {
     const auto sequence = static_cast<std::uint32_t>(record_->marks.size() + 1);
     return record_->marks.add(name, record_->text.addMark(markup, sequence), hint);
 }
@@ -195,7 +193,7 @@ void DocHtmlPage::removeMarks(std::string_view name) {
     });
 }
 
-void DocHtmlPage::resolveMarks(std::string_view name, std::string_view reference, MarkName hint) {
+void DocHtmlPage::resolveMarks(std::string_view name, std::string_view reference, MarkNameId hint) {
     const auto fill = [&](SpliceText::MarkId mark) { record_->fillMark(mark, name, reference); };
     record_->marks.take(name, fill, hint);
     clearInsertPoint();

@@ -59,11 +59,12 @@ public:
 
     /// The page's own number of a mark's name. Told with the name again it spares the page a
     /// search; a wrong number does no harm.
-    using MarkName = std::uint32_t;
-    static constexpr MarkName unknownName = 0xFFFFFFFF;
+    using MarkNameId = std::uint32_t;
+    static constexpr MarkNameId unknownName = 0xFFFFFFFF;
 
     /// Marks: named places that can still be filled.
-    MarkName addMark(std::string_view name, std::string_view markup, MarkName hint = unknownName);
+    MarkNameId addMark(std::string_view name, std::string_view markup,
+                       MarkNameId hint = unknownName);
     [[nodiscard]] bool hasMarks() const noexcept;
     [[nodiscard]] std::size_t getMarkCount() const noexcept;
     [[nodiscard]] bool hasMark(std::string_view name) const;
@@ -73,7 +74,7 @@ public:
     /// markup becomes HREF="reference"; in a markup that holds the name, the name's first
     /// occurrence, wherever it stands, becomes that; any other markup is put as it is.
     void resolveMarks(std::string_view name, std::string_view reference,
-                      MarkName hint = unknownName);
+                      MarkNameId hint = unknownName);
     /// Lets `append` write at the first mark of that name. False when there is none.
     bool setInsertPoint(std::string_view name);
     void clearInsertPoint() noexcept;

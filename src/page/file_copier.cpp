@@ -23,7 +23,7 @@ OrxString FileCopier::copyToDir(const OrxString& source, const OrxString& target
     if (trace.isTrace(Trace::errors)) {
         OrxString line("ERR Could not copy file ");
         line.append(source).append(" to directory ").append(targetDir).append('\n');
-        Trace(trace).write(Trace::errors, line);
+        trace.write(Trace::errors, line);
     }
     // An older copy that is already there is as good a target as any.
     return SysFile::exists(target) ? target : source;

@@ -164,7 +164,7 @@ bool Trace::hasLog() const noexcept {
     return stream_ != nullptr && stream_->isOpen();
 }
 
-void Trace::write(int level, std::string_view text) {
+void Trace::write(int level, std::string_view text) const {
     if (level <= level_ && hasLog()) {
         stream_->write(text);
     }

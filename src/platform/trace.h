@@ -55,7 +55,7 @@ public:
     }
     /// Writes a text, line ends included, for those that want its level. A line feed becomes the
     /// system's line end in the log. The log is up to date with every call.
-    void write(int level, std::string_view text);
+    void write(int level, std::string_view text) const;
 
     /// Installs the listener (it stays the caller's), null for none; returns the one before.
     static TraceListener* setListener(TraceListener* listener) noexcept;

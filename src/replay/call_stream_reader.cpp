@@ -4,7 +4,7 @@
 #include <cstring>
 #include <string>
 
-#include "replay/call_arguments.h"
+#include "replay/call_builder.h"
 #include "replay/json_text.h"
 #include "replay/rapidjson_reader.h"
 
@@ -29,7 +29,7 @@ public:
         call_ = &call;
         problem_.clear();
         isOpen_ = false;
-        arguments_.start(call);
+        builder_.start(call);
         const std::size_t size = foldLoneSurrogates(line);
         surrogates_ = size != line.size();
         line[size] = '\0';
@@ -55,18 +55,18 @@ public:
 
     bool StartArray() {
         if (isOpen_) {
-            return arguments_.addOther(problem_);
+            return builder_.addOther(problem_);
         }
         isOpen_ = true;
         return true;
     }
-    bool EndArray(rapidjson::SizeType /*count*/) { return arguments_.finish(problem_); }
+    bool EndArray(rapidjson::SizeType /*count*/) { return builder_.finish(problem_); }
     bool String(const char* text, rapidjson::SizeType size, bool /*copy*/) {
         if (!isOpen_) {
             return Default();
         }
-        if (!arguments_.isNamed()) {
-            return arguments_.name({text, size}, problem_);
+        if (!builder_.isNamed()) {
+            return builder_.name({text, size}, problem_);
         }
         char16_t* const end = decodeUtf8({text, size}, nextUnit_, surrogates_);
         if (end == nullptr) {
@@ -75,18 +75,18 @@ public:
         }
         const WideText argument(nextUnit_, static_cast<std::size_t>(end - nextUnit_));
         nextUnit_ = end;
-        return arguments_.addText(argument, problem_);
+        return builder_.addText(argument, problem_);
     }
-    bool Bool(bool value) { return isOpen_ ? arguments_.addBoolean(value, problem_) : Default(); }
+    bool Bool(bool value) { return isOpen_ ? builder_.addBoolean(value, problem_) : Default(); }
     bool Int(int value) { return Int64(value); }
     bool Uint(unsigned value) { return Int64(value); }
     bool Int64(std::int64_t value) {
-        return isOpen_ ? arguments_.addInteger(value, problem_) : Default();
+        return isOpen_ ? builder_.addInteger(value, problem_) : Default();
     }
     /// Everything else: null, a number that is no integer or beyond all of them, an object.
     bool Default() {
         if (isOpen_) {
-            return arguments_.addOther(problem_);
+            return builder_.addOther(problem_);
         }
         problem_ = "not a call: a line holds one array, an operation's name and its arguments";
         return false;
@@ -94,7 +94,7 @@ public:
 
 private:
     rapidjson::Reader reader_;
-    CallArguments arguments_;
+    CallBuilder builder_;
     Call* call_ = nullptr;
     std::string problem_;
     std::u16string units_;

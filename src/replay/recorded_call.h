@@ -13,6 +13,12 @@ namespace quillmark::replay {
 /// The shape of a call line in a recorded trace. It follows from the operation's parameters.
 enum class RecordedForm { plain, number, attribute, text, twoTexts, textAndNumber };
 
+/// Whether a call of that shape has a text among its arguments, which may hold line ends.
+[[nodiscard]] constexpr bool hasText(RecordedForm form) noexcept {
+    return form == RecordedForm::text || form == RecordedForm::twoTexts ||
+           form == RecordedForm::textAndNumber;
+}
+
 /// An operation that writes a call line, told from the beginning of one.
 struct RecordedOperation {
     const Operation* operation = nullptr;

@@ -75,14 +75,13 @@ RecordingReader::Extent RecordingReader::extentTo(std::size_t lineEnd) {
 }
 
 std::optional<RecordingReader::Extent> RecordingReader::findExtent(const RecordedOperation& what) {
-    const bool hasText = what.form >= RecordedForm::text;
     CallEnd end(what);
     std::optional<Extent> first;
     std::size_t position = 0;
     while (const std::optional<std::size_t> lineEnd = lineEndFrom(position)) {
         const Extent extent = extentTo(*lineEnd);
         const bool closes = end.isAtEndOf(input_.view().substr(0, extent.textSize));
-        if (!hasText) {
+        if (!hasText(what.form)) {
             return closes ? std::optional(extent) : std::nullopt;
         }
         position = extent.size;
@@ -146,7 +145,7 @@ ReadResult RecordingReader::readCall(Call& call) {
         return malformed("not a line of a recorded trace");
     }
     const std::string name = what->operation->name;
-    if (what->form >= RecordedForm::text && input_.view().substr(what->arguments, 1) != "\"") {
+    if (hasText(what->form) && input_.view().substr(what->arguments, 1) != "\"") {
         return malformed("wrong arguments for " + name);
     }
     const std::optional<Extent> extent = findExtent(*what);

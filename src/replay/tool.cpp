@@ -6,6 +6,7 @@
 
 #include "foundation/code_page.h"
 #include "platform/drive_table.h"
+#include "platform/settings_table.h"
 #include "platform/sys_text.h"
 #include "replay/bad_input.h"
 #include "replay/inputs.h"
@@ -36,6 +37,7 @@ public:
 
     int play() {
         makeLogDirectory();
+        warnOfUnknownSettings();
         {
             const RegisteredServices registered(hostServices());
             const std::shared_ptr<void> lent =
@@ -123,6 +125,16 @@ private:
             std::error_code failure;
             std::filesystem::create_directories(files_.native(*options_.logFile).parent_path(),
                                                 failure);
+        }
+    }
+
+    /// Most likely a name that is spelled wrong. It does no harm, so the run goes on.
+    void warnOfUnknownSettings() {
+        for (const Options::Setting& setting : options_.settings) {
+            if (!options_.quiet && findSetting(setting.group, setting.name) == nullptr) {
+                messages_.tell(std::string(toolName) + ": warning: there is no setting " +
+                               setting.group + "." + setting.name);
+            }
         }
     }
 

@@ -22,7 +22,7 @@ OrxString packDataFile(const OrxString& dataFile, const OrxString& installDir, c
         return archive;
     }
     if (trace.isTrace(Trace::errors)) {
-        Trace(trace).write(Trace::errors, "ERR: running " + archiver + "\n");
+        trace.write(Trace::errors, "ERR: running " + archiver + "\n");
     }
     return dataFile;
 }

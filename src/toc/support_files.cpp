@@ -34,9 +34,10 @@ IconArchives copyContentsSupportFiles(const ContentsContext& context) {
 
 void copyArrowPictures(const OrxString& installDir, const OrxString& pixDir,
                        const FileCopier& copier, const Trace& trace) {
-    for (const char* const name :
-         {"forwardON.gif", "forwardOFF.gif", "backON.gif", "backOFF.gif"}) {
-        const OrxString source = SysFile::appendToDir(installDir, OrxString("pix\\") + name);
+    const OrxString pictures = SysFile::appendToDir(installDir, installedPicturesName);
+    for (const char* const name : {arrow_pictures::forward, arrow_pictures::forwardDead,
+                                   arrow_pictures::back, arrow_pictures::backDead}) {
+        const OrxString source = SysFile::appendToDir(pictures, name);
         copier.copyToDir(source, pixDir, "", trace);
     }
 }

@@ -18,8 +18,18 @@ struct IconArchives {
 /// over in silence.
 IconArchives copyContentsSupportFiles(const ContentsContext& context);
 
-/// Copies the four arrow pictures from "pix" of the installation directory into the image
-/// directory.
+/// The directory of the installed pictures, in the installation directory.
+inline constexpr const char* installedPicturesName = "pix";
+
+/// The pictures of the arrows between pages, live and dead.
+namespace arrow_pictures {
+inline constexpr const char* forward = "forwardON.gif";
+inline constexpr const char* forwardDead = "forwardOFF.gif";
+inline constexpr const char* back = "backON.gif";
+inline constexpr const char* backDead = "backOFF.gif";
+}  // namespace arrow_pictures
+
+/// Copies the four arrow pictures from the installed pictures into the image directory.
 void copyArrowPictures(const OrxString& installDir, const OrxString& pixDir,
                        const FileCopier& copier, const Trace& trace);
 

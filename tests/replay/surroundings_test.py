@@ -22,12 +22,12 @@ class Surroundings(unittest.TestCase):
         self.store = self.work / "config" / "quillmark" / "settings.ini"
         (self.work / "calls").write_text(CALLS)
 
-    def play(self, order, cwd=None):
+    def play(self, order, cwd=None, quiet=True):
         """Runs a shell's order in which TOOL stands for the tool; answers with status and errors."""
         environment = dict(os.environ, XDG_CONFIG_HOME=str(self.work / "config"))
         environment["XDG_DATA_HOME"] = str(self.work / "data")
         ended = subprocess.run(
-            ["sh", "-c", order.replace("TOOL", f"'{TOOL}' -q")],
+            ["sh", "-c", order.replace("TOOL", f"'{TOOL}'" + " -q" * quiet)],
             env=environment,
             cwd=cwd or self.work,
             stderr=subprocess.PIPE,
@@ -83,6 +83,14 @@ class Surroundings(unittest.TestCase):
         status, errors = self.play("TOOL calls")
         self.assertEqual(status, 2)
         self.assertRegex(errors, "Cannot read the settings file ")
+
+    def test_a_setting_that_is_none_is_told_and_does_no_harm(self):
+        status, errors = self.play("TOOL --set Html.Navigg=2 calls")
+        self.assertEqual((status, errors), (0, ""))
+        status, errors = self.play("TOOL --set html.navig=2 --set Html.Navigg=2 calls", quiet=False)
+        self.assertEqual(status, 0)
+        self.assertIn("dochtml-replay: warning: there is no setting Html.Navigg\n", errors)
+        self.assertNotIn("html.navig\n", errors)
 
     def test_directories_in_the_place_of_files_are_refused(self):
         for option in "--model", "--image-maps", "--settings":

@@ -1,4 +1,4 @@
-#include "replay/call_arguments.h"
+#include "replay/call_builder.h"
 
 #include <algorithm>
 #include <limits>
@@ -46,7 +46,7 @@ std::string counted(std::size_t count) {
 
 }  // namespace
 
-void CallArguments::start(Call& call) noexcept {
+void CallBuilder::start(Call& call) noexcept {
     call_ = &call;
     call.operation = nullptr;
     call.argumentCount = 0;
@@ -56,7 +56,7 @@ void CallArguments::start(Call& call) noexcept {
     named_ = false;
 }
 
-bool CallArguments::name(std::string_view name, std::string& problem) {
+bool CallBuilder::name(std::string_view name, std::string& problem) {
     named_ = true;
     call_->operation = findOperation(name);
     if (call_->operation == nullptr) {
@@ -74,11 +74,11 @@ bool CallArguments::name(std::string_view name, std::string& problem) {
     return true;
 }
 
-const Parameter* CallArguments::nextParameter() const noexcept {
+const Parameter* CallBuilder::nextParameter() const noexcept {
     return seen_ < expected_ ? &call_->operation->parameters[seen_] : nullptr;
 }
 
-bool CallArguments::take(const Argument& argument) noexcept {
+bool CallBuilder::take(const Argument& argument) noexcept {
     if (seen_ < expected_) {
         call_->arguments[seen_] = argument;
         call_->argumentCount = seen_ + 1;
@@ -87,21 +87,21 @@ bool CallArguments::take(const Argument& argument) noexcept {
     return true;
 }
 
-bool CallArguments::refuse(std::string& problem) const {
+bool CallBuilder::refuse(std::string& problem) const {
     const Parameter* const parameter = nextParameter();
     problem = std::string(call_->operation->name) + ": argument " + std::to_string(seen_ + 1) +
               " (" + parameter->name + ") must be " + wanted(*call_->operation, *parameter);
     return false;
 }
 
-bool CallArguments::needsName(std::string& problem) const {
+bool CallBuilder::needsName(std::string& problem) const {
     if (!named_) {
         problem = nameMissing;
     }
     return !named_;
 }
 
-bool CallArguments::addText(WideText text, std::string& problem) {
+bool CallBuilder::addText(WideText text, std::string& problem) {
     const Parameter* const parameter = nextParameter();
     if (parameter != nullptr && parameter->kind != ParameterKind::string) {
         return refuse(problem);
@@ -109,7 +109,7 @@ bool CallArguments::addText(WideText text, std::string& problem) {
     return take(text);
 }
 
-bool CallArguments::addBoolean(bool value, std::string& problem) {
+bool CallBuilder::addBoolean(bool value, std::string& problem) {
     if (needsName(problem)) {
         return false;
     }
@@ -120,7 +120,7 @@ bool CallArguments::addBoolean(bool value, std::string& problem) {
     return take(value);
 }
 
-bool CallArguments::addInteger(std::int64_t value, std::string& problem) {
+bool CallBuilder::addInteger(std::int64_t value, std::string& problem) {
     if (needsName(problem)) {
         return false;
     }
@@ -142,7 +142,7 @@ bool CallArguments::addInteger(std::int64_t value, std::string& problem) {
     return refuse(problem);
 }
 
-bool CallArguments::addOther(std::string& problem) {
+bool CallBuilder::addOther(std::string& problem) {
     if (needsName(problem)) {
         return false;
     }
@@ -153,7 +153,7 @@ bool CallArguments::addOther(std::string& problem) {
     return false;
 }
 
-bool CallArguments::finish(std::string& problem) {
+bool CallBuilder::finish(std::string& problem) {
     if (needsName(problem)) {
         return false;
     }

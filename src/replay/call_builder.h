@@ -10,7 +10,7 @@ namespace quillmark::replay {
 
 /// Puts a call together piece by piece and checks each piece against the operation's row: every
 /// step answers false and says in `problem` what is wrong when a piece does not fit.
-class CallArguments {
+class CallBuilder {
 public:
     /// The name that asks for a fresh object.
     static constexpr std::string_view freshObject = "new";

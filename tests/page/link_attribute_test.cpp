@@ -1,0 +1,35 @@
+#include "page/link_attribute.h"
+
+#include <gtest/gtest.h>
+
+namespace quillmark {
+namespace {
+
+TEST(LinkAttribute, StandsWhereTheNameComesFirst) {
+    const auto place = LinkAttribute::placeIn("<A GUID-1>", "GUID-1");
+    EXPECT_TRUE(place.isThere());
+    EXPECT_EQ(place.start, 3U);
+    EXPECT_EQ(place.length, 6U);
+    EXPECT_EQ(LinkAttribute::placeIn("<A x x>", "x").start, 3U);
+}
+
+TEST(LinkAttribute, IsFoundInTheTagsOwnLettersToo) {
+    const auto place = LinkAttribute::placeIn("<A A>", "A");
+    EXPECT_EQ(place.start, 1U);
+    EXPECT_EQ(place.length, 1U);
+}
+
+TEST(LinkAttribute, IsAllThatAnEmptyMarkupHolds) {
+    const auto place = LinkAttribute::placeIn("", "GUID-1");
+    EXPECT_TRUE(place.isThere());
+    EXPECT_EQ(place.start, 0U);
+    EXPECT_EQ(place.length, 0U);
+}
+
+TEST(LinkAttribute, HasNoPlaceInTheEndOfALink) {
+    EXPECT_FALSE(LinkAttribute::placeIn("</A>", "GUID-1").isThere());
+    EXPECT_FALSE(LinkAttribute::placeIn("</A>", "a").isThere());
+}
+
+}  // namespace
+}  // namespace quillmark
