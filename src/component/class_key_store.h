@@ -46,7 +46,9 @@ public:
     [[nodiscard]] virtual HRESULT commit() = 0;
 };
 
-/// The store of this system, for the user who runs the process.
-[[nodiscard]] std::unique_ptr<ClassKeyStore> openClassKeyStore();
+/// Opens the store of this system, for the user who runs the process. Answers `S_OK`, or
+/// `REGDB_E_READREGDB` when it is there and cannot be read, `REGDB_E_WRITEREGDB` when it cannot be
+/// changed. May wait for others who are changing it; let go of it soon.
+[[nodiscard]] HRESULT openClassKeyStore(std::unique_ptr<ClassKeyStore>& store);
 
 }  // namespace quillmark

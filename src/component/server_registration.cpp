@@ -21,26 +21,33 @@ std::vector<RegisteredKey> serverKeys() {
     return keys;
 }
 
+/// Opens the store, has `change` change it and, when that worked, makes it last.
+template <typename Change>
+HRESULT changeStore(Change change) {
+    std::unique_ptr<ClassKeyStore> store;
+    const HRESULT opened = openClassKeyStore(store);
+    if (FAILED(opened)) {
+        return opened;
+    }
+    Registrar registrar(*store, serverKeys());
+    const HRESULT changed = change(registrar);
+    return SUCCEEDED(changed) ? registrar.keep() : changed;
+}
+
 }  // namespace
 
 HRESULT registerServer() {
-    const auto store = openClassKeyStore();
-    Registrar registrar(*store, serverKeys());
-    HRESULT result = registrar.registerKeys();
-    if (SUCCEEDED(result)) {
-        result = registerTypeLibrary();
-    }
-    return SUCCEEDED(result) ? registrar.keep() : result;
+    return changeStore([](Registrar& registrar) {
+        const HRESULT result = registrar.registerKeys();
+        return SUCCEEDED(result) ? registerTypeLibrary() : result;
+    });
 }
 
 HRESULT unregisterServer() {
-    const auto store = openClassKeyStore();
-    Registrar registrar(*store, serverKeys());
-    HRESULT result = registrar.unregisterKeys();
-    if (SUCCEEDED(result)) {
-        result = unregisterTypeLibrary();
-    }
-    return SUCCEEDED(result) ? registrar.keep() : result;
+    return changeStore([](Registrar& registrar) {
+        const HRESULT result = registrar.unregisterKeys();
+        return SUCCEEDED(result) ? unregisterTypeLibrary() : result;
+    });
 }
 
 }  // namespace quillmark

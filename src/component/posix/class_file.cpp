@@ -2,10 +2,14 @@
 
 #include <unistd.h>
 
+#include <array>
+#include <cerrno>
 #include <fstream>
+#include <sstream>
 #include <string_view>
 #include <utility>
 
+#include "component/posix/descriptor.h"
 #include "platform/posix/home_directory.h"
 
 namespace quillmark {
@@ -79,6 +83,25 @@ void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree) 
     }
 }
 
+/// All of the file: nothing when it cannot be read, an empty text when it is not there.
+std::optional<std::string> contentOf(const std::filesystem::path& file) {
+    const Descriptor in(file, O_RDONLY);
+    if (in.number() < 0) {
+        return errno == ENOENT || errno == ENOTDIR ? std::optional<std::string>("") : std::nullopt;
+    }
+    std::string content;
+    std::array<char, 4096> piece{};
+    ssize_t size = 0;
+    while ((size = read(in.number(), piece.data(), piece.size())) != 0) {
+        if (size > 0) {
+            content.append(piece.data(), static_cast<std::size_t>(size));
+        } else if (errno != EINTR) {
+            return std::nullopt;
+        }
+    }
+    return content;
+}
+
 }  // namespace
 
 std::filesystem::path classFilePath() {
@@ -88,10 +111,14 @@ std::filesystem::path classFilePath() {
     return base / "quillmark" / "classes.ini";
 }
 
-KeyTree readClassFile(const std::filesystem::path& file) {
+std::optional<KeyTree> readClassFile(const std::filesystem::path& file) {
+    const std::optional<std::string> content = contentOf(file);
+    if (!content) {
+        return std::nullopt;
+    }
     KeyTree root;
     KeyTree* key = nullptr;
-    std::ifstream in(file);
+    std::istringstream in(*content);
     for (std::string line; std::getline(in, line);) {
         const std::size_t equals = line.find('=');
         if (line.starts_with('[') && line.ends_with(']') && line.size() > 2) {

@@ -18,8 +18,11 @@ namespace quillmark {
 [[nodiscard]] std::filesystem::path classFilePath();
 
 /// What the file holds; an empty tree when there is none. Lines that are nothing are passed over.
-[[nodiscard]] KeyTree readClassFile(const std::filesystem::path& file);
-/// Puts a new file in the old one's place, in one step. False when that failed.
+/// Nothing when there is one that cannot be read: nobody may take that for an empty one and write
+/// another in its place.
+[[nodiscard]] std::optional<KeyTree> readClassFile(const std::filesystem::path& file);
+/// Puts a new file in the old one's place, in one step. False when that failed. Hold the file's
+/// lock since before the old one was read (component/posix/class_file_lock.h).
 [[nodiscard]] bool writeClassFile(const std::filesystem::path& file, const KeyTree& root);
 
 /// The key of that path below `root`, or null.

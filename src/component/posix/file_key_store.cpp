@@ -1,14 +1,28 @@
 #include "component/class_key_store.h"
 #include "component/posix/class_file.h"
+#include "component/posix/class_file_lock.h"
 
 namespace quillmark {
 namespace {
 
-/// Changes a copy in memory; `commit` puts it in the file's place in one step.
+/// Changes a copy in memory; `commit` puts it in the file's place in one step. Until its end nobody
+/// else changes the file.
 class FileKeyStore final : public ClassKeyStore {
 public:
-    explicit FileKeyStore(std::filesystem::path file)
-        : file_(std::move(file)), root_(readClassFile(file_)) {}
+    explicit FileKeyStore(std::filesystem::path file) : file_(std::move(file)), lock_(file_) {}
+
+    /// Reads the file, under the lock. Before it succeeds the store is of no use.
+    [[nodiscard]] HRESULT load() {
+        if (!lock_.isHeld()) {
+            return REGDB_E_WRITEREGDB;
+        }
+        auto root = readClassFile(file_);
+        if (!root) {
+            return REGDB_E_READREGDB;
+        }
+        root_ = *std::move(root);
+        return S_OK;
+    }
 
     [[nodiscard]] std::optional<KeyTree> read(const std::string& path) const override {
         const KeyTree* key = findKey(root_, path);
@@ -38,13 +52,19 @@ public:
 
 private:
     std::filesystem::path file_;
+    ClassFileLock lock_;
     KeyTree root_;
 };
 
 }  // namespace
 
-std::unique_ptr<ClassKeyStore> openClassKeyStore() {
-    return std::make_unique<FileKeyStore>(classFilePath());
+HRESULT openClassKeyStore(std::unique_ptr<ClassKeyStore>& store) {
+    auto opened = std::make_unique<FileKeyStore>(classFilePath());
+    const HRESULT loaded = opened->load();
+    if (SUCCEEDED(loaded)) {
+        store = std::move(opened);
+    }
+    return loaded;
 }
 
 }  // namespace quillmark

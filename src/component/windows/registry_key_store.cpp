@@ -143,8 +143,9 @@ public:
 
 }  // namespace
 
-std::unique_ptr<ClassKeyStore> openClassKeyStore() {
-    return std::make_unique<RegistryKeyStore>();
+HRESULT openClassKeyStore(std::unique_ptr<ClassKeyStore>& store) {
+    store = std::make_unique<RegistryKeyStore>();
+    return S_OK;
 }
 
 }  // namespace quillmark

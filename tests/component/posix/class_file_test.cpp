@@ -1,10 +1,13 @@
 #include "component/posix/class_file.h"
 
 #include <gmock/gmock.h>
+#include <sys/file.h>
 
 #include <fstream>
+#include <thread>
 
 #include "component/client/posix/class_lookup.h"
+#include "component/posix/descriptor.h"
 #include "component/server_registration.h"
 #include "dochtml/client.h"
 #include "support/environment_variable.h"
@@ -20,7 +23,8 @@ class ClassFile : public ::testing::Test {
 protected:
     fs::path file() const { return dir_.nativeFile("quillmark\\classes.ini"); }
     std::string content() const { return dir_.content("quillmark\\classes.ini").value_or(""); }
-    KeyTree tree() const { return readClassFile(file()); }
+    KeyTree tree() const { return readClassFile(file()).value(); }
+    fs::path lockFile() const { return file().string() + ".lock"; }
 
     TempDir dir_;
     EnvironmentVariable data_{"XDG_DATA_HOME", dir_.native()};
@@ -118,6 +122,78 @@ TEST_F(ClassFile, keepsTheSharedKeyAndOthersClassesWhenUnregistered) {
     ASSERT_EQ(registerServer(), S_OK);
     ASSERT_EQ(unregisterServer(), S_OK);
     EXPECT_EQ(tree(), others);
+}
+
+/// A file that is there and cannot be read, whoever asks: it is a link to itself.
+class UnreadableClassFile : public ClassFile {
+protected:
+    void SetUp() override {
+        fs::create_directories(file().parent_path());
+        fs::create_symlink("classes.ini", file());
+    }
+};
+
+TEST_F(UnreadableClassFile, isNotTakenForAnEmptyOne) {
+    EXPECT_EQ(readClassFile(file()), std::nullopt);
+}
+
+TEST_F(UnreadableClassFile, isLeftAsItIsByRegistration) {
+    EXPECT_EQ(registerServer(), REGDB_E_READREGDB);
+    EXPECT_TRUE(fs::is_symlink(file()));
+    EXPECT_EQ(unregisterServer(), REGDB_E_READREGDB);
+    EXPECT_TRUE(fs::is_symlink(file()));
+}
+
+TEST_F(UnreadableClassFile, isNamedToWhoeverLooksForAClass) {
+    try {
+        static_cast<void>(findRegisteredClass("DocHtml.DocHtml"));
+        FAIL() << "nothing was thrown";
+    } catch (const ComponentError& failure) {
+        EXPECT_EQ(failure.result(), REGDB_E_READREGDB);
+        EXPECT_FALSE(failure.isNotRegistered());
+        EXPECT_EQ(failure.what(), "cannot read " + file().string());
+    }
+}
+
+TEST_F(ClassFile, cannotBeReadWhereADirectoryLies) {
+    // It opens; only reading it fails.
+    fs::create_directories(file());
+    EXPECT_EQ(readClassFile(file()), std::nullopt);
+    EXPECT_EQ(registerServer(), REGDB_E_READREGDB);
+}
+
+TEST_F(ClassFile, isNotThereWhereAFileIsInTheWay) {
+    std::ofstream(file().parent_path()) << "in the way";
+    EXPECT_EQ(tree(), KeyTree());
+    EXPECT_EQ(registerServer(), REGDB_E_WRITEREGDB);
+}
+
+TEST_F(ClassFile, isChangedByOneAtATime) {
+    std::unique_ptr<ClassKeyStore> store;
+    ASSERT_EQ(openClassKeyStore(store), S_OK);
+    const Descriptor other(lockFile(), O_RDWR);
+    EXPECT_EQ(flock(other.number(), LOCK_EX | LOCK_NB), -1);
+    EXPECT_EQ(errno, EWOULDBLOCK);
+    store.reset();
+    EXPECT_EQ(flock(other.number(), LOCK_EX | LOCK_NB), 0);
+}
+
+TEST_F(ClassFile, losesNothingOfThoseWhoRegisterAtOnce) {
+    constexpr int writers = 8;
+    const auto registerOne = [](int number) {
+        std::unique_ptr<ClassKeyStore> store;
+        ASSERT_EQ(openClassKeyStore(store), S_OK);
+        ASSERT_EQ(store->createKey("Key" + std::to_string(number)), S_OK);
+        ASSERT_EQ(store->commit(), S_OK);
+    };
+    std::vector<std::thread> threads;
+    for (int number = 0; number < writers; ++number) {
+        threads.emplace_back(registerOne, number);
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    EXPECT_THAT(tree().children, ::testing::SizeIs(writers));
 }
 
 TEST_F(ClassFile, leadsFromEveryNameToTheClass) {

@@ -50,10 +50,20 @@ const KeyTree* findClassKey(const KeyTree& root, const GUID& classId) {
     return found == classes->children.end() ? nullptr : &found->second;
 }
 
+/// All classes that the user's programs find by name.
+KeyTree registeredClasses() {
+    const std::filesystem::path file = classFilePath();
+    std::optional<KeyTree> root = readClassFile(file);
+    if (!root) {
+        throw ComponentError("cannot read " + file.string(), REGDB_E_READREGDB);
+    }
+    return *std::move(root);
+}
+
 }  // namespace
 
 RegisteredClass findRegisteredClass(const std::string& identifier) {
-    const KeyTree root = readClassFile(classFilePath());
+    const KeyTree root = registeredClasses();
     const auto text = identifier.starts_with('{') ? identifier : classOfProgram(root, identifier);
     const auto classId = text ? parseGuid(*text) : std::nullopt;
     if (!classId) {
