@@ -23,16 +23,8 @@ foreach(module foundation platform page toc diagram driver)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${module} DESTINATION ${DOCHTML_HEADER_DIR}
             FILES_MATCHING PATTERN "*.h" PATTERN posix EXCLUDE PATTERN windows EXCLUDE)
 endforeach()
-if(EXISTS ${PROJECT_SOURCE_DIR}/src/component/include)
-    install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/component/include/
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
-endif()
-
-# The component is loaded by hosts, not linked; the tools install themselves.
-if(TARGET dochtmlcom)
-    install(TARGETS dochtmlcom RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-                               LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-endif()
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/component/include/
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
 
 install(EXPORT dochtmlTargets NAMESPACE dochtml:: DESTINATION ${DOCHTML_CMAKE_DIR})
 configure_package_config_file(cmake/dochtmlConfig.cmake.in dochtmlConfig.cmake
@@ -51,13 +43,9 @@ foreach(package dochtml dochtml_client)
             DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endforeach()
 
-if(EXISTS ${PROJECT_SOURCE_DIR}/support)
-    install(DIRECTORY ${PROJECT_SOURCE_DIR}/support/ DESTINATION ${CMAKE_INSTALL_DATADIR}/dochtml
-            PATTERN CMakeLists.txt EXCLUDE PATTERN README.md EXCLUDE
-            PATTERN draw EXCLUDE)
-endif()
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/support/ DESTINATION ${CMAKE_INSTALL_DATADIR}/dochtml
+        PATTERN CMakeLists.txt EXCLUDE PATTERN README.md EXCLUDE
+        PATTERN draw EXCLUDE)
 install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-if(EXISTS ${PROJECT_SOURCE_DIR}/docs)
-    install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR}
-            PATTERN CMakeLists.txt EXCLUDE)
-endif()
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR}
+        PATTERN CMakeLists.txt EXCLUDE)

@@ -19,6 +19,8 @@ public:
                  TextWriter& text) noexcept
         : context_(context), links_(links), images_(images), text_(text) {}
 
+    /// Puts the file's contents in, a picture or the lines of a text, when it comes as contents;
+    /// a link to it for every other type. What cannot be found leaves nothing.
     void insertFile(const OrxString& fileName, std::int16_t insertAsType);
 
 private:

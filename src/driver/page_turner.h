@@ -28,6 +28,7 @@ public:
           style_(style),
           arrows_(context) {}
 
+    /// Makes a new page the current one, with its anchor and the text state that goes on.
     void startPage();
     /// `closeTables` ends every open table, through the document's own interface. The last page's
     /// end also finishes every page that was held back.

@@ -170,9 +170,9 @@ INSTANTIATE_TEST_SUITE_P(
                       FailingOperation{Kind::setCurrentDirectory, "setCurrentDirectory"}),
     [](const auto& test) { return std::string(test.param.name); });
 
-TEST_F(DiskFailures, OfADiskThatFillsAtEveryByteAreSurvived) {
+TEST_F(DiskFailures, OfADiskThatFillsAnywhereAreSurvived) {
     html("Navig", "3");
-    for (std::uint64_t room = 0; room < 4000; room += 97) {
+    for (std::uint64_t room = 0; room < 4000; room += 7) {
         failing.fillDiskAfter(room);
         try {
             writeDocument();
