@@ -29,9 +29,11 @@ struct FileStamp {
 class InputFile {
 public:
     virtual ~InputFile() = default;
-    /// Fills `buffer` and returns how many bytes it took; 0 at the end. A read that fails counts
-    /// as the end.
+    /// Puts up to as many bytes as `buffer` holds into it and returns how many; 0 at the end only.
+    /// A read that fails ends the file too: ask `failed` where half a file is worse than none.
     virtual std::size_t read(std::span<char> buffer) = 0;
+    /// True when the file ended because a read failed. One that cannot fail need not say so.
+    [[nodiscard]] virtual bool failed() const { return false; }
 };
 
 /// A file open for writing, from the front.

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <memory>
+#include <utility>
 
 #include "platform/file_system.h"
 
@@ -18,7 +19,7 @@ std::optional<std::string> readWhole(const OrxString& fileName) {
     while (const std::size_t taken = file->read(buffer)) {
         bytes.append(buffer.data(), taken);
     }
-    return bytes;
+    return file->failed() ? std::nullopt : std::optional(std::move(bytes));
 }
 
 }  // namespace quillmark

@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <optional>
+#include <string>
 #include <string_view>
 
+#include "platform/read_whole.h"
 #include "platform/sys_file.h"
 #include "support/installed_file_system.h"
 #include "support/memory_file_system.h"
@@ -41,6 +44,25 @@ TEST_F(FailingFiles, CanRefuseToOpenOrToClose) {
     files.failAt(Operation::close, 1);
     EXPECT_EQ(write("a", "1"), WriteResult::writeFailed);
     EXPECT_EQ(memory.openFiles(), 0);
+}
+
+TEST_F(FailingFiles, EndAFileWhereAReadFailsAndSaySo) {
+    memory.put("a", "123");
+    files.failAt(Operation::read, 2);
+    const auto file = files.openForReading("a");
+    std::array<char, 2> two{};
+    EXPECT_EQ(file->read(two), 2U);
+    EXPECT_FALSE(file->failed());
+    EXPECT_EQ(file->read(two), 0U);
+    EXPECT_TRUE(file->failed());
+    EXPECT_EQ(file->read(two), 0U);
+}
+
+TEST_F(FailingFiles, AreNotReadByHalf) {
+    memory.put("a", std::string(10000, 'x'));
+    files.failAt(Operation::read, 2);
+    EXPECT_EQ(readWhole("a"), std::nullopt);
+    EXPECT_EQ(readWhole("a"), std::string(10000, 'x'));
 }
 
 TEST_F(FailingFiles, FailEveryTimeUntilHealed) {

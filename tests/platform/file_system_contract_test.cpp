@@ -193,6 +193,7 @@ TEST_P(FileSystemContract, ReadingGoesOnWhereItStopped) {
     EXPECT_EQ(file->read(two), 1U);
     EXPECT_EQ(file->read(two), 0U);
     EXPECT_EQ(file->read(two), 0U);
+    EXPECT_FALSE(file->failed());
 }
 
 TEST_P(FileSystemContract, FilesAndDirectoriesAreToldApart) {

@@ -128,6 +128,19 @@ TEST_F(IniStore, TellsThatItsFileCannotBeReadAndDoesNotOverwriteIt) {
     EXPECT_EQ(store->problem(), "");
 }
 
+TEST_F(IniStore, DoesNotTakeHalfAFileForTheWhole) {
+    const std::string whole = "[Html]\nNavig=1\n; " + std::string(5000, 'x') + "\nTOCLevel=4\n";
+    put(whole);
+    files.failAt(Operation::read, 2);
+    EXPECT_FALSE(store->write("Html", "Navig", "3"));
+    EXPECT_EQ(text(), whole);
+    EXPECT_TRUE(store->write("Html", "TOCLevel", "5"));
+    files.failAt(Operation::read, 2);
+    put(whole);
+    EXPECT_EQ(store->problem(), "Cannot read the settings file C:\\conf\\quillmark\\settings.ini");
+    EXPECT_EQ(store->problem(), "");
+}
+
 TEST_F(IniStore, TellsThatADirectoryLiesInItsPlace) {
     memory.makeDirectories(place);
     EXPECT_EQ(store->problem(), "Cannot read the settings file C:\\conf\\quillmark\\settings.ini");

@@ -14,6 +14,7 @@
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 #include "platform/sys_shell.h"
+#include "platform/windows/native_file.h"
 #include "platform/windows/windows_api.h"
 #include "support/temp_dir.h"
 
@@ -49,6 +50,18 @@ TEST(NativeFile, CopiedFromAReadOnlyOneCanBeCopiedAgain) {
     EXPECT_TRUE(SysFile::copy(dir.file("a.css"), dir.file("b.css")));
     EXPECT_TRUE(SysFile::copy(dir.file("a.css"), dir.file("b.css")));
     SetFileAttributesA(dir.nativeFile("a.css").c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST(NativeFile, TellsAReadThatFailedFromTheEnd) {
+    const TempDir dir;
+    dir.put("a.txt", "text");
+    const auto file =
+        makeInputFile(Handle(CreateFileA(dir.nativeFile("a.txt").c_str(), GENERIC_WRITE, 0, nullptr,
+                                         OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr)));
+    ASSERT_NE(file, nullptr);
+    std::array<char, 4> buffer{};
+    EXPECT_EQ(file->read(buffer), 0U);
+    EXPECT_TRUE(file->failed());
 }
 
 class UserStore : public testing::Test {

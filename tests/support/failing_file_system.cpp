@@ -6,6 +6,23 @@
 
 namespace quillmark {
 
+class FailingFileSystem::Reader final : public InputFile {
+public:
+    Reader(FailingFileSystem& owner, std::unique_ptr<InputFile> file)
+        : owner_(owner), file_(std::move(file)) {}
+
+    std::size_t read(std::span<char> buffer) override {
+        failed_ = owner_.fails(Operation::read) || failed_;
+        return failed_ ? 0 : file_->read(buffer);
+    }
+    bool failed() const override { return failed_ || file_->failed(); }
+
+private:
+    FailingFileSystem& owner_;
+    std::unique_ptr<InputFile> file_;
+    bool failed_ = false;
+};
+
 class FailingFileSystem::Writer final : public OutputFile {
 public:
     Writer(FailingFileSystem& owner, std::unique_ptr<OutputFile> file)
@@ -108,7 +125,9 @@ OrxString FailingFileSystem::currentDirectory() const {
 }
 
 std::unique_ptr<InputFile> FailingFileSystem::openForReading(const OrxString& name) {
-    return fails(Operation::openForReading) ? nullptr : inner_.openForReading(name);
+    std::unique_ptr<InputFile> file =
+        fails(Operation::openForReading) ? nullptr : inner_.openForReading(name);
+    return file != nullptr ? std::make_unique<Reader>(*this, std::move(file)) : nullptr;
 }
 
 std::unique_ptr<OutputFile> FailingFileSystem::openForWriting(const OrxString& name) {

@@ -20,6 +20,7 @@ public:
         openForReading,
         openForWriting,
         openForAppending,
+        read,
         write,
         close,
         makeDirectories,
@@ -28,7 +29,7 @@ public:
         replaceFile,
         setCurrentDirectory
     };
-    static constexpr std::size_t operationKinds = 10;
+    static constexpr std::size_t operationKinds = 11;
 
     explicit FailingFileSystem(FileSystem& inner) : inner_(inner) {}
 
@@ -57,6 +58,7 @@ public:
     bool replaceFile(const OrxString& source, const OrxString& target) override;
 
 private:
+    class Reader;
     class Writer;
     struct Plan {
         std::size_t asked = 0;

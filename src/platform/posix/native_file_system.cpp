@@ -44,11 +44,14 @@ public:
 
     std::size_t read(std::span<char> buffer) override {
         const long taken = descriptor_io::readSome(file_, buffer);
+        failed_ = failed_ || taken < 0;
         return taken > 0 ? static_cast<std::size_t>(taken) : 0;
     }
+    bool failed() const override { return failed_; }
 
 private:
     Descriptor file_;
+    bool failed_ = false;
 };
 
 class NativeOutputFile final : public OutputFile {

@@ -20,11 +20,18 @@ public:
     std::size_t read(std::span<char> buffer) override {
         const auto size = static_cast<DWORD>(std::min(buffer.size(), portion));
         DWORD taken = 0;
-        return ReadFile(file_.get(), buffer.data(), size, &taken, nullptr) != FALSE ? taken : 0;
+        if (ReadFile(file_.get(), buffer.data(), size, &taken, nullptr) != FALSE) {
+            return taken;
+        }
+        // The end of a pipe comes as an error.
+        failed_ = failed_ || GetLastError() != ERROR_BROKEN_PIPE;
+        return 0;
     }
+    bool failed() const override { return failed_; }
 
 private:
     Handle file_;
+    bool failed_ = false;
 };
 
 class NativeOutputFile final : public OutputFile {
