@@ -1,7 +1,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstring>
 #include <limits>
 #include <optional>
@@ -170,13 +169,20 @@ HRESULT toInteger(const Number& number, Integer& out) noexcept {
     return S_OK;
 }
 
+char lowerCase(char character) noexcept {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                                : character;
+}
+char upperCase(char character) noexcept {
+    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A')
+                                                : character;
+}
+
 std::optional<bool> booleanOf(const VARIANT& value) {
     if (value.vt == VT_BSTR) {
         std::string word = asciiOf(Text::viewOf(value.bstrVal));
         for (char& character : word) {
-            character = character >= 'A' && character <= 'Z'
-                            ? static_cast<char>(character - 'A' + 'a')
-                            : character;
+            character = lowerCase(character);
         }
         if (word == "true" || word == "#true#") {
             return true;
@@ -192,10 +198,16 @@ std::optional<bool> booleanOf(const VARIANT& value) {
     return number->isWhole ? number->whole != 0 : number->real != 0;
 }
 
+/// As C's "%G" shows it, with a point in every locale.
 std::string shownReal(double value, int digits) {
     std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.*G", digits, value);
-    return text.data();
+    const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value,
+                                            std::chars_format::general, digits);
+    std::string shown(text.data(), end);
+    for (char& character : shown) {
+        character = upperCase(character);
+    }
+    return shown;
 }
 
 std::string shownNumber(const VARIANT& value, const Number& number) {
