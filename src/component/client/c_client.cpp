@@ -9,25 +9,45 @@
 namespace quillmark {
 namespace {
 
-/// Every component that a C host has asked for; a C host has nothing to hold one by.
+/// The components that a C host has asked for; it has nothing to hold them by. Only those that hold
+/// their library themselves are kept: what the system found by name belongs to the apartment of
+/// the thread that asked, and the system remembers it as long as that lasts.
 class OpenComponents {
 public:
-    template <typename Open>
-    const Component& get(const std::string& name, Open open) {
+    using Open = Component (*)(const std::string& name);
+
+    explicit OpenComponents(Open open) noexcept : open_(open) {}
+
+    Component get(const std::string& name) {
         const std::lock_guard lock(mutex_);
         const auto found = components_.find(name);
-        return found != components_.end() ? found->second
-                                          : components_.emplace(name, open(name)).first->second;
+        if (found != components_.end()) {
+            return found->second;
+        }
+        Component component = open_(name);
+        if (component.holdsLibrary()) {
+            components_.emplace(name, component);
+        }
+        return component;
     }
 
 private:
+    Open open_;
     std::mutex mutex_;
     std::map<std::string, Component> components_;
 };
 
-OpenComponents& openComponents() {
-    // Never destroyed: a document may live until the very end of the process.
-    static OpenComponents& components = *new OpenComponents;
+Component openLibrary(const std::string& file) {
+    return Component::fromLibrary(file);
+}
+
+// Never destroyed: a document may live until the very end of the process.
+OpenComponents& componentsByName() {
+    static OpenComponents& components = *new OpenComponents(&Component::byName);
+    return components;
+}
+OpenComponents& componentsByFile() {
+    static OpenComponents& components = *new OpenComponents(&openLibrary);
     return components;
 }
 
@@ -47,35 +67,47 @@ HRESULT guarded(const char* name, void* out, Body&& body) noexcept {
     }
 }
 
-/// The thread's apartment between `dochtml_initialize` and `dochtml_uninitialize`.
-std::optional<Apartment>& threadsApartment() {
-    thread_local std::optional<Apartment> apartment;
+/// The thread's apartment, from its first `dochtml_initialize` to the `dochtml_uninitialize` that
+/// belongs to it.
+class NestedApartment {
+public:
+    void enter() {
+        if (depth_ == 0) {
+            apartment_.emplace();
+        }
+        ++depth_;
+    }
+    void leave() noexcept {
+        if (depth_ > 0 && --depth_ == 0) {
+            apartment_.reset();
+        }
+    }
+
+private:
+    std::optional<Apartment> apartment_;
+    unsigned depth_ = 0;
+};
+
+NestedApartment& threadsApartment() {
+    thread_local NestedApartment apartment;
     return apartment;
 }
 
-Component openLibrary(const std::string& file) {
-    return Component::fromLibrary(file);
-}
-
-template <typename Open>
-HRESULT createDocument(const char* name, DochtmlDocument** document, Open open) noexcept {
+HRESULT createDocument(OpenComponents& components, const char* name,
+                       DochtmlDocument** document) noexcept {
     return guarded(name, document, [&] {
         *document = nullptr;
-        return openComponents()
-            .get(name, open)
-            .classObject()
-            ->CreateInstance(nullptr, IID_IDocument, reinterpret_cast<void**>(document));
+        return components.get(name).classObject()->CreateInstance(
+            nullptr, IID_IDocument, reinterpret_cast<void**>(document));
     });
 }
 
-template <typename Open>
-HRESULT findServices(const char* name, DochtmlHostServices** services, Open open) noexcept {
+HRESULT findServices(OpenComponents& components, const char* name,
+                     DochtmlHostServices** services) noexcept {
     return guarded(name, services, [&] {
         *services = nullptr;
-        return openComponents()
-            .get(name, open)
-            .classObject()
-            ->QueryInterface(IID_IHostServices, reinterpret_cast<void**>(services));
+        return components.get(name).classObject()->QueryInterface(
+            IID_IHostServices, reinterpret_cast<void**>(services));
     });
 }
 
@@ -84,7 +116,7 @@ HRESULT findServices(const char* name, DochtmlHostServices** services, Open open
 
 HRESULT dochtml_initialize() {
     try {
-        quillmark::threadsApartment().emplace();
+        quillmark::threadsApartment().enter();
         return S_OK;
     } catch (const quillmark::ComponentError& error) {
         return error.result();
@@ -92,7 +124,7 @@ HRESULT dochtml_initialize() {
 }
 
 void dochtml_uninitialize() {
-    quillmark::threadsApartment().reset();
+    quillmark::threadsApartment().leave();
 }
 
 BSTR dochtml_text_from_utf8(const char* utf8) {
@@ -104,17 +136,17 @@ BSTR dochtml_text_from_utf8(const char* utf8) {
 }
 
 HRESULT dochtml_create_document(const char* identifier, DochtmlDocument** document) {
-    return quillmark::createDocument(identifier, document, &quillmark::Component::byName);
+    return quillmark::createDocument(quillmark::componentsByName(), identifier, document);
 }
 
 HRESULT dochtml_create_document_from(const char* library, DochtmlDocument** document) {
-    return quillmark::createDocument(library, document, &quillmark::openLibrary);
+    return quillmark::createDocument(quillmark::componentsByFile(), library, document);
 }
 
 HRESULT dochtml_host_services(const char* identifier, DochtmlHostServices** services) {
-    return quillmark::findServices(identifier, services, &quillmark::Component::byName);
+    return quillmark::findServices(quillmark::componentsByName(), identifier, services);
 }
 
 HRESULT dochtml_host_services_from(const char* library, DochtmlHostServices** services) {
-    return quillmark::findServices(library, services, &quillmark::openLibrary);
+    return quillmark::findServices(quillmark::componentsByFile(), library, services);
 }

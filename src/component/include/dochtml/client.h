@@ -58,6 +58,9 @@ public:
     /// What the host lends the component; null for a component that borrows nothing.
     [[nodiscard]] ComPointer<IHostServices> hostServices() const;
     [[nodiscard]] IClassFactory* classObject() const noexcept { return factory_.get(); }
+    /// Whether it keeps the library loaded itself, for any thread. One that Windows found by name
+    /// is the system's, and good only in the apartment of the thread that made it.
+    [[nodiscard]] bool holdsLibrary() const noexcept { return library_ != nullptr; }
 
 private:
     class Library;

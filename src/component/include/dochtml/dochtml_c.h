@@ -126,10 +126,18 @@ struct DochtmlHostServices {
     const DochtmlHostServicesTable* table;
 };
 
-/* The functions of the static library dochtml_client. The component's library, once loaded by
- * one of them, stays loaded until the process ends. */
+/* The functions of the static library dochtml_client.
+ *
+ * How long the component's library stays loaded: one that was loaded from its file, and off Windows
+ * one that was found by name too, until the process ends. One that Windows found by name is the
+ * system's: it may go once nothing of it is alive, at the latest with the thread's apartment. So
+ * release documents and services before the last `dochtml_uninitialize`, and keep the services as
+ * long as something is lent.
+ */
 
-/* Makes the thread ready to use components, and ends that. */
+/* Makes the thread ready to use components, and ends that. The calls nest: each one that answered
+ * `S_OK` needs a `dochtml_uninitialize` of its own on the same thread, and the last of these ends
+ * it. One too many does nothing. */
 HRESULT dochtml_initialize(void);
 void dochtml_uninitialize(void);
 /* A text from UTF-8, for the caller to free with `SysFreeString`; null when out of memory. */
