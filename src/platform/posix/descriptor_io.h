@@ -16,8 +16,8 @@ namespace quillmark::descriptor_io {
 [[nodiscard]] bool writeAll(const Descriptor& file,
                             std::span<const std::string_view> pieces) noexcept;
 
-/// Fills `buffer` from the file; less than its size at the end or on a failure only. -1 on a
-/// failure that left nothing.
+/// One read of the system, not cut short by a signal: up to as many bytes as `buffer` holds, fewer
+/// at the end or where a pipe holds no more for now; 0 at the end only, -1 on a failure.
 [[nodiscard]] long readSome(const Descriptor& file, std::span<char> buffer) noexcept;
 
 /// Copies from one file to the other up to the end, inside the system where it can.
