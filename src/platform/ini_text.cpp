@@ -79,13 +79,18 @@ bool canBeKey(std::string_view name) noexcept {
 }  // namespace
 
 IniText::IniText(std::string_view text) : endsInLineEnd_(text.empty() || text.ends_with('\n')) {
-    if (text.find("\r\n") != std::string_view::npos) {
-        lineEnd_ = "\r\n";
-    }
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        lines_.emplace_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
+        const std::size_t end = text.find('\n');
+        std::string_view line = text.substr(0, end);
+        const bool twoBytes = end != std::string_view::npos && line.ends_with('\r');
+        if (twoBytes) {
+            line.remove_suffix(1);
+        }
+        if (lines_.empty() && twoBytes) {
+            lineEnd_ = "\r\n";
+        }
+        lines_.emplace_back(line);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     }
 }
 
@@ -99,11 +104,10 @@ bool IniText::set(std::string_view section, std::string_view key, std::string_vi
     if (!canBeSection(section) || !canBeKey(key) || !isOneLine(newValue)) {
         return false;
     }
-    const std::string carriageReturn = lineEnd_.substr(0, lineEnd_.size() - 1);
-    const std::string line = lineFor(key, newValue) + carriageReturn;
+    const std::string line = lineFor(key, newValue);
     const std::optional<Range> range = findSection(section);
     if (!range) {
-        lines_.push_back(std::string("[").append(section).append("]").append(carriageReturn));
+        lines_.push_back(std::string("[").append(section).append("]"));
         lines_.push_back(line);
         endsInLineEnd_ = true;
         return true;
@@ -124,10 +128,10 @@ bool IniText::set(std::string_view section, std::string_view key, std::string_vi
 std::string IniText::text() const {
     std::string result;
     for (const std::string& line : lines_) {
-        result.append(line).append("\n");
+        result.append(line).append(lineEnd_);
     }
-    if (!endsInLineEnd_ && !result.empty()) {
-        result.pop_back();
+    if (!endsInLineEnd_) {
+        result.resize(result.size() - lineEnd_.size());
     }
     return result;
 }

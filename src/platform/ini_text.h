@@ -11,9 +11,9 @@ namespace quillmark {
 /// The text of an ini file, line by line, so that what is not understood is kept as it stands.
 ///
 /// Section and key are matched in any case (ASCII letters), blanks around both sides of "=" are
-/// trimmed, one pair of quotes around a value is removed, lines beginning with ";" are comments
-/// (with "#" too where `Line::comment` is concerned), the first section of a name counts, and in
-/// it the first key of a name.
+/// trimmed, one pair of quotes around a value is removed, lines beginning with ";" are comments,
+/// the first section of a name counts, and in it the first key of a name. All lines end as the
+/// first one does.
 class IniText {
 public:
     IniText() = default;
@@ -26,7 +26,8 @@ public:
     [[nodiscard]] bool set(std::string_view section, std::string_view key,
                            std::string_view newValue);
     [[nodiscard]] std::string text() const;
-    /// The number (from 1) of the first line that is none of section, key, comment or blank.
+    /// The number (from 1) of the first line that is none of section, key, comment (with "#" too)
+    /// or blank.
     [[nodiscard]] std::optional<std::size_t> firstOddLine() const;
 
 private:
@@ -41,8 +42,7 @@ private:
 
     /// Without their line ends.
     std::vector<std::string> lines_;
-    /// The line end that new lines get, as the file has it.
-    std::string lineEnd_ = "\n";
+    std::string_view lineEnd_ = "\n";
     bool endsInLineEnd_ = true;
 };
 

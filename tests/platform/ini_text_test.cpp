@@ -84,6 +84,20 @@ TEST(IniChange, KeepsWhatItDoesNotUnderstand) {
 TEST(IniChange, KeepsTheLineEndsOfTheFile) {
     EXPECT_EQ(changed("[S]\r\nA=1\r\n", "2"), "[S]\r\nA=1\r\nK=2\r\n");
     EXPECT_EQ(changed("[S]\r\nK=1\r\n", "2"), "[S]\r\nK=2\r\n");
+    EXPECT_EQ(changed("[T]\r\n", "2"), "[T]\r\n[S]\r\nK=2\r\n");
+}
+
+TEST(IniChange, GivesTheLastLineAnEndWhereTheFileGaveItNone) {
+    EXPECT_EQ(changed("[S]\nA=1", "2"), "[S]\nA=1\nK=2");
+    EXPECT_EQ(changed("[S]\r\nA=1", "2"), "[S]\r\nA=1\r\nK=2");
+    EXPECT_EQ(changed("[S]\r\nK=1", "2"), "[S]\r\nK=2");
+    EXPECT_EQ(changed("[T]\r\nA=1", "2"), "[T]\r\nA=1\r\n[S]\r\nK=2\r\n");
+    EXPECT_EQ(changed("[S]", "2"), "[S]\nK=2");
+}
+
+TEST(IniChange, EndsAllLinesAsTheFirst) {
+    EXPECT_EQ(changed("[S]\r\nA=1\n\nB=2\r\n", "2"), "[S]\r\nA=1\r\n\r\nB=2\r\nK=2\r\n");
+    EXPECT_EQ(changed("[S]\nA=1\r\n", "2"), "[S]\nA=1\nK=2\n");
 }
 
 TEST(IniChange, WritesWhatIsReadAgain) {
