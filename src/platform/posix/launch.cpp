@@ -24,8 +24,15 @@ struct Launch {
     int failurePipe;
 };
 
+/// The same file under a number that is none of the standard streams', closed when a program
+/// starts; -1 where there is none. The old number is left to the caller.
+int aboveStreams(int number) noexcept {
+    return fcntl(number, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+}
+
 void silenceStreams() noexcept {
-    const int nowhere = open("/dev/null", O_RDWR);
+    // Where the host has closed its streams the first free descriptor is one of theirs.
+    const int nowhere = aboveStreams(open("/dev/null", O_RDWR | O_CLOEXEC));
     if (nowhere >= 0) {
         for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
             dup2(nowhere, stream);
@@ -95,7 +102,9 @@ bool launchDetached(const std::string& program, const std::vector<std::string>& 
     }
     const Descriptor failures(ends[0]);
     Descriptor sender(ends[1]);
-    if (!forkTwice({program.c_str(), pointers.data(), sender.number()})) {
+    // The program's streams are laid over the first three descriptors before it starts.
+    sender = Descriptor(aboveStreams(sender.number()));
+    if (!sender.isOpen() || !forkTwice({program.c_str(), pointers.data(), sender.number()})) {
         return false;
     }
     static_cast<void>(sender.close());
