@@ -18,7 +18,8 @@ public:
     static void clear();
 };
 
-/// A driver's name as the system calls take it (for tools that open files themselves).
+/// A driver's name as the system calls take it (for tools that open files themselves). Empty, which
+/// is no file's name, for one with a zero inside.
 [[nodiscard]] std::string nativePath(const OrxString& name);
 /// A name of the system's own (UTF-8) in the driver's form.
 [[nodiscard]] OrxString driverPath(const std::string& native);

@@ -56,6 +56,10 @@ bool isAbsolute(std::string_view name) noexcept {
     return hasDrive(name) || (!name.empty() && isSeparator(name.front()));
 }
 
+bool hasZero(std::string_view name) noexcept {
+    return name.find('\0') != std::string_view::npos;
+}
+
 OrxString inDriverForm(std::string_view name) {
     std::string text(name);
     std::replace(text.begin(), text.end(), '/', '\\');

@@ -19,6 +19,10 @@ namespace quillmark::path_text {
 /// Drive-qualified, or beginning with a separator.
 [[nodiscard]] bool isAbsolute(std::string_view name) noexcept;
 
+/// True for a name with a zero byte inside. The system's calls would take what stands in front of
+/// the zero, which is another name: nothing is there under this one, and nothing can be made.
+[[nodiscard]] bool hasZero(std::string_view name) noexcept;
+
 /// The same name with "\" wherever it had "/".
 [[nodiscard]] OrxString inDriverForm(std::string_view name);
 

@@ -183,6 +183,34 @@ TEST_P(FileSystemContract, AnEmptyNameIsNothing) {
     EXPECT_FALSE(files.copyFile("", at("a.txt")));
 }
 
+TEST_P(FileSystemContract, ANameWithAZeroIsNotTheNameInFrontOfIt) {
+    put("a.txt", "x");
+    const OrxString cut = at(std::string("a.txt\0y", 7));
+    EXPECT_FALSE(files.fileExists(cut));
+    EXPECT_EQ(files.stamp(cut), std::nullopt);
+    EXPECT_EQ(files.openForReading(cut), nullptr);
+    EXPECT_FALSE(files.deleteFile(cut));
+    EXPECT_FALSE(files.copyFile(cut, at("b.txt")));
+    EXPECT_FALSE(files.replaceFile(cut, at("b.txt")));
+    const OrxString cutDirectory = at(std::string("\0y", 2));
+    EXPECT_FALSE(files.directoryExists(cutDirectory));
+    EXPECT_FALSE(files.setCurrentDirectory(cutDirectory));
+    EXPECT_EQ(content("a.txt"), "x");
+}
+
+TEST_P(FileSystemContract, NothingIsMadeUnderANameWithAZero) {
+    put("a.txt", "x");
+    const OrxString cut = at(std::string("b.txt\0y", 7));
+    EXPECT_EQ(files.openForWriting(cut), nullptr);
+    EXPECT_EQ(files.openForAppending(cut), nullptr);
+    EXPECT_FALSE(files.copyFile(at("a.txt"), cut));
+    EXPECT_FALSE(files.replaceFile(at("a.txt"), cut));
+    EXPECT_FALSE(files.makeDirectories(cut));
+    EXPECT_FALSE(files.fileExists(at("b.txt")));
+    EXPECT_FALSE(files.directoryExists(at("b.txt")));
+    EXPECT_EQ(content("a.txt"), "x");
+}
+
 TEST_P(FileSystemContract, ReadingGoesOnWhereItStopped) {
     put("a.txt", "abcde");
     const auto file = files.openForReading(at("a.txt"));

@@ -52,5 +52,11 @@ TEST_F(IniFileOnDisk, GivesTheBytesOfTheCodePage) {
     EXPECT_EQ(read("Key"), "caf\xE9");
 }
 
+TEST_F(IniFileOnDisk, IsNotFoundUnderANameWithAZero) {
+    put("[Quillmark]\r\nKey=value\r\n");
+    const OrxString cut = dir.file(std::string("Veltrano.ini\0y", 14));
+    EXPECT_EQ(IniFile::read(cut, "Quillmark", "Key", "default", 4096), "default");
+}
+
 }  // namespace
 }  // namespace quillmark

@@ -1,7 +1,6 @@
 // What the system's own services promise on POSIX alone.
 #ifndef _WIN32
 
-#include <dirent.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
@@ -10,8 +9,6 @@
 #include <unistd.h>
 
 #include <array>
-#include <cerrno>
-#include <chrono>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -40,6 +37,7 @@ TEST(NativeName, HasSlashesAndUtf8) {
     EXPECT_EQ(nativePath("\\out\\a.htm"), "/out/a.htm");
     EXPECT_EQ(nativePath("out/sub\\caf\xE9 \x80.htm"), "out/sub/caf\xC3\xA9 \xE2\x82\xAC.htm");
     EXPECT_EQ(nativePath(""), "");
+    EXPECT_EQ(nativePath(std::string("a\0b", 3)), "");
 }
 
 TEST(NativeName, KeepsADriveThatTheTableDoesNotKnow) {
@@ -193,77 +191,6 @@ TEST(IniFileOnPosix, LiesInTheConfigurationDirectoryWhenItsNameIsBare) {
     dir.put("Veltrano.ini", "[Quillmark]\nUseJavaPre7=TRUE\n");
     const EnvironmentVariable config("XDG_CONFIG_HOME", dir.native());
     EXPECT_EQ(IniFile::read("Veltrano.ini", "Quillmark", "UseJavaPre7", "FALSE", 4096), "TRUE");
-}
-
-/// Waits until a file has its text, for what another process does in its own time.
-std::string eventually(const TempDir& dir, const OrxString& name) {
-    for (int i = 0; i < 500; ++i) {
-        const std::string text = dir.content(name).value_or("");
-        if (text.ends_with("\n")) {
-            return text;
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    return "(never came)";
-}
-
-void putProgram(const TempDir& dir, const OrxString& name, std::string_view script) {
-    dir.put(name, script);
-    chmod(dir.nativeFile(name).c_str(), 0755);
-}
-
-TEST(Shell, StartsAProgramWithItsArguments) {
-    const TempDir dir;
-    putProgram(dir, "zip.exe",
-               "#!/bin/sh\nprintf '<%s>' \"$@\" > \"$0.tmp\"; echo >> \"$0.tmp\"; "
-               "mv \"$0.tmp\" \"$0.txt\"\n");
-    EXPECT_EQ(SysShell::start(dir.file("zip.exe"), "-m -q \"\\my out\\a.zip\""), SysShell::started);
-    EXPECT_EQ(eventually(dir, "zip.exe.txt"), "<-m><-q></my out/a.zip>\n");
-}
-
-TEST(Shell, DoesNotWaitForTheProgramAndLeavesNoChild) {
-    const TempDir dir;
-    putProgram(dir, "slow", "#!/bin/sh\nread line < \"$0.fifo\"; echo \"$line\" > \"$0.txt\"\n");
-    ASSERT_EQ(mkfifo(dir.nativeFile("slow.fifo").c_str(), 0600), 0);
-    // It returns although the program cannot end before the next line is written.
-    EXPECT_EQ(SysShell::start(dir.file("slow"), ""), SysShell::started);
-    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
-    EXPECT_EQ(errno, ECHILD);
-    EXPECT_EQ(write(dir.file("slow.fifo"), "go on\n"), WriteResult::done);
-    EXPECT_EQ(eventually(dir, "slow.txt"), "go on\n");
-}
-
-TEST(Shell, DoesNotStartWhatIsNoProgram) {
-    const TempDir dir;
-    dir.put("data", "text");
-    SysDirectory::create(dir.file("dir"));
-    putProgram(dir, "broken", "#!/none/interpreter\n");
-    putProgram(dir, "foreign", "MZ, a program of another system\n");
-    EXPECT_LT(SysShell::start(dir.file("none"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start(dir.file("data"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start(dir.file("dir"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start(dir.file("broken"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start(dir.file("foreign"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start("", ""), SysShell::started);
-}
-
-TEST(Shell, DoesNotLookForAProgramOnTheSearchPath) {
-    EXPECT_LT(SysShell::start("true", ""), SysShell::started);
-}
-
-TEST(Shell, OpensAFileWithTheDesktopsTool) {
-    const TempDir dir;
-    putProgram(dir, "xdg-open",
-               "#!/bin/sh\nprintf '%s\\n' \"$1\" > \"${0%/*}/tmp\"; mv \"${0%/*}/tmp\" "
-               "\"${0%/*}/opened\"\n");
-    const EnvironmentVariable path("PATH", dir.native() + ":/usr/bin:/bin");
-    SysShell::open("\\out\\rep.htm");
-    EXPECT_EQ(eventually(dir, "opened"), "/out/rep.htm\n");
-}
-
-TEST(Shell, DoesNotMindAMissingDesktop) {
-    const EnvironmentVariable path("PATH", "/none");
-    EXPECT_NO_THROW(SysShell::open("\\out\\rep.htm"));
 }
 
 int hostSignals = 0;

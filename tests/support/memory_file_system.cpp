@@ -220,9 +220,9 @@ int MemoryFileSystem::openFiles() const {
     return openFiles_;
 }
 
-/// The absolute path, "." and ".." taken out; empty for an empty name.
+/// The absolute path, "." and ".." taken out; empty for a name that is none.
 std::string MemoryFileSystem::resolve(const OrxString& name) const {
-    if (name.isEmpty()) {
+    if (name.isEmpty() || path_text::hasZero(name)) {
         return {};
     }
     const OrxString absolute = SysDirectory::getSpecificPath(currentDirectory_, name);

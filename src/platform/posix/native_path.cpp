@@ -22,6 +22,9 @@ std::string withSlashes(std::string_view name) {
 }  // namespace
 
 std::string nativePath(const OrxString& name) {
+    if (path_text::hasZero(name)) {
+        return {};
+    }
     if (path_text::hasDrive(name)) {
         if (std::optional<std::string> directory = DriveTable::find(name.view()[0])) {
             std::string rest = withSlashes(name.view().substr(2));

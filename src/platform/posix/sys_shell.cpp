@@ -27,9 +27,15 @@ std::string asPath(const std::string& name) {
 }  // namespace
 
 void SysShell::open(const OrxString& fileName) {
-    const std::string target = SysFile::isHyperLink(fileName) ? std::string(fileName.view())
-                                                              : asPath(nativePath(fileName));
-    static_cast<void>(launchDetached("xdg-open", {target}));
+    if (SysFile::isHyperLink(fileName)) {
+        static_cast<void>(launchDetached("xdg-open", {fileName.str()}));
+        return;
+    }
+    // No name at all would open the current directory.
+    const std::string path = nativePath(fileName);
+    if (!path.empty()) {
+        static_cast<void>(launchDetached("xdg-open", {asPath(path)}));
+    }
 }
 
 int SysShell::start(const OrxString& program, const OrxString& arguments) {

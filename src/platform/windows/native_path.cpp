@@ -6,7 +6,7 @@ namespace quillmark {
 
 // The system has drives of its own: the drive table has no say here.
 std::string nativePath(const OrxString& name) {
-    return path_text::inDriverForm(name).str();
+    return path_text::hasZero(name) ? std::string() : path_text::inDriverForm(name).str();
 }
 
 OrxString driverPath(const std::string& native) {

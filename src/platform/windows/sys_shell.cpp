@@ -35,7 +35,10 @@ int execute(const char* file, const char* parameters, int show) {
 void SysShell::open(const OrxString& fileName) {
     const std::string target =
         SysFile::isHyperLink(fileName) ? fileName.str() : nativePath(fileName);
-    execute(target.c_str(), nullptr, SW_SHOWNORMAL);
+    // No name at all would open the current directory.
+    if (!target.empty()) {
+        execute(target.c_str(), nullptr, SW_SHOWNORMAL);
+    }
 }
 
 int SysShell::start(const OrxString& program, const OrxString& arguments) {

@@ -16,6 +16,9 @@ std::wstring wideText(std::string_view text) {
 }
 
 std::wstring wideName(const OrxString& name) {
+    if (path_text::hasZero(name)) {
+        return {};
+    }
     std::wstring wide = wideText(name);
     std::replace(wide.begin(), wide.end(), L'/', L'\\');
     // Where a directory may get 12 characters less than a file.

@@ -1,0 +1,143 @@
+// What the system's shell promises on POSIX alone.
+#ifndef _WIN32
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <string>
+#include <string_view>
+#include <thread>
+
+#include "platform/sys_directory.h"
+#include "platform/sys_file.h"
+#include "platform/sys_shell.h"
+#include "support/environment_variable.h"
+#include "support/temp_dir.h"
+
+namespace quillmark {
+namespace {
+
+/// Waits until a file has its text, for what another process does in its own time.
+std::string eventually(const TempDir& dir, const OrxString& name) {
+    for (int i = 0; i < 500; ++i) {
+        const std::string text = dir.content(name).value_or("");
+        if (text.ends_with("\n")) {
+            return text;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return "(never came)";
+}
+
+void putProgram(const TempDir& dir, const OrxString& name, std::string_view script) {
+    dir.put(name, script);
+    chmod(dir.nativeFile(name).c_str(), 0755);
+}
+
+TEST(Shell, StartsAProgramWithItsArguments) {
+    const TempDir dir;
+    putProgram(dir, "zip.exe",
+               "#!/bin/sh\nprintf '<%s>' \"$@\" > \"$0.tmp\"; echo >> \"$0.tmp\"; "
+               "mv \"$0.tmp\" \"$0.txt\"\n");
+    EXPECT_EQ(SysShell::start(dir.file("zip.exe"), "-m -q \"\\my out\\a.zip\""), SysShell::started);
+    EXPECT_EQ(eventually(dir, "zip.exe.txt"), "<-m><-q></my out/a.zip>\n");
+}
+
+TEST(Shell, DoesNotWaitForTheProgramAndLeavesNoChild) {
+    const TempDir dir;
+    putProgram(dir, "slow", "#!/bin/sh\nread line < \"$0.fifo\"; echo \"$line\" > \"$0.txt\"\n");
+    ASSERT_EQ(mkfifo(dir.nativeFile("slow.fifo").c_str(), 0600), 0);
+    constexpr std::string_view goOn = "go on\n";
+    // It returns although the program cannot end before the next line is written.
+    EXPECT_EQ(SysShell::start(dir.file("slow"), ""), SysShell::started);
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
+    EXPECT_EQ(errno, ECHILD);
+    EXPECT_EQ(SysFile::writeWhole(dir.file("slow.fifo"), std::array{goOn}), WriteResult::done);
+    EXPECT_EQ(eventually(dir, "slow.txt"), "go on\n");
+}
+
+TEST(Shell, DoesNotStartWhatIsNoProgram) {
+    const TempDir dir;
+    dir.put("data", "text");
+    SysDirectory::create(dir.file("dir"));
+    putProgram(dir, "broken", "#!/none/interpreter\n");
+    putProgram(dir, "foreign", "MZ, a program of another system\n");
+    EXPECT_LT(SysShell::start(dir.file("none"), ""), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("data"), ""), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("dir"), ""), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("broken"), ""), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("foreign"), ""), SysShell::started);
+    EXPECT_LT(SysShell::start("", ""), SysShell::started);
+}
+
+TEST(Shell, DoesNotLookForAProgramOnTheSearchPath) {
+    EXPECT_LT(SysShell::start("true", ""), SysShell::started);
+}
+
+TEST(Shell, OpensAFileWithTheDesktopsTool) {
+    const TempDir dir;
+    putProgram(dir, "xdg-open",
+               "#!/bin/sh\nprintf '%s\\n' \"$1\" > \"${0%/*}/tmp\"; mv \"${0%/*}/tmp\" "
+               "\"${0%/*}/opened\"\n");
+    const EnvironmentVariable path("PATH", dir.native() + ":/usr/bin:/bin");
+    SysShell::open("\\out\\rep.htm");
+    EXPECT_EQ(eventually(dir, "opened"), "/out/rep.htm\n");
+}
+
+TEST(Shell, OpensNothingUnderANameThatIsNone) {
+    const TempDir dir;
+    putProgram(dir, "xdg-open",
+               "#!/bin/sh\ncd \"${0%/*}\"; printf '%s\\n' \"$1\" >> list\n"
+               "[ \"$1\" != /last ] || mv list opened\n");
+    const EnvironmentVariable path("PATH", dir.native() + ":/usr/bin:/bin");
+    SysShell::open(std::string("a\0b", 3));
+    SysShell::open("");
+    SysShell::open("\\last");
+    EXPECT_EQ(eventually(dir, "opened"), "/last\n");
+}
+
+TEST(Shell, DoesNotMindAMissingDesktop) {
+    const EnvironmentVariable path("PATH", "/none");
+    EXPECT_NO_THROW(SysShell::open("\\out\\rep.htm"));
+}
+
+/// The instance result in a process that has closed its streams and everything else.
+int startWithoutStreams(const OrxString& program) {
+    const pid_t child = fork();
+    if (child == 0) {
+        constexpr int moreThanAreOpen = 256;
+        for (int number = 0; number < moreThanAreOpen; ++number) {
+            close(number);
+        }
+        _exit(SysShell::start(program, ""));
+    }
+    int status = -1;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status));
+    return WEXITSTATUS(status);
+}
+
+TEST(Shell, TellsAFailedStartWhereTheHostHasClosedItsStreams) {
+    const TempDir dir;
+    putProgram(dir, "broken", "#!/none/interpreter\n");
+    EXPECT_LT(startWithoutStreams(dir.file("broken")), SysShell::started);
+}
+
+TEST(Shell, GivesAProgramStreamsThatLeadNowhereAndNothingElse) {
+    const TempDir dir;
+    putProgram(dir, "listing",
+               "#!/bin/sh\nreadlink /proc/$$/fd/* | grep -v listing > \"$0.tmp\"\n"
+               "echo >> \"$0.tmp\"; mv \"$0.tmp\" \"$0.txt\"\n");
+    EXPECT_EQ(startWithoutStreams(dir.file("listing")), SysShell::started);
+    EXPECT_EQ(eventually(dir, "listing.txt"), "/dev/null\n/dev/null\n/dev/null\n\n");
+}
+
+}  // namespace
+}  // namespace quillmark
+
+#endif
