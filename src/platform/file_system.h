@@ -51,7 +51,8 @@ public:
 /// every implementation: the native ones, and those that tests put in their place.
 ///
 /// Names are in the driver's form: 8-bit code page, "\" between components; "/" is taken as "\".
-/// Relative names count from `currentDirectory`. No call throws; a failure is an answer.
+/// Relative names count from `currentDirectory`. Under an empty name, or one with a zero byte
+/// inside, nothing is there and nothing can be made. No call throws; a failure is an answer.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;
@@ -63,8 +64,8 @@ public:
     [[nodiscard]] virtual std::optional<FileStamp> stamp(const OrxString& name) const = 0;
 
     /// Copies the bytes over `target`, which is made or replaced; a file copied onto itself is
-    /// left untouched and counts as done. Memory use does not grow with the file. A failure
-    /// leaves no target that was not there before.
+    /// left untouched and counts as done. A source that is a device or a pipe is not copied. Memory
+    /// use does not grow with the file. A failure leaves no target that was not there before.
     [[nodiscard]] virtual bool copyFile(const OrxString& source, const OrxString& target) = 0;
     /// True when a file of that name is gone afterwards because of this call.
     virtual bool deleteFile(const OrxString& name) = 0;

@@ -23,6 +23,7 @@ namespace {
 
 TEST(NativeName, IsTheDriversWithBackslashes) {
     EXPECT_EQ(nativePath("C:/out\\caf\xE9.htm"), "C:\\out\\caf\xE9.htm");
+    EXPECT_EQ(nativePath(std::string("a\0b", 3)), "");
     EXPECT_EQ(driverPath("C:/out/caf\xC3\xA9"), "C:\\out\\caf\xE9");
 }
 
@@ -50,6 +51,12 @@ TEST(NativeFile, CopiedFromAReadOnlyOneCanBeCopiedAgain) {
     EXPECT_TRUE(SysFile::copy(dir.file("a.css"), dir.file("b.css")));
     EXPECT_TRUE(SysFile::copy(dir.file("a.css"), dir.file("b.css")));
     SetFileAttributesA(dir.nativeFile("a.css").c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST(NativeFile, IsNotCopiedFromADevice) {
+    const TempDir dir;
+    EXPECT_FALSE(SysFile::copy("NUL", dir.file("copy")));
+    EXPECT_FALSE(dir.content("copy"));
 }
 
 TEST(NativeFile, TellsAReadThatFailedFromTheEnd) {

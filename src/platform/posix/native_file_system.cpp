@@ -38,6 +38,11 @@ bool isFile(const std::optional<struct stat>& status) noexcept {
     return status && !S_ISDIR(status->st_mode);
 }
 
+/// What a device or a pipe hands out may have no end, or never come.
+bool hasAnEnd(const std::optional<struct stat>& status) noexcept {
+    return status && S_ISREG(status->st_mode);
+}
+
 class NativeInputFile final : public InputFile {
 public:
     explicit NativeInputFile(Descriptor file) noexcept : file_(std::move(file)) {}
@@ -141,9 +146,14 @@ public:
     }
 
     bool copyFile(const OrxString& source, const OrxString& target) override {
-        const Descriptor from = openFile(nativePath(source).c_str(), O_RDONLY);
+        const std::string sourcePath = nativePath(source);
+        // Asked before opening too: opening a device or a pipe is felt at its other end.
+        if (!hasAnEnd(statusOf(sourcePath))) {
+            return false;
+        }
+        const Descriptor from = openFile(sourcePath.c_str(), O_RDONLY | O_NONBLOCK);
         const std::optional<struct stat> status = statusOf(from);
-        if (!isFile(status)) {
+        if (!hasAnEnd(status)) {
             return false;
         }
         const std::string path = nativePath(target);

@@ -30,7 +30,8 @@ Handle openFile(const std::wstring& name, DWORD access, DWORD disposition) noexc
                               FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
-/// The system's own record of a file, which tells two names of one file; nothing where no file is.
+/// The system's own record of a file, which tells two names of one file; nothing where no file is,
+/// and for a device or a pipe.
 std::optional<BY_HANDLE_FILE_INFORMATION> informationOf(const std::wstring& name) noexcept {
     constexpr DWORD noAccess = 0;
     const Handle file = openFile(name, noAccess, OPEN_EXISTING);
@@ -40,12 +41,11 @@ std::optional<BY_HANDLE_FILE_INFORMATION> informationOf(const std::wstring& name
     return known ? std::optional(information) : std::nullopt;
 }
 
-bool isSameFile(const std::wstring& one, const std::wstring& other) noexcept {
-    const auto first = informationOf(one);
-    const auto second = first ? informationOf(other) : std::nullopt;
-    return second && first->dwVolumeSerialNumber == second->dwVolumeSerialNumber &&
-           first->nFileIndexHigh == second->nFileIndexHigh &&
-           first->nFileIndexLow == second->nFileIndexLow;
+bool isSameFile(const BY_HANDLE_FILE_INFORMATION& one, const std::wstring& other) noexcept {
+    const auto second = informationOf(other);
+    return second && one.dwVolumeSerialNumber == second->dwVolumeSerialNumber &&
+           one.nFileIndexHigh == second->nFileIndexHigh &&
+           one.nFileIndexLow == second->nFileIndexLow;
 }
 
 constexpr std::uint64_t joinHalves(DWORD high, DWORD low) noexcept {
@@ -101,11 +101,12 @@ public:
     bool copyFile(const OrxString& source, const OrxString& target) override {
         const std::wstring from = wideName(source);
         const std::wstring to = wideName(target);
-        if (!isFile(attributesOf(from))) {
+        const auto information = informationOf(from);
+        if (!information || isDirectory(information->dwFileAttributes)) {
             return false;
         }
         const DWORD before = attributesOf(to);
-        if (isFile(before) && isSameFile(from, to)) {
+        if (isFile(before) && isSameFile(*information, to)) {
             return true;
         }
         if (CopyFileW(from.c_str(), to.c_str(), FALSE) == FALSE) {
@@ -131,7 +132,8 @@ public:
     }
 
     bool setCurrentDirectory(const OrxString& name) override {
-        return !name.isEmpty() && SetCurrentDirectoryW(wideName(name).c_str()) != FALSE;
+        const std::wstring wide = wideName(name);
+        return !wide.empty() && SetCurrentDirectoryW(wide.c_str()) != FALSE;
     }
 
     OrxString currentDirectory() const override {
