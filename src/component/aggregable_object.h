@@ -75,6 +75,7 @@ private:
     };
 
     LiveObject live_;
+    ServiceUser user_;
     InnerUnknown inner_;
     IUnknown* outer_;
 };

@@ -3,11 +3,14 @@
 #include <exception>
 #include <new>
 
+#include "component/module_state.h"
 #include "foundation/orx_exception.h"
 
 namespace quillmark {
 
 void logCaughtException() noexcept {
+    // Not every call has an object that counts as one.
+    const ServiceUser user;
     try {
         throw;
     } catch (const OrxException& exception) {

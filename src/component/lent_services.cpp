@@ -3,32 +3,12 @@
 #include "component/lent_adapters.h"
 #include "component/lent_model.h"
 #include "component/lent_text.h"
+#include "component/module_state.h"
 #include "platform/drive_table.h"
 #include "platform/quillmark_mode.h"
 #include "platform/register_base.h"
 
 namespace quillmark {
-namespace {
-
-/// Puts a new service in force, then lets go of the one before: nobody ever sees one that is gone.
-template <typename Service, typename Record, typename Install>
-HRESULT replace(std::mutex& mutex, std::unique_ptr<Service>& kept, const Record* record,
-                std::unique_ptr<Service> (*make)(const Record&), Install install) {
-    std::unique_ptr<Service> next;
-    if (record != nullptr) {
-        next = make(*record);
-        if (next == nullptr) {
-            return E_INVALIDARG;
-        }
-    }
-    const std::lock_guard lock(mutex);
-    install(next.get());
-    kept = std::move(next);
-    return S_OK;
-}
-
-}  // namespace
-
 LentServices& LentServices::module() {
     static LentServices services;
     return services;
@@ -41,6 +21,35 @@ LentServices::~LentServices() {
     MMSchema::setSchema(nullptr);
     CImageMapInterface::setInterface(nullptr);
     AppProfileInterface::setInterface(nullptr);
+}
+
+/// Puts a new service in force. The one before is kept: another thread may have taken it up just
+/// before and call it only now.
+template <typename Service, typename Record, typename Install>
+HRESULT LentServices::replace(std::shared_ptr<Service>& kept, const Record* record,
+                              std::unique_ptr<Service> (*make)(const Record&), Install install) {
+    std::shared_ptr<Service> next;
+    if (record != nullptr) {
+        next = make(*record);
+        if (next == nullptr) {
+            return E_INVALIDARG;
+        }
+    }
+    const std::lock_guard lock(mutex_);
+    if (kept != nullptr) {
+        retired_.push_back(kept);
+    }
+    install(next.get());
+    kept = std::move(next);
+    if (!servicesHaveUsers()) {
+        retired_.clear();
+    }
+    return S_OK;
+}
+
+std::size_t LentServices::retiredCount() const {
+    const std::lock_guard lock(mutex_);
+    return retired_.size();
 }
 
 HRESULT LentServices::setSettingsStore(const DochtmlSettingsStore* store) {
@@ -57,27 +66,27 @@ HRESULT LentServices::setSettingsStore(const DochtmlSettingsStore* store) {
 }
 
 HRESULT LentServices::setProfilePath(const DochtmlText* path) {
-    return replace(mutex_, profile_, path, &lentProfile, &AppProfileInterface::setInterface);
+    return replace(profile_, path, &lentProfile, &AppProfileInterface::setInterface);
 }
 
 HRESULT LentServices::setImageMaps(const DochtmlImageMaps* maps) {
-    return replace(mutex_, imageMaps_, maps, &lentImageMaps, &CImageMapInterface::setInterface);
+    return replace(imageMaps_, maps, &lentImageMaps, &CImageMapInterface::setInterface);
 }
 
 HRESULT LentServices::setModel(const DochtmlModel* model) {
-    return replace(mutex_, schema_, model, &lentModel, &MMSchema::setSchema);
+    return replace(schema_, model, &lentModel, &MMSchema::setSchema);
 }
 
 HRESULT LentServices::setTraceListener(const DochtmlTraceListener* listener) {
-    return replace(mutex_, listener_, listener, &lentTraceListener, &Trace::setListener);
+    return replace(listener_, listener, &lentTraceListener, &Trace::setListener);
 }
 
 HRESULT LentServices::setExceptionLog(const DochtmlExceptionLog* log) {
-    return replace(mutex_, log_, log, &lentExceptionLog, &OrxException::setLog);
+    return replace(log_, log, &lentExceptionLog, &OrxException::setLog);
 }
 
 HRESULT LentServices::setObserver(const DochtmlObserver* observer) {
-    return replace(mutex_, observer_, observer, &lentObserver, &DocumentObserver::install);
+    return replace(observer_, observer, &lentObserver, &DocumentObserver::install);
 }
 
 HRESULT LentServices::setSchemaType(LONG schemaType) noexcept {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 #include "dochtml/callbacks.h"
 #include "foundation/orx_exception.h"
@@ -15,6 +17,10 @@ namespace quillmark {
 
 /// The services that a host has lent the module, each behind the contract that the driver knows.
 /// Null takes one back; `E_INVALIDARG` answers a record that lacks a callback it must have.
+///
+/// The driver holds a service by a plain pointer while it calls it. So a service that is replaced
+/// or taken back stays in memory, and may still be called, as long as anybody is there who could
+/// have taken it up before; the next change without such a user lets go of all of these.
 class LentServices {
 public:
     LentServices(const LentServices&) = delete;
@@ -32,18 +38,26 @@ public:
     static HRESULT setSchemaType(LONG schemaType) noexcept;
     static HRESULT setDrive(SHORT letter, const DochtmlText* directory);
 
+    /// How many services are out of force and still kept.
+    [[nodiscard]] std::size_t retiredCount() const;
+
 private:
     LentServices() = default;
     /// When the library is unloaded nothing lent may be looked at any more.
     ~LentServices();
 
-    std::mutex mutex_;
-    std::unique_ptr<AppProfileInterface> profile_;
-    std::unique_ptr<CImageMapInterface> imageMaps_;
-    std::unique_ptr<MMSchema> schema_;
-    std::unique_ptr<TraceListener> listener_;
-    std::unique_ptr<OrxExceptionLog> log_;
-    std::unique_ptr<DocumentObserver> observer_;
+    template <typename Service, typename Record, typename Install>
+    HRESULT replace(std::shared_ptr<Service>& kept, const Record* record,
+                    std::unique_ptr<Service> (*make)(const Record&), Install install);
+
+    mutable std::mutex mutex_;
+    std::shared_ptr<AppProfileInterface> profile_;
+    std::shared_ptr<CImageMapInterface> imageMaps_;
+    std::shared_ptr<MMSchema> schema_;
+    std::shared_ptr<TraceListener> listener_;
+    std::shared_ptr<OrxExceptionLog> log_;
+    std::shared_ptr<DocumentObserver> observer_;
+    std::vector<std::shared_ptr<const void>> retired_;
 };
 
 }  // namespace quillmark

@@ -7,6 +7,7 @@ namespace {
 
 std::atomic<long> liveObjects{0};
 std::atomic<long> moduleLocks{0};
+std::atomic<long> serviceUsers{0};
 
 }  // namespace
 
@@ -16,6 +17,19 @@ LiveObject::LiveObject() noexcept {
 
 LiveObject::~LiveObject() {
     --liveObjects;
+}
+
+ServiceUser::ServiceUser() noexcept {
+    ++serviceUsers;
+}
+
+ServiceUser::~ServiceUser() {
+    --serviceUsers;
+}
+
+bool servicesHaveUsers() noexcept {
+    // A change, not a mere look: whoever adds to the count afterwards is then ordered behind it.
+    return serviceUsers.fetch_add(0) != 0;
 }
 
 void lockModule(bool lock) noexcept {

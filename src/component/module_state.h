@@ -12,6 +12,19 @@ public:
     ~LiveObject();
 };
 
+/// Counts one user of the services that a host has lent: an object that calls the driver, or a call
+/// without one that tells the exception log.
+class ServiceUser {
+public:
+    ServiceUser() noexcept;
+    ServiceUser(const ServiceUser&) = delete;
+    ServiceUser& operator=(const ServiceUser&) = delete;
+    ~ServiceUser();
+};
+
+/// Whether there is one. A user that comes after the answer "no" sees all that was done before it.
+[[nodiscard]] bool servicesHaveUsers() noexcept;
+
 /// Adds (or takes away) a lock that a host holds on the module.
 void lockModule(bool lock) noexcept;
 

@@ -3,9 +3,13 @@
 
 /* What a host can lend the component: records of callbacks, for C and C++.
  *
- * A record is copied when it is handed in; its `context` goes back into every call and must stay
- * valid until the service is taken back. A callback must not throw. It may come on any thread that
- * drives a document, and has the default calling convention of C. Texts are 8-bit, in the code page
+ * A record is copied when it is handed in; its `context` goes back into every call. It must stay
+ * valid until the service is replaced or taken back, and after that until every call to a document
+ * that was going on in another thread at that moment has returned: such a call may still use the
+ * service. Once all documents' threads are between calls, nothing of it is called any more.
+ *
+ * A callback must not throw. It may come on any thread that drives a document, on several at once,
+ * and has the default calling convention of C. Texts are 8-bit, in the code page
  * of the driver (the system's ANSI code page on Windows, Windows-1252 elsewhere), and are valid
  * during the call only.
  */
@@ -54,7 +58,7 @@ typedef struct DochtmlImageMaps {
 typedef const void* DochtmlObject;
 typedef const void* DochtmlClass;
 
-/* The model behind the entry icons. What it hands out stays valid until the model is taken back.
+/* The model behind the entry icons. What it hands out stays valid as long as its context.
  * An answer below 0 is a failure: the driver logs it and takes the answer as empty. */
 typedef struct DochtmlModel {
     void* context;

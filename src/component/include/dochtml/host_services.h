@@ -10,6 +10,9 @@ inline constexpr IID IID_IHostServices = {
 /// the first document. Null takes a service back. A host that lends nothing needs none of this:
 /// the component then works with the user's own settings store, without a model and image maps.
 ///
+/// A service may be replaced or taken back at any time, from any thread. What it leads to must stay
+/// valid until no document of another thread is in a call that began before (dochtml/callbacks.h).
+///
 /// Keep the interface as long as services are lent, so that the library stays loaded, and take them
 /// back before letting go. Every function answers `S_OK`, or `E_INVALIDARG` for a record with a
 /// callback missing.
