@@ -4,14 +4,15 @@
 #include "component/lent_model.h"
 #include "component/lent_text.h"
 #include "component/module_state.h"
+#include "foundation/lasting.h"
 #include "platform/drive_table.h"
 #include "platform/quillmark_mode.h"
 #include "platform/register_base.h"
 
 namespace quillmark {
 LentServices& LentServices::module() {
-    static LentServices services;
-    return services;
+    static Lasting<LentServices> services;
+    return *services;
 }
 
 LentServices::~LentServices() {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "dochtml/callbacks.h"
+#include "foundation/lasting.h"
 #include "foundation/orx_exception.h"
 #include "platform/app_profile_interface.h"
 #include "platform/document_observer.h"
@@ -42,6 +43,8 @@ public:
     [[nodiscard]] std::size_t retiredCount() const;
 
 private:
+    friend class Lasting<LentServices>;
+
     LentServices() = default;
     /// When the library is unloaded nothing lent may be looked at any more.
     ~LentServices();

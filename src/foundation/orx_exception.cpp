@@ -2,6 +2,8 @@
 
 #include <atomic>
 
+#include "foundation/lasting.h"
+
 namespace quillmark {
 
 namespace {
@@ -13,8 +15,8 @@ public:
 };
 
 SilentLog& silentLog() noexcept {
-    static SilentLog log;
-    return log;
+    static Lasting<SilentLog> log;
+    return *log;
 }
 
 std::atomic<OrxExceptionLog*>& installedLog() noexcept {

@@ -2,6 +2,7 @@
 
 #include <mutex>
 
+#include "foundation/lasting.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 
@@ -15,8 +16,8 @@ struct DefaultBase {
 };
 
 DefaultBase& theDefaultBase() {
-    static DefaultBase base;
-    return base;
+    static Lasting<DefaultBase> base;
+    return *base;
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <atomic>
 
+#include "foundation/lasting.h"
+
 namespace quillmark {
 
 namespace {
@@ -11,9 +13,9 @@ std::atomic<DocumentObserver*> installed{nullptr};
 }  // namespace
 
 DocumentObserver& DocumentObserver::current() noexcept {
-    static DocumentObserver deaf;
+    static Lasting<DocumentObserver> deaf;
     DocumentObserver* const observer = installed.load(std::memory_order_acquire);
-    return observer != nullptr ? *observer : deaf;
+    return observer != nullptr ? *observer : *deaf;
 }
 
 DocumentObserver* DocumentObserver::install(DocumentObserver* observer) noexcept {

@@ -7,6 +7,8 @@
 #include <mutex>
 #include <shared_mutex>
 
+#include "foundation/lasting.h"
+
 namespace quillmark {
 
 namespace {
@@ -21,8 +23,8 @@ struct Table {
 };
 
 Table& table() {
-    static Table instance;
-    return instance;
+    static Lasting<Table> instance;
+    return *instance;
 }
 
 std::optional<std::size_t> indexOf(char letter) noexcept {

@@ -4,6 +4,8 @@
 #include <optional>
 #include <utility>
 
+#include "foundation/lasting.h"
+
 namespace quillmark {
 
 namespace {
@@ -14,8 +16,8 @@ struct StoreSlot {
 };
 
 StoreSlot& storeSlot() {
-    static StoreSlot slot;
-    return slot;
+    static Lasting<StoreSlot> slot;
+    return *slot;
 }
 
 }  // namespace

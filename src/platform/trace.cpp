@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "foundation/lasting.h"
 #include "foundation/orx_exception.h"
 #include "platform/file_system.h"
 #include "platform/line_end.h"
@@ -130,8 +131,8 @@ private:
 
 template <typename T>
 Registry<T>& registry() {
-    static Registry<T> instance;
-    return instance;
+    static Lasting<Registry<T>> instance;
+    return *instance;
 }
 
 }  // namespace

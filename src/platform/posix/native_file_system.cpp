@@ -10,6 +10,7 @@
 #include <system_error>
 #include <utility>
 
+#include "foundation/lasting.h"
 #include "platform/drive_table.h"
 #include "platform/file_system.h"
 #include "platform/posix/descriptor_io.h"
@@ -226,8 +227,8 @@ public:
 }  // namespace
 
 FileSystem& FileSystem::native() noexcept {
-    static NativeFileSystem fileSystem;
-    return fileSystem;
+    static Lasting<NativeFileSystem> fileSystem;
+    return *fileSystem;
 }
 
 }  // namespace quillmark

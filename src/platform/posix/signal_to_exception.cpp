@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "foundation/lasting.h"
 #include "foundation/orx_exception.h"
 
 namespace quillmark {
@@ -175,8 +176,8 @@ private:
 };
 
 Installation& installation() {
-    static Installation instance;
-    return instance;
+    static Lasting<Installation> instance;
+    return *instance;
 }
 
 /// A guard of the thread. Nested ones find the handlers in place.

@@ -3,6 +3,7 @@
 #include <string>
 #include <utility>
 
+#include "foundation/lasting.h"
 #include "platform/file_system.h"
 #include "platform/windows/native_file.h"
 #include "platform/windows/wide_name.h"
@@ -165,8 +166,8 @@ public:
 }  // namespace
 
 FileSystem& FileSystem::native() noexcept {
-    static NativeFileSystem fileSystem;
-    return fileSystem;
+    static Lasting<NativeFileSystem> fileSystem;
+    return *fileSystem;
 }
 
 }  // namespace quillmark

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <csignal>
 #include <thread>
 
 #include "dochtml/entry_points.h"
@@ -98,6 +99,36 @@ TEST_F(Library, hasNoSettingsPageWhereThereAreNoPropertyPages) {
     ComPointer<IUnknown> page;
     EXPECT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, page.receive()),
               CLASS_E_CLASSNOTAVAILABLE);
+}
+#endif
+
+#ifndef _WIN32
+/// Loads the library, has it write a document, and unloads it.
+void writeDocumentAndUnload(const TempDir& dir) {
+    const LoadedLibrary library(DOCHTML_TEST_LIBRARY);
+    ComPointer<IClassFactory> factory;
+    ASSERT_EQ(library.find<DochtmlGetClassObject>("DllGetClassObject")(
+                  CLSID_DocHtml, IID_IClassFactory, factory.receive()),
+              S_OK);
+    ComPointer<::IDocument> document;
+    ASSERT_EQ(factory->CreateInstance(nullptr, IID_IDocument, document.receive()), S_OK);
+    const std::string name = dir.file("rep.htm").str();
+    document->overrideRegistry(Text(u"Html").get(), Text(u"StyleSheet").get(), nullptr, 0);
+    document->create(Text(std::u16string(name.begin(), name.end())).get());
+    document->insertText(Text(u"text").get());
+    document->close();
+}
+
+TEST(UnloadedLibrary, leavesNoSignalHandlerBehind) {
+    struct sigaction before {};
+    struct sigaction after {};
+    ASSERT_EQ(sigaction(SIGSEGV, nullptr, &before), 0);
+    const TempDir dir;
+    writeDocumentAndUnload(dir);
+    EXPECT_TRUE(dir.content("rep_dtl.htm"));
+    ASSERT_EQ(dlopen(DOCHTML_TEST_LIBRARY, RTLD_NOW | RTLD_NOLOAD), nullptr);
+    ASSERT_EQ(sigaction(SIGSEGV, nullptr, &after), 0);
+    EXPECT_EQ(after.sa_sigaction, before.sa_sigaction);
 }
 #endif
 
