@@ -53,11 +53,9 @@ bool PageWindow::create(HWND parent) {
 }
 
 void PageWindow::destroy() {
-    if (window_ == nullptr) {
-        return;
+    if (window_ != nullptr) {
+        DestroyWindow(window_);
     }
-    keepState();
-    DestroyWindow(window_);
     window_ = nullptr;
 }
 
@@ -69,10 +67,32 @@ INT_PTR CALLBACK PageWindow::dialogProcedure(HWND window, UINT message, WPARAM w
         return FALSE;
     }
     auto* const self = reinterpret_cast<PageWindow*>(GetWindowLongPtrA(window, DWLP_USER));
-    if (self == nullptr || message != WM_COMMAND) {
+    if (self == nullptr) {
         return FALSE;
     }
-    return self->onCommand(LOWORD(wparam), HIWORD(wparam)) ? TRUE : FALSE;
+    if (message == WM_COMMAND) {
+        return self->onCommand(LOWORD(wparam), HIWORD(wparam)) ? TRUE : FALSE;
+    }
+    if (message == WM_DESTROY || message == WM_NCDESTROY) {
+        self->onDestroy(message);
+    }
+    return FALSE;
+}
+
+void PageWindow::onDestroy(UINT message) noexcept {
+    // A window that the system did not finish making has nothing to keep.
+    if (window_ == nullptr) {
+        return;
+    }
+    if (message == WM_NCDESTROY) {
+        window_ = nullptr;
+        return;
+    }
+    try {
+        keepState();
+    } catch (...) {
+        // Nothing may be thrown through the system; what the controls held is lost.
+    }
 }
 
 bool PageWindow::onCommand(int id, int notification) noexcept {

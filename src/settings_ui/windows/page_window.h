@@ -23,7 +23,7 @@ public:
     [[nodiscard]] bool create(HWND parent);
     /// Destroys the window and keeps what its controls hold.
     void destroy();
-    /// Null while there is none.
+    /// Null while there is none, and after the parent took it along.
     [[nodiscard]] HWND handle() const noexcept { return window_; }
 
     [[nodiscard]] OrxString text(int id) const override;
@@ -36,6 +36,9 @@ private:
     static INT_PTR CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wparam,
                                             LPARAM lparam);
     bool onCommand(int id, int notification) noexcept;
+    /// The window goes, by `destroy` or with a parent that its owner destroyed: its controls are
+    /// still there with the first message, nothing is after the second.
+    void onDestroy(UINT message) noexcept;
     void keepState();
     void restoreState();
 

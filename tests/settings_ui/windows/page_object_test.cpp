@@ -19,8 +19,7 @@ protected:
         OleInitialize(nullptr);
         CoCreateInstance(settingsPageClass, nullptr, CLSCTX_INPROC_SERVER, IID_IPropertyPage,
                          reinterpret_cast<void**>(&page_));
-        parent_ = CreateWindowA("Static", "", WS_OVERLAPPEDWINDOW, 0, 0, 600, 600, nullptr, nullptr,
-                                nullptr, nullptr);
+        parent_ = makeParent();
     }
     ~PageObjectTest() override {
         if (page_ != nullptr) {
@@ -31,6 +30,10 @@ protected:
     }
     void SetUp() override { ASSERT_NE(page_, nullptr); }
 
+    static HWND makeParent() {
+        return CreateWindowA("Static", "", WS_OVERLAPPEDWINDOW, 0, 0, 600, 600, nullptr, nullptr,
+                             nullptr, nullptr);
+    }
     [[nodiscard]] SIZE pageSize() const {
         PROPPAGEINFO info{};
         page_->GetPageInfo(&info);
@@ -186,6 +189,23 @@ TEST_F(PageObjectTest, ASecondWindowShowsWhatTheFirstOneHeld) {
     window = activate();
     EXPECT_EQ(windowText(GetDlgItem(window, 5205)), "mine.css");
     EXPECT_EQ(IsDlgButtonChecked(window, 5219), static_cast<UINT>(BST_CHECKED));
+}
+
+TEST_F(PageObjectTest, GoesWithAParentThatIsDestroyedAndComesAgainBelowAnother) {
+    HWND window = activate();
+    SetDlgItemTextA(window, 5205, "mine.css");
+    CheckDlgButton(window, 5219, BST_CHECKED);
+    DestroyWindow(parent_);
+    ASSERT_FALSE(IsWindow(window));
+    EXPECT_EQ(page_->Show(SW_SHOW), E_UNEXPECTED);
+    EXPECT_EQ(page_->Apply(), E_UNEXPECTED);
+    EXPECT_EQ(page_->Deactivate(), E_UNEXPECTED);
+    EXPECT_EQ(page_->IsPageDirty(), S_OK);
+    parent_ = makeParent();
+    window = activate();
+    EXPECT_EQ(windowText(GetDlgItem(window, 5205)), "mine.css");
+    EXPECT_EQ(IsDlgButtonChecked(window, 5219), static_cast<UINT>(BST_CHECKED));
+    EXPECT_EQ(page_->Deactivate(), S_OK);
 }
 
 TEST_F(PageObjectTest, IsNotDirtyBeforeAnyEdit) {
