@@ -110,6 +110,24 @@ TEST_F(SettingsToolTest, TextsAreUtf8) {
     EXPECT_EQ(out, "caf\xC3\xA9\n");
 }
 
+TEST_F(SettingsToolTest, SetRefusesLettersThatTheCodePageCannotHold) {
+    keep("[Html]\nBodyTags=old\n");
+    EXPECT_EQ(run({"set", "TOCLevel=4", "BodyTags=\xE6\x97\xA5\xE6\x9C\xAC"}), 2);
+    EXPECT_THAT(errors, StartsWith("dochtml-settings: the driver's 8-bit code page cannot hold "
+                                   "\"\xE6\x97\xA5\xE6\x9C\xAC\"\n"));
+    EXPECT_EQ(run({"set", "BodyTags=a\xFF"}), 2);
+    EXPECT_EQ(kept(), "[Html]\nBodyTags=old\n");
+}
+
+TEST_F(SettingsToolTest, SetRefusesAValueOfSeveralLines) {
+    keep("[Html]\nBodyTags=old\n");
+    for (const char* const lineEnd : {"\n", "\r", "\r\n"}) {
+        EXPECT_EQ(run({"set", "TOCLevel=4", std::string("BodyTags=a") + lineEnd + "b"}), 2);
+        EXPECT_THAT(errors, StartsWith("dochtml-settings: Html.BodyTags is one line\n"));
+    }
+    EXPECT_EQ(kept(), "[Html]\nBodyTags=old\n");
+}
+
 TEST_F(SettingsToolTest, SetRefusesByThePagesRulesAndInThePagesOrder) {
     EXPECT_EQ(run({"set", "TOCLevel=51", "UseRelative=false", "Navig=0"}), 1);
     EXPECT_EQ(errors, "Invalid Value: You must select at least one navigation method.\n");
