@@ -25,7 +25,7 @@ namespace {
 /// Waits until a file has its text, for what another process does in its own time.
 std::string eventually(const TempDir& dir, const OrxString& name) {
     for (int i = 0; i < 500; ++i) {
-        const std::string text = dir.content(name).value_or("");
+        std::string text = dir.content(name).value_or("");
         if (text.ends_with("\n")) {
             return text;
         }
