@@ -6,6 +6,8 @@ With --approve the C++ host's document set becomes the expected one; look at the
 
 import os
 import pathlib
+import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -90,6 +92,23 @@ class HostsTest(unittest.TestCase):
         for host, language in ("hello.js", "js"), ("hello.cpp", "cpp"), ("hello_c.c", "c"):
             source = (document_set.HOSTS / host).read_text(encoding="utf-8")
             self.assertIn(f"```{language}\n{source}```\n", shown)
+
+    def test_example_of_the_document_header_compiles(self):
+        compiler = os.environ.get("CXX") or shutil.which("c++")
+        if compiler is None:
+            self.skipTest("no compiler")
+        headers = document_set.HOSTS.parents[1] / "src" / "component" / "include"
+        comment = (headers / "dochtml" / "document.h").read_text(encoding="utf-8")
+        example = re.findall(r"^ \*     (.*)$", comment, re.MULTILINE)
+        self.assertEqual(len(example), 4)
+        source = '#include "dochtml/client.h"\nusing namespace quillmark;\nvoid example() {\n'
+        ended = subprocess.run(
+            [*compiler.split(), "-std=c++20", "-fsyntax-only", "-I", headers, "-x", "c++", "-"],
+            input=source + "\n".join(example) + "\n}\n",
+            capture_output=True,
+            text=True,
+        )
+        self.assertEqual((ended.returncode, ended.stderr), (0, ""))
 
     def test_registering_twice_leaves_one_copy(self):
         self.register(LIBRARY)

@@ -4,6 +4,7 @@
 
 #include "dochtml/client.h"
 #include "dochtml/dochtml_c.h"
+#include "plain_c.h"
 
 namespace quillmark::testing {
 namespace {
@@ -51,6 +52,11 @@ TEST_F(CTables, leadFromInterfaceToInterface) {
     EXPECT_EQ(document_->table->QueryInterface(document_, &IID_IDocument, &same), S_OK);
     EXPECT_EQ(same, document_);
     EXPECT_EQ(document_->table->Release(document_), 1U);
+}
+
+TEST_F(CTables, areReachedFromPlainCByTheIdentifiersOfTheHeaders) {
+    EXPECT_EQ(plain_c_call_by_name(document_), S_OK);
+    EXPECT_EQ(plain_c_find_services(services_), S_OK);
 }
 
 TEST_F(CTables, lendServices) {

@@ -2,6 +2,7 @@
 #define DOCHTML_AUTOMATION_TYPES_H
 
 /* The boundary's data types on systems that have none of their own. Include dochtml/automation.h.
+ * In C they need C11: `VARIANT` has an unnamed part, and texts are of `char16_t`.
  *
  * A `BSTR` points at UTF-16 units that are followed by a zero unit and preceded by the text's
  * length in bytes as 32 bits. It may hold zero units. The null pointer is an empty text. Whoever
@@ -57,6 +58,13 @@ typedef const GUID* REFGUID;
 typedef const IID* REFIID;
 typedef const CLSID* REFCLSID;
 #endif
+
+/* The identifiers of the basic interfaces. */
+DOCHTML_IDENTIFIER IID IID_NULL = {0, 0, 0, {0, 0, 0, 0, 0, 0, 0, 0}};
+DOCHTML_IDENTIFIER IID IID_IUnknown = {0x00000000, 0x0000, 0x0000, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
+DOCHTML_IDENTIFIER IID IID_IClassFactory = {
+    0x00000001, 0x0000, 0x0000, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
+DOCHTML_IDENTIFIER IID IID_IDispatch = {0x00020400, 0x0000, 0x0000, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
 
 #define DOCHTML_RESULT(code) ((HRESULT)(code))
 #define SUCCEEDED(result) ((HRESULT)(result) >= 0)

@@ -1,8 +1,8 @@
 #ifndef DOCHTML_DOCHTML_C_H
 #define DOCHTML_DOCHTML_C_H
 
-/* The component for hosts in plain C: a document is an opaque object with a table of functions,
- * each taking the object first.
+/* The component for hosts in plain C (C11 or later): a document is an opaque object with a table of
+ * functions, each taking the object first.
  *
  *     DochtmlDocument* document = NULL;
  *     BSTR name = SysAllocString(OLESTR("C:\\out\\rep.htm"));
@@ -20,6 +20,7 @@
  */
 
 #include "dochtml/callbacks.h"
+#include "dochtml/identifiers.h"
 
 #ifdef __cplusplus
 extern "C" {

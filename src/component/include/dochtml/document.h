@@ -1,24 +1,16 @@
 #ifndef DOCHTML_DOCUMENT_H
 #define DOCHTML_DOCUMENT_H
 
-#include "dochtml/automation.h"
+#include "dochtml/identifiers.h"
 
 /* The document interface of the component for C++ hosts, the same on every system. C hosts include
  * dochtml/dochtml_c.h.
  *
- *     Component component(L"DocHtml.DocHtml");        // dochtml/client.h
- *     ComPointer<IDocument> document = component.createDocument();
+ *     const Apartment apartment;                         // dochtml/client.h
+ *     const Component component = Component::byName("DocHtml.DocHtml");
+ *     const ComPointer<IDocument> document = component.createDocument();
  *     document->create(Text(u"C:\\out\\rep.htm").get());
  */
-
-inline constexpr CLSID CLSID_DocHtml = {
-    0x474BDD91, 0x0170, 0x11D3, {0xA6, 0xBF, 0x00, 0x10, 0x4B, 0x2A, 0xEF, 0xE1}};
-inline constexpr CLSID CLSID_HtmlComPage = {
-    0x474BDD93, 0x0170, 0x11D3, {0xA6, 0xBF, 0x00, 0x10, 0x4B, 0x2A, 0xEF, 0xE1}};
-inline constexpr IID IID_IDocument = {
-    0x3F65DC20, 0xB90B, 0x11D1, {0x84, 0x72, 0x00, 0x40, 0x95, 0x26, 0x21, 0x7E}};
-inline constexpr GUID LIBID_DOCHTMLCOMLib = {
-    0x0BDD0890, 0xF6AE, 0x11D2, {0xA6, 0xB7, 0x00, 0x10, 0x4B, 0x2A, 0xEF, 0xE1}};
 
 /// The 42 operations behind the seven inherited functions; the n-th has dispatch identifier n.
 ///

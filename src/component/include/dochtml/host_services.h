@@ -2,9 +2,7 @@
 #define DOCHTML_HOST_SERVICES_H
 
 #include "dochtml/callbacks.h"
-
-inline constexpr IID IID_IHostServices = {
-    0x8A6C1F52, 0x3B0E, 0x4D7A, {0x9C, 0x41, 0x5E, 0x27, 0xD0, 0xB8, 0xF6, 0xA3}};
+#include "dochtml/identifiers.h"
 
 /// What a host lends the component, process-wide: ask the class object of `DocHtml` for it, before
 /// the first document. Null takes a service back. A host that lends nothing needs none of this:

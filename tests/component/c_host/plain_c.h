@@ -1,0 +1,22 @@
+#ifndef DOCHTML_TESTS_PLAIN_C_H
+#define DOCHTML_TESTS_PLAIN_C_H
+
+/* What a test needs to do in C itself. */
+
+#include "dochtml/dochtml_c.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Asks the document for `IDispatch` and for `IDocument`, calls "popDirectory" by its name, and lets
+ * go of what it got. `S_OK`, or the first result that is another. */
+HRESULT plain_c_call_by_name(DochtmlDocument* document);
+/* Asks the services for themselves. */
+HRESULT plain_c_find_services(DochtmlHostServices* services);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
