@@ -4,15 +4,10 @@
 
 #include <gmock/gmock.h>
 
-#include <atomic>
-#include <thread>
-
 #include "component/lent_text.h"
-#include "component/module_state.h"
 #include "platform/drive_table.h"
 #include "platform/quillmark_mode.h"
 #include "platform/register_base.h"
-#include "recorded_object.h"
 
 namespace quillmark::testing {
 namespace {
@@ -307,81 +302,6 @@ TEST_F(LentModel, throwsWhatTheHostReportsAsFailure) {
     } catch (const OrxException& failure) {
         EXPECT_EQ(failure.reasonText(), "The host's model failed with result 0x80004005.");
     }
-}
-
-DochtmlObserver observerOf(Host& host) {
-    DochtmlObserver observer{};
-    observer.context = &host;
-    observer.contentsEntryAdded = [](void* context) { Host::of(context).hear("entry"); };
-    return observer;
-}
-
-class ReplacedService : public ::testing::Test {
-protected:
-    void TearDown() override {
-        // Without a user this also lets go of what a test has left.
-        EXPECT_EQ(services().setObserver(nullptr), S_OK);
-        EXPECT_EQ(services().retiredCount(), 0U);
-    }
-};
-
-TEST_F(ReplacedService, canStillBeCalledByWhoTookItUpBefore) {
-    const ServiceUser another;
-    Host host;
-    const DochtmlObserver observer = observerOf(host);
-    ASSERT_EQ(services().setObserver(&observer), S_OK);
-    DocumentObserver& takenUp = DocumentObserver::current();
-    EXPECT_EQ(services().setObserver(nullptr), S_OK);
-    takenUp.contentsEntryAdded();
-    EXPECT_THAT(host.heard, ElementsAre("entry"));
-}
-
-TEST_F(ReplacedService, isLetGoOfWhenNobodyCanHaveTakenItUp) {
-    const DochtmlObserver deaf{};
-    {
-        const ServiceUser another;
-        ASSERT_EQ(services().setObserver(&deaf), S_OK);
-        ASSERT_EQ(services().setObserver(&deaf), S_OK);
-        ASSERT_EQ(services().setObserver(&deaf), S_OK);
-        EXPECT_EQ(services().retiredCount(), 2U);
-    }
-    EXPECT_EQ(services().setObserver(nullptr), S_OK);
-    EXPECT_EQ(services().retiredCount(), 0U);
-}
-
-TEST_F(ReplacedService, isKeptForADocument) {
-    const DochtmlObserver deaf{};
-    {
-        const RecordedObject document;
-        ASSERT_EQ(services().setObserver(&deaf), S_OK);
-        EXPECT_EQ(services().setObserver(nullptr), S_OK);
-        EXPECT_EQ(services().retiredCount(), 1U);
-    }
-    EXPECT_EQ(services().setObserver(nullptr), S_OK);
-    EXPECT_EQ(services().retiredCount(), 0U);
-}
-
-TEST_F(ReplacedService, mayBeReplacedWhileAnotherThreadWritesItsTrace) {
-    constexpr int rounds = 2000;
-    std::atomic<int> heard{0};
-    const DochtmlTraceListener listener{&heard, Trace::calls,
-                                        [](void* context, std::int32_t, const DochtmlText*) {
-                                            ++*static_cast<std::atomic<int>*>(context);
-                                        }};
-    ASSERT_EQ(services().setTraceListener(&listener), S_OK);
-    std::thread writer([] {
-        const ServiceUser document;
-        Trace trace;
-        for (int round = 0; round < rounds; ++round) {
-            trace.write(Trace::calls, "dochtml->insertEndl();\n");
-        }
-    });
-    for (int round = 0; round < rounds; ++round) {
-        EXPECT_EQ(services().setTraceListener(&listener), S_OK);
-    }
-    writer.join();
-    EXPECT_EQ(services().setTraceListener(nullptr), S_OK);
-    EXPECT_EQ(heard, rounds);
 }
 
 TEST(LentServices, refusesRecordsWithoutTheirCallbacks) {
