@@ -11,7 +11,8 @@ namespace quillmark {
 /// Reads a text file line by line, however long the file is.
 ///
 /// A carriage return in front of a line feed is dropped. A line longer than `longest` bytes is
-/// read as several lines. A line end at the end of the file starts no further line.
+/// read as several lines. A line end at the end of the file starts no further line. Where a read
+/// fails the file ends: what came before it is kept.
 class LineReader {
 public:
     static constexpr std::size_t longest = 2000;

@@ -161,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(
     OfEveryKind, EveryFailure,
     ::testing::Values(FailingOperation{Kind::openForReading, "openForReading"},
                       FailingOperation{Kind::openForWriting, "openForWriting"},
-                      FailingOperation{Kind::write, "write"},
+                      FailingOperation{Kind::read, "read"}, FailingOperation{Kind::write, "write"},
                       FailingOperation{Kind::close, "close"},
                       FailingOperation{Kind::makeDirectories, "makeDirectories"},
                       FailingOperation{Kind::copyFile, "copyFile"},

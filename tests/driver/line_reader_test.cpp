@@ -5,6 +5,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "support/failing_file_system.h"
+#include "support/memory_file_system.h"
+
 namespace quillmark {
 namespace {
 
@@ -71,6 +74,27 @@ TEST(LineReader, CutsALongLine) {
     EXPECT_EQ(linesOf(longest + "\r\ny"), (Lines{longest, "y"}));
     EXPECT_EQ(linesOf(longest + "y"), (Lines{longest, "y"}));
     EXPECT_EQ(linesOf(longest + longest + "y\nz"), (Lines{longest, longest, "y", "z"}));
+}
+
+TEST(LineReader, KeepsWhatCameBeforeAFailure) {
+    MemoryFileSystem memory;
+    FailingFileSystem files(memory);
+    std::string bytes;
+    for (int i = 0; i < 5000; ++i) {
+        bytes += "12345\n";
+    }
+    memory.put("a.txt", bytes);
+    files.failAt(FailingFileSystem::Operation::read, 2);
+    const auto file = files.openForReading("a.txt");
+    LineReader reader(*file);
+    Lines lines;
+    for (std::string line; reader.next(line);) {
+        lines.push_back(line);
+    }
+    EXPECT_TRUE(file->failed());
+    Lines expected(16384 / 6, "12345");
+    expected.emplace_back("1234");
+    EXPECT_EQ(lines, expected);
 }
 
 TEST(LineReader, KeepsEveryOtherByte) {
