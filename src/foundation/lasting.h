@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <new>
 
@@ -13,6 +14,8 @@ public:
     LastingEntry& operator=(const LastingEntry&) = delete;
 
 protected:
+    ~LastingEntry() = default;
+
     using Destroy = void (*)(LastingEntry& entry) noexcept;
 
     void enlist(Destroy destroy) noexcept;
@@ -39,14 +42,16 @@ template <typename T>
 class Lasting : private LastingEntry {
 public:
     Lasting() {
-        new (room_) T();
+        new (room_.data()) T();
         enlist([](LastingEntry& entry) noexcept { (*static_cast<Lasting&>(entry)).~T(); });
     }
 
-    [[nodiscard]] T& operator*() noexcept { return *std::launder(reinterpret_cast<T*>(room_)); }
+    [[nodiscard]] T& operator*() noexcept {
+        return *std::launder(reinterpret_cast<T*>(room_.data()));
+    }
 
 private:
-    alignas(T) std::byte room_[sizeof(T)];
+    alignas(T) std::array<std::byte, sizeof(T)> room_{};
 };
 
 }  // namespace quillmark

@@ -13,7 +13,9 @@
 
 namespace {
 
-using namespace quillmark;
+using quillmark::ComPointer;
+using quillmark::Component;
+using quillmark::Text;
 namespace fs = std::filesystem;
 
 /// Looks at the page when the process ends.
