@@ -63,7 +63,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        pageCheck.directory = fs::absolute(argv[2]);
+        pageCheck.directory = fs::absolute(argv[2]).make_preferred();
         fs::create_directories(pageCheck.directory);
         writeReport(argv[1]);
     } catch (const std::exception& failure) {

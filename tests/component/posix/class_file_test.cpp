@@ -187,6 +187,7 @@ TEST_F(ClassFile, losesNothingOfThoseWhoRegisterAtOnce) {
         ASSERT_EQ(store->commit(), S_OK);
     };
     std::vector<std::thread> threads;
+    threads.reserve(writers);
     for (int number = 0; number < writers; ++number) {
         threads.emplace_back(registerOne, number);
     }
