@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <limits>
 
 #include "component/owned_variant.h"
@@ -66,26 +65,6 @@ TEST(ShortRealNumber, isShownWithSevenDigits) {
     EXPECT_EQ(textOf(0.1F), "0.1");
     EXPECT_EQ(textOf(1.0F / 3), "0.3333333");
     EXPECT_EQ(textOf(16777216.0F), "1.677722E+07");
-}
-
-/// The numbers of the process in a locale with a decimal comma, when the system has one.
-class CommaLocale : public ::testing::Test {
-protected:
-    void SetUp() override {
-        for (const char* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "it_IT.UTF-8", "ru_RU.UTF-8"}) {
-            if (std::setlocale(LC_NUMERIC, name) != nullptr) {
-                return;
-            }
-        }
-        GTEST_SKIP() << "no locale with a decimal comma is installed";
-    }
-    void TearDown() override { std::setlocale(LC_NUMERIC, "C"); }
-};
-
-TEST_F(CommaLocale, leavesThePointInNumbers) {
-    EXPECT_EQ(textOf(2.5), "2.5");
-    EXPECT_EQ(textOf(1.5e20), "1.5E+20");
-    EXPECT_EQ(textOf(0.25F), "0.25");
 }
 
 }  // namespace
