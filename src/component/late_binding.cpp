@@ -6,18 +6,15 @@
 #include "component/boundary.h"
 #include "component/call_arguments.h"
 #include "driver/operation_table.h"
+#include "foundation/ascii.h"
 
 namespace quillmark {
 namespace {
 
-constexpr OLECHAR lowerAscii(OLECHAR unit) noexcept {
-    return unit >= 'A' && unit <= 'Z' ? static_cast<OLECHAR>(unit - 'A' + 'a') : unit;
-}
-
 /// Compares a host's name with one of the table's, ignoring the case of ASCII letters.
 bool sameName(const OLECHAR* name, std::string_view known) noexcept {
     for (const char character : known) {
-        if (lowerAscii(*name) != lowerAscii(static_cast<OLECHAR>(character))) {
+        if (ascii::toLower(*name) != ascii::toLower(static_cast<OLECHAR>(character))) {
             return false;
         }
         ++name;

@@ -4,6 +4,7 @@
 #include "component/lent_model.h"
 #include "component/lent_text.h"
 #include "component/module_state.h"
+#include "foundation/ascii.h"
 #include "foundation/lasting.h"
 #include "platform/drive_table.h"
 #include "platform/quillmark_mode.h"
@@ -96,8 +97,7 @@ HRESULT LentServices::setSchemaType(LONG schemaType) noexcept {
 }
 
 HRESULT LentServices::setDrive(SHORT letter, const DochtmlText* directory) {
-    const bool isLetter = (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
-    if (!isLetter) {
+    if (!ascii::isLetter(letter)) {
         return E_INVALIDARG;
     }
     const std::string_view name = directory == nullptr ? std::string_view() : viewOf(*directory);

@@ -4,16 +4,11 @@
 #include <cstdint>
 #include <ostream>
 
+#include "foundation/ascii.h"
+
 namespace quillmark {
 
 namespace {
-
-char lowered(char c) noexcept {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-char raised(char c) noexcept {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
 
 std::string joined(std::string_view a, std::string_view b) {
     std::string result;
@@ -89,12 +84,12 @@ OrxString& OrxString::replaceStr(std::string_view from, std::string_view to) {
 }
 
 OrxString& OrxString::toLower() noexcept {
-    std::transform(bytes_.begin(), bytes_.end(), bytes_.begin(), lowered);
+    std::transform(bytes_.begin(), bytes_.end(), bytes_.begin(), ascii::toLower<char>);
     return *this;
 }
 
 OrxString& OrxString::toUpper() noexcept {
-    std::transform(bytes_.begin(), bytes_.end(), bytes_.begin(), raised);
+    std::transform(bytes_.begin(), bytes_.end(), bytes_.begin(), ascii::toUpper<char>);
     return *this;
 }
 

@@ -7,6 +7,7 @@
 #include <mutex>
 #include <shared_mutex>
 
+#include "foundation/ascii.h"
 #include "foundation/lasting.h"
 
 namespace quillmark {
@@ -28,13 +29,10 @@ Table& table() {
 }
 
 std::optional<std::size_t> indexOf(char letter) noexcept {
-    if (letter >= 'a' && letter <= 'z') {
-        return static_cast<std::size_t>(letter - 'a');
+    if (!ascii::isLetter(letter)) {
+        return std::nullopt;
     }
-    if (letter >= 'A' && letter <= 'Z') {
-        return static_cast<std::size_t>(letter - 'A');
-    }
-    return std::nullopt;
+    return static_cast<std::size_t>(ascii::toUpper(letter) - 'A');
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "foundation/ascii.h"
+
 namespace quillmark {
 
 namespace {
@@ -14,13 +16,6 @@ std::string_view trimmed(std::string_view text) noexcept {
         return {};
     }
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-bool sameName(std::string_view a, std::string_view b) noexcept {
-    const auto lowered = [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    };
-    return std::ranges::equal(a, b, {}, lowered, lowered);
 }
 
 /// The name between the brackets of a section's line, or nothing for any other line.
@@ -151,7 +146,7 @@ std::optional<std::size_t> IniText::firstOddLine() const {
 std::optional<IniText::Range> IniText::findSection(std::string_view section) const {
     for (std::size_t i = 0; i < lines_.size(); ++i) {
         const std::optional<std::string_view> name = sectionName(lines_[i]);
-        if (name && sameName(*name, section)) {
+        if (name && ascii::equalIgnoringCase(*name, section)) {
             std::size_t end = i + 1;
             while (end < lines_.size() && !sectionName(lines_[end])) {
                 ++end;
@@ -165,7 +160,7 @@ std::optional<IniText::Range> IniText::findSection(std::string_view section) con
 std::optional<std::size_t> IniText::findKey(Range range, std::string_view key) const {
     for (std::size_t i = range.first; i < range.end; ++i) {
         const std::optional<std::string_view> name = keyOf(lines_[i]);
-        if (name && sameName(*name, key)) {
+        if (name && ascii::equalIgnoringCase(*name, key)) {
             return i;
         }
     }

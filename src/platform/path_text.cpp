@@ -2,26 +2,21 @@
 
 #include <algorithm>
 
+#include "foundation/ascii.h"
+
 namespace quillmark::path_text {
 
 namespace {
 
-bool isLetter(char c) noexcept {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
-char lowered(char c) noexcept {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool sameText(std::string_view a, std::string_view b, bool ignoreCase) noexcept {
-    return ignoreCase ? std::ranges::equal(a, b, {}, lowered, lowered) : a == b;
+    return ignoreCase ? ascii::equalIgnoringCase(a, b) : a == b;
 }
 
 /// A drive letter has no case on any system, whatever stands behind it.
 bool sameFirst(std::string_view a, std::string_view b, bool ignoreCase) noexcept {
     if (hasDrive(a) && hasDrive(b)) {
-        return lowered(a[0]) == lowered(b[0]) && sameText(a.substr(1), b.substr(1), ignoreCase);
+        return ascii::toLower(a[0]) == ascii::toLower(b[0]) &&
+               sameText(a.substr(1), b.substr(1), ignoreCase);
     }
     return sameText(a, b, ignoreCase);
 }
@@ -49,7 +44,7 @@ void appendComponent(OrxString& path, std::string_view component) {
 }  // namespace
 
 bool hasDrive(std::string_view name) noexcept {
-    return name.size() >= 2 && name[1] == ':' && isLetter(name[0]);
+    return name.size() >= 2 && name[1] == ':' && ascii::isLetter(name[0]);
 }
 
 bool isAbsolute(std::string_view name) noexcept {

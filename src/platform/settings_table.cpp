@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "foundation/ascii.h"
 #include "platform/register_dynamic.h"
 #include "platform/sys_file.h"
 
@@ -61,15 +62,6 @@ constexpr std::array settingRows{
                        "File of the call trace; empty: dochtml.log in the temporary directory"},
 };
 
-char lowered(char character) noexcept {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
-                                                : character;
-}
-
-bool equalIgnoringCase(std::string_view a, std::string_view b) noexcept {
-    return std::ranges::equal(a, b, [](char x, char y) { return lowered(x) == lowered(y); });
-}
-
 }  // namespace
 
 std::span<const SettingDescription> allSettings() noexcept {
@@ -79,7 +71,8 @@ std::span<const SettingDescription> allSettings() noexcept {
 const SettingDescription* findSetting(std::string_view group, std::string_view name) noexcept {
     const auto* const found =
         std::ranges::find_if(settingRows, [&](const SettingDescription& setting) {
-            return equalIgnoringCase(setting.group, group) && equalIgnoringCase(setting.name, name);
+            return ascii::equalIgnoringCase(setting.group, group) &&
+                   ascii::equalIgnoringCase(setting.name, name);
         });
     return found == settingRows.end() ? nullptr : &*found;
 }

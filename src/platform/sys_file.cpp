@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "foundation/ascii.h"
 #include "platform/path_text.h"
 #include "platform/sys_directory.h"
 
@@ -10,12 +11,8 @@ namespace quillmark {
 
 namespace {
 
-bool isLetter(char c) noexcept {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
 bool isSchemeCharacter(char c) noexcept {
-    return isLetter(c) || (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.';
+    return ascii::isLetter(c) || (c >= '0' && c <= '9') || c == '+' || c == '-' || c == '.';
 }
 
 }  // namespace
@@ -70,7 +67,7 @@ bool SysFile::isHyperLink(const OrxString& text) {
     const std::string_view view = text.view();
     const auto* const end = std::find_if_not(view.begin(), view.end(), isSchemeCharacter);
     const auto length = static_cast<std::size_t>(end - view.begin());
-    return length >= 2 && isLetter(view.front()) && view.substr(length).starts_with("://");
+    return length >= 2 && ascii::isLetter(view.front()) && view.substr(length).starts_with("://");
 }
 
 WriteResult SysFile::writeWhole(const OrxString& name, std::span<const std::string_view> pieces) {

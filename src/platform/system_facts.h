@@ -10,6 +10,9 @@ namespace quillmark::system_facts {
 /// Whether two file names that differ in case only are the same file.
 [[nodiscard]] bool namesIgnoreCase() noexcept;
 
+/// Whether the system's own file names have drive letters.
+[[nodiscard]] bool hasDrives() noexcept;
+
 /// The system's directory for temporary files, in the driver's form, no separator at its end.
 [[nodiscard]] OrxString temporaryDirectory();
 

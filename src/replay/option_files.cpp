@@ -3,20 +3,15 @@
 #include <algorithm>
 #include <utility>
 
+#include "foundation/ascii.h"
 #include "platform/drive_table.h"
 #include "platform/sys_text.h"
+#include "platform/system_facts.h"
 #include "replay/bad_input.h"
 
 namespace quillmark::replay {
 
 namespace {
-
-/// A system whose own names have drives needs no table of them.
-constexpr bool systemHasDrives = std::filesystem::path::preferred_separator != '/';
-
-char upper(char letter) noexcept {
-    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-}
 
 /// What the driver's 8-bit code page cannot hold would come out as another file's name.
 OrxString heldName(const std::string& utf8, OrxString held) {
@@ -59,7 +54,7 @@ OptionFiles::OptionFiles(std::vector<HostServices::Drive> drives) : drives_(std:
 
 std::vector<HostServices::Drive> OptionFiles::allDrives() const {
     std::vector<HostServices::Drive> all;
-    for (char letter = 'A'; letter <= 'Z' && !systemHasDrives; ++letter) {
+    for (char letter = 'A'; letter <= 'Z' && !system_facts::hasDrives(); ++letter) {
         const std::filesystem::path place = startDirectory() / std::string{letter, ':'};
         all.push_back({letter, utf8Path(place)});
     }
@@ -68,12 +63,13 @@ std::vector<HostServices::Drive> OptionFiles::allDrives() const {
 }
 
 const HostServices::Drive* OptionFiles::driveOf(const std::string& name) const {
-    if (systemHasDrives || name.size() < 2 || name[1] != ':') {
+    // A system whose own names have drives needs no table of them.
+    if (system_facts::hasDrives() || name.size() < 2 || name[1] != ':') {
         return nullptr;
     }
     // As in the driver's own table, a letter given again has its last directory.
     const auto hit = std::find_if(drives_.rbegin(), drives_.rend(), [&](const auto& drive) {
-        return upper(drive.letter) == upper(name.front());
+        return ascii::toUpper(drive.letter) == ascii::toUpper(name.front());
     });
     return hit != drives_.rend() ? &*hit : nullptr;
 }

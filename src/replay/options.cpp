@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 
+#include "foundation/ascii.h"
 #include "platform/settings_table.h"
 #include "replay/bad_input.h"
 
@@ -38,8 +39,7 @@ void takeInstallDir(Options& options, const std::string& dir) {
 
 void takeDrive(Options& options, const std::string& text) {
     const char letter = text.empty() ? '\0' : text.front();
-    const bool isLetter = (letter >= 'A' && letter <= 'Z') || (letter >= 'a' && letter <= 'z');
-    if (!isLetter || text.size() < 3 || text[1] != '=') {
+    if (!ascii::isLetter(letter) || text.size() < 3 || text[1] != '=') {
         throw BadInput("--drive takes X=DIR, not \"" + text + "\"");
     }
     options.drives.push_back({letter, text.substr(2)});

@@ -8,6 +8,7 @@
 
 #include "component/owned_variant.h"
 #include "dochtml/text.h"
+#include "foundation/ascii.h"
 
 // The conversions between the kinds of values that a host can pass, as automation makes them.
 
@@ -169,20 +170,11 @@ HRESULT toInteger(const Number& number, Integer& out) noexcept {
     return S_OK;
 }
 
-char lowerCase(char character) noexcept {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
-                                                : character;
-}
-char upperCase(char character) noexcept {
-    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A')
-                                                : character;
-}
-
 std::optional<bool> booleanOf(const VARIANT& value) {
     if (value.vt == VT_BSTR) {
         std::string word = asciiOf(Text::viewOf(value.bstrVal));
         for (char& character : word) {
-            character = lowerCase(character);
+            character = ascii::toLower(character);
         }
         if (word == "true" || word == "#true#") {
             return true;
@@ -205,7 +197,7 @@ std::string shownReal(double value, int digits) {
                                             std::chars_format::general, digits);
     std::string shown(text.data(), end);
     for (char& character : shown) {
-        character = upperCase(character);
+        character = ascii::toUpper(character);
     }
     return shown;
 }

@@ -24,6 +24,10 @@ bool namesIgnoreCase() noexcept {
     return false;
 }
 
+bool hasDrives() noexcept {
+    return false;
+}
+
 OrxString temporaryDirectory() {
     const std::string named = environmentDirectory("TMPDIR");
     return withoutLastSeparator(named.empty() ? "/tmp" : named);

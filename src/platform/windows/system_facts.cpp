@@ -22,6 +22,10 @@ bool namesIgnoreCase() noexcept {
     return true;
 }
 
+bool hasDrives() noexcept {
+    return true;
+}
+
 OrxString temporaryDirectory() {
     std::array<wchar_t, MAX_PATH + 1> path{};
     const DWORD length = GetTempPathW(static_cast<DWORD>(path.size()), path.data());

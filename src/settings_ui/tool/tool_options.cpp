@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "foundation/ascii.h"
+
 namespace quillmark {
 
 namespace {
@@ -31,12 +33,8 @@ Exit status: 0 done; 1 a value was refused, or the store is damaged or cannot be
 2 bad usage.
 )";
 
-bool isLetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
 std::pair<char, std::string> driveOf(const std::string& text) {
-    if (text.size() < 3 || !isLetter(text[0]) || text[1] != '=') {
+    if (text.size() < 3 || !ascii::isLetter(text[0]) || text[1] != '=') {
         throw BadUsage("--drive takes X=DIR, not \"" + text + "\"");
     }
     return {text[0], text.substr(2)};
