@@ -3,7 +3,6 @@
 #include "platform/app_profile_interface.h"
 #include "platform/ini_file.h"
 #include "platform/register_dynamic.h"
-#include "platform/settings_table.h"
 #include "platform/sys_directory.h"
 
 namespace quillmark {
@@ -39,10 +38,7 @@ void DocumentSettings::readPlaces(const RegisterCache& settings, const OrxString
     supportOld = html("SupportOld").asBool();
     bodyTags = html("BodyTags").asString();
     suppressImageMaps = html("SuppressImageMaps").asBool();
-    navigation = html("Navig").asShort();
-    if (navigation == 0) {
-        navigation = contentsPages;
-    }
+    navigation = effectiveNavigation(html("Navig").asShort());
     tocLevel = static_cast<std::uint32_t>(html("TOCLevel").asInt());
     dontCopy = html("DontCopy").asString();
     installDir = readDirectly("InstallDir").asString();

@@ -4,16 +4,13 @@
 
 #include "foundation/orx_string.h"
 #include "platform/register_cache.h"
+#include "platform/settings_table.h"
 
 namespace quillmark {
 
 /// The settings of one document, as `create` read them. Before that they are as a fresh object
 /// has them, which is not always the stored default.
 struct DocumentSettings {
-    /// Bits of `navigation`.
-    static constexpr int contentsPages = 1;
-    static constexpr int arrows = 2;
-
     OrxString pixDir;          // image directory, full path
     OrxString externalDocDir;  // directory for copied documents, full path
     bool useRelative = true;
@@ -22,7 +19,7 @@ struct DocumentSettings {
     bool supportOld = false;
     OrxString bodyTags;
     bool suppressImageMaps = false;
-    std::int16_t navigation = 0;
+    int navigation = 0;
     std::uint32_t tocLevel = 0;
     OrxString dontCopy;
     OrxString installDir;
@@ -33,9 +30,9 @@ struct DocumentSettings {
     bool expandRelativeNames = true;
 
     [[nodiscard]] bool hasContentsPages() const noexcept {
-        return (navigation & contentsPages) != 0;
+        return (navigation & navigateByContents) != 0;
     }
-    [[nodiscard]] bool hasArrows() const noexcept { return (navigation & arrows) != 0; }
+    [[nodiscard]] bool hasArrows() const noexcept { return (navigation & navigateByArrows) != 0; }
 
     /// Reads what belongs to the files of the document. Group "Html" is read through the cache,
     /// so overrides apply; group "Settings" straight from the store, which they do not reach.

@@ -33,6 +33,14 @@ inline constexpr const char* logGroup = "Log";
 /// The deepest heading level that a person may choose; the lowest is 0.
 inline constexpr int maxHeadingLevel = 50;
 
+/// The bits of "Navig".
+inline constexpr int navigateByContents = 1;
+inline constexpr int navigateByArrows = 2;
+/// What a stored "Navig" means: 0, which asks for nothing, is taken for the contents.
+[[nodiscard]] constexpr int effectiveNavigation(int stored) noexcept {
+    return stored == 0 ? navigateByContents : stored;
+}
+
 /// All settings, the groups "Html", "Settings" and "Log" behind each other.
 [[nodiscard]] std::span<const SettingDescription> allSettings() noexcept;
 

@@ -104,8 +104,4 @@ inline constexpr std::array checksInOrder{control::relativePaths, control::passT
 inline constexpr int lowestHeadingLevel = 0;
 inline constexpr int highestHeadingLevel = maxHeadingLevel;
 
-/// The bits of setting "Navig", each with its check box.
-inline constexpr int navigateByContents = 1;
-inline constexpr int navigateByArrows = 2;
-
 }  // namespace quillmark

@@ -88,8 +88,7 @@ void SettingsPage::load() {
 }
 
 void SettingsPage::loadNavigation() {
-    const int stored = storedFor(control::contents).asShort();
-    const int navigation = stored == 0 ? navigateByContents : stored;
+    const int navigation = effectiveNavigation(storedFor(control::contents).asShort());
     controls_.setChecked(control::arrows, (navigation & navigateByArrows) != 0);
     controls_.setChecked(control::contents, (navigation & navigateByContents) != 0);
 }
