@@ -6,6 +6,8 @@ set -eu
 prefix=$1
 shift
 export WINEPREFIX="$prefix" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+# Without a locale Wine makes no file whose name has more than ASCII in it.
+export LC_ALL=C.UTF-8
 mkdir -p "$prefix"
 (
     flock 9

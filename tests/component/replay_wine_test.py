@@ -55,6 +55,7 @@ class ReplayTest(unittest.TestCase):
             WINEPREFIX=str(cls.directory / "prefix"),
             WINEDEBUG="-all",
             WINEDLLOVERRIDES="mscoree,mshtml=",
+            LC_ALL="C.UTF-8",
             SOURCE_DATE_EPOCH="946728000",
             XDG_CONFIG_HOME=str(cls.directory / "config"),
             XDG_DATA_HOME=str(cls.directory / "data"),

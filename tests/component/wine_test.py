@@ -100,6 +100,7 @@ class WineTest(unittest.TestCase):
             WINEPREFIX=str(cls.prefix),
             WINEDEBUG="-all",
             WINEDLLOVERRIDES="mscoree,mshtml=",
+            LC_ALL="C.UTF-8",
             SOURCE_DATE_EPOCH="0",
         )
         cls.environment.pop("DISPLAY", None)
