@@ -25,7 +25,7 @@ OrxString DocumentContext::copyTo(const OrxString& directory, const OrxString& f
     return copier.copyToDir(fileName, directory, "", trace);
 }
 
-void DocumentContext::traceError(std::string_view opening, std::string_view subject) {
+void DocumentContext::traceError(std::string_view opening, std::string_view subject) const {
     if (trace.isTrace(Trace::errors)) {
         OrxString line(opening);
         line.append(subject).append('\n');

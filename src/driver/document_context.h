@@ -28,7 +28,7 @@ struct DocumentContext {
     /// Copies a file under its own name and returns the name to refer to.
     OrxString copyTo(const OrxString& directory, const OrxString& fileName) const;
     /// Writes an error line to the trace.
-    void traceError(std::string_view opening, std::string_view subject);
+    void traceError(std::string_view opening, std::string_view subject) const;
 };
 
 }  // namespace quillmark
