@@ -131,7 +131,9 @@ TEST(Shell, TellsAFailedStartWhereTheHostHasClosedItsStreams) {
 TEST(Shell, GivesAProgramStreamsThatLeadNowhereAndNothingElse) {
     const TempDir dir;
     putProgram(dir, "listing",
-               "#!/bin/sh\nreadlink /proc/$$/fd/* | grep -v listing > \"$0.tmp\"\n"
+               // Not through a pipe, which the shell would have open for a moment itself.
+               "#!/bin/sh\n(readlink /proc/$$/fd/* > \"$0.all\")\n"
+               "grep -v listing \"$0.all\" > \"$0.tmp\"\n"
                "echo >> \"$0.tmp\"; mv \"$0.tmp\" \"$0.txt\"\n");
     EXPECT_EQ(startWithoutStreams(dir.file("listing")), SysShell::started);
     EXPECT_EQ(eventually(dir, "listing.txt"), "/dev/null\n/dev/null\n/dev/null\n\n");
