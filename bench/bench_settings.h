@@ -7,8 +7,8 @@
 #include <string>
 #include <utility>
 
-#include "platform/register_base.h"
-#include "platform/settings_store.h"
+#include "settings/register_base.h"
+#include "settings/settings_store.h"
 
 namespace quillmark::bench {
 

@@ -5,8 +5,8 @@
 #include <array>
 
 #include "bench_settings.h"
+#include "driver/boundary/operation_table.h"
 #include "driver/doc_html.h"
-#include "driver/operation_table.h"
 #include "measure.h"
 #include "texts.h"
 

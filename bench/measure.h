@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "driver/i_document.h"
+#include "driver/boundary/i_document.h"
 #include "work_places.h"
 
 namespace quillmark::bench {

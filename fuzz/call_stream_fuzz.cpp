@@ -3,7 +3,7 @@
 #include <sstream>
 #include <string>
 
-#include "replay/call_stream_reader.h"
+#include "replay/input/call_stream_reader.h"
 #include "support/recording_document.h"
 
 /// Whatever stands in a call stream, a call that is handed out fits its operation.

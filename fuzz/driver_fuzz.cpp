@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "driver/boundary/operation_table.h"
 #include "driver/doc_html.h"
-#include "driver/operation_table.h"
 #include "foundation/orx_exception.h"
 #include "support/installed_file_system.h"
 #include "support/memory_file_system.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "replay/recording_reader.h"
+#include "replay/input/recording_reader.h"
 #include "support/recording_document.h"
 
 /// Whatever stands in a recording, a call that is handed out fits its operation, its line is that

@@ -42,6 +42,6 @@ set(page_dialog ${CMAKE_CURRENT_SOURCE_DIR}/windows/settings_page.rc)
 set(DOCHTML_PAGE_DIALOG "#include \"${page_dialog}\"")
 set(resource_script ${CMAKE_CURRENT_BINARY_DIR}/dochtmlcom.rc)
 configure_file(windows/dochtmlcom.rc.in ${resource_script} @ONLY)
-set(resource_inputs ${type_library} ${page_dialog} ${CMAKE_CURRENT_SOURCE_DIR}/dochtml.rgs
-    ${CMAKE_CURRENT_SOURCE_DIR}/html_com_page.rgs)
+set(resource_inputs ${type_library} ${page_dialog} ${CMAKE_CURRENT_SOURCE_DIR}/registration/dochtml.rgs
+    ${CMAKE_CURRENT_SOURCE_DIR}/registration/html_com_page.rgs)
 set_source_files_properties(${resource_script} PROPERTIES OBJECT_DEPENDS "${resource_inputs}")

@@ -1,12 +1,12 @@
 #include "dochtml/entry_points.h"
 
-#include "component/boundary.h"
-#include "component/class_factory.h"
-#include "component/document_object.h"
-#include "component/driver_document.h"
-#include "component/module_state.h"
-#include "component/page_object.h"
-#include "component/server_registration.h"
+#include "component/object/boundary.h"
+#include "component/object/class_factory.h"
+#include "component/object/document_object.h"
+#include "component/object/driver_document.h"
+#include "component/object/module_state.h"
+#include "component/object/page_object.h"
+#include "component/registration/server_registration.h"
 
 namespace quillmark {
 namespace {

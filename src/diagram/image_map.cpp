@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/image_map_interface.h"
+#include "host/image_map_interface.h"
 
 namespace quillmark {
 

@@ -2,14 +2,14 @@
 
 #include "driver/doc_html.h"
 
+#include "contents/contents_pages.h"
+#include "contents/support_files.h"
 #include "driver/doc_html_impl.h"
 #include "foundation/orx_exception.h"
 #include "page/links.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 #include "platform/sys_text.h"
-#include "toc/contents_pages.h"
-#include "toc/support_files.h"
 
 namespace quillmark {
 

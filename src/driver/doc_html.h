@@ -3,7 +3,7 @@
 #include <memory>
 #include <string_view>
 
-#include "driver/i_document.h"
+#include "driver/boundary/i_document.h"
 #include "foundation/orx_string.h"
 
 namespace quillmark {

@@ -2,12 +2,12 @@
 
 #include "driver/doc_html.h"
 #include "driver/doc_html_impl.h"
-#include "driver/mark_pair.h"
+#include "driver/links/mark_pair.h"
 #include "foundation/orx_exception.h"
-#include "platform/settings_table.h"
 #include "platform/signal_to_exception.h"
 #include "platform/sys_shell.h"
 #include "platform/sys_text.h"
+#include "settings/settings_table.h"
 
 namespace quillmark {
 

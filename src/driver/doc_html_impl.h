@@ -2,20 +2,20 @@
 
 #include <string>
 
-#include "driver/bookmarks.h"
-#include "driver/call_trace.h"
-#include "driver/contents_collector.h"
-#include "driver/document_context.h"
-#include "driver/file_inserter.h"
-#include "driver/font_writer.h"
-#include "driver/image_writer.h"
-#include "driver/link_writer.h"
-#include "driver/locate_button.h"
+#include "driver/boundary/call_trace.h"
+#include "driver/files/file_inserter.h"
+#include "driver/files/image_writer.h"
+#include "driver/files/locate_button.h"
+#include "driver/links/bookmarks.h"
+#include "driver/links/link_writer.h"
 #include "driver/page_turner.h"
-#include "driver/paragraph_style.h"
-#include "driver/table_writer.h"
-#include "driver/text_writer.h"
-#include "platform/register_cache.h"
+#include "driver/pages/document_context.h"
+#include "driver/text/contents_collector.h"
+#include "driver/text/font_writer.h"
+#include "driver/text/paragraph_style.h"
+#include "driver/text/table_writer.h"
+#include "driver/text/text_writer.h"
+#include "settings/register_cache.h"
 
 namespace quillmark {
 

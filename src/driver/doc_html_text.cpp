@@ -2,7 +2,7 @@
 
 #include "driver/doc_html.h"
 #include "driver/doc_html_impl.h"
-#include "driver/embedded_link.h"
+#include "driver/text/embedded_link.h"
 #include "page/page_marks.h"
 #include "platform/sys_text.h"
 

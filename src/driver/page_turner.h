@@ -3,12 +3,12 @@
 #include <cstdint>
 #include <functional>
 
-#include "driver/arrow_bar.h"
-#include "driver/bookmarks.h"
-#include "driver/contents_collector.h"
-#include "driver/document_context.h"
-#include "driver/font_writer.h"
-#include "driver/paragraph_style.h"
+#include "driver/links/bookmarks.h"
+#include "driver/pages/arrow_bar.h"
+#include "driver/pages/document_context.h"
+#include "driver/text/contents_collector.h"
+#include "driver/text/font_writer.h"
+#include "driver/text/paragraph_style.h"
 
 namespace quillmark {
 

@@ -3,12 +3,12 @@
 #include <array>
 
 #include "foundation/orx_exception.h"
+#include "host/document_observer.h"
 #include "page/html_head.h"
 #include "page/link_attribute.h"
 #include "page/links.h"
 #include "page/mark_table.h"
 #include "page/splice_text.h"
-#include "platform/document_observer.h"
 #include "platform/signal_to_exception.h"
 #include "platform/sys_file.h"
 

@@ -1,6 +1,6 @@
 #include "page/file_copier.h"
 
-#include "platform/document_observer.h"
+#include "host/document_observer.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 

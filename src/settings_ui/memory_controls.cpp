@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/reg_entry.h"
+#include "settings/reg_entry.h"
 
 namespace quillmark {
 

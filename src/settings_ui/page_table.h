@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "platform/settings_table.h"
+#include "settings/settings_table.h"
 
 namespace quillmark {
 

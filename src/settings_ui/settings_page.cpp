@@ -1,7 +1,7 @@
 #include "settings_ui/settings_page.h"
 
-#include "platform/register_dynamic.h"
-#include "platform/settings_table.h"
+#include "settings/register_dynamic.h"
+#include "settings/settings_table.h"
 #include "settings_ui/settings_saver.h"
 
 namespace quillmark {

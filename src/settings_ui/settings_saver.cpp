@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "platform/register_dynamic.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
+#include "settings/register_dynamic.h"
 #include "settings_ui/page_table.h"
 
 namespace quillmark {

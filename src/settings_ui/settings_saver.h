@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "platform/reg_entry.h"
+#include "settings/reg_entry.h"
 #include "settings_ui/page_host.h"
 
 namespace quillmark {

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/image_map_interface.h"
+#include "host/image_map_interface.h"
 
 namespace quillmark {
 namespace {

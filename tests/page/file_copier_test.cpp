@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "platform/document_observer.h"
+#include "host/document_observer.h"
 #include "support/capturing_trace.h"
 #include "support/failing_file_system.h"
 #include "support/installed_file_system.h"

@@ -12,9 +12,9 @@
 
 #include "platform/file_system.h"
 #include "platform/read_whole.h"
-#include "platform/settings_store.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
+#include "settings/settings_store.h"
 #include "support/temp_dir.h"
 
 namespace quillmark {

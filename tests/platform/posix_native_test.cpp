@@ -16,13 +16,13 @@
 
 #include "foundation/orx_exception.h"
 #include "platform/drive_table.h"
-#include "platform/ini_file.h"
-#include "platform/settings_store.h"
 #include "platform/signal_to_exception.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 #include "platform/sys_shell.h"
 #include "platform/system_facts.h"
+#include "settings/ini_file.h"
+#include "settings/settings_store.h"
 #include "support/environment_variable.h"
 #include "support/temp_dir.h"
 

@@ -10,12 +10,12 @@
 #include <thread>
 
 #include "platform/drive_table.h"
-#include "platform/settings_store.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 #include "platform/sys_shell.h"
 #include "platform/windows/native_file.h"
 #include "platform/windows/windows_api.h"
+#include "settings/settings_store.h"
 #include "support/temp_dir.h"
 
 namespace quillmark {

@@ -1,4 +1,4 @@
-#include "replay/call_stream_reader.h"
+#include "replay/input/call_stream_reader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "replay/bad_input.h"
-#include "replay/image_map_file.h"
-#include "replay/model_file.h"
-#include "replay/option_files.h"
+#include "replay/input/bad_input.h"
+#include "replay/input/image_map_file.h"
+#include "replay/input/model_file.h"
+#include "replay/tool/option_files.h"
 #include "support/temp_dir.h"
 
 namespace quillmark::replay {

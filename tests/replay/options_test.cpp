@@ -1,11 +1,11 @@
-#include "replay/options.h"
+#include "replay/tool/options.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <sstream>
 
-#include "replay/bad_input.h"
+#include "replay/input/bad_input.h"
 
 namespace quillmark::replay {
 namespace {

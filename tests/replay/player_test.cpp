@@ -1,4 +1,4 @@
-#include "replay/player.h"
+#include "replay/play/player.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,9 +8,9 @@
 
 #include "foundation/orx_exception.h"
 #include "platform/trace.h"
-#include "replay/call_stream_reader.h"
-#include "replay/in_process_document.h"
-#include "replay/recording_reader.h"
+#include "replay/input/call_stream_reader.h"
+#include "replay/input/recording_reader.h"
+#include "replay/play/in_process_document.h"
 #include "support/recording_document.h"
 
 namespace quillmark::replay {

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "driver/operation_table.h"
-#include "replay/call_source.h"
-#include "replay/input_buffer.h"
+#include "driver/boundary/operation_table.h"
+#include "replay/input/call_source.h"
+#include "replay/input/input_buffer.h"
 #include "support/recording_document.h"
 
 namespace quillmark::replay {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "reading.h"
-#include "replay/recording_reader.h"
+#include "replay/input/recording_reader.h"
 
 namespace quillmark::replay {
 namespace {

@@ -1,4 +1,4 @@
-#include "replay/recording_reader.h"
+#include "replay/input/recording_reader.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

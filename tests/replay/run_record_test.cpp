@@ -1,4 +1,4 @@
-#include "replay/run_record.h"
+#include "replay/play/run_record.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,9 +6,9 @@
 #include <optional>
 #include <sstream>
 
-#include "replay/messages.h"
-#include "replay/registered_services.h"
-#include "replay/run_settings.h"
+#include "replay/services/registered_services.h"
+#include "replay/services/run_settings.h"
+#include "replay/tool/messages.h"
 #include "support/memory_settings_store.h"
 
 namespace quillmark::replay {

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "platform/drive_table.h"
-#include "platform/register_base.h"
+#include "settings/register_base.h"
 #include "settings_ui/memory_controls.h"
 #include "settings_ui/recording_host.h"
 #include "settings_ui/recording_store.h"

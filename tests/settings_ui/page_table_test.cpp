@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "platform/settings_table.h"
+#include "settings/settings_table.h"
 #include "settings_ui/page_fixture.h"
 
 namespace quillmark {

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/settings_store.h"
+#include "settings/settings_store.h"
 
 namespace quillmark {
 

@@ -6,8 +6,8 @@
 #include <optional>
 #include <utility>
 
-#include "platform/register_base.h"
-#include "platform/settings_store.h"
+#include "settings/register_base.h"
+#include "settings/settings_store.h"
 
 namespace quillmark {
 

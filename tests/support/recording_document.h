@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "driver/i_document.h"
+#include "driver/boundary/i_document.h"
 #include "foundation/code_page.h"
 
 namespace quillmark::testing {

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "driver/operation_table.h"
+#include "driver/boundary/operation_table.h"
 #include "json_text.h"
 
 namespace quillmark::manual {

@@ -1,6 +1,6 @@
 #include "manual.h"
 
-#include "driver/operation_table.h"
+#include "driver/boundary/operation_table.h"
 #include "signature.h"
 #include "text_markup.h"
 

@@ -5,7 +5,7 @@
 #include <stdexcept>
 
 #include "data_file.h"
-#include "driver/operation_table.h"
+#include "driver/boundary/operation_table.h"
 
 namespace quillmark::manual {
 

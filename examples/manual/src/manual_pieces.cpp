@@ -3,7 +3,7 @@
 #include <map>
 #include <stdexcept>
 
-#include "driver/operation_table.h"
+#include "driver/boundary/operation_table.h"
 #include "json_text.h"
 #include "manual.h"
 #include "subsystem_diagram.h"

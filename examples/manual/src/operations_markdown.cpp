@@ -4,7 +4,7 @@
 #include <cctype>
 #include <map>
 
-#include "driver/operation_table.h"
+#include "driver/boundary/operation_table.h"
 #include "signature.h"
 
 namespace quillmark::manual {

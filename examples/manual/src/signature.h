@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "driver/operation_table.h"
+#include "driver/boundary/operation_table.h"
 
 namespace quillmark::manual {
 

@@ -3,7 +3,7 @@
 #include <stdexcept>
 
 #include "blocks.h"
-#include "driver/operation_table.h"
+#include "driver/boundary/operation_table.h"
 
 namespace quillmark::manual {
 

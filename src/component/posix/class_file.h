@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "component/class_key_store.h"
+#include "component/registration/class_key_store.h"
 
 namespace quillmark {
 

@@ -1,6 +1,6 @@
-#include "component/class_key_store.h"
 #include "component/posix/class_file.h"
 #include "component/posix/class_file_lock.h"
+#include "component/registration/class_key_store.h"
 
 namespace quillmark {
 namespace {

@@ -1,4 +1,4 @@
-#include "component/module_files.h"
+#include "component/registration/module_files.h"
 
 #include <dlfcn.h>
 

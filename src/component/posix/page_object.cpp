@@ -1,4 +1,4 @@
-#include "component/page_object.h"
+#include "component/object/page_object.h"
 
 namespace quillmark {
 

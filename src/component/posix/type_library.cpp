@@ -1,4 +1,4 @@
-#include "component/type_information.h"
+#include "component/object/type_information.h"
 
 // There are no type libraries here: hosts ask the interface itself for names and identifiers.
 

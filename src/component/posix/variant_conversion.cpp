@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "component/owned_variant.h"
+#include "component/object/owned_variant.h"
 #include "dochtml/text.h"
 #include "foundation/ascii.h"
 

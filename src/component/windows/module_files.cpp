@@ -1,4 +1,4 @@
-#include "component/module_files.h"
+#include "component/registration/module_files.h"
 
 #include "component/windows/module_handle.h"
 #include "component/windows/wide_text.h"

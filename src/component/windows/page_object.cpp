@@ -1,9 +1,9 @@
-#include "component/page_object.h"
+#include "component/object/page_object.h"
 
 #include <memory>
 
-#include "component/boundary.h"
-#include "component/module_state.h"
+#include "component/object/boundary.h"
+#include "component/object/module_state.h"
 #include "settings_ui/windows/settings_page_factory.h"
 
 namespace quillmark {

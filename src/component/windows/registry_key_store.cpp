@@ -1,7 +1,7 @@
 #include <utility>
 #include <vector>
 
-#include "component/class_key_store.h"
+#include "component/registration/class_key_store.h"
 #include "component/windows/wide_text.h"
 #include "platform/windows/windows_api.h"
 

@@ -1,4 +1,4 @@
-#include "component/type_information.h"
+#include "component/object/type_information.h"
 #include "component/windows/module_handle.h"
 #include "dochtml/com_pointer.h"
 #include "dochtml/document.h"

@@ -1,4 +1,4 @@
-#include "component/owned_variant.h"
+#include "component/object/owned_variant.h"
 
 namespace quillmark {
 

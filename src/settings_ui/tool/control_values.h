@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "platform/settings_table.h"
+#include "settings/settings_table.h"
 #include "settings_ui/memory_controls.h"
 
 namespace quillmark {

@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/register_dynamic.h"
-#include "platform/settings_table.h"
 #include "platform/sys_text.h"
+#include "settings/register_dynamic.h"
+#include "settings/settings_table.h"
 #include "settings_ui/settings_page.h"
 #include "settings_ui/tool/control_values.h"
 #include "settings_ui/tool/terminal_form.h"

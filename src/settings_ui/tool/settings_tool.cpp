@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "platform/drive_table.h"
-#include "platform/register_base.h"
 #include "platform/sys_text.h"
+#include "settings/register_base.h"
 #include "settings_ui/tool/settings_commands.h"
 
 namespace quillmark {

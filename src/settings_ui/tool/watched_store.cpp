@@ -1,6 +1,6 @@
 #include "settings_ui/tool/watched_store.h"
 
-#include "platform/settings_table.h"
+#include "settings/settings_table.h"
 
 namespace quillmark {
 

@@ -5,11 +5,11 @@
 #include <csignal>
 #include <thread>
 
+#include "component/object/operation_calls.h"
 #include "dochtml/entry_points.h"
 #include "dochtml/text.h"
 #include "driver/doc_html.h"
 #include "loaded_library.h"
-#include "operation_calls.h"
 #include "support/environment_variable.h"
 #include "support/temp_dir.h"
 #include "tested_component.h"

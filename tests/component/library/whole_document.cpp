@@ -5,7 +5,7 @@
 #include <functional>
 #include <utility>
 
-#include "driver/operation_table.h"
+#include "driver/boundary/operation_table.h"
 
 namespace quillmark::testing {
 namespace {

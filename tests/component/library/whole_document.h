@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "../operation_calls.h"
-#include "driver/i_document.h"
+#include "component/object/operation_calls.h"
+#include "driver/boundary/i_document.h"
 
 namespace quillmark::testing {
 

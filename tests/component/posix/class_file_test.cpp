@@ -8,7 +8,7 @@
 
 #include "component/client/posix/class_lookup.h"
 #include "component/posix/descriptor.h"
-#include "component/server_registration.h"
+#include "component/registration/server_registration.h"
 #include "dochtml/client.h"
 #include "support/environment_variable.h"
 #include "support/temp_dir.h"

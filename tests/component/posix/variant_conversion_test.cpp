@@ -4,7 +4,7 @@
 
 #include <limits>
 
-#include "component/owned_variant.h"
+#include "component/object/owned_variant.h"
 #include "dochtml/text.h"
 
 namespace quillmark::testing {

@@ -7,7 +7,7 @@
 
 #include "dochtml/com_pointer.h"
 #include "dochtml/document.h"
-#include "driver/operation_table.h"
+#include "driver/boundary/operation_table.h"
 
 namespace quillmark::testing {
 namespace {

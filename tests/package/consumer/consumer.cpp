@@ -7,8 +7,8 @@
 #include <string>
 
 #include "driver/doc_html.h"
-#include "platform/register_base.h"
-#include "platform/settings_store.h"
+#include "settings/register_base.h"
+#include "settings/settings_store.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/register_dynamic.h"
+#include "settings/register_dynamic.h"
 #include "settings_ui/effects.h"
 #include "settings_ui/page_table.h"
 #include "settings_ui/windows/frame_driver.h"

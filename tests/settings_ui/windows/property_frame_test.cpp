@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/register_dynamic.h"
-#include "platform/settings_store.h"
+#include "settings/register_dynamic.h"
+#include "settings/settings_store.h"
 #include "settings_ui/windows/frame_driver.h"
 #include "settings_ui/windows/screenshot.h"
 #include "settings_ui/windows/user_settings.h"

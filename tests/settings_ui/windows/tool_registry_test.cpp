@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/settings_store.h"
+#include "settings/settings_store.h"
 #include "settings_ui/windows/programs.h"
 #include "settings_ui/windows/user_settings.h"
 

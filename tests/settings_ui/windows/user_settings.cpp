@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "platform/settings_store.h"
 #include "platform/windows/windows_api.h"
+#include "settings/settings_store.h"
 
 namespace quillmark {
 

@@ -1,0 +1,36 @@
+#include "component/object/boundary.h"
+
+#include <exception>
+#include <new>
+
+#include "component/object/module_state.h"
+#include "foundation/orx_exception.h"
+
+namespace quillmark {
+
+void logCaughtException() noexcept {
+    // Not every call has an object that counts as one.
+    const ServiceUser user;
+    try {
+        throw;
+    } catch (const OrxException& exception) {
+        OrxException::logCatch(exception.reasonText());
+    } catch (const std::exception& exception) {
+        OrxException::logCatch(exception.what());
+    } catch (...) {
+        OrxException::logCatch("unknown exception");
+    }
+}
+
+HRESULT resultOfCaughtException() noexcept {
+    logCaughtException();
+    try {
+        throw;
+    } catch (const std::bad_alloc&) {
+        return E_OUTOFMEMORY;
+    } catch (...) {
+        return E_UNEXPECTED;
+    }
+}
+
+}  // namespace quillmark

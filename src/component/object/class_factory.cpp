@@ -1,0 +1,87 @@
+#include "component/object/class_factory.h"
+
+#include "component/object/boundary.h"
+#include "component/services/lent_services.h"
+
+namespace quillmark {
+
+HRESULT ClassFactory::make(ObjectMaker maker, REFIID iid, void** object) {
+    return runGuarded([&]() -> HRESULT {
+        // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): counted; its last release deletes it.
+        auto* factory = new ClassFactory(maker);
+        const HRESULT result = factory->QueryInterface(iid, object);
+        factory->Release();
+        return result;
+    });
+}
+
+HRESULT ClassFactory::QueryInterface(REFIID iid, void** object) {
+    if (object == nullptr) {
+        return E_POINTER;
+    }
+    if (IsEqualIID(iid, IID_IUnknown) || IsEqualIID(iid, IID_IClassFactory)) {
+        *object = static_cast<IClassFactory*>(this);
+    } else if (IsEqualIID(iid, IID_IHostServices)) {
+        *object = static_cast<IHostServices*>(this);
+    } else {
+        *object = nullptr;
+        return E_NOINTERFACE;
+    }
+    AddRef();
+    return S_OK;
+}
+
+ULONG ClassFactory::Release() {
+    const ULONG left = --count_;
+    if (left == 0) {
+        delete this;
+    }
+    return left;
+}
+
+HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object) {
+    return maker_(outer, iid, object);
+}
+
+HRESULT ClassFactory::LockServer(BOOL lock) {
+    lockModule(lock != 0);
+    return S_OK;
+}
+
+HRESULT ClassFactory::setSettingsStore(const DochtmlSettingsStore* store) {
+    return runGuarded([&] { return LentServices::module().setSettingsStore(store); });
+}
+
+HRESULT ClassFactory::setProfilePath(const DochtmlText* path) {
+    return runGuarded([&] { return LentServices::module().setProfilePath(path); });
+}
+
+HRESULT ClassFactory::setImageMaps(const DochtmlImageMaps* maps) {
+    return runGuarded([&] { return LentServices::module().setImageMaps(maps); });
+}
+
+HRESULT ClassFactory::setModel(const DochtmlModel* model) {
+    return runGuarded([&] { return LentServices::module().setModel(model); });
+}
+
+HRESULT ClassFactory::setSchemaType(LONG schemaType) {
+    return LentServices::setSchemaType(schemaType);
+}
+
+HRESULT ClassFactory::setDrive(SHORT letter, const DochtmlText* directory) {
+    return runGuarded([&] { return LentServices::setDrive(letter, directory); });
+}
+
+HRESULT ClassFactory::setTraceListener(const DochtmlTraceListener* listener) {
+    return runGuarded([&] { return LentServices::module().setTraceListener(listener); });
+}
+
+HRESULT ClassFactory::setExceptionLog(const DochtmlExceptionLog* log) {
+    return runGuarded([&] { return LentServices::module().setExceptionLog(log); });
+}
+
+HRESULT ClassFactory::setObserver(const DochtmlObserver* observer) {
+    return runGuarded([&] { return LentServices::module().setObserver(observer); });
+}
+
+}  // namespace quillmark

@@ -1,0 +1,11 @@
+#include "component/object/driver_document.h"
+
+#include "driver/doc_html.h"
+
+namespace quillmark {
+
+std::unique_ptr<IDocument> makeDriverDocument() {
+    return std::make_unique<DocHtml>();
+}
+
+}  // namespace quillmark

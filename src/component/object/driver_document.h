@@ -1,0 +1,12 @@
+#pragma once
+
+#include <memory>
+
+#include "driver/boundary/i_document.h"
+
+namespace quillmark {
+
+/// A fresh driver for one document.
+[[nodiscard]] std::unique_ptr<IDocument> makeDriverDocument();
+
+}  // namespace quillmark

@@ -1,0 +1,43 @@
+#include "component/object/module_state.h"
+
+#include <atomic>
+
+namespace quillmark {
+namespace {
+
+std::atomic<long> liveObjects{0};
+std::atomic<long> moduleLocks{0};
+std::atomic<long> serviceUsers{0};
+
+}  // namespace
+
+LiveObject::LiveObject() noexcept {
+    ++liveObjects;
+}
+
+LiveObject::~LiveObject() {
+    --liveObjects;
+}
+
+ServiceUser::ServiceUser() noexcept {
+    ++serviceUsers;
+}
+
+ServiceUser::~ServiceUser() {
+    --serviceUsers;
+}
+
+bool servicesHaveUsers() noexcept {
+    // A change, not a mere look: whoever adds to the count afterwards is then ordered behind it.
+    return serviceUsers.fetch_add(0) != 0;
+}
+
+void lockModule(bool lock) noexcept {
+    moduleLocks += lock ? 1 : -1;
+}
+
+bool moduleIsIdle() noexcept {
+    return liveObjects == 0 && moduleLocks == 0;
+}
+
+}  // namespace quillmark

@@ -1,0 +1,108 @@
+#include "component/services/lent_services.h"
+
+#include "component/object/module_state.h"
+#include "component/services/lent_adapters.h"
+#include "component/services/lent_model.h"
+#include "component/services/lent_text.h"
+#include "foundation/ascii.h"
+#include "foundation/lasting.h"
+#include "host/quillmark_mode.h"
+#include "platform/drive_table.h"
+#include "settings/register_base.h"
+
+namespace quillmark {
+LentServices& LentServices::module() {
+    static Lasting<LentServices> services;
+    return *services;
+}
+
+LentServices::~LentServices() {
+    DocumentObserver::install(nullptr);
+    OrxException::setLog(nullptr);
+    Trace::setListener(nullptr);
+    MMSchema::setSchema(nullptr);
+    CImageMapInterface::setInterface(nullptr);
+    AppProfileInterface::setInterface(nullptr);
+}
+
+/// Puts a new service in force. The one before is kept: another thread may have taken it up just
+/// before and call it only now.
+template <typename Service, typename Record, typename Install>
+HRESULT LentServices::replace(std::shared_ptr<Service>& kept, const Record* record,
+                              std::unique_ptr<Service> (*make)(const Record&), Install install) {
+    std::shared_ptr<Service> next;
+    if (record != nullptr) {
+        next = make(*record);
+        if (next == nullptr) {
+            return E_INVALIDARG;
+        }
+    }
+    const std::lock_guard lock(mutex_);
+    if (kept != nullptr) {
+        retired_.push_back(kept);
+    }
+    install(next.get());
+    kept = std::move(next);
+    if (!servicesHaveUsers()) {
+        retired_.clear();
+    }
+    return S_OK;
+}
+
+std::size_t LentServices::retiredCount() const {
+    const std::lock_guard lock(mutex_);
+    return retired_.size();
+}
+
+HRESULT LentServices::setSettingsStore(const DochtmlSettingsStore* store) {
+    if (store == nullptr) {
+        RegisterBase::setStore(nullptr);
+        return S_OK;
+    }
+    std::shared_ptr<SettingsStore> lent = lentSettingsStore(*store);
+    if (lent == nullptr) {
+        return E_INVALIDARG;
+    }
+    RegisterBase::setStore(std::move(lent));
+    return S_OK;
+}
+
+HRESULT LentServices::setProfilePath(const DochtmlText* path) {
+    return replace(profile_, path, &lentProfile, &AppProfileInterface::setInterface);
+}
+
+HRESULT LentServices::setImageMaps(const DochtmlImageMaps* maps) {
+    return replace(imageMaps_, maps, &lentImageMaps, &CImageMapInterface::setInterface);
+}
+
+HRESULT LentServices::setModel(const DochtmlModel* model) {
+    return replace(schema_, model, &lentModel, &MMSchema::setSchema);
+}
+
+HRESULT LentServices::setTraceListener(const DochtmlTraceListener* listener) {
+    return replace(listener_, listener, &lentTraceListener, &Trace::setListener);
+}
+
+HRESULT LentServices::setExceptionLog(const DochtmlExceptionLog* log) {
+    return replace(log_, log, &lentExceptionLog, &OrxException::setLog);
+}
+
+HRESULT LentServices::setObserver(const DochtmlObserver* observer) {
+    return replace(observer_, observer, &lentObserver, &DocumentObserver::install);
+}
+
+HRESULT LentServices::setSchemaType(LONG schemaType) noexcept {
+    CQuillmarkMode::SetSchemaType(static_cast<int>(schemaType));
+    return S_OK;
+}
+
+HRESULT LentServices::setDrive(SHORT letter, const DochtmlText* directory) {
+    if (!ascii::isLetter(letter)) {
+        return E_INVALIDARG;
+    }
+    const std::string_view name = directory == nullptr ? std::string_view() : viewOf(*directory);
+    DriveTable::set(static_cast<char>(letter), std::string(name));
+    return S_OK;
+}
+
+}  // namespace quillmark

@@ -1,0 +1,36 @@
+#include "contents/contents_pages.h"
+
+#include <tuple>
+
+#include "contents/applet_contents.h"
+#include "contents/contents_names.h"
+#include "contents/start_page.h"
+#include "contents/support_files.h"
+#include "contents/tree/archiver.h"
+#include "contents/tree/tree_data_file.h"
+#include "platform/sys_directory.h"
+
+namespace quillmark {
+
+namespace {
+
+/// Returns the name of what the applet is to read: the archive, or the plain file.
+OrxString writeTreeData(const ContentsContext& context) {
+    const OrxString dataFile = contents_names::treeData(context);
+    writeTreeDataFile(dataFile, context.entries, context.showIcons);
+    return packDataFile(dataFile, context.installDir, context.trace);
+}
+
+}  // namespace
+
+void writeContentsPages(const ContentsContext& context) {
+    const IconArchives archives = copyContentsSupportFiles(context);
+    // An archiver that looks for its files in the current directory finds them there. Where the
+    // directory cannot be entered, its full names still serve.
+    std::ignore = SysDirectory::setCurrentDir(context.outputDir);
+    const OrxString treeFile = writeTreeData(context);
+    writeAppletContents(context, archives, treeFile);
+    writeStartPage(context);
+}
+
+}  // namespace quillmark

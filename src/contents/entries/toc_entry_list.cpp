@@ -1,0 +1,93 @@
+#include "contents/entries/toc_entry_list.h"
+
+#include <algorithm>
+#include <limits>
+#include <stdexcept>
+
+#include "host/document_observer.h"
+
+namespace quillmark {
+
+namespace {
+
+constexpr std::size_t chunkSize = std::size_t{64} * 1024;
+
+std::uint32_t asLength(std::size_t length) {
+    if (length > std::numeric_limits<std::uint32_t>::max()) {
+        throw std::length_error("a contents entry of 4 GiB");
+    }
+    return static_cast<std::uint32_t>(length);
+}
+
+}  // namespace
+
+void TocEntryList::add(const TocEntryView& entry) {
+    Record record;
+    record.hrefLength = asLength(entry.href.size());
+    record.textLength = asLength(entry.text.size());
+    record.level = entry.level;
+    record.gif = intern(entry.gif);
+    record.stereoGif = intern(entry.stereoGif);
+    std::string& chunk = chunkFor(entry.href.size() + entry.text.size());
+    record.chunk = asLength(chunks_.size() - 1);
+    record.offset = asLength(chunk.size());
+    chunk.append(entry.href).append(entry.text);
+    records_.push_back(record);
+    DocumentObserver::current().contentsEntryAdded();
+}
+
+void TocEntryList::add(const HtmlTOCTag& tag) {
+    const OrxString href = tag.getHref();
+    const OrxString text = tag.getText();
+    const OrxString gif = tag.getGif();
+    const OrxString stereoGif = tag.getStereoGif();
+    add(TocEntryView{href, text, tag.getLevel(), gif, stereoGif});
+}
+
+void TocEntryList::clear() noexcept {
+    records_.clear();
+    chunks_.clear();
+    icons_.clear();
+    iconNumbers_.clear();
+}
+
+TocEntryView TocEntryList::operator[](std::size_t index) const {
+    const Record& record = records_[index];
+    const std::string_view chunk = chunks_[record.chunk];
+    return {chunk.substr(record.offset, record.hrefLength),
+            chunk.substr(std::size_t{record.offset} + record.hrefLength, record.textLength),
+            record.level, icons_[record.gif], icons_[record.stereoGif]};
+}
+
+HtmlTOCTag TocEntryList::tag(std::size_t index) const {
+    const TocEntryView entry = (*this)[index];
+    HtmlTOCTag tag;
+    tag.setHref(entry.href);
+    tag.setText(entry.text);
+    tag.setLevel(entry.level);
+    tag.setGif(entry.gif);
+    tag.setStereoGif(entry.stereoGif);
+    return tag;
+}
+
+/// The chunk with room for that many bytes: the last one, or a new one. A chunk is given its room
+/// at once, so that what it holds is never moved; a text that needs more has a chunk of its own.
+std::string& TocEntryList::chunkFor(std::size_t bytes) {
+    if (chunks_.empty() || chunks_.back().size() + bytes > chunkSize) {
+        chunks_.emplace_back().reserve(std::max(bytes, chunkSize));
+    }
+    return chunks_.back();
+}
+
+std::uint32_t TocEntryList::intern(std::string_view icon) {
+    const auto known = iconNumbers_.find(icon);
+    if (known != iconNumbers_.end()) {
+        return known->second;
+    }
+    const std::uint32_t number = asLength(icons_.size());
+    icons_.emplace_back(icon);
+    iconNumbers_.emplace(icon, number);
+    return number;
+}
+
+}  // namespace quillmark

@@ -1,0 +1,64 @@
+#include "contents/fixed_contents.h"
+
+#include <string_view>
+
+#include "contents/contents_names.h"
+#include "contents/support_files.h"
+#include "page/doc_html_page.h"
+#include "page/links.h"
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+namespace {
+
+// "toc.jar" is not among the files that are copied: who still serves such browsers puts it there.
+constexpr std::string_view appletOpening =
+    R"html(<BODY>
+<APPLET CODE='com/brevanta/lumivast/TOC/DirectNavigator.class' ARCHIVE='toc.jar' WIDTH=192 HEIGHT=300>
+<PARAM NAME=BROWSERNAME VALUE='microsoft'>
+<PARAM NAME=FRAMENAME VALUE='main'>
+<PARAM NAME=BACKGROUND VALUE='#ffffff'>
+)html";
+
+void appendParameter(std::string_view name, const OrxString& value, DocHtmlPage& page) {
+    page.append(
+        OrxString("<PARAM NAME=").append(name).append(" VALUE='").append(value).append("'>\n"));
+}
+
+/// The link to a file of the image directory, whether or not it is there.
+OrxString pictureLink(const ContentsContext& context, const OrxString& name) {
+    return links::relativeFile(SysFile::appendToDir(context.pixDir, name), context.outputDir);
+}
+
+void appendIconParameters(const ContentsContext& context, DocHtmlPage& page) {
+    if (!context.showIcons) {
+        return;
+    }
+    appendParameter("ICONZIPFILE", pictureLink(context, iconArchiveName), page);
+    if (!context.iconFile.isEmpty()) {
+        appendParameter("USERZIPFILE", pictureLink(context, SysFile::stripDir(context.iconFile)),
+                        page);
+    }
+}
+
+}  // namespace
+
+void writeFixedContents(const ContentsContext& context) {
+    DocHtmlPage page;
+    page.setFileName(contents_names::fixedContents(context));
+    page.setTitle(context.title);
+    page.setStyleSheet(context.styleSheetLink);
+    page.append(appletOpening);
+    appendParameter("TOCFILE", SysFile::stripDir(contents_names::treeData(context) + ".zip"), page);
+    appendIconParameters(context, page);
+    page.append("You must enable Java to use this table of contents feature.\n");
+    page.append("If you would rather not, you might try the <A HREF='" +
+                contents_names::fixedStaticContentsLink(context) +
+                "'>static table of contents</A>.\n");
+    page.append("</APPLET>\n");
+    page.append("\n</BODY>");
+    page.close();
+}
+
+}  // namespace quillmark

@@ -1,0 +1,64 @@
+#include "contents/locate_script.h"
+
+namespace quillmark {
+
+// A button calls Locate with its page's address, itself and its document. The walk remembers the
+// last contents anchor that it met and stops at the button, so what it remembers then is the
+// nearest one in front. The tree knows its entries by addresses relative to the output
+// directory, which is where the contents page itself lies.
+//
+// The buttons find this page as top.contents. The page's own "var name" of its body, a global
+// variable, is the window's name too and renames the frame, so the frame's name is put back once
+// the page has loaded.
+std::string_view locateScript() noexcept {
+    return "var bkmark, locatebtn = null ; \n"
+           R"js(function getClosestAnchor(lookIn)
+{
+	if (lookIn == null)
+		return false ;
+	var nodes = lookIn.childNodes ;
+	for (var i = 0 ; nodes && i < nodes.length ; i++)
+	{
+		var child = nodes[i] ;
+		if (child.nodeName == "A" && child.name && child.name.indexOf("toc") == 0)
+			bkmark = child ;
+		if (child == locatebtn)
+			return true ;
+		if (getClosestAnchor(child))
+			return true ;
+	}
+	return false ;
+}
+)js"
+           "var _cnturl = location.href, baseurl = null ; \n"
+           R"js(function RelativeUrlPath(url)
+{
+	if (baseurl == null)
+	{
+		baseurl = _cnturl.split("#")[0].replace('\\', '/') ;
+		baseurl = baseurl.substring(0, baseurl.lastIndexOf("/")) ;
+	}
+	return url.substring(baseurl.length + 1) ;
+}
+function Locate(url, Obj, docmnt)
+{
+	if (Obj == null)
+		return ;
+	locatebtn = Obj ;
+	bkmark = null ;
+	if (!getClosestAnchor(docmnt) || bkmark == null)
+		return ;
+	var urlpart = RelativeUrlPath(url.split("#")[0]) + "#" + bkmark.name ;
+	document.applets[0].selectItemByUrl(urlpart) ;
+}
+var _cntname = this.name ;
+function RestoreFrameName()
+{
+	name = _cntname ;
+}
+if (this.addEventListener)
+	this.addEventListener("load", RestoreFrameName, false) ;
+)js";
+}
+
+}  // namespace quillmark

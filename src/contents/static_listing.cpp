@@ -1,0 +1,67 @@
+#include "contents/static_listing.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "contents/entries/indent_budget.h"
+
+namespace quillmark {
+
+namespace {
+
+constexpr std::string_view baseTarget = "<BASE TARGET=\"main\">\n";
+constexpr std::string_view heading = "<H2>Table of Contents</H2>\n";
+constexpr std::string_view indentUnit = "&nbsp;&nbsp;&nbsp;";
+
+std::size_t indentUnits(std::int32_t level) noexcept {
+    return level > 1 ? static_cast<std::size_t>(level) - 1 : 0;
+}
+
+constexpr std::string_view linkOpening = "<A HREF=\"";
+constexpr std::string_view linkMiddle = "\">";
+constexpr std::string_view linkEnd = "</a>";
+constexpr std::string_view entryEnd = "<BR>\n";
+
+/// Writes one entry; `scratch` only lends its memory from entry to entry.
+void writeEntry(const TocEntryView& entry, IndentBudget& budget, DocHtmlPage& page,
+                std::string& scratch) {
+    const std::size_t units = budget.take(indentUnits(entry.level), indentUnit.size());
+    scratch.clear();
+    for (std::size_t i = 0; i < units; ++i) {
+        scratch.append(indentUnit);
+    }
+    if (!scratch.empty()) {
+        page.append(scratch);
+    }
+    scratch.assign(linkOpening).append(entry.href).append(linkMiddle);
+    scratch.append(entry.text).append(linkEnd);
+    page.append(scratch);
+    page.append(entryEnd);
+}
+
+}  // namespace
+
+std::size_t staticListingSize(const TocEntryList& entries) {
+    constexpr std::size_t linkSize =
+        linkOpening.size() + linkMiddle.size() + linkEnd.size() + entryEnd.size();
+    std::size_t size = baseTarget.size() + heading.size() + entries.size() * linkSize;
+    IndentBudget budget;
+    for (const TocEntryView entry : entries) {
+        const std::size_t units = budget.take(indentUnits(entry.level), indentUnit.size());
+        size += units * indentUnit.size() + entry.href.size() + entry.text.size();
+    }
+    return size;
+}
+
+void writeStaticListing(const TocEntryList& entries, DocHtmlPage& page) {
+    page.append(baseTarget);
+    page.append(heading);
+    IndentBudget budget;
+    std::string scratch;
+    for (const TocEntryView entry : entries) {
+        writeEntry(entry, budget, page, scratch);
+    }
+}
+
+}  // namespace quillmark

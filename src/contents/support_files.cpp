@@ -1,0 +1,45 @@
+#include "contents/support_files.h"
+
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+namespace {
+
+void copyApplet(const ContentsContext& context) {
+    const auto copy = [&](const OrxString& name, const OrxString& targetName) {
+        context.copier.copyToDir(SysFile::appendToDir(context.installDir, name), context.outputDir,
+                                 targetName, context.trace);
+    };
+    copy(context.appletJar, context.appletArchive);
+    if (context.useJnlp) {
+        copy(context.appletJnlp, "");
+    }
+}
+
+}  // namespace
+
+IconArchives copyContentsSupportFiles(const ContentsContext& context) {
+    copyApplet(context);
+    const auto copyIcons = [&](const OrxString& source) {
+        return context.copier.copyToDir(source, context.pixDir, "", context.trace);
+    };
+    IconArchives archives;
+    archives.icons = copyIcons(SysFile::appendToDir(context.installDir, iconArchiveName));
+    if (!context.iconFile.isEmpty()) {
+        archives.userIcons = copyIcons(context.iconFile);
+    }
+    return archives;
+}
+
+void copyArrowPictures(const OrxString& installDir, const OrxString& pixDir,
+                       const FileCopier& copier, const Trace& trace) {
+    const OrxString pictures = SysFile::appendToDir(installDir, installedPicturesName);
+    for (const char* const name : {arrow_pictures::forward, arrow_pictures::forwardDead,
+                                   arrow_pictures::back, arrow_pictures::backDead}) {
+        const OrxString source = SysFile::appendToDir(pictures, name);
+        copier.copyToDir(source, pixDir, "", trace);
+    }
+}
+
+}  // namespace quillmark

@@ -1,0 +1,30 @@
+#include "contents/tree/archiver.h"
+
+#include "platform/sys_file.h"
+#include "platform/sys_shell.h"
+
+namespace quillmark {
+
+namespace {
+
+/// Move into the archive, say nothing, and leave the directory part of the name out.
+OrxString archiverArguments(const OrxString& archive, const OrxString& dataFile) {
+    return "-m -q -j \"" + archive + "\" \"" + dataFile + "\"";
+}
+
+}  // namespace
+
+OrxString packDataFile(const OrxString& dataFile, const OrxString& installDir, const Trace& trace) {
+    OrxString archive = dataFile + ".zip";
+    SysFile::deleteFile(archive);
+    const OrxString archiver = SysFile::appendToDir(installDir, "zip.exe");
+    if (SysShell::start(archiver, archiverArguments(archive, dataFile)) >= SysShell::started) {
+        return archive;
+    }
+    if (trace.isTrace(Trace::errors)) {
+        trace.write(Trace::errors, "ERR: running " + archiver + "\n");
+    }
+    return dataFile;
+}
+
+}  // namespace quillmark

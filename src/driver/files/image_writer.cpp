@@ -1,0 +1,56 @@
+#include "driver/files/image_writer.h"
+
+#include <optional>
+
+#include "contents/support_files.h"
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+bool ImageWriter::findImage(OrxString& name) {
+    if (name.isEmpty()) {
+        return false;
+    }
+    if (SysFile::exists(name)) {
+        return true;
+    }
+    if (isImageName(name) && SysFile::getDir(name).isEmpty()) {
+        const OrxString installed = SysFile::appendToDir(
+            SysFile::appendToDir(context_.settings.installDir, installedPicturesName), name);
+        if (SysFile::exists(installed)) {
+            name = installed;
+            return true;
+        }
+    }
+    context_.traceError("ERR File not found: ", name);
+    return false;
+}
+
+void ImageWriter::insertImage(const OrxString& imageFile, const OrxString& linkTarget) {
+    OrxString name = imageFile;
+    if (!findImage(name)) {
+        return;
+    }
+    name.replaceStr("/", "\\");
+    if (context_.settings.useRelative) {
+        name = context_.copyTo(context_.settings.pixDir, name);
+    }
+    const OrxString source = context_.documentLink(name);
+    std::optional<LinkWriter::End> linkEnd;
+    if (!linkTarget.isEmpty()) {
+        linkEnd = links_.open(linkTarget);
+    }
+    OrxString markup("<IMG SRC=\"");
+    context_.out.writeOut(markup.append(source).append("\" ALIGN=\"BOTTOM\" BORDER=\"0\" "));
+    // The map's own ">" closes the picture's tag; the one below then closes "</MAP".
+    maps_.write(imageFile, {[this](std::string_view html) { context_.out.writeOut(html); },
+                            [this](const OrxString& bookmark, const OrxString& area) {
+                                bookmarks_.reference(bookmark, area);
+                            }});
+    context_.out.writeOut(">");
+    if (linkEnd) {
+        links_.close(linkTarget, *linkEnd);
+    }
+}
+
+}  // namespace quillmark

@@ -1,0 +1,41 @@
+#include "driver/files/line_reader.h"
+
+namespace quillmark {
+
+int LineReader::peekByte() {
+    if (pos_ == filled_) {
+        filled_ = file_.read(buffer_);
+        pos_ = 0;
+    }
+    return pos_ == filled_ ? endOfFile : static_cast<unsigned char>(buffer_[pos_]);
+}
+
+int LineReader::readCharacter() {
+    const int byte = peekByte();
+    if (byte == endOfFile) {
+        return endOfFile;
+    }
+    ++pos_;
+    if (byte == '\r' && peekByte() == '\n') {
+        ++pos_;
+        return '\n';
+    }
+    return byte;
+}
+
+bool LineReader::next(std::string& line) {
+    line.clear();
+    if (ahead_ == endOfFile) {
+        return false;
+    }
+    while (ahead_ != endOfFile && ahead_ != '\n' && line.size() < longest) {
+        line.push_back(static_cast<char>(ahead_));
+        ahead_ = readCharacter();
+    }
+    if (ahead_ == '\n') {
+        ahead_ = readCharacter();
+    }
+    return true;
+}
+
+}  // namespace quillmark

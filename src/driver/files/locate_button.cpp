@@ -1,0 +1,50 @@
+#include "driver/files/locate_button.h"
+
+#include <array>
+
+#include "page/links.h"
+#include "platform/sys_directory.h"
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+namespace {
+
+/// The pages name this directory whatever the image directory is called.
+constexpr const char* pictureDir = "pixs";
+constexpr const char* picture = "locate_in_brw.JPG";
+constexpr const char* pictureUnderMouse = "locate_in_brw_button_mouse_over.JPG";
+
+constexpr std::string_view buttonTemplate =
+    " <input type=image class=locatebtn src=\"%s/pixs/locate_in_brw.JPG\""
+    " onmouseout=\"this.src='%s/pixs/locate_in_brw.JPG'\""
+    " onmouseover=\"this.src='%s/pixs/locate_in_brw_button_mouse_over.JPG'\""
+    " title=\"Locate in browser\" onclick=\"top.contents.Locate(location.href,this, document)\">";
+
+}  // namespace
+
+void LocateButton::insert() {
+    if (!context_.settings.locateInBrowser) {
+        return;
+    }
+    OrxString way = links::fromPath(
+        SysDirectory::getRelativePath(context_.pageDir(), context_.names.outputDir()));
+    if (way.isEmpty()) {
+        way = ".";
+    }
+    OrxString button(buttonTemplate);
+    text_.emitText(button.replaceStr("%s", way));
+    if (locateImagesPending_) {
+        locateImagesPending_ = false;
+        copyPictures();
+    }
+}
+
+void LocateButton::copyPictures() {
+    const OrxString source = SysFile::appendToDir(userFilesDir(), pictureDir);
+    for (const char* const name : {picture, pictureUnderMouse}) {
+        context_.copyTo(context_.settings.pixDir, SysFile::appendToDir(source, name));
+    }
+}
+
+}  // namespace quillmark

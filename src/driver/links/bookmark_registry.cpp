@@ -1,0 +1,42 @@
+#include "driver/links/bookmark_registry.h"
+
+#include "platform/path_text.h"
+
+namespace quillmark {
+
+BookmarkRegistry::Id BookmarkRegistry::add(std::string_view name) {
+    if (lastAdded_ != unknown && names_.name(lastAdded_) == name) {
+        return lastAdded_;
+    }
+    lastAdded_ = names_.add(name);
+    if (lastAdded_ == records_.size()) {
+        records_.emplace_back();
+    }
+    return lastAdded_;
+}
+
+void BookmarkRegistry::define(Id id, const OrxString& pageFile) {
+    // Bookmarks come page by page, so one look at the last file keeps each name once.
+    const auto files = static_cast<std::uint32_t>(pageFiles_.size());
+    const bool known = files != 0 && pageFiles_[files - 1] == pageFile.view();
+    records_[id].pageFile = known ? files - 1 : pageFiles_.add(pageFile);
+}
+
+std::string_view BookmarkRegistry::pageFile(Id id) const noexcept {
+    return pageFiles_[records_[id].pageFile];
+}
+
+OrxString BookmarkRegistry::reference(Id id) const {
+    const std::string_view file = pageFile(id);
+    const std::string_view filePart = file.substr(path_text::fileStart(file));
+    const std::string_view name = names_.name(id);
+    std::string text;
+    text.reserve(filePart.size() + 1 + name.size());
+    return text.append(filePart).append("#").append(name);
+}
+
+void BookmarkRegistry::clear() noexcept {
+    *this = BookmarkRegistry();
+}
+
+}  // namespace quillmark

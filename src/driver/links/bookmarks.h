@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "driver/links/bookmark_registry.h"
+#include "driver/pages/held_pages.h"
+#include "driver/pages/output_router.h"
+#include "platform/trace.h"
+
+namespace quillmark {
+
+/// Named places and the links to them, also to places that do not exist yet.
+///
+/// A link to an unknown place leaves marks in the current page; the definition fills the marks of
+/// every page that waits, and a page that is finished and whose last mark is filled is written at
+/// that moment.
+class Bookmarks {
+public:
+    /// Who defines: the host's own tags, or the driver for its pages and contents entries. It
+    /// only decides at which trace level a second definition is told.
+    enum class Origin { host, driver };
+
+    Bookmarks(OutputRouter& out, Trace& trace) noexcept : out_(out), trace_(trace) {}
+
+    /// Writes the anchor to the current page and fills what waits for it. An empty name does
+    /// nothing; a name defined before only gets its warning.
+    void define(std::string_view name, Origin origin);
+
+    /// Writes `markup` with the link in the place of the name's first occurrence, or leaves a mark
+    /// for it. An empty markup is the bare link attribute.
+    void reference(std::string_view name, std::string_view markup);
+
+    [[nodiscard]] HeldPages& heldPages() noexcept { return held_; }
+    /// The number that the current page waits and is held under.
+    void setPageNumber(std::uint32_t number) noexcept { pageNumber_ = number; }
+    void clear() noexcept {
+        registry_.clear();
+        lastWay_ = {};
+    }
+
+private:
+    void writeAnchor(BookmarkRegistry::Id id, std::string_view name);
+    void resolve(BookmarkRegistry::Id id, std::string_view name);
+    void writeReference(std::string_view name, std::string_view markup, std::string_view reference);
+    /// The bookmark's reference as seen from a page; it lives until the next call.
+    [[nodiscard]] std::string_view relativeReference(BookmarkRegistry::Id id,
+                                                     const DocHtmlPage& page);
+
+    OutputRouter& out_;
+    Trace& trace_;
+    BookmarkRegistry registry_;
+    HeldPages held_;
+    std::uint32_t pageNumber_ = 1;
+
+    /// What stands in front of a bookmark's name, from one page to another: thousands of links in
+    /// a row go the same way.
+    struct Way {
+        OrxString fromPage;
+        std::uint32_t toPage = 0;
+        OrxString link;
+    };
+    Way lastWay_;
+
+    // Kept between calls for their memory alone.
+    std::string anchor_;
+    std::string reference_;
+};
+
+}  // namespace quillmark

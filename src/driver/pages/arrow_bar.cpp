@@ -1,0 +1,47 @@
+#include "driver/pages/arrow_bar.h"
+
+#include "contents/support_files.h"
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+namespace {
+
+/// In the order of `ArrowBar::Picture`.
+constexpr std::array pictureNames = {arrow_pictures::back, arrow_pictures::backDead,
+                                     arrow_pictures::forward, arrow_pictures::forwardDead};
+
+}  // namespace
+
+OrxString ArrowBar::pictureLink(Picture picture) {
+    const OrxString file = SysFile::appendToDir(context_.settings.pixDir, pictureNames.at(picture));
+    return context_.documentLink(file, links_.at(picture));
+}
+
+void ArrowBar::appendArrow(OrxString& bar, std::uint32_t pageNumber, Picture picture) {
+    bar.append("<A HREF=\"./");
+    bar.append(SysFile::stripDir(context_.names.pageFileName(pageNumber, "")));
+    bar.append("\"><IMG SRC=\"").append(pictureLink(picture));
+    bar.append("\" BORDER=\"0\" HSPACE=5 NOSAVE HEIGHT=20 WIDTH=19></A>\n");
+}
+
+OrxString ArrowBar::bar(std::uint32_t pageNumber, bool lastPage) {
+    OrxString bar;
+    // The dead arrows write their attributes in two different orders; browsers do not mind, and
+    // comparisons of document sets do.
+    if (pageNumber == OutputNames::firstPageNumber) {
+        bar.append("<IMG SRC=\"").append(pictureLink(backOff));
+        bar.append("\" BORDER=\"0\" NOSAVE HEIGHT=20 WIDTH=22>\n");
+    } else {
+        appendArrow(bar, pageNumber - 1, backOn);
+    }
+    if (lastPage) {
+        bar.append("<IMG SRC=\"").append(pictureLink(forwardOff));
+        bar.append("\" NOSAVE BORDER=\"0\" HEIGHT=20 WIDTH=22>\n");
+    } else {
+        appendArrow(bar, pageNumber + 1, forwardOn);
+    }
+    return bar.append("<BR>\n");
+}
+
+}  // namespace quillmark

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "driver/pages/document_context.h"
+#include "page/link_memo.h"
+
+namespace quillmark {
+
+/// The back and next arrows at the top of a page, and the line break behind them.
+///
+/// They lead to pages of the page's own directory, also for pages that were sent into a
+/// subdirectory, and to pages that may turn out empty and never be written.
+class ArrowBar {
+public:
+    explicit ArrowBar(const DocumentContext& context) noexcept : context_(context) {}
+
+    /// The bar of the page being written.
+    [[nodiscard]] OrxString bar(std::uint32_t pageNumber, bool lastPage);
+
+private:
+    enum Picture : std::uint8_t { backOn, backOff, forwardOn, forwardOff, pictureCount };
+
+    [[nodiscard]] OrxString pictureLink(Picture picture);
+    void appendArrow(OrxString& bar, std::uint32_t pageNumber, Picture picture);
+
+    const DocumentContext& context_;
+    std::array<LinkMemo, pictureCount> links_;
+};
+
+}  // namespace quillmark

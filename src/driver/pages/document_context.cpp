@@ -1,0 +1,36 @@
+#include "driver/pages/document_context.h"
+
+#include "page/links.h"
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+OrxString DocumentContext::pageDir() const {
+    return SysFile::getDir(out.page().getFileName());
+}
+
+OrxString DocumentContext::documentLink(const OrxString& fileName) const {
+    LinkMemo forThisOnce;
+    return documentLink(fileName, forThisOnce);
+}
+
+OrxString DocumentContext::documentLink(const OrxString& fileName, LinkMemo& memo) const {
+    if (settings.useRelative) {
+        return memo.relativeFile(fileName, pageDir());
+    }
+    return "file:///" + links::fromPath(fileName);
+}
+
+OrxString DocumentContext::copyTo(const OrxString& directory, const OrxString& fileName) const {
+    return copier.copyToDir(fileName, directory, "", trace);
+}
+
+void DocumentContext::traceError(std::string_view opening, std::string_view subject) const {
+    if (trace.isTrace(Trace::errors)) {
+        OrxString line(opening);
+        line.append(subject).append('\n');
+        trace.write(Trace::errors, line);
+    }
+}
+
+}  // namespace quillmark

@@ -1,0 +1,74 @@
+#include "driver/pages/document_settings.h"
+
+#include "host/app_profile_interface.h"
+#include "platform/sys_directory.h"
+#include "settings/ini_file.h"
+#include "settings/register_dynamic.h"
+
+namespace quillmark {
+
+namespace {
+
+constexpr std::size_t iniBufferSize = 4096;
+constexpr const char* iniSection = "Quillmark";
+
+RegEntry readHtml(const RegisterCache& settings, const char* name) {
+    return settings.read(htmlGroup, name, defaultValue(htmlGroup, name));
+}
+
+RegEntry readDirectly(const char* name) {
+    return RegisterDynamic().read(settingsGroup, name, defaultValue(settingsGroup, name));
+}
+
+OrxString iniFileName() {
+    const AppProfileInterface* const profile = AppProfileInterface::getInterface();
+    return profile != nullptr ? profile->profilePath() : OrxString("Veltrano.ini");
+}
+
+}  // namespace
+
+void DocumentSettings::readPlaces(const RegisterCache& settings, const OrxString& outputDir) {
+    const auto html = [&settings](const char* name) { return readHtml(settings, name); };
+    pixDir = SysDirectory::getSpecificPath(outputDir, html("HtmlPixDir").asString());
+    SysDirectory::checkDirectoryAndCreate(pixDir);
+    externalDocDir = SysDirectory::getSpecificPath(outputDir, html("ExternalDocDir").asString());
+    useRelative = html("UseRelative").asBool();
+    showIcons = html("ShowIcons").asBool();
+    iconFile = html("IconFile").asString();
+    supportOld = html("SupportOld").asBool();
+    bodyTags = html("BodyTags").asString();
+    suppressImageMaps = html("SuppressImageMaps").asBool();
+    navigation = effectiveNavigation(html("Navig").asShort());
+    tocLevel = static_cast<std::uint32_t>(html("TOCLevel").asInt());
+    dontCopy = html("DontCopy").asString();
+    installDir = readDirectly("InstallDir").asString();
+    styleSheet = html("StyleSheet").asString();
+}
+
+void DocumentSettings::readTexts(const RegisterCache& settings) {
+    passThrough = readHtml(settings, "PassThrough").asBool();
+    locateInBrowser = readHtml(settings, "LocateInBrowser").asBool();
+    testLevel = readDirectly("TestLevel").asInt();
+    // Asked for and not kept: the host draws the diagrams, but a store may count on being asked.
+    static_cast<void>(readHtml(settings, "DiagramType"));
+}
+
+bool DocumentSettings::readIniFile() {
+    const OrxString file = iniFileName();
+    // This one is compared with case, the next one without.
+    const bool beforeJava7 =
+        IniFile::read(file, iniSection, "UseJavaPre7", "FALSE", iniBufferSize) == "TRUE";
+    OrxString expand =
+        IniFile::read(file, iniSection, "ExpandRelativeDocumentNames", "TRUE", iniBufferSize);
+    expandRelativeNames = true;
+    if (!expand.isEmpty()) {
+        expandRelativeNames = expand.toUpper() != OrxString("FALSE");
+    }
+    return !beforeJava7;
+}
+
+OrxString userFilesDir() {
+    return readDirectly("UserFilesDir").asString();
+}
+
+}  // namespace quillmark

@@ -1,0 +1,86 @@
+#include "driver/text/contents_collector.h"
+
+#include <string>
+
+#include "contents/entries/entry_icons.h"
+#include "contents/static_listing.h"
+#include "foundation/decimal.h"
+#include "page/page_marks.h"
+
+namespace quillmark {
+
+void ContentsCollector::reset() noexcept {
+    entries_.clear();
+    tocAnchorCount_ = 0;
+    inTocEntry_ = false;
+}
+
+void ContentsCollector::openAnchor() {
+    const std::string name = "toc" + std::to_string(++tocAnchorCount_);
+    bookmarks_.define(name, Bookmarks::Origin::driver);
+    tocAnchor_ = name;
+    tocText_.clear();
+}
+
+void ContentsCollector::startEntry() {
+    openAnchor();
+    inTocEntry_ = true;
+}
+
+void ContentsCollector::endEntry() {
+    addEntry(tocAnchor_, tocText_, levelOfStyle());
+    inTocEntry_ = false;
+}
+
+void ContentsCollector::completeHeading() {
+    if (tocLevel_ != 0 && !tocAnchor_.isEmpty() && !tocText_.isEmpty()) {
+        addEntry(tocAnchor_, tocText_, levelOfStyle());
+    }
+}
+
+std::int32_t ContentsCollector::levelOfStyle() const {
+    // The style need not be a heading: any name loses as many characters as "Heading " has.
+    constexpr std::size_t prefixLength = std::string_view("Heading ").size();
+    const OrxString& style = out_.state().styleName;
+    if (style.isEmpty()) {
+        return static_cast<std::int32_t>(tocLevel_);
+    }
+    const std::int32_t level = leadingInteger(style.substr(prefixLength));
+    return level == 0 ? 1 : level;
+}
+
+void ContentsCollector::addEntry(OrxString& anchor, const OrxString& text, std::int32_t level) {
+    if (anchor.isEmpty() || text.isEmpty()) {
+        return;
+    }
+    pageHasTocEntry_ = true;
+    OrxString href = pageLink_.relativeFile(out_.page().getFileName(), outputDir_);
+    href.append('#').append(anchor);
+    const EntryIcons icons = showIcons_ ? entryIconsOf(currentElement_) : EntryIcons{};
+    entries_.add(TocEntryView{href, text, level, icons.gif, icons.stereoGif});
+    anchor.clear();
+}
+
+void ContentsCollector::finishPage(std::uint32_t pageNumber) {
+    DocHtmlPage& page = out_.page();
+    if (!pageHasTocEntry_) {
+        OrxString anchor = "Page " + OrxString(std::to_string(pageNumber));
+        addEntry(anchor, OrxString(anchor), 1);
+        if (page.setInsertPoint(page_marks::topOfPage)) {
+            // This anchor stays open: the next entry will point back at the top of this page.
+            openAnchor();
+            page.clearInsertPoint();
+        }
+    }
+    page.removeMarks(page_marks::topOfPage);
+}
+
+void ContentsCollector::fillListing(DocHtmlPage& page) const {
+    if (page.setInsertPoint(page_marks::contentsListing)) {
+        writeStaticListing(entries_, page);
+        page.clearInsertPoint();
+        page.removeMarks(page_marks::contentsListing);
+    }
+}
+
+}  // namespace quillmark

@@ -1,0 +1,76 @@
+#include "driver/text/escape_text.h"
+
+#include <cstddef>
+
+namespace quillmark {
+
+namespace {
+
+constexpr std::string_view tabText = "&nbsp;&nbsp; ";
+constexpr std::string_view lineFeedText = "<BR>\n";
+constexpr std::string_view twoBlanksText = "&nbsp; ";
+constexpr std::string_view twoAnglesText = "&lt;&lt;";
+
+/// Whether anything changes at all. Nearly every text is plain, so this looks at every byte
+/// without a jump, in a loop that the compiler can vectorise.
+bool hasStop(std::string_view text, bool passThrough) noexcept {
+    if (text.empty()) {
+        return false;
+    }
+    const char* const bytes = text.data();
+    const std::size_t last = text.size() - 1;
+    const char angle = passThrough ? '<' : ' ';
+    unsigned char stops = 0;
+    for (std::size_t i = 0; i < last; ++i) {
+        stops |= (bytes[i] == '\t') | (bytes[i] == '\n') |
+                 ((bytes[i] == ' ') & (bytes[i + 1] == ' ')) |
+                 ((bytes[i] == angle) & (bytes[i + 1] == angle));
+    }
+    return stops != 0 || bytes[last] == '\t' || bytes[last] == '\n';
+}
+
+/// What stands for the text at a stop, and how many bytes of the text it stands for; a length of
+/// 0 when nothing changes there.
+struct Replacement {
+    std::string_view html;
+    std::size_t length = 0;
+};
+
+Replacement replacementAt(std::string_view text, std::size_t pos, bool passThrough) noexcept {
+    const bool doubled = pos + 1 < text.size() && text[pos + 1] == text[pos];
+    switch (text[pos]) {
+        case '\t':
+            return {tabText, 1};
+        case '\n':
+            return {lineFeedText, 1};
+        case ' ':
+            return doubled ? Replacement{twoBlanksText, 2} : Replacement{};
+        case '<':
+            return doubled && passThrough ? Replacement{twoAnglesText, 2} : Replacement{};
+        default:
+            return {};
+    }
+}
+
+}  // namespace
+
+std::string_view escapeText(std::string_view text, bool passThrough, std::string& buffer) {
+    if (!hasStop(text, passThrough)) {
+        return text;
+    }
+    buffer.clear();
+    std::size_t copied = 0;
+    for (std::size_t pos = 0; pos < text.size();) {
+        const Replacement replacement = replacementAt(text, pos, passThrough);
+        if (replacement.length == 0) {
+            ++pos;
+            continue;
+        }
+        buffer.append(text, copied, pos - copied).append(replacement.html);
+        pos += replacement.length;
+        copied = pos;
+    }
+    return buffer.append(text, copied);
+}
+
+}  // namespace quillmark

@@ -1,0 +1,146 @@
+#include "driver/text/font_writer.h"
+
+#include <array>
+#include <string>
+
+namespace quillmark {
+
+namespace {
+
+struct AttributeRow {
+    std::int16_t code;
+    std::string_view word;
+    std::string_view opening;
+    std::string_view closing;
+    bool FontData::*flag;
+};
+
+constexpr std::array<AttributeRow, 4> attributes = {{
+    {DocBold, "DocBold", "<B>", "</B>", &FontData::bold},
+    {DocItalic, "DocItalic", "<I>", "</I>", &FontData::italic},
+    {DocUnderline, "DocUnderline", "<U>", "</U>", &FontData::underline},
+    {DocStrike, "DocStrike", "<STRIKE>", "</STRIKE>", &FontData::strike},
+}};
+
+constexpr std::string_view baseFontOpening = "<BASEFONT SIZE = ";
+constexpr std::string_view baseFontClosing = "</BASEFONT>";
+
+const AttributeRow* findAttribute(std::int16_t code) noexcept {
+    for (const AttributeRow& row : attributes) {
+        if (row.code == code) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+char sizeDigit(std::int16_t points) noexcept {
+    constexpr std::array<std::int16_t, 6> upperBounds = {8, 10, 12, 15, 20, 28};
+    char digit = '1';
+    for (const std::int16_t bound : upperBounds) {
+        digit = static_cast<char>(digit + (points > bound ? 1 : 0));
+    }
+    return digit;
+}
+
+}  // namespace
+
+std::string_view fontAttributeWord(std::int16_t code) noexcept {
+    const AttributeRow* const row = findAttribute(code);
+    return row != nullptr ? row->word : std::string_view();
+}
+
+void FontWriter::setName(const OrxString& name) {
+    close();
+    FontData font;
+    font.name = name;
+    reopen(font);  // a fresh font has no size and no attribute: nothing is written
+}
+
+void FontWriter::setSize(std::int16_t points) {
+    FontData font = current();
+    font.size = static_cast<std::uint16_t>(points);
+    if (points == 0) {
+        out_.writeOut(baseFontClosing);
+    } else {
+        writeBaseFont(points);
+    }
+    store(font);
+}
+
+void FontWriter::setAttribute(std::int16_t code, bool value) {
+    FontData font = current();
+    if (const AttributeRow* const row = findAttribute(code); row != nullptr) {
+        font.*(row->flag) = value;
+        out_.writeOut(value ? row->opening : row->closing);
+    }
+    store(font);
+}
+
+FontData FontWriter::current() const {
+    const DocHtmlTextState& state = out_.state();
+    if (out_.inBody() && !state.fontOpen) {
+        return {};
+    }
+    return state.font;
+}
+
+void FontWriter::store(const FontData& font) {
+    DocHtmlTextState& state = out_.state();
+    state.fontOpen = font.size != 0 || font.hasAttribute();
+    if (state.fontOpen) {
+        state.font = font;
+    }
+}
+
+void FontWriter::writeBaseFont(std::int16_t points) {
+    if (points != 0) {
+        std::string tag(baseFontOpening);
+        tag.append(1, sizeDigit(points)).append(">");
+        out_.writeOut(tag);
+    }
+}
+
+void FontWriter::openTags(const FontData& font) {
+    writeBaseFont(static_cast<std::int16_t>(font.size));
+    for (const AttributeRow& row : attributes) {
+        if (font.*(row.flag)) {
+            out_.writeOut(row.opening);
+        }
+    }
+}
+
+void FontWriter::closeTags(const FontData& font) {
+    std::string tags;
+    if (font.size != 0) {
+        tags.append(baseFontClosing);
+    }
+    for (const AttributeRow& row : attributes) {
+        if (font.*(row.flag)) {
+            tags.append(row.closing);
+        }
+    }
+    out_.writeOut(tags);
+}
+
+void FontWriter::close() {
+    DocHtmlTextState& state = out_.state();
+    if (state.fontOpen) {
+        state.fontOpen = false;
+        closeTags(state.font);
+    }
+}
+
+void FontWriter::switchTo(const FontData& font) {
+    close();
+    reopen(font);
+}
+
+void FontWriter::reopen(const FontData& font) {
+    DocHtmlTextState& state = out_.state();
+    state.font = font;
+    state.fontOpen = true;
+    openTags(font);
+}
+
+}  // namespace quillmark

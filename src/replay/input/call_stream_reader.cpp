@@ -1,0 +1,152 @@
+#include "replay/input/call_stream_reader.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+
+#include "replay/input/call_builder.h"
+#include "replay/input/json_text.h"
+#include "replay/input/rapidjson_reader.h"
+
+namespace quillmark::replay {
+
+namespace {
+
+constexpr std::string_view blank = " \t\r";
+
+bool isBlank(std::span<const char> line) noexcept {
+    return std::string_view(line.data(), line.size()).find_first_not_of(blank) ==
+           std::string_view::npos;
+}
+
+}  // namespace
+
+/// Turns the events of one line's array into a call. An event that does not belong to a call
+/// leaves its reason in `problem_` and ends the line.
+class CallStreamReader::Parser : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Parser> {
+public:
+    bool parse(std::span<char> line, Call& call) {
+        call_ = &call;
+        problem_.clear();
+        isOpen_ = false;
+        builder_.start(call);
+        const std::size_t size = foldLoneSurrogates(line);
+        surrogates_ = size != line.size();
+        line[size] = '\0';
+        // A text never has more units than its line has bytes.
+        if (units_.size() < size) {
+            units_.resize(std::max(size, units_.size() * 2));
+        }
+        nextUnit_ = units_.data();
+
+        rapidjson::InsituStringStream stream(line.data());
+        const rapidjson::ParseResult result =
+            reader_.Parse<rapidjson::kParseInsituFlag>(stream, *this);
+        if (result.IsError() && problem_.empty()) {
+            problem_ = std::string("malformed JSON: ") + rapidjson::GetParseError_En(result.Code());
+            problem_.erase(problem_.find_last_not_of('.') + 1);
+        } else if (!result.IsError() && stream.Tell() != size) {
+            problem_ = "malformed JSON: a zero byte";
+        }
+        return problem_.empty();
+    }
+
+    [[nodiscard]] const std::string& problem() const noexcept { return problem_; }
+
+    bool StartArray() {
+        if (isOpen_) {
+            return builder_.addOther(problem_);
+        }
+        isOpen_ = true;
+        return true;
+    }
+    bool EndArray(rapidjson::SizeType /*count*/) { return builder_.finish(problem_); }
+    bool String(const char* text, rapidjson::SizeType size, bool /*copy*/) {
+        if (!isOpen_) {
+            return Default();
+        }
+        if (!builder_.isNamed()) {
+            return builder_.name({text, size}, problem_);
+        }
+        char16_t* const end = decodeUtf8({text, size}, nextUnit_, surrogates_);
+        if (end == nullptr) {
+            problem_ = "the text is not UTF-8";
+            return false;
+        }
+        const WideText argument(nextUnit_, static_cast<std::size_t>(end - nextUnit_));
+        nextUnit_ = end;
+        return builder_.addText(argument, problem_);
+    }
+    bool Bool(bool value) { return isOpen_ ? builder_.addBoolean(value, problem_) : Default(); }
+    bool Int(int value) { return Int64(value); }
+    bool Uint(unsigned value) { return Int64(value); }
+    bool Int64(std::int64_t value) {
+        return isOpen_ ? builder_.addInteger(value, problem_) : Default();
+    }
+    /// Everything else: null, a number that is no integer or beyond all of them, an object.
+    bool Default() {
+        if (isOpen_) {
+            return builder_.addOther(problem_);
+        }
+        problem_ = "not a call: a line holds one array, an operation's name and its arguments";
+        return false;
+    }
+
+private:
+    rapidjson::Reader reader_;
+    CallBuilder builder_;
+    Call* call_ = nullptr;
+    std::string problem_;
+    std::u16string units_;
+    char16_t* nextUnit_ = nullptr;
+    bool isOpen_ = false;
+    bool surrogates_ = false;
+};
+
+CallStreamReader::CallStreamReader(InputBuffer& input)
+    : input_(input), parser_(std::make_unique<Parser>()) {}
+
+CallStreamReader::~CallStreamReader() = default;
+
+bool CallStreamReader::takeLine(std::span<char>& line) {
+    std::size_t searched = 0;
+    for (;;) {
+        const std::span<char> bytes = input_.unread();
+        void* const hit = std::memchr(bytes.data() + searched, '\n', bytes.size() - searched);
+        if (hit != nullptr) {
+            const auto size = static_cast<std::size_t>(static_cast<char*>(hit) - bytes.data());
+            line = bytes.first(size);
+            input_.drop(size + 1);
+            return true;
+        }
+        searched = bytes.size();
+        if (!input_.fill()) {
+            line = input_.unread();
+            input_.drop(line.size());
+            return !line.empty();
+        }
+    }
+}
+
+ReadResult CallStreamReader::next(Call& call) {
+    std::span<char> line;
+    while (takeLine(line)) {
+        ++line_;
+        if (isBlank(line)) {
+            continue;
+        }
+        call.line = line_;
+        if (!parser_->parse(line, call)) {
+            problem_ = parser_->problem();
+            return ReadResult::malformed;
+        }
+        return ReadResult::call;
+    }
+    if (input_.failed()) {
+        problem_ = unreadable;
+        return ReadResult::malformed;
+    }
+    return ReadResult::end;
+}
+
+}  // namespace quillmark::replay

@@ -1,0 +1,77 @@
+#include "replay/input/inputs.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include "replay/input/bad_input.h"
+#include "replay/input/call_stream_reader.h"
+#include "replay/input/recording_reader.h"
+#include "replay/tool/option_files.h"
+
+namespace quillmark::replay {
+
+namespace {
+
+constexpr std::streamsize bufferSize = std::streamsize{256} * 1024;
+
+/// A file stream that reads in large pieces.
+class LargeFile final : public std::ifstream {
+public:
+    explicit LargeFile(const std::filesystem::path& name)
+        : buffer_(static_cast<std::size_t>(bufferSize)) {
+        rdbuf()->pubsetbuf(buffer_.data(), bufferSize);
+        open(name, std::ios::binary);
+    }
+    ~LargeFile() override { close(); }
+    LargeFile(const LargeFile&) = delete;
+    LargeFile& operator=(const LargeFile&) = delete;
+
+private:
+    std::vector<char> buffer_;
+};
+
+std::unique_ptr<std::istream> openFile(const std::string& name) {
+    const std::filesystem::path path = pathFrom(name);
+    auto file = std::make_unique<LargeFile>(path);
+    if (!file->is_open() || std::filesystem::is_directory(path)) {
+        throw BadInput("cannot read " + name);
+    }
+    return file;
+}
+
+}  // namespace
+
+Inputs::Inputs(std::span<const std::string> names, std::istream& standardInput) {
+    for (const std::string& name : names) {
+        Input& input = inputs_.emplace_back();
+        input.name = name;
+        if (name != "-") {
+            input.file = openFile(name);
+        }
+        input.buffer = std::make_unique<InputBuffer>(name == "-" ? standardInput : *input.file);
+    }
+    for (Input& input : inputs_) {
+        input.format = detectFormat(*input.buffer);
+        if (input.format == InputFormat::nothing && input.buffer->failed()) {
+            throw BadInput("cannot read " + (input.file ? input.name : "the standard input"));
+        }
+    }
+}
+
+bool Inputs::hasRecording() const noexcept {
+    return std::ranges::any_of(
+        inputs_, [](const Input& input) { return input.format == InputFormat::recording; });
+}
+
+std::unique_ptr<CallSource> makeSource(const Inputs::Input& input) {
+    if (input.format == InputFormat::callStream) {
+        return std::make_unique<CallStreamReader>(*input.buffer);
+    }
+    if (input.format == InputFormat::recording) {
+        return std::make_unique<RecordingReader>(*input.buffer);
+    }
+    return nullptr;
+}
+
+}  // namespace quillmark::replay

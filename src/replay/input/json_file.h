@@ -1,0 +1,21 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "foundation/orx_string.h"
+#include "replay/input/rapidjson_reader.h"
+
+namespace quillmark::replay {
+
+/// Reads a file that holds one JSON object. `shown` is how messages name the file. Throws
+/// `BadInput` when it cannot be read or is malformed.
+[[nodiscard]] rapidjson::Document readJsonObject(const std::filesystem::path& file,
+                                                 std::string_view shown);
+
+/// A JSON string in the driver's 8-bit form.
+[[nodiscard]] OrxString narrowText(const rapidjson::Value& value);
+[[nodiscard]] std::string_view utf8Text(const rapidjson::Value& value);
+
+}  // namespace quillmark::replay

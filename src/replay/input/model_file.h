@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string_view>
+
+#include "host/metamodel.h"
+
+namespace quillmark::replay {
+
+/// Model metadata from a JSON file: the schema type, and for each element's handle its class and
+/// attributes. The model has no associations.
+class ModelFile final : public MMSchema {
+public:
+    /// Throws `BadInput` when the file cannot be read or holds something else.
+    ModelFile(const std::filesystem::path& file, std::string_view shown);
+    ~ModelFile() override;
+    ModelFile(const ModelFile&) = delete;
+    ModelFile& operator=(const ModelFile&) = delete;
+
+    [[nodiscard]] int schemaType() const noexcept { return schemaType_; }
+    [[nodiscard]] const MMObject* object(std::uint64_t handle) const override;
+    [[nodiscard]] const MMClass* findClass(const OrxString& name) const override;
+
+private:
+    class Attribute;
+    class Class;
+    class Element;
+
+    int schemaType_ = 1;
+    std::map<OrxString, std::unique_ptr<Class>> classes_;
+    std::map<std::uint64_t, std::unique_ptr<Element>> elements_;
+};
+
+}  // namespace quillmark::replay

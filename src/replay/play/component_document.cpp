@@ -1,0 +1,96 @@
+#include "replay/play/component_document.h"
+
+#include <array>
+#include <limits>
+#include <vector>
+
+#include "dochtml/text.h"
+
+namespace quillmark::replay {
+
+namespace {
+
+/// The arguments of a call as variants, in the order that a dispatch interface wants.
+class VariantArguments {
+public:
+    explicit VariantArguments(std::span<const Argument> arguments)
+        : texts_(arguments.size()), variants_(arguments.size()) {
+        for (std::size_t i = 0; i < arguments.size(); ++i) {
+            VARIANT& variant = variants_[arguments.size() - 1 - i];
+            VariantInit(&variant);
+            std::visit([&](const auto& value) { put(variant, texts_[i], value); }, arguments[i]);
+        }
+        parameters_ = {variants_.data(), nullptr, static_cast<UINT>(variants_.size()), 0};
+    }
+
+    [[nodiscard]] DISPPARAMS* parameters() noexcept { return &parameters_; }
+
+    /// Hands on what the component put into the out texts.
+    void takeOutTexts(std::span<const Argument> arguments) const {
+        for (std::size_t i = 0; i < arguments.size(); ++i) {
+            if (auto* const* out = std::get_if<std::u16string*>(&arguments[i])) {
+                **out = texts_[i].view();
+            }
+        }
+    }
+
+private:
+    static void put(VARIANT& variant, Text& text, WideText value) {
+        text = Text(value);
+        variant.vt = VT_BSTR;
+        variant.bstrVal = text.get();
+    }
+    static void put(VARIANT& variant, Text&, std::int64_t value) {
+        using Long = std::numeric_limits<std::int32_t>;
+        if (value >= Long::min() && value <= Long::max()) {
+            variant.vt = VT_I4;
+            variant.lVal = static_cast<LONG>(value);
+        } else {
+            variant.vt = VT_I8;
+            variant.llVal = value;
+        }
+    }
+    static void put(VARIANT& variant, Text&, bool value) {
+        variant.vt = VT_BOOL;
+        variant.boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
+    }
+    static void put(VARIANT& variant, Text& text, std::u16string*) {
+        variant.vt = VT_BYREF | VT_BSTR;
+        variant.pbstrVal = text.receive();
+    }
+
+    std::vector<Text> texts_;
+    std::vector<VARIANT> variants_;
+    DISPPARAMS parameters_{};
+};
+
+InvokeStatus statusOf(HRESULT result) noexcept {
+    switch (result) {
+        case DISP_E_MEMBERNOTFOUND:
+            return InvokeStatus::unknownOperation;
+        case DISP_E_BADPARAMCOUNT:
+            return InvokeStatus::wrongArgumentCount;
+        default:
+            return SUCCEEDED(result) ? InvokeStatus::done : InvokeStatus::wrongArgumentKind;
+    }
+}
+
+}  // namespace
+
+int ComponentDocument::idOf(std::string_view name) {
+    const Text wide(std::u16string(name.begin(), name.end()));
+    std::array<LPOLESTR, 1> names = {wide.get()};
+    DISPID id = DISPID_UNKNOWN;
+    const HRESULT result = document_->GetIDsOfNames(IID_NULL, names.data(), 1, 0, &id);
+    return SUCCEEDED(result) ? static_cast<int>(id) : 0;
+}
+
+InvokeStatus ComponentDocument::invoke(int id, std::span<const Argument> arguments) {
+    VariantArguments variants(arguments);
+    const HRESULT result = document_->Invoke(id, IID_NULL, 0, DISPATCH_METHOD,
+                                             variants.parameters(), nullptr, nullptr, nullptr);
+    variants.takeOutTexts(arguments);
+    return statusOf(result);
+}
+
+}  // namespace quillmark::replay

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <memory>
+
+#include "driver/boundary/i_document.h"
+#include "replay/play/late_bound_document.h"
+
+namespace quillmark::replay {
+
+/// Serves a document of this process through the table of operations. Exceptions end here, in
+/// the exception log, as at the boundary of a component.
+class InProcessDocument final : public LateBoundDocument {
+public:
+    explicit InProcessDocument(std::unique_ptr<IDocument> document);
+
+    [[nodiscard]] int idOf(std::string_view name) override;
+    InvokeStatus invoke(int id, std::span<const Argument> arguments) override;
+
+private:
+    std::unique_ptr<IDocument> document_;
+};
+
+}  // namespace quillmark::replay

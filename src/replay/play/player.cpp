@@ -1,0 +1,185 @@
+#include "replay/play/player.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/path_text.h"
+#include "platform/sys_directory.h"
+#include "platform/sys_text.h"
+#include "replay/input/bad_input.h"
+
+namespace quillmark::replay {
+
+namespace {
+
+const Operation& operationOf(const char* name) {
+    return *findOperation(name);
+}
+
+const Operation& createOperation() {
+    static const Operation& operation = operationOf("create");
+    return operation;
+}
+
+const Operation& closeOperation() {
+    static const Operation& operation = operationOf("close");
+    return operation;
+}
+
+std::string quoted(std::string_view text) {
+    constexpr std::size_t most = 120;
+    const bool cut = text.size() > most;
+    return SysText::toUtf8(text.substr(0, most)) + (cut ? " ..." : "");
+}
+
+}  // namespace
+
+Player::Player(Settings settings, Listeners listeners, HeardTrace& trace,
+               const HeardExceptions& exceptions)
+    : settings_(std::move(settings)),
+      listeners_(std::move(listeners)),
+      trace_(trace),
+      exceptions_(exceptions) {}
+
+LateBoundDocument& Player::document() {
+    if (document_ == nullptr) {
+        document_ = settings_.makeDocument();
+        learnIdentifiers();
+        if (settings_.traceLevel) {
+            const Argument level = std::int64_t{*settings_.traceLevel};
+            invoke(operationOf("trace"), {&level, 1});
+        }
+    }
+    return *document_;
+}
+
+void Player::learnIdentifiers() {
+    std::ranges::transform(operations(), ids_.begin(), [this](const Operation& operation) {
+        const int id = document_->idOf(operation.name);
+        if (id == 0) {
+            throw BadInput(std::string("the document does not know ") + operation.name);
+        }
+        return id;
+    });
+}
+
+void Player::finish() {
+    document_.reset();
+    isOpen_ = false;
+}
+
+void Player::invoke(const Operation& operation, std::span<const Argument> arguments) {
+    LateBoundDocument& target = document();
+    const int id = ids_[static_cast<std::size_t>(operation.dispatchId - 1)];
+    if (arguments.size() == operation.parameters.size()) {
+        target.invoke(id, arguments);
+        return;
+    }
+    std::u16string text;
+    const Argument place = &text;
+    target.invoke(id, {&place, 1});
+    if (listeners_.answer) {
+        listeners_.answer(text);
+    }
+}
+
+/// Puts the name that the document is to have into a call of `create`, and into its line. A name
+/// that is absolute already is left exactly as the host gave it.
+void Player::adaptCreate(Call& call) {
+    OrxString name = SysText::narrow(std::get<WideText>(call.arguments[0]));
+    const bool replaced = settings_.outputName.has_value();
+    if (replaced) {
+        name = *std::exchange(settings_.outputName, std::nullopt);
+    }
+    if (!path_text::isAbsolute(name)) {
+        name = SysDirectory::getSpecificPath(settings_.startDirectory, name);
+    } else if (!replaced) {
+        return;
+    }
+    fileName_ = SysText::widen(name);
+    call.arguments[0] = WideText(fileName_);
+    if (!call.recorded.empty()) {
+        createLine_ = "dochtml->create(\"" + name.str() + "\");";
+        call.recorded = createLine_;
+    }
+}
+
+void Player::playCall(Call& call) {
+    if (call.operation == nullptr) {
+        finish();
+        document();
+        return;
+    }
+    const bool opens = call.operation == &createOperation();
+    if (opens) {
+        adaptCreate(call);
+    }
+    const std::size_t caught = exceptions_.caught();
+    invoke(*call.operation, call.given());
+    if (opens) {
+        isOpen_ = exceptions_.caught() == caught;
+    } else if (call.operation == &closeOperation()) {
+        isOpen_ = false;
+    }
+}
+
+/// What the driver wrote there, for a message.
+std::string Player::describe(std::size_t line) const {
+    return line < trace_.calls().size()
+               ? "the driver called " + quoted(trace_.calls()[static_cast<std::uint32_t>(line)])
+               : std::string("the driver wrote no line");
+}
+
+/// Takes the lines that the driver wrote for `call` off the recording and reads the next call
+/// that the host made. A line that the recording does not have is passed over, so that the lines
+/// behind it still find their own.
+ReadResult Player::takeOff(CallSource& source, Call& call) {
+    const PackedTexts& heard = trace_.calls();
+    const auto tell = [this](std::size_t line, const std::string& how) {
+        if (listeners_.diverged) {
+            listeners_.diverged(line, how);
+        }
+    };
+    bool diverged = heard.size() == 0 || heard[0] != call.recorded;
+    if (diverged) {
+        tell(call.line, describe(0) + " for " + quoted(call.recorded));
+    }
+    const std::size_t servedLine = call.line;
+    ReadResult result = source.next(call);
+    for (std::uint32_t i = 1; i < heard.size(); ++i) {
+        const bool same = result == ReadResult::call && heard[i] == call.recorded;
+        // A line that cannot be read is told when its turn comes.
+        if (!same && !diverged && result != ReadResult::malformed) {
+            diverged = true;
+            const bool more = result == ReadResult::call;
+            tell(more ? call.line : servedLine,
+                 describe(i) + (more ? ", the recording has " + quoted(call.recorded)
+                                     : std::string(", the recording ends")));
+        }
+        if (same) {
+            result = source.next(call);
+        }
+    }
+    return result;
+}
+
+bool Player::play(CallSource& source) {
+    Call call;
+    ReadResult result = source.next(call);
+    while (result == ReadResult::call) {
+        trace_.forgetCalls();
+        playCall(call);
+        ++calls_;
+        if (listeners_.played) {
+            listeners_.played(calls_);
+        }
+        result = call.recorded.empty() ? source.next(call) : takeOff(source, call);
+    }
+    if (result == ReadResult::malformed && isOpen_) {
+        invoke(closeOperation(), {});
+        isOpen_ = false;
+    }
+    return result == ReadResult::end;
+}
+
+}  // namespace quillmark::replay

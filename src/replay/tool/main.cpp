@@ -1,0 +1,19 @@
+#include <iostream>
+
+#include "platform/console.h"
+#include "replay/play/loaded_component.h"
+#include "replay/tool/tool.h"
+
+int main(int argc, char** argv) {
+    using quillmark::Console;
+    std::ios::sync_with_stdio(false);
+    Console::readBytes();
+    quillmark::replay::LoadedComponent component(Console::executablePath());
+    return quillmark::replay::runTool(
+        Console::arguments(argc, argv),
+        {std::cin, std::cout, std::cerr, Console::errorsAreWatched(), Console::executablePath(),
+         [&component] { return component.makeDocument(); },
+         [&component](const quillmark::replay::HostServices& services) {
+             return component.lend(services);
+         }});
+}

@@ -1,0 +1,53 @@
+#include "replay/tool/messages.h"
+
+#include <algorithm>
+
+namespace quillmark::replay {
+
+namespace {
+
+constexpr std::chrono::milliseconds longRun{1000};
+constexpr std::chrono::milliseconds between{200};
+
+}  // namespace
+
+Messages::Messages(std::ostream& stream, bool progress)
+    : stream_(stream), showsProgress_(progress), nextProgress_(Clock::now() + longRun) {}
+
+void Messages::tell(std::string_view line) {
+    clearProgress();
+    std::string shown(line);
+    std::ranges::replace(shown, '\n', ' ');
+    std::ranges::replace_if(
+        shown, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, '?');
+    stream_ << shown << '\n' << std::flush;
+}
+
+void Messages::progress(std::size_t calls, std::size_t pages) {
+    if (!showsProgress_ || Clock::now() < nextProgress_) {
+        return;
+    }
+    nextProgress_ = Clock::now() + between;
+    const std::string text =
+        counted(calls, "call") + ", " + counted(pages, "page") + " written ...";
+    stream_ << '\r' << text << std::flush;
+    shown_ = std::max(shown_, text.size());
+}
+
+void Messages::clearProgress() {
+    if (shown_ > 0) {
+        stream_ << '\r' << std::string(shown_, ' ') << '\r' << std::flush;
+        shown_ = 0;
+    }
+}
+
+std::string counted(std::size_t count, std::string_view word, std::string_view plural) {
+    std::string text = std::to_string(count) + ' ';
+    if (count == 1 || plural.empty()) {
+        text += word;
+        return count == 1 ? text : text + 's';
+    }
+    return text.append(plural);
+}
+
+}  // namespace quillmark::replay

@@ -1,0 +1,17 @@
+#include "platform/system_facts.h"
+#include "settings/settings_store.h"
+
+namespace quillmark {
+
+OrxString userSettingsPlace() {
+    // With the system's own separator: the name is for a person, and for the store it is the same.
+    return system_facts::userConfigurationDirectory()
+        .append("/quillmark/settings.ini")
+        .replaceStr("\\", "/");
+}
+
+std::shared_ptr<SettingsStore> makeUserSettingsStore() {
+    return makeIniSettingsStore(userSettingsPlace());
+}
+
+}  // namespace quillmark

@@ -1,0 +1,21 @@
+#include "settings/ini_file.h"
+
+#include <algorithm>
+#include <string>
+
+#include "platform/drive_table.h"
+#include "platform/windows/windows_api.h"
+
+namespace quillmark {
+
+OrxString IniFile::read(const OrxString& fileName, const OrxString& section, const OrxString& key,
+                        const OrxString& fallback, std::size_t bufferSize) {
+    std::string buffer(std::max<std::size_t>(bufferSize, 1), '\0');
+    const DWORD length =
+        GetPrivateProfileStringA(section.data(), key.data(), fallback.data(), buffer.data(),
+                                 static_cast<DWORD>(buffer.size()), nativePath(fileName).c_str());
+    buffer.resize(length);
+    return buffer;
+}
+
+}  // namespace quillmark

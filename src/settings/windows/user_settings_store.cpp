@@ -1,0 +1,119 @@
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "platform/windows/wide_name.h"
+#include "settings/settings_store.h"
+
+namespace quillmark {
+
+namespace {
+
+constexpr const char* userKey = "Software\\Zorvane\\Quillmark";
+
+/// An open key of the registry; closed when its holder goes.
+class Key {
+public:
+    static Key forReading(const std::wstring& path) noexcept {
+        Key key;
+        RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_QUERY_VALUE, &key.key_);
+        return key;
+    }
+    static Key forWriting(const std::wstring& path) noexcept {
+        Key key;
+        RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
+                        KEY_SET_VALUE, nullptr, &key.key_, nullptr);
+        return key;
+    }
+    Key(Key&& other) noexcept : key_(std::exchange(other.key_, nullptr)) {}
+    Key(const Key&) = delete;
+    Key& operator=(const Key&) = delete;
+    Key& operator=(Key&&) = delete;
+    ~Key() {
+        if (key_ != nullptr) {
+            RegCloseKey(key_);
+        }
+    }
+
+    [[nodiscard]] HKEY get() const noexcept { return key_; }
+    [[nodiscard]] bool isOpen() const noexcept { return key_ != nullptr; }
+
+private:
+    Key() noexcept = default;
+    HKEY key_ = nullptr;
+};
+
+std::wstring groupPath(const OrxString& group) {
+    return wideText(userKey + ("\\" + group));
+}
+
+std::optional<OrxString> numberValue(const Key& key, const std::wstring& name) {
+    DWORD number = 0;
+    DWORD size = sizeof number;
+    if (RegGetValueW(key.get(), nullptr, name.c_str(), RRF_RT_REG_DWORD, nullptr, &number, &size) !=
+        ERROR_SUCCESS) {
+        return std::nullopt;
+    }
+    return OrxString(std::to_string(static_cast<std::int32_t>(number)));
+}
+
+std::optional<OrxString> textValue(const Key& key, const std::wstring& name) {
+    std::wstring text;
+    DWORD size = 0;
+    LSTATUS status =
+        RegGetValueW(key.get(), nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr, &size);
+    // Another process may store a longer one between the two calls.
+    for (int i = 0; i < 3 && (status == ERROR_SUCCESS || status == ERROR_MORE_DATA); ++i) {
+        text.resize(size / sizeof(wchar_t) + 1);
+        size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
+        status = RegGetValueW(key.get(), nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(),
+                              &size);
+        if (status == ERROR_SUCCESS) {
+            return narrowText(text.c_str());
+        }
+    }
+    return std::nullopt;
+}
+
+/// The user's branch of the registry: a key a group, a text a setting. Numbers that somebody put
+/// there as such are read too.
+class RegistrySettingsStore final : public SettingsStore {
+public:
+    [[nodiscard]] std::optional<OrxString> read(const OrxString& group,
+                                                const OrxString& name) const override {
+        const Key key = Key::forReading(groupPath(group));
+        if (!key.isOpen()) {
+            return std::nullopt;
+        }
+        const std::wstring wide = wideText(name);
+        std::optional<OrxString> text = textValue(key, wide);
+        return text ? text : numberValue(key, wide);
+    }
+
+    [[nodiscard]] bool write(const OrxString& group, const OrxString& name,
+                             const OrxString& value) override {
+        // A text of the registry ends at its first zero.
+        if (value.contains(std::string_view("\0", 1))) {
+            return false;
+        }
+        const Key key = Key::forWriting(groupPath(group));
+        const std::wstring text = wideText(value);
+        const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
+        return key.isOpen() &&
+               RegSetValueExW(key.get(), wideText(name).c_str(), 0, REG_SZ,
+                              reinterpret_cast<const BYTE*>(text.c_str()), size) == ERROR_SUCCESS;
+    }
+};
+
+}  // namespace
+
+OrxString userSettingsPlace() {
+    return OrxString("HKEY_CURRENT_USER\\") + userKey;
+}
+
+std::shared_ptr<SettingsStore> makeUserSettingsStore() {
+    return std::make_shared<RegistrySettingsStore>();
+}
+
+}  // namespace quillmark

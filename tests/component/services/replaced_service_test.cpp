@@ -1,0 +1,96 @@
+// A lent service that is replaced while others may be calling it.
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+#include "component/object/module_state.h"
+#include "component/object/recorded_object.h"
+#include "component/services/lent_services.h"
+
+namespace quillmark::testing {
+namespace {
+
+/// Counts how often the host is called.
+DochtmlObserver observerOf(int& calls) {
+    DochtmlObserver observer{};
+    observer.context = &calls;
+    observer.contentsEntryAdded = [](void* context) { ++*static_cast<int*>(context); };
+    return observer;
+}
+
+LentServices& services() {
+    return LentServices::module();
+}
+
+class ReplacedService : public ::testing::Test {
+protected:
+    void TearDown() override {
+        // Without a user this also lets go of what a test has left.
+        EXPECT_EQ(services().setObserver(nullptr), S_OK);
+        EXPECT_EQ(services().retiredCount(), 0U);
+    }
+};
+
+TEST_F(ReplacedService, canStillBeCalledByWhoTookItUpBefore) {
+    const ServiceUser another;
+    int calls = 0;
+    const DochtmlObserver observer = observerOf(calls);
+    ASSERT_EQ(services().setObserver(&observer), S_OK);
+    DocumentObserver& takenUp = DocumentObserver::current();
+    EXPECT_EQ(services().setObserver(nullptr), S_OK);
+    takenUp.contentsEntryAdded();
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(ReplacedService, isLetGoOfWhenNobodyCanHaveTakenItUp) {
+    const DochtmlObserver deaf{};
+    {
+        const ServiceUser another;
+        ASSERT_EQ(services().setObserver(&deaf), S_OK);
+        ASSERT_EQ(services().setObserver(&deaf), S_OK);
+        ASSERT_EQ(services().setObserver(&deaf), S_OK);
+        EXPECT_EQ(services().retiredCount(), 2U);
+    }
+    EXPECT_EQ(services().setObserver(nullptr), S_OK);
+    EXPECT_EQ(services().retiredCount(), 0U);
+}
+
+TEST_F(ReplacedService, isKeptForADocument) {
+    const DochtmlObserver deaf{};
+    {
+        const RecordedObject document;
+        ASSERT_EQ(services().setObserver(&deaf), S_OK);
+        EXPECT_EQ(services().setObserver(nullptr), S_OK);
+        EXPECT_EQ(services().retiredCount(), 1U);
+    }
+    EXPECT_EQ(services().setObserver(nullptr), S_OK);
+    EXPECT_EQ(services().retiredCount(), 0U);
+}
+
+TEST_F(ReplacedService, mayBeReplacedWhileAnotherThreadWritesItsTrace) {
+    constexpr int rounds = 2000;
+    std::atomic<int> heard{0};
+    const DochtmlTraceListener listener{&heard, Trace::calls,
+                                        [](void* context, std::int32_t, const DochtmlText*) {
+                                            ++*static_cast<std::atomic<int>*>(context);
+                                        }};
+    ASSERT_EQ(services().setTraceListener(&listener), S_OK);
+    std::thread writer([] {
+        const ServiceUser document;
+        Trace trace;
+        for (int round = 0; round < rounds; ++round) {
+            trace.write(Trace::calls, "dochtml->insertEndl();\n");
+        }
+    });
+    for (int round = 0; round < rounds; ++round) {
+        EXPECT_EQ(services().setTraceListener(&listener), S_OK);
+    }
+    writer.join();
+    EXPECT_EQ(services().setTraceListener(nullptr), S_OK);
+    EXPECT_EQ(heard, rounds);
+}
+
+}  // namespace
+}  // namespace quillmark::testing
