@@ -88,7 +88,8 @@ OrxString relativePath(const OrxString& base, const OrxString& target, bool igno
     const std::vector<std::string_view> from = components(base);
     const std::vector<std::string_view> to = components(target);
     const std::size_t common = commonCount(from, to, ignoreCase);
-    if (common == 0) {
+    // Two relative names share a root that has no name: where they both start from.
+    if (common == 0 && (isAbsolute(base) || isAbsolute(target))) {
         return target;
     }
     OrxString result;

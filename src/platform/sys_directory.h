@@ -20,10 +20,11 @@ public:
     [[nodiscard]] static OrxString getParentDirectory(const OrxString& dir);
     /// How to get from directory `base` to `target`, by components and without looking at the
     /// disk: equal paths give "", otherwise one ".." for each component of `base` behind the
-    /// common ones, then the rest of `target`. Without a common first component the result is
-    /// `target` unchanged. "." and ".." are names like others; empty components are dropped; a
-    /// leading separator is a component of its own. Components are compared ignoring case on
-    /// Windows only, a drive letter everywhere.
+    /// common ones, then the rest of `target`. Two relative names share an unnamed root, so
+    /// from "s2" to "s1" is "..\s1". From an absolute name to a relative one, the other way round,
+    /// or to another drive the result is `target` unchanged. "." and ".." are names like others;
+    /// empty components are dropped; a leading separator is a component of its own. Components are
+    /// compared ignoring case on Windows only, a drive letter everywhere.
     [[nodiscard]] static OrxString getRelativePath(const OrxString& base, const OrxString& target);
 
     [[nodiscard]] static bool setCurrentDir(const OrxString& dir);

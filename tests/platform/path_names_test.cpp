@@ -144,9 +144,20 @@ TEST(RelativePath, IsTheTargetItselfWithoutACommonBeginning) {
     EXPECT_EQ(SysDirectory::getRelativePath("C:\\out", "pix"), "pix");
     EXPECT_EQ(SysDirectory::getRelativePath("out", "C:\\pix"), "C:\\pix");
     EXPECT_EQ(SysDirectory::getRelativePath("out", "\\out"), "\\out");
-    EXPECT_EQ(SysDirectory::getRelativePath("a", "b\\c"), "b\\c");
-    EXPECT_EQ(SysDirectory::getRelativePath("", "b\\c"), "b\\c");
-    EXPECT_EQ(SysDirectory::getRelativePath("a", ""), "");
+    EXPECT_EQ(SysDirectory::getRelativePath("", "C:\\pix"), "C:\\pix");
+    EXPECT_EQ(SysDirectory::getRelativePath("", "/pix/a"), "/pix/a");
+    EXPECT_EQ(SysDirectory::getRelativePath("C:\\out", ""), "");
+    EXPECT_EQ(SysDirectory::getRelativePath("\\out", "pix/a"), "pix/a");
+}
+
+TEST(RelativePath, TwoRelativeNamesShareARootWithoutAName) {
+    EXPECT_EQ(SysDirectory::getRelativePath("s1", ""), "..");
+    EXPECT_EQ(SysDirectory::getRelativePath("s1\\deep", ""), "..\\..");
+    EXPECT_EQ(SysDirectory::getRelativePath("s1", "rep_dtl.htm"), "..\\rep_dtl.htm");
+    EXPECT_EQ(SysDirectory::getRelativePath("s2", "s1"), "..\\s1");
+    EXPECT_EQ(SysDirectory::getRelativePath("a", "b/c"), "..\\b\\c");
+    EXPECT_EQ(SysDirectory::getRelativePath("", "b/c"), "b\\c");
+    EXPECT_EQ(SysDirectory::getRelativePath(".", "a"), "..\\a");
 }
 
 TEST(RelativePath, TwoAbsoluteNamesWithoutADriveAlwaysShareTheRoot) {
@@ -170,7 +181,7 @@ TEST(RelativePath, NeverMindsTheCaseOfADriveLetter) {
 TEST(RelativePath, MindsTheCaseOfNamesWhereTheSystemDoes) {
     EXPECT_EQ(path_text::relativePath("C:\\Out", "C:\\out\\a", false), "..\\out\\a");
     EXPECT_EQ(path_text::relativePath("C:\\Out", "C:\\out\\a", true), "a");
-    EXPECT_EQ(path_text::relativePath("OUT", "out\\a", false), "out\\a");
+    EXPECT_EQ(path_text::relativePath("OUT", "out\\a", false), "..\\out\\a");
     EXPECT_EQ(path_text::relativePath("OUT", "out\\a", true), "a");
     const OrxString expected = system_facts::namesIgnoreCase() ? "a" : "..\\out\\a";
     EXPECT_EQ(SysDirectory::getRelativePath("C:\\Out", "C:\\out\\a"), expected);
@@ -183,6 +194,9 @@ TEST(RelativeFileName, IsTheRelativeDirectoryJoinedWithTheFilePart) {
     EXPECT_EQ(SysFile::getRelativeFileName("C:\\out", "D:\\x\\a.gif"), "D:\\x\\a.gif");
     EXPECT_EQ(SysFile::getRelativeFileName("C:\\out", "a.gif"), "a.gif");
     EXPECT_EQ(SysFile::getRelativeFileName("\\out", "\\a.gif"), "..\\a.gif");
+    EXPECT_EQ(SysFile::getRelativeFileName("s1", "a.gif"), "..\\a.gif");
+    EXPECT_EQ(SysFile::getRelativeFileName("s2", "s1\\a.gif"), "..\\s1\\a.gif");
+    EXPECT_EQ(SysFile::getRelativeFileName("", "s1\\a.gif"), "s1\\a.gif");
 }
 
 TEST(RelativeFileName, TellsAFileFromADirectoryOfTheSameName) {
@@ -233,7 +247,10 @@ std::vector<std::string> somePath(std::mt19937& random) {
 
 /// The rule word by word: strip what is common, go up for the rest of the one, down the other.
 std::string naiveRelativePath(std::vector<std::string> base, std::vector<std::string> target) {
-    if (base.front() != target.front()) {
+    const auto isRelative = [](const std::vector<std::string>& path) {
+        return path.front() != "\\" && !path.front().ends_with(':');
+    };
+    if (base.front() != target.front() && !(isRelative(base) && isRelative(target))) {
         return joined(target);
     }
     while (!base.empty() && !target.empty() && base.front() == target.front()) {

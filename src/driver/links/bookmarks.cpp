@@ -14,6 +14,20 @@ namespace {
 constexpr std::string_view anchorOpening = "<a name=\"";
 constexpr std::string_view anchorEnd = "\"></a>";
 
+/// The link from one page's file to another's, up to the name of the bookmark. A page that has no
+/// file name yet is reached by the fragment alone.
+OrxString wayTo(const OrxString& target, const OrxString& fromPage) {
+    OrxString link;
+    if (!target.isEmpty()) {
+        link = links::fromPath(
+            SysDirectory::getRelativePath(SysFile::getDir(fromPage), SysFile::getDir(target)));
+    }
+    if (!link.isEmpty()) {
+        link.append('/');
+    }
+    return link.append(SysFile::stripDir(target)).append('#');
+}
+
 }  // namespace
 
 void Bookmarks::define(std::string_view name, Origin origin) {
@@ -94,14 +108,7 @@ std::string_view Bookmarks::relativeReference(BookmarkRegistry::Id id, const Doc
     const std::uint32_t toPage = registry_.pageFileNumber(id);
     const OrxString& fromPage = page.getFileName();
     if (lastWay_.link.isEmpty() || toPage != lastWay_.toPage || fromPage != lastWay_.fromPage) {
-        const OrxString target(registry_.pageFile(id));
-        OrxString link = links::fromPath(
-            SysDirectory::getRelativePath(SysFile::getDir(fromPage), SysFile::getDir(target)));
-        if (!link.isEmpty()) {
-            link.append('/');
-        }
-        link.append(SysFile::stripDir(target)).append('#');
-        lastWay_ = {fromPage, toPage, std::move(link)};
+        lastWay_ = {fromPage, toPage, wayTo(OrxString(registry_.pageFile(id)), fromPage)};
     }
     return reference_.assign(lastWay_.link).append(registry_.name(id));
 }
