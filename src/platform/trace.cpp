@@ -69,13 +69,12 @@ private:
     std::atomic<bool> failed_{false};
 };
 
-/// What copies of a trace share from an `open` to the next `close` of any of them. Two documents
-/// that trace into one log have a stream each.
+/// What copies of a trace share for good: the log that any of them opened last. Two documents that
+/// trace into one log have a stream each.
 class Trace::Stream {
 public:
-    explicit Stream(std::shared_ptr<Log> log) noexcept : log_(std::move(log)) {}
-
     [[nodiscard]] bool isOpen() const noexcept { return log_ != nullptr && !log_->failed(); }
+    void open(std::shared_ptr<Log> log) noexcept { log_ = std::move(log); }
     void close() noexcept { log_ = nullptr; }
     void write(std::string_view text) { log_->write(text); }
 
@@ -137,24 +136,19 @@ Registry<T>& registry() {
 
 }  // namespace
 
-Trace::Trace() = default;
+Trace::Trace() : stream_(std::make_shared<Stream>()) {}
 Trace::Trace(const Trace&) = default;
-Trace::Trace(Trace&&) noexcept = default;
 Trace& Trace::operator=(const Trace&) = default;
-Trace& Trace::operator=(Trace&&) noexcept = default;
 Trace::~Trace() = default;
 
 void Trace::open(const OrxString& name) {
     std::shared_ptr<Log> log = registry<Log>().take(logFileName(name));
     log->forgiveFailure();
-    stream_ = std::make_shared<Stream>(std::move(log));
+    stream_->open(std::move(log));
 }
 
 void Trace::close() {
-    if (stream_ != nullptr) {
-        stream_->close();
-        stream_ = nullptr;
-    }
+    stream_->close();
 }
 
 void Trace::purgeBefore(const OrxString& name) {
@@ -162,7 +156,7 @@ void Trace::purgeBefore(const OrxString& name) {
 }
 
 bool Trace::hasLog() const noexcept {
-    return stream_ != nullptr && stream_->isOpen();
+    return stream_->isOpen();
 }
 
 void Trace::write(int level, std::string_view text) const {

@@ -19,8 +19,9 @@ public:
     virtual void line(int level, std::string_view text) = 0;
 };
 
-/// A leveled log in a file. Copies share its stream, but each keeps its own level: a copy taken
-/// before a change of level still has the old one.
+/// A leveled log in a file. Copies share its stream: what one of them opens or closes is opened or
+/// closed for all. But each keeps its own level: a copy taken before a change of level still has
+/// the old one.
 ///
 ///     if (trace.isTrace(Trace::calls)) {
 ///         trace.write(Trace::calls, "dochtml->insertEndl();\n");
@@ -33,14 +34,13 @@ public:
 
     Trace();
     Trace(const Trace&);
-    Trace(Trace&&) noexcept;
     Trace& operator=(const Trace&);
-    Trace& operator=(Trace&&) noexcept;
     ~Trace();
 
-    /// Takes up the log of that name, for appending; an empty name means "dochtml.log" in the
-    /// system's temporary directory. The file is made by the first line written to it; one that
-    /// cannot be opened leaves the trace silent until the next `open`.
+    /// Takes up the log of that name, for appending, for the copies that share the stream too; an
+    /// empty name means "dochtml.log" in the system's temporary directory. The file is made by the
+    /// first line written to it; one that cannot be opened leaves the trace silent until the next
+    /// `open`.
     void open(const OrxString& name);
     /// Closes the stream, for the copies that share it too.
     void close();

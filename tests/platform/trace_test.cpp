@@ -114,6 +114,28 @@ TEST_F(TraceLog, IsClosedForTheCopiesWhenTheOriginalCloses) {
     EXPECT_EQ(logged(), lines("before\n"));
 }
 
+TEST_F(TraceLog, IsTakenUpAgainForTheCopiesToo) {
+    Trace document = openTrace(name, Trace::calls);
+    const Trace page = document;
+    document.close();
+    document.open(name);
+    document.setLevel(Trace::errors);
+    page.write(Trace::calls, "page\n");
+    EXPECT_EQ(logged(), lines("page\n"));
+}
+
+TEST_F(TraceLog, IsExchangedForTheCopiesToo) {
+    const OrxString next = freshName();
+    Trace document = openTrace(name, Trace::calls);
+    const Trace page = document;
+    document.write(Trace::calls, "before\n");
+    document.open(next);
+    page.write(Trace::calls, "page\n");
+    EXPECT_EQ(logged(), lines("before\n"));
+    EXPECT_EQ(memory.content(next), lines("page\n"));
+    EXPECT_EQ(memory.openFiles(), 1);
+}
+
 TEST_F(TraceLog, StaysOpenForAnotherDocumentThatTracesIntoIt) {
     Trace one = openTrace(name, Trace::calls);
     Trace other = openTrace(name, Trace::calls);

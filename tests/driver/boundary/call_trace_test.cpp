@@ -173,6 +173,43 @@ TEST_F(Logs, HearNoReportsOfPagesHeldBackBeforeThem) {
     EXPECT_NE(logged().find("page C:\\out\\rep2.htm\n"), std::string::npos);
 }
 
+TEST_F(Logs, HearReportsOfHeldPagesAfterTheyWereClosedAndTakenUpAgain) {
+    open();
+    doc().trace(11);
+    doc().insertXref(u"x", u"gone");
+    doc().insertPageBreak();
+    doc().trace(0);
+    doc().trace(11);
+    doc().close();
+    EXPECT_NE(logged().find("Unresolved references on page C:\\out\\rep.htm\n"
+                            "  gone near line 1 <A gone>\n  gone near line 1 </A>\n"),
+              std::string::npos)
+        << logged();
+}
+
+TEST_F(Logs, HearReportsOfPagesThatWereHeldBackUnderAnotherName) {
+    open();
+    doc().trace(11);
+    doc().insertXref(u"x", u"gone");
+    doc().insertPageBreak();
+    doc().overrideRegistry(u"Log", u"LogName", testing::wide(name_ + "2"), 2);
+    doc().trace(11);
+    doc().close();
+    EXPECT_EQ(logged().find("Unresolved"), std::string::npos);
+    EXPECT_NE(bytes(name_ + "2").find("Unresolved references on page C:\\out\\rep.htm"),
+              std::string::npos);
+}
+
+TEST_F(Logs, HearNoReportsOfHeldPagesWhileTheyAreClosed) {
+    open();
+    doc().trace(11);
+    doc().insertXref(u"x", u"gone");
+    doc().insertPageBreak();
+    doc().trace(0);
+    doc().close();
+    EXPECT_EQ(logged().find("Unresolved"), std::string::npos);
+}
+
 TEST_F(Logs, HearReportsAtTheLevelOfReportsOnly) {
     open();
     doc().trace(10);
