@@ -6,10 +6,6 @@ namespace quillmark {
 // last contents anchor that it met and stops at the button, so what it remembers then is the
 // nearest one in front. The tree knows its entries by addresses relative to the output
 // directory, which is where the contents page itself lies.
-//
-// The buttons find this page as top.contents. The page's own "var name" of its body, a global
-// variable, is the window's name too and renames the frame, so the frame's name is put back once
-// the page has loaded.
 std::string_view locateScript() noexcept {
     return "var bkmark, locatebtn = null ; \n"
            R"js(function getClosestAnchor(lookIn)
@@ -51,13 +47,6 @@ function Locate(url, Obj, docmnt)
 	var urlpart = RelativeUrlPath(url.split("#")[0]) + "#" + bkmark.name ;
 	document.applets[0].selectItemByUrl(urlpart) ;
 }
-var _cntname = this.name ;
-function RestoreFrameName()
-{
-	name = _cntname ;
-}
-if (this.addEventListener)
-	this.addEventListener("load", RestoreFrameName, false) ;
 )js";
 }
 

@@ -1,5 +1,7 @@
 // The locate buttons, in a browser that seems to have Java: the start page builds its frames, and
-// the contents applet is replaced by a stand-in that records what it is asked to select.
+// the contents applet is replaced by a stand-in that records what it is asked to select. A variable
+// "name" of a page leaves the frame's name alone, as the buttons, which look for the frame
+// "contents", need it; in the browser itself the contents page renames its frame.
 
 import assert from 'node:assert/strict';
 import { after, before, describe, test } from 'node:test';
@@ -8,6 +10,7 @@ import { detailPages, treeEntries } from './manual_set.mjs';
 
 function standIn() {
   navigator.__proto__.javaEnabled = () => true;
+  Object.defineProperty(window, 'name', { value: window.name, writable: true });
   window.selected = [];
   const applet = {
     selectItemByUrl: (url) => window.selected.push(url),

@@ -20,7 +20,7 @@ TEST(LocateScript, HoldsItsPiecesInOrder) {
         position = found + std::string_view(piece).size();
     }
     EXPECT_TRUE(locateScript().starts_with("var bkmark, locatebtn = null ; \n"));
-    EXPECT_TRUE(locateScript().ends_with("\n"));
+    EXPECT_TRUE(locateScript().ends_with("\tdocument.applets[0].selectItemByUrl(urlpart) ;\n}\n"));
 }
 
 TEST(LocateScript, DoesNotEndTheScriptElementThatHoldsIt) {
