@@ -8,7 +8,7 @@ namespace {
 
 void copyApplet(const ContentsContext& context) {
     const auto copy = [&](const OrxString& name, const OrxString& targetName) {
-        context.copier.copyToDir(SysFile::appendToDir(context.installDir, name), context.outputDir,
+        context.copier.copyToDir(installedName(context.installDir, name), context.outputDir,
                                  targetName, context.trace);
     };
     copy(context.appletJar, context.appletArchive);
@@ -19,13 +19,17 @@ void copyApplet(const ContentsContext& context) {
 
 }  // namespace
 
+OrxString installedName(const OrxString& directory, const OrxString& name) {
+    return SysFile::appendToDir(directory.isEmpty() ? OrxString("\\") : directory, name);
+}
+
 IconArchives copyContentsSupportFiles(const ContentsContext& context) {
     copyApplet(context);
     const auto copyIcons = [&](const OrxString& source) {
         return context.copier.copyToDir(source, context.pixDir, "", context.trace);
     };
     IconArchives archives;
-    archives.icons = copyIcons(SysFile::appendToDir(context.installDir, iconArchiveName));
+    archives.icons = copyIcons(installedName(context.installDir, iconArchiveName));
     if (!context.iconFile.isEmpty()) {
         archives.userIcons = copyIcons(context.iconFile);
     }
@@ -34,7 +38,7 @@ IconArchives copyContentsSupportFiles(const ContentsContext& context) {
 
 void copyArrowPictures(const OrxString& installDir, const OrxString& pixDir,
                        const FileCopier& copier, const Trace& trace) {
-    const OrxString pictures = SysFile::appendToDir(installDir, installedPicturesName);
+    const OrxString pictures = installedName(installDir, installedPicturesName);
     for (const char* const name : {arrow_pictures::forward, arrow_pictures::forwardDead,
                                    arrow_pictures::back, arrow_pictures::backDead}) {
         const OrxString source = SysFile::appendToDir(pictures, name);

@@ -5,6 +5,11 @@
 
 namespace quillmark {
 
+/// Name of a file or folder in the directory of the setting "InstallDir" or "UserFilesDir". When
+/// the setting is empty the name begins with "\": a file that happens to lie in the current
+/// directory is never taken.
+[[nodiscard]] OrxString installedName(const OrxString& directory, const OrxString& name);
+
 /// The icon archives as the contents pages refer to them: the copies in the image directory, or
 /// the sources where those were not copied.
 struct IconArchives {

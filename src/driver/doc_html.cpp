@@ -15,15 +15,16 @@ namespace quillmark {
 
 namespace {
 
-/// The style sheet of the setting as a file that exists.
-OrxString installedStyleSheet(const DocumentSettings& settings) {
-    OrxString path = SysFile::getDir(settings.styleSheet).isEmpty()
-                         ? SysFile::appendToDir(settings.installDir, settings.styleSheet)
-                         : settings.styleSheet;
+/// Takes a bare name of a style sheet as one of the installation directory, and fails when there
+/// is no such file. The name is kept even then: later pages link to it.
+void findStyleSheet(DocumentSettings& settings) {
+    OrxString& path = settings.styleSheet;
+    if (SysFile::getDir(path).isEmpty()) {
+        path = SysFile::appendToDir(settings.installDir, path);
+    }
     if (!SysFile::exists(path)) {
         OrxException::raise("Html style sheet does not exist.\n" + path);
     }
-    return path;
 }
 
 }  // namespace
@@ -51,6 +52,7 @@ DocResult DocHtml::create(WideText fileName) {
     DocumentSettings& settings = context.settings;
     const OrxString name = SysText::narrow(fileName);
     impl_->calls.call("create", name.view());
+    impl_->images.restart();
     impl_->pages.releaseHeldPages();
 
     context.names.setDocument(name);
@@ -65,12 +67,12 @@ DocResult DocHtml::create(WideText fileName) {
     impl_->contents.setLevel(settings.tocLevel);
     impl_->contents.setShowIcons(settings.showIcons);
     if (!settings.styleSheet.isEmpty()) {
-        settings.styleSheet =
-            context.copyTo(context.names.outputDir(), installedStyleSheet(settings));
+        findStyleSheet(settings);
+        settings.styleSheet = context.copyTo(context.names.outputDir(), settings.styleSheet);
     }
+    impl_->contents.leaveEntry();
     settings.readTexts(impl_->settings);
     impl_->text.setPassThrough(settings.passThrough);
-    impl_->images.restart();
     if (settings.hasArrows()) {
         copyArrowPictures(settings.installDir, settings.pixDir, context.copier, context.trace);
     }

@@ -58,7 +58,7 @@ void PageTurner::endPage(bool last, const std::function<void()>& closeTables) {
     const OrxString& styleSheet = context_.settings.styleSheet;
     page.setStyleSheet(styleSheet.isEmpty()
                            ? OrxString()
-                           : styleSheetLink_.relativeFile(styleSheet, context_.pageDir()));
+                           : styleSheetLink_.relativeFile(styleSheet, context_.linkBase()));
     page.setTitle(title_);
     contents_.finishPage(pageNumber_);
     dispatchPage(last);

@@ -28,7 +28,7 @@ OrxString fromPath(OrxString path) {
 }
 
 OrxString relative(const OrxString& target, const OrxString& base) {
-    return fromPath(SysDirectory::getRelativePath(base.isEmpty() ? defaultBase() : base, target));
+    return fromPath(SysDirectory::getRelativePath(baseOrDefault(base), target));
 }
 
 OrxString relativeFile(const OrxString& fileName, const OrxString& base) {
@@ -39,6 +39,10 @@ OrxString defaultBase() {
     DefaultBase& base = theDefaultBase();
     const std::scoped_lock lock(base.guard);
     return base.directory;
+}
+
+OrxString baseOrDefault(const OrxString& directory) {
+    return directory.isEmpty() ? defaultBase() : directory;
 }
 
 void setDefaultBase(const OrxString& directory) {

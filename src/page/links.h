@@ -16,9 +16,11 @@ namespace quillmark::links {
 /// file part.
 [[nodiscard]] OrxString relativeFile(const OrxString& fileName, const OrxString& base);
 
-/// The directory that `relative` counts from when it is given none: the output directory of the
+/// The directory that links count from when they are given none: the output directory of the
 /// document created last, in the whole process.
 [[nodiscard]] OrxString defaultBase();
+/// `directory`, or the default base directory when that is empty.
+[[nodiscard]] OrxString baseOrDefault(const OrxString& directory);
 void setDefaultBase(const OrxString& directory);
 
 }  // namespace quillmark::links

@@ -8,6 +8,16 @@ DOCUMENTATION = HERE.parent.parent / "docs" / "component.md"
 REPORT = HERE / "report"
 EXPECTED = REPORT / "expected"
 STYLE_SHEET = REPORT / "plain.css"
+# The hosts' installation directory; there is none of that name. A relative one is the same link in
+# the pages of every system, wherever the test's files lie.
+INSTALLATION = "installation"
+
+
+def name_installation(configuration):
+    """Stores the installation directory in a configuration directory off Windows."""
+    store = pathlib.Path(configuration) / "quillmark" / "settings.ini"
+    store.parent.mkdir(parents=True)
+    store.write_text(f"[Settings]\nInstallDir={INSTALLATION}\n")
 
 
 def read(directory):

@@ -33,6 +33,7 @@ class HostsTest(unittest.TestCase):
             SOURCE_DATE_EPOCH="0",
         )
         self.classes = self.work / "data" / "quillmark" / "classes.ini"
+        document_set.name_installation(self.work / "config")
 
     def run_program(self, program, *arguments, cwd=None):
         return subprocess.run(
@@ -151,7 +152,7 @@ class HostsTest(unittest.TestCase):
             "--set",
             "Html.IconFile=",
             "--set",
-            "Settings.InstallDir=",
+            f"Settings.InstallDir={document_set.INSTALLATION}",
             document_set.REPORT / "report.jsonl",
             cwd=out,
         )
@@ -192,7 +193,8 @@ def main():
     BUILD = pathlib.Path(sys.argv[1])
     LIBRARY = pathlib.Path(sys.argv[2])
     if "--approve" in sys.argv:
-        with tempfile.TemporaryDirectory() as out:
+        with tempfile.TemporaryDirectory() as out, tempfile.TemporaryDirectory() as config:
+            document_set.name_installation(config)
             subprocess.run(
                 [
                     BUILD / "examples/hosts/report_host",
@@ -200,7 +202,7 @@ def main():
                     document_set.STYLE_SHEET,
                     LIBRARY,
                 ],
-                env=dict(os.environ, XDG_CONFIG_HOME=out + "/none", SOURCE_DATE_EPOCH="0"),
+                env=dict(os.environ, XDG_CONFIG_HOME=config, SOURCE_DATE_EPOCH="0"),
                 check=True,
             )
             document_set.approve(out)

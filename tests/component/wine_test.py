@@ -105,6 +105,8 @@ class WineTest(unittest.TestCase):
         )
         cls.environment.pop("DISPLAY", None)
         cls.wine("wineboot", "--init")
+        settings = "HKCU\\Software\\Zorvane\\Quillmark\\Settings"
+        cls.wine("reg", "add", settings, "/v", "InstallDir", "/d", document_set.INSTALLATION, "/f")
         # The new system goes on registering its own classes for a while.
         subprocess.run(["wineserver", "--wait"], env=cls.environment, check=True, timeout=300)
 
@@ -239,7 +241,7 @@ class WineTest(unittest.TestCase):
             "--set",
             f"Html.StyleSheet={windows_name(document_set.STYLE_SHEET)}",
             "--set",
-            "Settings.InstallDir=",
+            f"Settings.InstallDir={document_set.INSTALLATION}",
             windows_name(document_set.REPORT / "report.jsonl"),
             cwd=out,
         )

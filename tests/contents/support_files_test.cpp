@@ -66,6 +66,20 @@ TEST_F(SupportFiles, PassesOverWhatIsMissingInSilence) {
     EXPECT_EQ(lines.text(), "");
 }
 
+TEST_F(SupportFiles, AreNotThoseOfTheCurrentDirectoryWithoutAnInstallation) {
+    for (const char* const name : {"toc2.jar", "toc2.jnlp", "icons.zip"}) {
+        install(name);
+    }
+    ASSERT_TRUE(files.setCurrentDirectory("C:\\inst"));
+    context.installDir = "";
+    EXPECT_EQ(copyContentsSupportFiles(context).icons, "\\icons.zip");
+    EXPECT_EQ(written("toc2.jar"), "(none)");
+    EXPECT_EQ(written("toc2.jnlp"), "(none)");
+    files.put("\\toc2.jar", "of the root");
+    copyContentsSupportFiles(context);
+    EXPECT_EQ(written("toc2.jar"), "of the root");
+}
+
 TEST_F(SupportFiles, LeavesWhatMustNotBeCopiedWhereItIs) {
     install("toc2.jar");
     install("icons.zip");

@@ -34,6 +34,8 @@ TEST(Links, HaveADefaultDirectoryForTheWholeProcess) {
     EXPECT_EQ(links::defaultBase(), "C:\\out\\deep");
     EXPECT_EQ(links::relative("C:\\out\\a.gif", ""), "../a.gif");
     EXPECT_EQ(links::relative("C:\\out\\a.gif", "C:\\out"), "a.gif");
+    EXPECT_EQ(links::baseOrDefault("C:\\own"), "C:\\own");
+    EXPECT_EQ(links::baseOrDefault(""), "C:\\out\\deep");
     links::setDefaultBase(before);
 }
 

@@ -16,7 +16,7 @@ bool ImageWriter::findImage(OrxString& name) {
     }
     if (isImageName(name) && SysFile::getDir(name).isEmpty()) {
         const OrxString installed = SysFile::appendToDir(
-            SysFile::appendToDir(context_.settings.installDir, installedPicturesName), name);
+            installedName(context_.settings.installDir, installedPicturesName), name);
         if (SysFile::exists(installed)) {
             name = installed;
             return true;

@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "contents/support_files.h"
 #include "page/links.h"
-#include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -27,8 +27,7 @@ void LocateButton::insert() {
     if (!context_.settings.locateInBrowser) {
         return;
     }
-    OrxString way = links::fromPath(
-        SysDirectory::getRelativePath(context_.pageDir(), context_.names.outputDir()));
+    OrxString way = links::relative(context_.names.outputDir(), context_.pageDir());
     if (way.isEmpty()) {
         way = ".";
     }
@@ -41,7 +40,7 @@ void LocateButton::insert() {
 }
 
 void LocateButton::copyPictures() {
-    const OrxString source = SysFile::appendToDir(userFilesDir(), pictureDir);
+    const OrxString source = installedName(userFilesDir(), pictureDir);
     for (const char* const name : {picture, pictureUnderMouse}) {
         context_.copyTo(context_.settings.pixDir, SysFile::appendToDir(source, name));
     }

@@ -9,6 +9,10 @@ OrxString DocumentContext::pageDir() const {
     return SysFile::getDir(out.page().getFileName());
 }
 
+OrxString DocumentContext::linkBase() const {
+    return links::baseOrDefault(pageDir());
+}
+
 OrxString DocumentContext::documentLink(const OrxString& fileName) const {
     LinkMemo forThisOnce;
     return documentLink(fileName, forThisOnce);
@@ -16,7 +20,7 @@ OrxString DocumentContext::documentLink(const OrxString& fileName) const {
 
 OrxString DocumentContext::documentLink(const OrxString& fileName, LinkMemo& memo) const {
     if (settings.useRelative) {
-        return memo.relativeFile(fileName, pageDir());
+        return memo.relativeFile(fileName, linkBase());
     }
     return "file:///" + links::fromPath(fileName);
 }

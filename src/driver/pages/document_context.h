@@ -20,6 +20,9 @@ struct DocumentContext {
 
     /// Directory of the page being written.
     [[nodiscard]] OrxString pageDir() const;
+    /// Directory that the current page's links count from: its own, or the default base directory
+    /// when it has none.
+    [[nodiscard]] OrxString linkBase() const;
     /// The link of a file as pages refer to it: relative to the current page, or an absolute file
     /// URL when relative links are off.
     [[nodiscard]] OrxString documentLink(const OrxString& fileName) const;

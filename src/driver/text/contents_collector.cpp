@@ -12,7 +12,6 @@ namespace quillmark {
 void ContentsCollector::reset() noexcept {
     entries_.clear();
     tocAnchorCount_ = 0;
-    inTocEntry_ = false;
 }
 
 void ContentsCollector::openAnchor() {

@@ -20,8 +20,10 @@ public:
     ContentsCollector(OutputRouter& out, Bookmarks& bookmarks) noexcept
         : out_(out), bookmarks_(bookmarks) {}
 
-    /// For a new document.
+    /// For a new document; an entry that is open stays open.
     void reset() noexcept;
+    /// Ends the open entry without adding it.
+    void leaveEntry() noexcept { inTocEntry_ = false; }
     void setOutputDir(const OrxString& outputDir) { outputDir_ = outputDir; }
     /// Deepest level that headings enter by themselves; 0 for none.
     void setLevel(std::uint32_t level) noexcept { tocLevel_ = level; }

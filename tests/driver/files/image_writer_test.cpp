@@ -1,6 +1,7 @@
 #include <vector>
 
 #include "driver/document_fixture.h"
+#include "foundation/orx_exception.h"
 #include "host/image_map_interface.h"
 
 namespace quillmark {
@@ -29,6 +30,21 @@ TEST_F(Images, OfAnyKindAreShownWhenTheyExist) {
     files.put("C:\\pics\\a.png", "png");
     doc().insertImage(u"C:\\pics\\a.png", u"");
     EXPECT_EQ(body(), "<IMG SRC=\"pix/a.png" + imageEnd);
+}
+
+TEST_F(Images, AreLookedForInTheRootWithoutAnInstallation) {
+    setting("Settings", "InstallDir", "");
+    html("StyleSheet", "");
+    open();
+    ASSERT_TRUE(files.setCurrentDirectory("C:\\inst"));
+    files.put("C:\\inst\\pix\\b.gif", "of the current directory");
+    traced();
+    doc().insertImage(u"b.gif", u"");
+    EXPECT_EQ(traced(), "dochtml->insertImage(\"b.gif\",\"\");\nERR File not found: b.gif\n");
+    files.put("\\pix\\b.gif", "of the root");
+    doc().insertImage(u"b.gif", u"");
+    EXPECT_EQ(body(), "<IMG SRC=\"pix/b.gif" + imageEnd);
+    EXPECT_EQ(out("pix\\b.gif"), "of the root");
 }
 
 TEST_F(Images, AreOnlyToldWhenMissing) {
@@ -140,6 +156,15 @@ protected:
         "  <AREA SHAPE=\"POLY\" COORDS=\"1,2,3,4\"  NAME=\"Class A\" HREF=\"rep.htm#target\">\n";
     OneRegion service;
 };
+
+TEST_F(ImagesWithMaps, AreCountedAnewByACreateThatFails) {
+    doc().insertImage(u"C:/pics/a.gif", u"");
+    html("StyleSheet", "gone.css");
+    EXPECT_THROW(doc().create(u"C:\\out\\rep.htm"), OrxException);
+    doc().insertImage(u"C:/pics/a.gif", u"");
+    doc().close();
+    EXPECT_EQ(bodyOf("rep.htm"), map(0, "") + map(0, ""));
+}
 
 TEST_F(ImagesWithMaps, AskWithTheNameThatTheHostGave) {
     doc().insertTag(u"target");

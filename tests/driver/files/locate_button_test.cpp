@@ -55,6 +55,23 @@ TEST_F(LocateButtons, AreThereWithoutTheirPictures) {
     EXPECT_EQ(body(), button("."));
 }
 
+TEST_F(LocateButtons, TakeNoPicturesFromTheCurrentDirectory) {
+    setting("Settings", "UserFilesDir", "");
+    ASSERT_TRUE(files.setCurrentDirectory("C:\\user"));
+    files.put("\\pixs\\locate_in_brw_button_mouse_over.JPG", "of the root");
+    doc().insertLocate();
+    EXPECT_EQ(out("pix\\locate_in_brw.JPG"), "(none)");
+    EXPECT_EQ(out("pix\\locate_in_brw_button_mouse_over.JPG"), "of the root");
+}
+
+TEST_F(LocateButtons, OfAPageWithoutANameStartFromTheOutputDirectory) {
+    doc().close();
+    doc().insertLocate();
+    doc().pushDirectory(u"x");
+    doc().close();
+    EXPECT_EQ(testing::between(out("x\\rep.htm"), "<BODY  >\n", "\n\n</BODY>"), button("."));
+}
+
 TEST_F(LocateButtons, AreNoneWhenTheContentsCannotLocate) {
     html("LocateInBrowser", "false");
     open();

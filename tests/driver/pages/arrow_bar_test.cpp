@@ -146,6 +146,29 @@ TEST_F(Arrows, LeavePicturesThatMustNotBeCopied) {
     EXPECT_EQ(out("pix\\backON.gif"), "(none)");
 }
 
+TEST_F(Arrows, OfAPageWithoutANameStartFromTheOutputDirectory) {
+    open();
+    doc().close();
+    doc().close();  // this page has no name yet, but its arrows are written already
+    doc().pushDirectory(u"x");
+    doc().insertText(u"a");
+    doc().close();
+    EXPECT_EQ(testing::between(out("x\\rep.htm"), "</HEAD>\n\n", "a\n\n</BODY>"),
+              "<BODY  >\n" + deadBack("pix") + deadNext("pix") + "<BR>\n" + "<BODY  >\n" +
+                  deadBack("../pix") + deadNext("../pix") + "<BR>\n");
+}
+
+TEST_F(Arrows, AreNotTakenFromTheCurrentDirectoryWithoutAnInstallation) {
+    setting("Settings", "InstallDir", "");
+    html("StyleSheet", "");
+    ASSERT_TRUE(files.setCurrentDirectory("C:\\inst"));
+    open();
+    EXPECT_EQ(out("pix\\backON.gif"), "(none)");
+    files.put("\\pix\\backON.gif", "of the root");
+    open();
+    EXPECT_EQ(out("pix\\backON.gif"), "of the root");
+}
+
 TEST_F(Arrows, AreNotThereWithoutTheirBit) {
     html("Navig", "4");
     open();

@@ -343,6 +343,34 @@ TEST_F(StyleSheets, ThatAreMissingLeaveAnObjectThatCanBeUsed) {
     EXPECT_EQ(bodyOf("rep2.htm", 2), "kept");
 }
 
+TEST_F(StyleSheets, ThatAreMissingAreLinkedInTheInstallationAllTheSame) {
+    html("StyleSheet", "gone.css");
+    EXPECT_THROW(doc().create(u"C:\\out\\rep.htm"), OrxException);
+    doc().pushDirectory(u"x");
+    doc().insertText(u"a");
+    doc().close();
+    EXPECT_NE(out("x\\rep.htm").find("HREF=\"../../inst/gone.css\" >\n"), std::string::npos);
+}
+
+TEST_F(StyleSheets, ThatAreMissingLeaveAnOpenEntryOpen) {
+    open();
+    doc().startTOCEntry();
+    html("StyleSheet", "gone.css");
+    EXPECT_THROW(doc().create(u"C:\\out\\rep.htm"), OrxException);
+    doc().insertText(u"collected");
+    doc().endTOCEntry();
+    EXPECT_EQ(contents(), "<A HREF=\"rep.htm#toc1\">collected</a><BR>\n");
+}
+
+TEST_F(StyleSheets, ThatAreFoundCloseAnOpenEntry) {
+    open();
+    doc().startTOCEntry();
+    open();
+    doc().insertText(u"not collected");
+    doc().endTOCEntry();
+    EXPECT_EQ(contents(), "<A HREF=\"rep.htm#Page 1\">Page 1</a><BR>\n");
+}
+
 TEST_F(StyleSheets, ThatAreADirectoryAreMissing) {
     files.makeDirectories("C:\\inst\\dir.css");
     html("StyleSheet", "dir.css");
