@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "foundation/surrogates.h"
+
 namespace quillmark::code_page {
 
 namespace {
@@ -28,13 +30,6 @@ char narrowed(char16_t unit) noexcept {
                                       : static_cast<char>(0x80 + (hit - upperControls.begin()));
 }
 
-bool isHighSurrogate(char32_t unit) noexcept {
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-bool isLowSurrogate(char32_t unit) noexcept {
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
 /// Decodes one code point at `pos` and moves behind it; a malformed byte counts alone.
 char32_t decodeUtf8(std::string_view utf8, std::size_t& pos) noexcept {
     const auto byteAt = [&](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
@@ -55,8 +50,8 @@ char32_t decodeUtf8(std::string_view utf8, std::size_t& pos) noexcept {
         point = (point << 6U) | (next & 0x3FU);
     }
     constexpr std::array<char32_t, 4> smallest = {0, 0x80, 0x800, 0x10000};
-    if (point < smallest.at(more) || point > 0x10FFFF || isHighSurrogate(point) ||
-        isLowSurrogate(point)) {
+    if (point < smallest.at(more) || point > 0x10FFFF || surrogates::isHigh(point) ||
+        surrogates::isLow(point)) {
         return replacement;
     }
     pos += more;
@@ -147,9 +142,9 @@ std::string toUtf8(std::u16string_view text) {
     utf8.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         char32_t point = text[i];
-        if (isHighSurrogate(point) && i + 1 < text.size() && isLowSurrogate(text[i + 1])) {
+        if (surrogates::isHigh(point) && i + 1 < text.size() && surrogates::isLow(text[i + 1])) {
             point = 0x10000U + ((point - 0xD800U) << 10U) + (char32_t{text[++i]} - 0xDC00U);
-        } else if (isHighSurrogate(point) || isLowSurrogate(point)) {
+        } else if (surrogates::isHigh(point) || surrogates::isLow(point)) {
             point = replacement;
         }
         encodeUtf8(utf8, point);

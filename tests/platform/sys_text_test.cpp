@@ -49,6 +49,36 @@ TEST(SystemText, KeepsZeroUnits) {
     EXPECT_EQ(SysText::narrow(std::u16string_view(u"a\0b", 3)), std::string("a\0b", 3));
 }
 
+TEST(SystemText, SaysWhatTheCodePageCanHold) {
+    EXPECT_TRUE(SysText::holds(u""));
+    EXPECT_TRUE(SysText::holds(u"a?b\u20AC\u00FC"));
+    EXPECT_TRUE(SysText::holds(std::u16string_view(u"a\0b", 3)));
+    EXPECT_FALSE(SysText::holds(u"a\u4E2D"));
+    EXPECT_FALSE(SysText::holds(u"\u0100"));
+    EXPECT_FALSE(SysText::holds(u"\U0001F600"));
+    EXPECT_FALSE(SysText::holds(std::u16string(1, u'\xD83D')));
+}
+
+TEST(SystemText, SaysTheSameForUtf8ThatIsWellFormed) {
+    EXPECT_TRUE(SysText::holdsUtf8(""));
+    EXPECT_TRUE(SysText::holdsUtf8("a?\xE2\x82\xAC\xC3\xBC"));
+    EXPECT_FALSE(SysText::holdsUtf8("\xE4\xB8\xAD"));
+    EXPECT_FALSE(SysText::holdsUtf8("\xE9"));
+    EXPECT_FALSE(SysText::holdsUtf8("?\xC3"));
+}
+
+TEST(SystemText, CountsTheCharactersThatTheCodePageLoses) {
+    EXPECT_EQ(SysText::countLost(u""), 0U);
+    EXPECT_EQ(SysText::countLost(u"a?\u20AC"), 0U);
+    EXPECT_EQ(SysText::countLost(u"\u4E2Da\u20AC\u6587"), 2U);
+    EXPECT_EQ(SysText::countLost(u"\U0001F600\U0001F600"), 2U);
+    EXPECT_EQ(SysText::countLost(std::u16string{u'\xD83D', u'x', u'\xDE00'}), 2U);
+}
+
+TEST(SystemText, NamesTheCodePage) {
+    EXPECT_EQ(SysText::codePageName(), "Windows-1252");
+}
+
 TEST(SystemText, FindsTheOddUnitWhereverItStandsInALongText) {
     for (const std::size_t length : {1U, 15U, 16U, 17U, 63U, 64U, 1000U}) {
         for (std::size_t odd = 0; odd < length; ++odd) {

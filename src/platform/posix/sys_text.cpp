@@ -18,12 +18,8 @@ std::u16string SysText::widen(std::string_view text) {
     return code_page::widened(text);
 }
 
-OrxString SysText::fromUtf8(std::string_view utf8) {
-    return narrow(code_page::fromUtf8(utf8));
-}
-
-std::string SysText::toUtf8(std::string_view text) {
-    return code_page::toUtf8(widen(text));
+std::string SysText::codePageName() {
+    return "Windows-1252";
 }
 
 }  // namespace quillmark

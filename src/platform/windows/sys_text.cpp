@@ -1,6 +1,7 @@
 #include "platform/sys_text.h"
 
 #include "foundation/code_page.h"
+#include "foundation/surrogates.h"
 #include "platform/windows/windows_api.h"
 
 namespace quillmark {
@@ -10,15 +11,11 @@ namespace {
 /// Texts go to the system in pieces that a 32-bit length can hold and that no pair is cut by.
 constexpr std::size_t largestPiece = std::size_t{1} << 20U;
 
-bool isHighSurrogate(char16_t unit) noexcept {
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
 std::size_t pieceLength(std::u16string_view text) noexcept {
     if (text.size() <= largestPiece) {
         return text.size();
     }
-    return isHighSurrogate(text[largestPiece - 1]) ? largestPiece - 1 : largestPiece;
+    return surrogates::isHigh(text[largestPiece - 1]) ? largestPiece - 1 : largestPiece;
 }
 
 void appendThroughSystem(std::string& out, std::u16string_view piece) {
@@ -68,12 +65,9 @@ std::u16string SysText::widen(std::string_view text) {
     return wide;
 }
 
-OrxString SysText::fromUtf8(std::string_view utf8) {
-    return narrow(code_page::fromUtf8(utf8));
-}
-
-std::string SysText::toUtf8(std::string_view text) {
-    return code_page::toUtf8(widen(text));
+std::string SysText::codePageName() {
+    const UINT number = GetACP();
+    return number == CP_UTF8 ? "UTF-8" : "Windows-" + std::to_string(number);
 }
 
 }  // namespace quillmark

@@ -5,18 +5,13 @@
 #include <cstring>
 #include <optional>
 
+#include "foundation/surrogates.h"
+
 namespace quillmark::replay {
 
 namespace {
 
 constexpr std::size_t escapeSize = 6;
-
-bool isHighSurrogate(std::uint32_t unit) noexcept {
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-bool isLowSurrogate(std::uint32_t unit) noexcept {
-    return unit >= 0xDC00 && unit <= 0xDFFF;
-}
 
 /// How many bytes a character takes that begins with `lead`; 0 for a byte that begins none.
 std::size_t lengthFrom(unsigned char lead) noexcept {
@@ -69,11 +64,11 @@ bool holdsSurrogateBytes(std::string_view text) noexcept {
 /// the escape of a lone surrogate, which `unit` then holds.
 std::size_t wholeEscapeAt(std::string_view text, std::size_t pos, std::uint32_t& unit) noexcept {
     const std::optional<std::uint32_t> named = escapeAt(text, pos);
-    if (!named || (!isHighSurrogate(*named) && !isLowSurrogate(*named))) {
+    if (!named || (!surrogates::isHigh(*named) && !surrogates::isLow(*named))) {
         return pos + 1 < text.size() ? 2 : 1;
     }
     const std::optional<std::uint32_t> second = escapeAt(text, pos + escapeSize);
-    if (isHighSurrogate(*named) && second && isLowSurrogate(*second)) {
+    if (surrogates::isHigh(*named) && second && surrogates::isLow(*second)) {
         return 2 * escapeSize;
     }
     unit = *named;
@@ -113,7 +108,7 @@ char16_t* decodeUtf8(std::string_view utf8, char16_t* out, bool surrogates) noex
         if (!decodeLong(utf8, pos, point)) {
             return nullptr;
         }
-        if (!surrogates && (isHighSurrogate(point) || isLowSurrogate(point))) {
+        if (!surrogates && (surrogates::isHigh(point) || surrogates::isLow(point))) {
             return nullptr;
         }
         if (point >= 0x10000) {

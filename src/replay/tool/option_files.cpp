@@ -14,15 +14,11 @@ namespace quillmark::replay {
 namespace {
 
 /// What the driver's 8-bit code page cannot hold would come out as another file's name.
-OrxString heldName(const std::string& utf8, OrxString held) {
-    std::string wanted = utf8;
-    std::string back = SysText::toUtf8(held);
-    std::ranges::replace(wanted, '\\', '/');
-    std::ranges::replace(back, '\\', '/');
-    if (wanted != back) {
+const std::string& heldName(const std::string& utf8) {
+    if (!SysText::holdsUtf8(utf8)) {
         throw BadInput("a file name that the driver's 8-bit code page cannot hold: " + utf8);
     }
-    return held;
+    return utf8;
 }
 
 }  // namespace
@@ -33,7 +29,7 @@ std::filesystem::path startDirectory() {
     if (failure) {
         throw BadInput("the working directory cannot be told: " + failure.message());
     }
-    heldName(utf8Path(directory), driverPath(utf8Path(directory)));
+    heldName(utf8Path(directory));
     return directory;
 }
 
@@ -86,10 +82,9 @@ std::filesystem::path OptionFiles::native(const std::string& name) const {
 
 OrxString OptionFiles::driver(const std::string& name) const {
     if (driveOf(name) != nullptr) {
-        return heldName(name, SysText::fromUtf8(name));
+        return SysText::fromUtf8(heldName(name));
     }
-    const std::string full = utf8Path(native(name));
-    return heldName(full, driverPath(full));
+    return driverPath(heldName(utf8Path(native(name))));
 }
 
 }  // namespace quillmark::replay

@@ -51,13 +51,13 @@ Assignment assignmentOf(const std::string& text) {
     }
     const SettingDescription& setting = settingNamed(text.substr(0, equals));
     const std::string given = text.substr(equals + 1);
-    const OrxString value = SysText::fromUtf8(given);
-    if (SysText::toUtf8(value) != given) {
+    if (!SysText::holdsUtf8(given)) {
         throw BadUsage("the driver's 8-bit code page cannot hold \"" + given + "\"");
     }
     if (given.find_first_of("\r\n") != std::string::npos) {
         throw BadUsage(address(setting) + " is one line");
     }
+    const OrxString value = SysText::fromUtf8(given);
     if (!accepts(setting, value)) {
         throw BadUsage(address(setting) + " takes " + acceptedValues(setting).str() + ", not \"" +
                        text.substr(equals + 1) + "\"");
