@@ -1,9 +1,11 @@
 #include "platform/drive_table.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
 #include <mutex>
 #include <shared_mutex>
 
@@ -33,6 +35,14 @@ std::optional<std::size_t> indexOf(char letter) noexcept {
         return std::nullopt;
     }
     return static_cast<std::size_t>(ascii::toUpper(letter) - 'A');
+}
+
+/// A name that begins with "/" without its components "." and "..".
+std::string withoutDots(const std::string& name) {
+    const std::u8string plain = std::filesystem::path(std::u8string(name.begin(), name.end()))
+                                    .lexically_normal()
+                                    .u8string();
+    return {plain.begin(), plain.end()};
 }
 
 }  // namespace
@@ -67,6 +77,24 @@ void DriveTable::clear() {
     const std::unique_lock lock(table().mutex);
     table().directories.fill({});
     table().used.store(0);
+}
+
+std::string DriveTable::nameUnder(std::string directory, std::string_view rest) {
+    if (rest.empty()) {
+        return directory;
+    }
+    std::string name(rest);
+    std::replace(name.begin(), name.end(), '\\', '/');
+    if (name.front() != '/') {
+        name.insert(0, "/");
+    }
+    if (name.find("..") != std::string::npos) {
+        name = withoutDots(name);
+    }
+    if (directory.ends_with('/')) {
+        directory.pop_back();
+    }
+    return directory + name;
 }
 
 }  // namespace quillmark

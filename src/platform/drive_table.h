@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "foundation/orx_string.h"
 
@@ -16,6 +17,12 @@ public:
     static void set(char letter, const std::string& directory);
     [[nodiscard]] static std::optional<std::string> find(char letter);
     static void clear();
+
+    /// The system's own name of what a drive that lies under `directory` has under `rest`, the
+    /// part of a name behind "X:" (UTF-8, with "\" or "/"). The drive is a root, as it is on a
+    /// system with drives: ".." is taken off with the component in front of it, whether that is
+    /// there or not, and at the root it leads nowhere.
+    [[nodiscard]] static std::string nameUnder(std::string directory, std::string_view rest);
 };
 
 /// A driver's name as the system calls take it (for tools that open files themselves). Empty, which

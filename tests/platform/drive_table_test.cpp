@@ -44,5 +44,22 @@ TEST_F(Drives, HaveLettersOnly) {
     EXPECT_EQ(DriveTable::find(':'), std::nullopt);
 }
 
+TEST(NameOnADrive, LiesUnderItsDirectory) {
+    EXPECT_EQ(DriveTable::nameUnder("/data/c", "\\out\\caf\xC3\xA9.htm"),
+              "/data/c/out/caf\xC3\xA9.htm");
+    EXPECT_EQ(DriveTable::nameUnder("/data/c", "a.htm"), "/data/c/a.htm");
+    EXPECT_EQ(DriveTable::nameUnder("/data/c", ""), "/data/c");
+    EXPECT_EQ(DriveTable::nameUnder("/data/c/", "\\a.htm"), "/data/c/a.htm");
+    EXPECT_EQ(DriveTable::nameUnder("/", "/a.htm"), "/a.htm");
+    EXPECT_EQ(DriveTable::nameUnder("/", ""), "/");
+}
+
+TEST(NameOnADrive, NeverLeadsAboveIt) {
+    EXPECT_EQ(DriveTable::nameUnder("/data/c", "\\..\\a.htm"), "/data/c/a.htm");
+    EXPECT_EQ(DriveTable::nameUnder("/data/c", "..\\a.htm"), "/data/c/a.htm");
+    EXPECT_EQ(DriveTable::nameUnder("/data/c", "/out/../../../side/a.htm"), "/data/c/side/a.htm");
+    EXPECT_EQ(DriveTable::nameUnder("/data/c", "\\out\\..\\a.htm"), "/data/c/a.htm");
+}
+
 }  // namespace
 }  // namespace quillmark

@@ -56,6 +56,33 @@ TEST(NativeName, LiesUnderTheDirectoryOfItsDrive) {
     DriveTable::clear();
 }
 
+TEST(NativeName, DoesNotLeaveItsDriveUpwards) {
+    DriveTable::set('C', "/data/c");
+    EXPECT_EQ(nativePath("C:\\..\\side\\a.htm"), "/data/c/side/a.htm");
+    EXPECT_EQ(nativePath("C:..\\a.htm"), "/data/c/a.htm");
+    EXPECT_EQ(nativePath("C:\\out\\..\\..\\..\\a.htm"), "/data/c/a.htm");
+    EXPECT_EQ(nativePath("C:\\.\\..\\a.htm"), "/data/c/a.htm");
+    EXPECT_EQ(nativePath("C:\\..\\caf\xE9"), "/data/c/caf\xC3\xA9");
+    EXPECT_EQ(nativePath("C:\\.."), "/data/c/");
+    EXPECT_EQ(nativePath("C:\\..a\\b..\\..."), "/data/c/..a/b../...");
+    DriveTable::set('C', "/");
+    EXPECT_EQ(nativePath("C:\\..\\a.htm"), "/a.htm");
+    DriveTable::clear();
+    EXPECT_EQ(nativePath("out\\..\\..\\a.htm"), "out/../../a.htm");
+}
+
+TEST(NativeFile, OnADriveIsFoundPastADirectoryThatIsALinkOrMissing) {
+    const TempDir dir;
+    ASSERT_TRUE(SysDirectory::create(dir.file("disk\\out")));
+    ASSERT_EQ(symlink("/", dir.nativeFile("disk\\elsewhere").c_str()), 0);
+    DriveTable::set('Q', dir.nativeFile("disk"));
+    EXPECT_EQ(write("Q:\\elsewhere\\..\\a.htm", "a"), WriteResult::done);
+    EXPECT_EQ(write("Q:\\none\\..\\b.htm", "b"), WriteResult::done);
+    DriveTable::clear();
+    EXPECT_EQ(dir.content("disk\\a.htm"), "a");
+    EXPECT_EQ(dir.content("disk\\b.htm"), "b");
+}
+
 TEST(DriverName, HasBackslashesAndTheCodePage) {
     EXPECT_EQ(driverPath("/home/caf\xC3\xA9"), "\\home\\caf\xE9");
 }

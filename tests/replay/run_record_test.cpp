@@ -6,6 +6,8 @@
 #include <optional>
 #include <sstream>
 
+#include "platform/drive_table.h"
+#include "replay/services/drives_in_force.h"
 #include "replay/services/registered_services.h"
 #include "replay/services/run_settings.h"
 #include "replay/tool/messages.h"
@@ -124,6 +126,16 @@ TEST_F(RunSettingsTest, supplyWhatTheStoreDoesNotHave) {
 TEST_F(RunSettingsTest, writeToTheStore) {
     EXPECT_TRUE(settings_.write("Html", "Navig", "2"));
     EXPECT_EQ(store_->read("Html", "Navig"), OrxString("2"));
+}
+
+TEST(DrivesInForce, areInTheTableForTheirLifeOnly) {
+    {
+        const DrivesInForce drives({{'C', "/first"}, {'D', "/other"}, {'c', "/second"}});
+        EXPECT_EQ(DriveTable::find('C'), "/second");
+        EXPECT_EQ(DriveTable::find('D'), "/other");
+    }
+    EXPECT_EQ(DriveTable::find('C'), std::nullopt);
+    EXPECT_EQ(DriveTable::find('D'), std::nullopt);
 }
 
 TEST(RegisteredServices, areInForceForTheirLifeOnly) {

@@ -1,11 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <filesystem>
-#include <map>
-
-#include "support/run_tool.h"
+#include "replay/tool_fixture.h"
 
 namespace quillmark::replay {
 namespace {
@@ -62,43 +58,6 @@ constexpr const char* report = R"(["create","rep.htm"]
 ["insertText","last"]
 ["close"]
 )";
-
-class ReplayTool : public ::testing::Test {
-protected:
-    ToolResult run(const std::vector<std::string>& arguments, const std::string& input = {}) {
-        return ToolRunner(DOCHTML_REPLAY_PROGRAM, dir_).run(arguments, input);
-    }
-    [[nodiscard]] std::string native(const std::string& name) const {
-        return dir_.nativeFile(name);
-    }
-    [[nodiscard]] std::string content(const std::string& name) const {
-        return dir_.content(name).value_or("(missing)");
-    }
-    /// The lines of a trace, whatever the system ends them with.
-    [[nodiscard]] std::string lines(const std::string& name) const {
-        return ToolRunner::asLines(content(name));
-    }
-    [[nodiscard]] bool exists(const std::string& name) const {
-        return std::filesystem::exists(native(name));
-    }
-    /// All files below a directory with their bytes.
-    [[nodiscard]] std::map<std::string, std::string> filesIn(const std::string& dir) const {
-        std::map<std::string, std::string> files;
-        const std::filesystem::path root = native(dir);
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
-            if (entry.is_regular_file()) {
-                const std::string name = entry.path().lexically_relative(root).generic_string();
-                files[name] = content(dir + "/" + name);
-            }
-        }
-        return files;
-    }
-    void makeDirectory(const std::string& name) const {
-        std::filesystem::create_directories(native(name));
-    }
-
-    TempDir dir_;
-};
 
 TEST_F(ReplayTool, makesADocumentSetFromACallStream) {
     const ToolResult result = run({"-"},
@@ -172,43 +131,6 @@ TEST_F(ReplayTool, tellsWhereAReplayDiverges) {
               "-:6: replay diverged: the driver called dochtml->endTable();, the recording has "
               "dochtml->insertText(\"x\");\n");
     EXPECT_THAT(content("rep_dtl2.htm"), HasSubstr("x"));
-}
-
-TEST_F(ReplayTool, putsFilesOfADriveUnderItsDirectory) {
-    if (std::filesystem::path::preferred_separator != '/') {
-        GTEST_SKIP() << "the system has drives of its own";
-    }
-    const ToolResult result =
-        run({"-q", "--drive", "C=disk", "--trace", "10", "--log", "c:\\log.txt", "-"},
-            "[\"create\",\"C:\\\\out\\\\rep.htm\"]\n[\"close\"]\n");
-    EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_TRUE(exists("disk/out/rep_dtl.htm"));
-    EXPECT_EQ(lines("disk/log.txt").substr(0, 35), "dochtml->create(\"C:\\out\\rep.htm\");\n");
-}
-
-TEST_F(ReplayTool, putsFilesOfADriveWithoutADirectoryWhereItWasStarted) {
-    if (std::filesystem::path::preferred_separator != '/') {
-        GTEST_SKIP() << "the system has drives of its own";
-    }
-    const ToolResult result =
-        run({"-q", "-"}, "[\"create\",\"C:\\\\out\\\\rep.htm\"]\n[\"close\"]\n");
-    EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_TRUE(exists("C:/out/rep_dtl.htm"));
-    EXPECT_TRUE(exists("C:/out/rep_toc.dat"));
-    EXPECT_TRUE(exists("C:/out/rep.htm"));
-}
-
-TEST_F(ReplayTool, readsItsOwnFilesFromADrive) {
-    if (std::filesystem::path::preferred_separator != '/') {
-        GTEST_SKIP() << "the system has drives of its own";
-    }
-    makeDirectory("disk");
-    dir_.put("disk/store.ini", "[Html]\nNavig=2\n");
-    const ToolResult result = run({"-q", "--drive=C=disk", "--settings=C:store.ini", "-"},
-                                  "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
-    EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_TRUE(exists("rep.htm"));
-    EXPECT_FALSE(exists("rep_dtl.htm"));
 }
 
 TEST_F(ReplayTool, takesSettingsFromTheStoreAndOverIt) {

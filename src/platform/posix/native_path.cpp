@@ -12,11 +12,8 @@ bool isAscii(std::string_view text) noexcept {
     return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-std::string withSlashes(std::string_view name) {
-    std::string path =
-        isAscii(name) ? std::string(name) : code_page::toUtf8(code_page::widened(name));
-    std::replace(path.begin(), path.end(), '\\', '/');
-    return path;
+std::string utf8Name(std::string_view name) {
+    return isAscii(name) ? std::string(name) : code_page::toUtf8(code_page::widened(name));
 }
 
 }  // namespace
@@ -27,17 +24,12 @@ std::string nativePath(const OrxString& name) {
     }
     if (path_text::hasDrive(name)) {
         if (std::optional<std::string> directory = DriveTable::find(name.view()[0])) {
-            std::string rest = withSlashes(name.view().substr(2));
-            if (!rest.empty() && !rest.starts_with('/')) {
-                rest.insert(0, "/");
-            }
-            if (!rest.empty() && directory->ends_with('/')) {
-                directory->pop_back();
-            }
-            return *directory + rest;
+            return DriveTable::nameUnder(*std::move(directory), utf8Name(name.view().substr(2)));
         }
     }
-    return withSlashes(name);
+    std::string path = utf8Name(name);
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
 }
 
 OrxString driverPath(const std::string& native) {

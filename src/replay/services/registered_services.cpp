@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "host/quillmark_mode.h"
-#include "platform/drive_table.h"
 #include "settings/register_base.h"
 
 namespace quillmark::replay {
@@ -18,9 +17,6 @@ RegisteredServices::RegisteredServices(HostServices services) : services_(std::m
     earlierModel_ = MMSchema::setSchema(services_.model);
     earlierSchemaType_ = CQuillmarkMode::GetSchemaType();
     CQuillmarkMode::SetSchemaType(services_.schemaType);
-    for (const HostServices::Drive& drive : services_.drives) {
-        DriveTable::set(drive.letter, drive.directory);
-    }
     earlierListener_ = Trace::setListener(services_.traceListener);
     earlierLog_ = OrxException::setLog(services_.exceptionLog);
     earlierObserver_ = DocumentObserver::install(services_.observer);
@@ -30,9 +26,6 @@ RegisteredServices::~RegisteredServices() {
     DocumentObserver::install(earlierObserver_);
     OrxException::setLog(earlierLog_);
     Trace::setListener(earlierListener_);
-    for (const HostServices::Drive& drive : services_.drives) {
-        DriveTable::set(drive.letter, {});
-    }
     CQuillmarkMode::SetSchemaType(earlierSchemaType_);
     MMSchema::setSchema(earlierModel_);
     CImageMapInterface::setInterface(earlierImageMaps_);

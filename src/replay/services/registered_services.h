@@ -6,7 +6,8 @@
 namespace quillmark::replay {
 
 /// Registers a host's services with the driver of this process and takes them back at the end of
-/// its life, so that what was registered before is in force again.
+/// its life, so that what was registered before is in force again. Drives are the matter of
+/// `DrivesInForce`.
 class RegisteredServices {
 public:
     explicit RegisteredServices(HostServices services);

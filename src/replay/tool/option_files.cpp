@@ -75,9 +75,7 @@ std::filesystem::path OptionFiles::native(const std::string& name) const {
     if (drive == nullptr) {
         return startDirectory() / pathFrom(name);
     }
-    std::string rest = name.substr(2);
-    std::ranges::replace(rest, '\\', '/');
-    return pathFrom(drive->directory + "/" + rest);
+    return pathFrom(DriveTable::nameUnder(drive->directory, name.substr(2)));
 }
 
 OrxString OptionFiles::driver(const std::string& name) const {

@@ -10,6 +10,7 @@
 #include "replay/input/bad_input.h"
 #include "replay/input/inputs.h"
 #include "replay/play/player.h"
+#include "replay/services/drives_in_force.h"
 #include "replay/services/registered_services.h"
 #include "replay/services/run_services.h"
 #include "replay/tool/messages.h"
@@ -28,6 +29,7 @@ public:
         : options_(options),
           around_(around),
           files_(options.drives),
+          drives_(files_.allDrives()),
           inputs_(options.inputs, around.input),
           services_(options, files_, around.executable),
           messages_(around.errors, around.errorsAreWatched && !options.quiet),
@@ -164,6 +166,8 @@ private:
     const Options& options_;
     const Surroundings& around_;
     OptionFiles files_;
+    /// In force before the settings store, which may lie on one of them, is read.
+    DrivesInForce drives_;
     Inputs inputs_;
     RunServices services_;
     Messages messages_;
