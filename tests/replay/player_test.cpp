@@ -117,6 +117,9 @@ protected:
                  [this](std::size_t line, const std::string& how) {
                      divergences_.push_back(std::to_string(line) + ": " + how);
                  },
+                 [this](std::size_t line, const std::string& why) {
+                     refusals_.push_back(std::to_string(line) + ": " + why);
+                 },
                  {}},
                 *trace_,
                 exceptions_};
@@ -136,6 +139,7 @@ protected:
     std::optional<std::int16_t> traceLevel_;
     std::vector<std::u16string> answers_;
     std::vector<std::string> divergences_;
+    std::vector<std::string> refusals_;
 };
 
 TEST_F(PlayerTest, playsEveryCallOfAStreamAndLetsGoOfTheObject) {
@@ -204,6 +208,59 @@ TEST_F(PlayerTest, takesADocumentWhoseCreateFailedAsNotOpen) {
     stage_.createFails = true;
     EXPECT_FALSE(playStream("[\"create\",\"C:\\\\a\"]\n[\n"));
     EXPECT_THAT(stage_.calls, ElementsAre("create(\"C:\\a\")", "gone"));
+}
+
+TEST_F(PlayerTest, refusesADocumentNameThatTheCodePageCannotHold) {
+    EXPECT_TRUE(
+        playStream("[\"create\",\"a.htm\"]\n[\"close\"]\n[\"create\",\"C:\\\\\\u4e2d\\\\a.htm\"]\n"
+                   "[\"insertText\",\"lost\"]\n[\"getDocType\"]\n[\"close\"]\n"
+                   "[\"create\",\"b.htm\"]\n[\"close\"]\n"));
+    EXPECT_THAT(refusals_,
+                ElementsAre("3: create: the driver's 8-bit code page (Windows-1252) cannot hold "
+                            "the name \"C:\\\u4e2d\\a.htm\"; the calls up to the next create or "
+                            "new are passed over"));
+    EXPECT_THAT(stage_.calls, ElementsAre("create(\"\\start\\a.htm\")", "close()",
+                                          "create(\"\\start\\b.htm\")", "close()", "gone"));
+    EXPECT_THAT(answers_, IsEmpty());
+}
+
+TEST_F(PlayerTest, passesCallsOverUpToAFreshObject) {
+    EXPECT_TRUE(
+        playStream("[\"create\",\"\\u4e2d\"]\n[\"insertEndl\"]\n[\"create\",\"\\u6587\"]\n"
+                   "[\"insertEndl\"]\n[\"new\"]\n[\"insertEndl\"]\n"));
+    EXPECT_EQ(refusals_.size(), 2U);
+    EXPECT_THAT(stage_.calls, ElementsAre("insertEndl()", "gone"));
+}
+
+TEST_F(PlayerTest, passesCallsOfTheNextInputOverToo) {
+    Player player = makePlayer(true);
+    EXPECT_TRUE(playInto<CallStreamReader>(player, "[\"create\",\"\\u4e2d\"]\n"));
+    EXPECT_TRUE(playInto<RecordingReader>(player, "dochtml->insertEndl();\n"));
+    player.finish();
+    EXPECT_THAT(stage_.calls, IsEmpty());
+    EXPECT_THAT(divergences_, IsEmpty());
+}
+
+TEST_F(PlayerTest, leavesAnOpenDocumentAsItIsWhenItRefusesTheNext) {
+    EXPECT_FALSE(playStream("[\"create\",\"C:\\\\a\"]\n[\"create\",\"\\u4e2d\"]\n[\n"));
+    EXPECT_THAT(stage_.calls, ElementsAre("create(\"C:\\a\")", "close()", "gone"));
+}
+
+TEST_F(PlayerTest, doesNotRefuseANameThatTheOutputNameReplaces) {
+    outputName_ = "D:\\b.htm";
+    playStream("[\"create\",\"\\u4e2d\"]\n[\"create\",\"\\u4e2d\"]\n");
+    EXPECT_THAT(stage_.calls, ElementsAre("create(\"D:\\b.htm\")", "gone"));
+    EXPECT_EQ(refusals_.size(), 1U);
+}
+
+TEST_F(PlayerTest, countsTheCharactersThatTheCodePageLoses) {
+    Player player = makePlayer(false);
+    EXPECT_TRUE(
+        playInto<CallStreamReader>(player,
+                                   "[\"insertText\",\"\\u4e2d\\u20ac\\ud83d\\ude00\"]\n["
+                                   "\"insertXref\",\"\\u0100\",\"\\ud800\"]\n"
+                                   "[\"create\",\"\\u4e2d\"]\n[\"insertText\",\"\\u4e2d\"]\n"));
+    EXPECT_EQ(player.charactersLost(), 4U);
 }
 
 TEST_F(PlayerTest, playsSeveralInputsIntoTheSameObject) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "foundation/code_page.h"
 #include "platform/path_text.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_text.h"
@@ -30,6 +31,12 @@ std::string quoted(std::string_view text) {
     constexpr std::size_t most = 120;
     const bool cut = text.size() > most;
     return SysText::toUtf8(text.substr(0, most)) + (cut ? " ..." : "");
+}
+
+std::string nameProblem(WideText name) {
+    return "create: the driver's 8-bit code page (" + SysText::codePageName() +
+           ") cannot hold the name \"" + code_page::toUtf8(name) +
+           "\"; the calls up to the next create or new are passed over";
 }
 
 }  // namespace
@@ -66,6 +73,7 @@ void Player::learnIdentifiers() {
 void Player::finish() {
     document_.reset();
     isOpen_ = false;
+    passesOver_ = false;
 }
 
 void Player::invoke(const Operation& operation, std::span<const Argument> arguments) {
@@ -104,16 +112,43 @@ void Player::adaptCreate(Call& call) {
     }
 }
 
-void Player::playCall(Call& call) {
+bool Player::refuses(const Call& create) const {
+    const WideText name = std::get<WideText>(create.arguments[0]);
+    if (settings_.outputName || SysText::holds(name)) {
+        return false;
+    }
+    if (listeners_.refused) {
+        listeners_.refused(create.line, nameProblem(name));
+    }
+    return true;
+}
+
+void Player::countLost(std::span<const Argument> arguments) {
+    for (const Argument& argument : arguments) {
+        if (const auto* const text = std::get_if<WideText>(&argument)) {
+            charactersLost_ += SysText::countLost(*text);
+        }
+    }
+}
+
+/// False for a call that is passed over.
+bool Player::playCall(Call& call) {
     if (call.operation == nullptr) {
         finish();
         document();
-        return;
+        return true;
     }
     const bool opens = call.operation == &createOperation();
     if (opens) {
+        passesOver_ = refuses(call);
+    }
+    if (passesOver_) {
+        return false;
+    }
+    if (opens) {
         adaptCreate(call);
     }
+    countLost(call.given());
     const std::size_t caught = exceptions_.caught();
     invoke(*call.operation, call.given());
     if (opens) {
@@ -121,6 +156,7 @@ void Player::playCall(Call& call) {
     } else if (call.operation == &closeOperation()) {
         isOpen_ = false;
     }
+    return true;
 }
 
 /// What the driver wrote there, for a message.
@@ -168,12 +204,12 @@ bool Player::play(CallSource& source) {
     ReadResult result = source.next(call);
     while (result == ReadResult::call) {
         trace_.forgetCalls();
-        playCall(call);
+        const bool played = playCall(call);
         ++calls_;
         if (listeners_.played) {
             listeners_.played(calls_);
         }
-        result = call.recorded.empty() ? source.next(call) : takeOff(source, call);
+        result = played && !call.recorded.empty() ? takeOff(source, call) : source.next(call);
     }
     if (result == ReadResult::malformed && isOpen_) {
         invoke(closeOperation(), {});

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -16,6 +17,10 @@
 namespace quillmark::replay {
 
 /// Plays calls into a document, input after input into the same object.
+///
+/// A `create` whose name the driver's code page cannot hold is refused: its document would get
+/// another name, which may be that of another document. It and the calls behind it are passed
+/// over, up to the next `create` or fresh object.
 ///
 /// While it plays a recording it takes the call lines that the driver writes while it serves a
 /// call off the recording, so that calls which the driver made on itself are not played twice.
@@ -36,6 +41,8 @@ public:
         std::function<void(WideText)> answer;
         /// Where a replay diverged from its recording, and how.
         std::function<void(std::size_t line, const std::string& how)> diverged;
+        /// Which call of `create` was refused, and why.
+        std::function<void(std::size_t line, const std::string& why)> refused;
         /// After every call, with the number of calls so far.
         std::function<void(std::size_t calls)> played;
     };
@@ -49,11 +56,15 @@ public:
     [[nodiscard]] bool play(CallSource& source);
     /// Lets go of the object, which ends a document that is still open.
     void finish();
+    /// How many characters of the texts played the driver's code page could not hold.
+    [[nodiscard]] std::size_t charactersLost() const noexcept { return charactersLost_; }
 
 private:
     LateBoundDocument& document();
     void learnIdentifiers();
-    void playCall(Call& call);
+    bool playCall(Call& call);
+    bool refuses(const Call& create) const;
+    void countLost(std::span<const Argument> arguments);
     void invoke(const Operation& operation, std::span<const Argument> arguments);
     void adaptCreate(Call& call);
     ReadResult takeOff(CallSource& source, Call& call);
@@ -69,7 +80,9 @@ private:
     std::u16string fileName_;
     std::string createLine_;
     std::size_t calls_ = 0;
+    std::size_t charactersLost_ = 0;
     bool isOpen_ = false;
+    bool passesOver_ = false;
 };
 
 }  // namespace quillmark::replay

@@ -52,6 +52,7 @@ public:
                 }
             }
             player.finish();
+            charactersLost_ = player.charactersLost();
         }
         messages_.clearProgress();
         checkOutput();
@@ -68,8 +69,7 @@ private:
         if (source == nullptr || player.play(*source)) {
             return true;
         }
-        messages_.tell(input.name + ":" + std::to_string(source->line()) + ": " +
-                       source->problem());
+        tellPlace(source->line(), source->problem());
         return false;
     }
 
@@ -98,8 +98,11 @@ private:
                 },
                 [this](std::size_t line, const std::string& how) {
                     ++errors_;
-                    messages_.tell(current_->name + ":" + std::to_string(line) +
-                                   ": replay diverged: " + how);
+                    tellPlace(line, "replay diverged: " + how);
+                },
+                [this](std::size_t line, const std::string& why) {
+                    ++errors_;
+                    tellPlace(line, why);
                 },
                 [this](std::size_t calls) {
                     constexpr std::size_t oftenEnough = 1024;
@@ -146,6 +149,11 @@ private:
         }
     }
 
+    /// A message about a line of the input that is played.
+    void tellPlace(std::size_t line, const std::string& what) {
+        messages_.tell(current_->name + ":" + std::to_string(line) + ": " + what);
+    }
+
     void tellError(const std::string& what) {
         ++errors_;
         messages_.tell(std::string(toolName) + ": " + what);
@@ -159,6 +167,9 @@ private:
                            counted(errors_, "error");
         if (trace_.warnings() > 0) {
             text += ", " + counted(trace_.warnings(), "warning");
+        }
+        if (charactersLost_ > 0) {
+            text += ", " + counted(charactersLost_, "character") + " lost";
         }
         messages_.tell(std::string(toolName) + ": " + text);
     }
@@ -177,6 +188,7 @@ private:
     RunCounts counts_;
     const Inputs::Input* current_ = nullptr;
     std::size_t errors_ = 0;
+    std::size_t charactersLost_ = 0;
     bool badInput_ = false;
 };
 
