@@ -36,14 +36,4 @@ IconArchives copyContentsSupportFiles(const ContentsContext& context) {
     return archives;
 }
 
-void copyArrowPictures(const OrxString& installDir, const OrxString& pixDir,
-                       const FileCopier& copier, const Trace& trace) {
-    const OrxString pictures = installedName(installDir, installedPicturesName);
-    for (const char* const name : {arrow_pictures::forward, arrow_pictures::forwardDead,
-                                   arrow_pictures::back, arrow_pictures::backDead}) {
-        const OrxString source = SysFile::appendToDir(pictures, name);
-        copier.copyToDir(source, pixDir, "", trace);
-    }
-}
-
 }  // namespace quillmark

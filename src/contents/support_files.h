@@ -23,21 +23,6 @@ struct IconArchives {
 /// over in silence.
 IconArchives copyContentsSupportFiles(const ContentsContext& context);
 
-/// The directory of the installed pictures, in the installation directory.
-inline constexpr const char* installedPicturesName = "pix";
-
-/// The pictures of the arrows between pages, live and dead.
-namespace arrow_pictures {
-inline constexpr const char* forward = "forwardON.gif";
-inline constexpr const char* forwardDead = "forwardOFF.gif";
-inline constexpr const char* back = "backON.gif";
-inline constexpr const char* backDead = "backOFF.gif";
-}  // namespace arrow_pictures
-
-/// Copies the four arrow pictures from the installed pictures into the image directory.
-void copyArrowPictures(const OrxString& installDir, const OrxString& pixDir,
-                       const FileCopier& copier, const Trace& trace);
-
 /// Name of the icon archive, in the installation directory and in the image directory.
 inline constexpr const char* iconArchiveName = "icons.zip";
 

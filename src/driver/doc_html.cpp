@@ -3,8 +3,8 @@
 #include "driver/doc_html.h"
 
 #include "contents/contents_pages.h"
-#include "contents/support_files.h"
 #include "driver/doc_html_impl.h"
+#include "driver/pages/arrow_bar.h"
 #include "foundation/orx_exception.h"
 #include "page/links.h"
 #include "platform/sys_directory.h"
@@ -74,7 +74,7 @@ DocResult DocHtml::create(WideText fileName) {
     settings.readTexts(impl_->settings);
     impl_->text.setPassThrough(settings.passThrough);
     if (settings.hasArrows()) {
-        copyArrowPictures(settings.installDir, settings.pixDir, context.copier, context.trace);
+        copyArrowPictures(context);
     }
     if (!settings.readIniFile()) {
         useJnlp_ = false;
@@ -140,7 +140,7 @@ DocResult DocHtml::insertPageBreak() {
         return resultOk;
     }
     endPage(false);
-    impl_->pages.nextNumber();
+    impl_->context.out.nextPageNumber();
     impl_->pages.startPage();
     return resultOk;
 }

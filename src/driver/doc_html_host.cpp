@@ -16,17 +16,19 @@ namespace {
 /// The class identifier of the settings page, in the text form of the component registry.
 constexpr std::u16string_view settingsPageClass = u"{474BDD93-0170-11D3-A6BF-00104B2AEFE1}";
 
-RegEntry::Type entryType(std::int16_t valueType) noexcept {
+/// The value types of `overrideRegistry`, which are not the settings library's own.
+enum class ValueType : std::int16_t { number = 1, text = 2, boolean = 3 };
+
+RegEntry::Type entryType(ValueType valueType) noexcept {
     switch (valueType) {
-        case 1:
+        case ValueType::number:
             return RegEntry::Type::number;
-        case 2:
+        case ValueType::text:
             return RegEntry::Type::text;
-        case 3:
+        case ValueType::boolean:
             return RegEntry::Type::boolean;
-        default:
-            return RegEntry().type();
     }
+    return RegEntry().type();
 }
 
 }  // namespace
@@ -89,7 +91,8 @@ DocResult DocHtml::trace(std::int16_t level) {
 DocResult DocHtml::overrideRegistry(WideText group, WideText name, WideText value,
                                     std::int16_t valueType) {
     impl_->settings.override(RegEntry(SysText::narrow(group), SysText::narrow(name),
-                                      SysText::narrow(value), entryType(valueType)));
+                                      SysText::narrow(value),
+                                      entryType(static_cast<ValueType>(valueType))));
     return resultOk;
 }
 

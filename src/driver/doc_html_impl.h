@@ -10,6 +10,7 @@
 #include "driver/links/link_writer.h"
 #include "driver/page_turner.h"
 #include "driver/pages/document_context.h"
+#include "driver/pages/held_pages.h"
 #include "driver/text/contents_collector.h"
 #include "driver/text/font_writer.h"
 #include "driver/text/paragraph_style.h"
@@ -25,7 +26,8 @@ struct DocHtmlImpl {
     DocumentContext context;
     RegisterCache settings;
     CallTrace calls{context.trace};
-    Bookmarks bookmarks{context.out, context.trace};
+    HeldPages heldPages;
+    Bookmarks bookmarks{context.out, heldPages, context.trace};
     ContentsCollector contents{context.out, bookmarks};
     FontWriter font{context.out};
     ParagraphStyle style{context.out, font, contents};
@@ -35,7 +37,7 @@ struct DocHtmlImpl {
     ImageWriter images{context, bookmarks, links};
     FileInserter files{context, links, images, text};
     LocateButton locate{context, text};
-    PageTurner pages{context, bookmarks, contents, font, style};
+    PageTurner pages{context, heldPages, bookmarks, contents, font, style};
 
     /// A directory change has just cut the page; a page break right behind it is not another one.
     bool breakJustMade = false;

@@ -40,7 +40,7 @@ DocResult DocHtml::insertEndl() {
 
 DocResult DocHtml::insertField(std::int16_t field) {
     impl_->calls.call("insertField", field);
-    impl_->text.insertField(field, impl_->pages.pageNumber());
+    impl_->text.insertField(static_cast<FieldKind>(field));
     return resultOk;
 }
 
@@ -53,7 +53,7 @@ DocResult DocHtml::setStyle(WideText style) {
 
 DocResult DocHtml::setTextAlign(std::int16_t textAlign) {
     impl_->calls.call("setTextAlign", textAlign);
-    impl_->style.setAlign(static_cast<std::uint16_t>(textAlign));
+    impl_->style.setAlign(static_cast<TextAlign>(textAlign));
     return resultOk;
 }
 
@@ -71,13 +71,14 @@ DocResult DocHtml::setFontSize(std::int16_t size) {
 }
 
 DocResult DocHtml::setFontAttribute(std::int16_t att, bool value) {
+    const auto attribute = static_cast<FontAttribute>(att);
     const CallTrace::Word flag{value ? "TRUE" : "FALSE"};
-    if (const std::string_view word = fontAttributeWord(att); word.empty()) {
+    if (const std::string_view word = fontAttributeWord(attribute); word.empty()) {
         impl_->calls.call("setFontAttribute", flag);
     } else {
         impl_->calls.call("setFontAttribute", CallTrace::Word{word}, flag);
     }
-    impl_->font.setAttribute(att, value);
+    impl_->font.setAttribute(attribute, value);
     return resultOk;
 }
 
@@ -171,7 +172,7 @@ DocResult DocHtml::insertImage(WideText imageFileName, WideText fileOrUrl) {
 DocResult DocHtml::insertFile(WideText fileName, std::int16_t insertAsType) {
     const OrxString name = SysText::narrow(fileName);
     impl_->calls.call("insertFile", name.view(), insertAsType);
-    impl_->files.insertFile(name, insertAsType);
+    impl_->files.insertFile(name, static_cast<InsertAs>(insertAsType));
     return resultOk;
 }
 

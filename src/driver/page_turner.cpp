@@ -9,7 +9,7 @@
 namespace quillmark {
 
 OrxString PageTurner::pageFileName() const {
-    return context_.names.pageFileName(pageNumber_, subDirectory_);
+    return context_.names.pageFileName(context_.out.pageNumber(), subDirectory_);
 }
 
 void PageTurner::newPage() {
@@ -27,8 +27,8 @@ void PageTurner::startPage() {
     DocHtmlPage& page = context_.out.page();
     page.setFileName(pageFileName());
     page.addMark(page_marks::topOfPage, "");
-    bookmarks_.setPageNumber(pageNumber_);
-    bookmarks_.define("Page " + std::to_string(pageNumber_), Bookmarks::Origin::driver);
+    bookmarks_.define("Page " + std::to_string(context_.out.pageNumber()),
+                      Bookmarks::Origin::driver);
     reopenTextState();
     contents_.startPage();
 }
@@ -60,7 +60,7 @@ void PageTurner::endPage(bool last, const std::function<void()>& closeTables) {
                            ? OrxString()
                            : styleSheetLink_.relativeFile(styleSheet, context_.linkBase()));
     page.setTitle(title_);
-    contents_.finishPage(pageNumber_);
+    contents_.finishPage();
     dispatchPage(last);
 }
 
@@ -70,7 +70,7 @@ void PageTurner::writeTop(bool last) {
     page.appendTop(context_.settings.bodyTags);
     page.appendTop(" >\n");
     if (context_.settings.hasArrows()) {
-        page.appendTop(arrows_.bar(pageNumber_, last));
+        page.appendTop(arrows_.bar(context_.out.pageNumber(), last));
     }
     if (const DocHtmlSection* const header = context_.out.section(SectionMode::header);
         header != nullptr) {
@@ -100,7 +100,7 @@ OrxString PageTurner::stamp(const DocHtmlSection& section) {
             font_.switchTo(FontData(context_.out.bodyState().font));
         }
     }
-    return section.getDisplayString(static_cast<long>(pageNumber_),
+    return section.getDisplayString(static_cast<long>(context_.out.pageNumber()),
                                     SysFile::stripDir(context_.out.page().getFileName()));
 }
 
@@ -120,7 +120,7 @@ void PageTurner::dispatchPage(bool last) {
     DocHtmlPage& page = context_.out.page();
     expectedSize_ = page.bodySize();
     if (last) {
-        bookmarks_.heldPages().finishAll(finish);
+        held_.finishAll(finish);
         bookmarks_.clear();
     }
     if (!page.hasMarks()) {
@@ -130,13 +130,13 @@ void PageTurner::dispatchPage(bool last) {
     if (last) {
         finish(page);
     } else {
-        bookmarks_.heldPages().hold(pageNumber_, context_.out.sharedPage());
+        held_.hold(context_.out.pageNumber(), context_.out.sharedPage());
     }
     newPage();
 }
 
 void PageTurner::releaseHeldPages() {
-    bookmarks_.heldPages().finishAll([](DocHtmlPage& page) { page.close(); });
+    held_.finishAll([](DocHtmlPage& page) { page.close(); });
 }
 
 }  // namespace quillmark

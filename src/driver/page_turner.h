@@ -1,11 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 
 #include "driver/links/bookmarks.h"
 #include "driver/pages/arrow_bar.h"
 #include "driver/pages/document_context.h"
+#include "driver/pages/held_pages.h"
 #include "driver/text/contents_collector.h"
 #include "driver/text/font_writer.h"
 #include "driver/text/paragraph_style.h"
@@ -19,9 +19,10 @@ namespace quillmark {
 /// state again that was closed.
 class PageTurner {
 public:
-    PageTurner(DocumentContext& context, Bookmarks& bookmarks, ContentsCollector& contents,
-               FontWriter& font, ParagraphStyle& style) noexcept
+    PageTurner(DocumentContext& context, HeldPages& held, Bookmarks& bookmarks,
+               ContentsCollector& contents, FontWriter& font, ParagraphStyle& style) noexcept
         : context_(context),
+          held_(held),
           bookmarks_(bookmarks),
           contents_(contents),
           font_(font),
@@ -40,8 +41,6 @@ public:
 
     void setTitle(const OrxString& title) { title_ = title; }
     [[nodiscard]] const OrxString& title() const noexcept { return title_; }
-    [[nodiscard]] std::uint32_t pageNumber() const noexcept { return pageNumber_; }
-    void nextNumber() noexcept { ++pageNumber_; }
 
     /// The directory of the following pages, and of this one from now on.
     void setSubDirectory(const OrxString& directory) { subDirectory_ = directory; }
@@ -60,11 +59,11 @@ private:
     void reopenTextState();
 
     DocumentContext& context_;
+    HeldPages& held_;
     Bookmarks& bookmarks_;
     ContentsCollector& contents_;
     FontWriter& font_;
     ParagraphStyle& style_;
-    std::uint32_t pageNumber_ = OutputNames::firstPageNumber;
     OrxString title_;
     OrxString subDirectory_;
     DocHtmlTextState savedState_;

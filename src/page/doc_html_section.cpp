@@ -44,19 +44,19 @@ void DocHtmlSection::insertText(std::string_view html) {
     record_->text.append(html);
 }
 
-void DocHtmlSection::insertField(std::int16_t kind) {
+void DocHtmlSection::insertField(FieldKind kind) {
     const bool frozen = record_->testLevel != 0;
     switch (kind) {
-        case 1:
+        case FieldKind::date:
             insertText(frozen ? OrxString("XX/XX/XX") : SysTime::currentDate());
             break;
-        case 2:
+        case FieldKind::time:
             insertText(frozen ? OrxString("XX:XX:XX") : SysTime::currentTime());
             break;
-        case 3:
+        case FieldKind::fileName:
             insertText(fileToken);
             break;
-        case 4:
+        case FieldKind::pageNumber:
             insertText(pageToken);
             break;
         default:

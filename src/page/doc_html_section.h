@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string_view>
 
+#include "page/field_kind.h"
 #include "page/text_state.h"
 
 namespace quillmark {
@@ -23,8 +23,8 @@ public:
     void clear();
     /// Appends finished HTML.
     void insertText(std::string_view html);
-    /// Appends a field: 1 date, 2 time, 3 file name, 4 page number; other kinds add nothing.
-    void insertField(std::int16_t kind);
+    /// Appends a field. An unknown kind adds nothing.
+    void insertField(FieldKind kind);
     void setFont(const FontData& font);
     /// The text state while the section is open; it lives as long as the section.
     [[nodiscard]] DocHtmlTextState* getState() const noexcept;

@@ -13,7 +13,7 @@ bool operator!=(const FontData& a, const FontData& b) noexcept {
 }
 
 void DocHtmlTextState::reset() {
-    textAlign = 0;
+    textAlign = TextAlign::none;
     styleName = "Normal";
     fontOpen = false;
 }

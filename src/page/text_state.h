@@ -26,6 +26,9 @@ public:
     friend bool operator!=(const FontData& a, const FontData& b) noexcept;
 };
 
+/// The codes of `setTextAlign`. Any other code is kept as it is and aligns to the left.
+enum class TextAlign : std::uint16_t { none = 0, left = 1, center = 2, right = 3 };
+
 /// The text state in force: one for the body, one for each section.
 class DocHtmlTextState {
 public:
@@ -34,8 +37,7 @@ public:
     DocHtmlTextState& operator=(const DocHtmlTextState&) = default;
     virtual ~DocHtmlTextState() = default;
 
-    /// Alignment code in force, 0 for none.
-    std::uint16_t textAlign = 0;
+    TextAlign textAlign = TextAlign::none;
     OrxString styleName{"Normal"};
     /// Tags for `font` may be open in the output and must be closed.
     bool fontOpen = false;

@@ -121,33 +121,5 @@ TEST_F(SupportFiles, RefersToAnOlderCopyWhenTheNewOneFails) {
               "ERR Could not copy file C:\\inst\\icons.zip to directory C:\\out\\pix\n");
 }
 
-TEST_F(SupportFiles, CopiesTheArrowsFromThePictureFolder) {
-    for (const char* const name :
-         {"forwardON.gif", "forwardOFF.gif", "backON.gif", "backOFF.gif"}) {
-        install((std::string("pix\\") + name).c_str());
-    }
-    copyArrowPictures("C:\\inst", "C:\\out\\pix", copier, trace);
-    EXPECT_EQ(written("pix\\forwardON.gif"), "pix\\forwardON.gif");
-    EXPECT_EQ(written("pix\\forwardOFF.gif"), "pix\\forwardOFF.gif");
-    EXPECT_EQ(written("pix\\backON.gif"), "pix\\backON.gif");
-    EXPECT_EQ(written("pix\\backOFF.gif"), "pix\\backOFF.gif");
-}
-
-TEST_F(SupportFiles, CopiesTheArrowsForwardFirst) {
-    for (const char* const name :
-         {"forwardON.gif", "forwardOFF.gif", "backON.gif", "backOFF.gif"}) {
-        install((std::string("pix\\") + name).c_str());
-    }
-    FailingFileSystem failing(files);
-    failing.failAll(FailingFileSystem::Operation::copyFile);
-    const InstalledFileSystem failingInForce(failing);
-    copyArrowPictures("C:\\inst", "C:\\out\\pix", copier, trace);
-    EXPECT_EQ(lines.text(),
-              "ERR Could not copy file C:\\inst\\pix\\forwardON.gif to directory C:\\out\\pix\n"
-              "ERR Could not copy file C:\\inst\\pix\\forwardOFF.gif to directory C:\\out\\pix\n"
-              "ERR Could not copy file C:\\inst\\pix\\backON.gif to directory C:\\out\\pix\n"
-              "ERR Could not copy file C:\\inst\\pix\\backOFF.gif to directory C:\\out\\pix\n");
-}
-
 }  // namespace
 }  // namespace quillmark

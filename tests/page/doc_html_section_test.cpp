@@ -24,24 +24,24 @@ TEST_F(Section, CollectsTextAsItStands) {
 }
 
 TEST_F(Section, FillsDateAndTimeAtOnce) {
-    section.insertField(1);
+    section.insertField(FieldKind::date);
     section.insertText(" ");
-    section.insertField(2);
+    section.insertField(FieldKind::time);
     const EnvironmentVariable later("SOURCE_DATE_EPOCH", "1818281845");
     EXPECT_EQ(shown(), "06/13/24 12:30:45");
 }
 
 TEST_F(Section, FreezesDateAndTimeAtATestLevel) {
     section.setTestLevel(-3);
-    section.insertField(1);
-    section.insertField(2);
+    section.insertField(FieldKind::date);
+    section.insertField(FieldKind::time);
     EXPECT_EQ(shown(), "XX/XX/XXXX:XX:XX");
 }
 
 TEST_F(Section, FillsFileAndNumberPerPage) {
-    section.insertField(3);
+    section.insertField(FieldKind::fileName);
     section.insertText(" ");
-    section.insertField(4);
+    section.insertField(FieldKind::pageNumber);
     EXPECT_EQ(shown(7, "p.htm"), "p.htm 7");
     EXPECT_EQ(shown(-1, ""), " -1");
     EXPECT_EQ(shown(2147483647L, "q"), "q 2147483647");
@@ -49,8 +49,8 @@ TEST_F(Section, FillsFileAndNumberPerPage) {
 
 TEST_F(Section, FillsOnlyTheFirstTokenOfAKind) {
     for (int i = 0; i < 2; ++i) {
-        section.insertField(4);
-        section.insertField(3);
+        section.insertField(FieldKind::pageNumber);
+        section.insertField(FieldKind::fileName);
     }
     EXPECT_EQ(shown(), "7p.htm<PAGE><FILE>");
 }
@@ -70,7 +70,7 @@ TEST_F(Section, TellsTokensByTheirCase) {
 
 TEST_F(Section, AddsNothingForAnUnknownField) {
     for (const int kind : {0, 5, -1, 32767, -32768}) {
-        section.insertField(static_cast<std::int16_t>(kind));
+        section.insertField(static_cast<FieldKind>(kind));
     }
     EXPECT_EQ(shown(), "");
 }
@@ -79,17 +79,17 @@ TEST_F(Section, IsClearedButForItsFont) {
     section.insertText("a");
     section.setTestLevel(1);
     DocHtmlTextState& state = *section.getState();
-    state.textAlign = 2;
+    state.textAlign = TextAlign::center;
     state.styleName = "Heading 1";
     state.fontOpen = true;
     FontData font;
     font.bold = true;
     section.setFont(font);
     section.clear();
-    section.insertField(1);
+    section.insertField(FieldKind::date);
     EXPECT_EQ(shown(), "06/13/24");
     EXPECT_EQ(section.getState(), &state);
-    EXPECT_EQ(state.textAlign, 0);
+    EXPECT_EQ(state.textAlign, TextAlign::none);
     EXPECT_EQ(state.styleName, "Normal");
     EXPECT_FALSE(state.fontOpen);
     EXPECT_TRUE(state.font.bold);
@@ -99,12 +99,12 @@ TEST_F(Section, IsCopiedWhole) {
     section.insertText("a");
     DocHtmlSection copy(section);
     copy.insertText("b");
-    copy.getState()->textAlign = 3;
+    copy.getState()->textAlign = TextAlign::right;
     EXPECT_EQ(shown(), "a");
-    EXPECT_EQ(section.getState()->textAlign, 0);
+    EXPECT_EQ(section.getState()->textAlign, TextAlign::none);
     section = copy;
     EXPECT_EQ(shown(), "ab");
-    EXPECT_EQ(section.getState()->textAlign, 3);
+    EXPECT_EQ(section.getState()->textAlign, TextAlign::right);
     const DocHtmlSection& same = section;
     section = same;
     EXPECT_EQ(shown(), "ab");

@@ -42,21 +42,21 @@ TEST(FontData, DiffersByEveryField) {
 
 TEST(TextState, StartsAsNormalAndIsReset) {
     DocHtmlTextState state;
-    EXPECT_EQ(state.textAlign, 0);
+    EXPECT_EQ(state.textAlign, TextAlign::none);
     EXPECT_EQ(state.styleName, "Normal");
     EXPECT_FALSE(state.fontOpen);
     EXPECT_FALSE(state.font != FontData());
-    state.textAlign = 2;
+    state.textAlign = TextAlign::center;
     state.styleName = "List";
     state.fontOpen = true;
     state.font.size = 12;
     const DocHtmlTextState copy(state);
     state.reset();
-    EXPECT_EQ(state.textAlign, 0);
+    EXPECT_EQ(state.textAlign, TextAlign::none);
     EXPECT_EQ(state.styleName, "Normal");
     EXPECT_FALSE(state.fontOpen);
     EXPECT_EQ(state.font.size, 12) << "the font stays";
-    EXPECT_EQ(copy.textAlign, 2);
+    EXPECT_EQ(copy.textAlign, TextAlign::center);
     EXPECT_EQ(copy.styleName, "List");
     EXPECT_TRUE(copy.fontOpen);
     EXPECT_EQ(copy.font.size, 12);

@@ -1,11 +1,12 @@
 #include "driver/files/file_inserter.h"
 
 #include "driver/files/line_reader.h"
+#include "driver/pages/picture_names.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
 
-void FileInserter::insertFile(const OrxString& fileName, std::int16_t insertAsType) {
+void FileInserter::insertFile(const OrxString& fileName, InsertAs as) {
     if (fileName.isEmpty()) {
         return;
     }
@@ -21,7 +22,7 @@ void FileInserter::insertFile(const OrxString& fileName, std::int16_t insertAsTy
     if (!found && !candidateFound) {
         return;
     }
-    if (insertAsType == asContents) {
+    if (as == InsertAs::contents) {
         insertContents(candidateFound ? candidate : name);
         return;
     }

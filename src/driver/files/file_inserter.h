@@ -9,19 +9,19 @@
 
 namespace quillmark {
 
+/// The codes of `insertFile` that mean something. Every other code is a link to the file.
+enum class InsertAs : std::int16_t { contents = 3 };
+
 /// Outside documents: linked, shown when they are pictures, or pasted line by line.
 class FileInserter {
 public:
-    /// Every other kind is a link.
-    static constexpr std::int16_t asContents = 3;
-
     FileInserter(DocumentContext& context, LinkWriter& links, ImageWriter& images,
                  TextWriter& text) noexcept
         : context_(context), links_(links), images_(images), text_(text) {}
 
-    /// Puts the file's contents in, a picture or the lines of a text, when it comes as contents;
-    /// a link to it for every other type. What cannot be found leaves nothing.
-    void insertFile(const OrxString& fileName, std::int16_t insertAsType);
+    /// Inserts the file's contents (a picture, or the lines of a text) or a link to the file.
+    /// Writes nothing when the file cannot be found.
+    void insertFile(const OrxString& fileName, InsertAs as);
 
 private:
     void insertContents(const OrxString& name);

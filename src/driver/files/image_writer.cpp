@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "contents/support_files.h"
+#include "driver/pages/picture_names.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {

@@ -82,7 +82,7 @@ void Bookmarks::reference(std::string_view name, std::string_view markup) {
         page.addMark(name, markup, last->nameId);
     } else {
         const DocHtmlPage::MarkNameId nameId = page.addMark(name, markup);
-        registry_.addWaiting(id, {out_.sharedPage(), pageNumber_, nameId});
+        registry_.addWaiting(id, {out_.sharedPage(), out_.pageNumber(), nameId});
     }
 }
 

@@ -22,7 +22,8 @@ public:
     /// only decides at which trace level a second definition is told.
     enum class Origin { host, driver };
 
-    Bookmarks(OutputRouter& out, Trace& trace) noexcept : out_(out), trace_(trace) {}
+    Bookmarks(OutputRouter& out, HeldPages& held, Trace& trace) noexcept
+        : out_(out), held_(held), trace_(trace) {}
 
     /// Writes the anchor to the current page and fills what waits for it. An empty name does
     /// nothing; a name defined before only gets its warning.
@@ -32,9 +33,6 @@ public:
     /// for it. An empty markup is the bare link attribute.
     void reference(std::string_view name, std::string_view markup);
 
-    [[nodiscard]] HeldPages& heldPages() noexcept { return held_; }
-    /// The number that the current page waits and is held under.
-    void setPageNumber(std::uint32_t number) noexcept { pageNumber_ = number; }
     void clear() noexcept {
         registry_.clear();
         lastWay_ = {};
@@ -49,10 +47,9 @@ private:
                                                      const DocHtmlPage& page);
 
     OutputRouter& out_;
+    HeldPages& held_;
     Trace& trace_;
     BookmarkRegistry registry_;
-    HeldPages held_;
-    std::uint32_t pageNumber_ = 1;
 
     /// What stands in front of a bookmark's name, from one page to another: thousands of links in
     /// a row go the same way.

@@ -1,5 +1,6 @@
 #include "driver/links/link_writer.h"
 
+#include "driver/pages/picture_names.h"
 #include "page/link_attribute.h"
 #include "platform/path_text.h"
 #include "platform/sys_file.h"
@@ -12,11 +13,6 @@ constexpr std::string_view linkOpening = "<A ";
 constexpr std::string_view linkEnd = "</A>";
 
 }  // namespace
-
-bool isImageName(const OrxString& fileName) {
-    const OrxString extension = SysFile::getExtension(fileName);
-    return extension == ".jpg" || extension == ".jpeg" || extension == ".gif";
-}
 
 LinkWriter::End LinkWriter::open(const OrxString& target) {
     if (SysFile::isHyperLink(target)) {

@@ -8,10 +8,6 @@
 
 namespace quillmark {
 
-/// True for a picture that browsers of old show: extension ".jpg", ".jpeg" or ".gif" exactly, so
-/// ".JPG" is none.
-[[nodiscard]] bool isImageName(const OrxString& fileName);
-
 /// Writes links whose target is told by a host: a URL, a file, or the name of a bookmark.
 ///
 ///     const LinkWriter::End end = links.open(target);

@@ -1,6 +1,7 @@
 #include "driver/pages/arrow_bar.h"
 
 #include "contents/support_files.h"
+#include "driver/pages/picture_names.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -8,8 +9,10 @@ namespace quillmark {
 namespace {
 
 /// In the order of `ArrowBar::Picture`.
-constexpr std::array pictureNames = {arrow_pictures::back, arrow_pictures::backDead,
-                                     arrow_pictures::forward, arrow_pictures::forwardDead};
+constexpr std::array pictureNames = {"backON.gif", "backOFF.gif", "forwardON.gif",
+                                     "forwardOFF.gif"};
+/// Failed copies are traced in this order.
+constexpr std::array copyOrder = {"forwardON.gif", "forwardOFF.gif", "backON.gif", "backOFF.gif"};
 
 }  // namespace
 
@@ -42,6 +45,13 @@ OrxString ArrowBar::bar(std::uint32_t pageNumber, bool lastPage) {
         appendArrow(bar, pageNumber + 1, forwardOn);
     }
     return bar.append("<BR>\n");
+}
+
+void copyArrowPictures(const DocumentContext& context) {
+    const OrxString pictures = installedName(context.settings.installDir, installedPicturesName);
+    for (const char* const name : copyOrder) {
+        context.copyTo(context.settings.pixDir, SysFile::appendToDir(pictures, name));
+    }
 }
 
 }  // namespace quillmark

@@ -29,4 +29,7 @@ private:
     std::array<LinkMemo, pictureCount> links_;
 };
 
+/// Copies the four arrow pictures from the installed pictures into the image directory.
+void copyArrowPictures(const DocumentContext& context);
+
 }  // namespace quillmark

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 
+#include "driver/pages/output_names.h"
 #include "foundation/orx_counted_ptr.h"
 #include "page/doc_html_page.h"
 #include "page/doc_html_section.h"
@@ -14,7 +16,8 @@ namespace quillmark {
 enum class SectionMode { header = 0, body = 1, footer = 2 };
 
 /// The router of all markup: to the header section, the current page's body or the footer
-/// section. It keeps the page being written, the two sections, and the text state in force.
+/// section. It keeps the page being written with its number, the two sections, and the text state
+/// in force.
 class OutputRouter {
 public:
     OutputRouter() : page_(OrxCountedPtr<DocHtmlPage>::make()) {}
@@ -38,6 +41,10 @@ public:
     [[nodiscard]] DocHtmlPage& page() const noexcept { return *page_; }
     [[nodiscard]] const OrxCountedPtr<DocHtmlPage>& sharedPage() const noexcept { return page_; }
     void setPage(OrxCountedPtr<DocHtmlPage> page) noexcept { page_ = std::move(page); }
+
+    /// The number of the page being written. It survives a second `create`.
+    [[nodiscard]] std::uint32_t pageNumber() const noexcept { return pageNumber_; }
+    void nextPageNumber() noexcept { ++pageNumber_; }
 
     /// The text state that style, alignment and font calls change.
     [[nodiscard]] DocHtmlTextState& state() const noexcept { return *state_; }
@@ -72,6 +79,7 @@ private:
 
     SectionMode mode_ = SectionMode::body;
     OrxCountedPtr<DocHtmlPage> page_;
+    std::uint32_t pageNumber_ = OutputNames::firstPageNumber;
     std::unique_ptr<DocHtmlSection> header_;
     std::unique_ptr<DocHtmlSection> footer_;
     DocHtmlTextState bodyState_;

@@ -4,7 +4,7 @@
 
 #include "contents/entries/entry_icons.h"
 #include "contents/static_listing.h"
-#include "foundation/decimal.h"
+#include "driver/text/style_names.h"
 #include "page/page_marks.h"
 
 namespace quillmark {
@@ -38,14 +38,12 @@ void ContentsCollector::completeHeading() {
 }
 
 std::int32_t ContentsCollector::levelOfStyle() const {
-    // The style need not be a heading: any name loses as many characters as "Heading " has.
-    constexpr std::size_t prefixLength = std::string_view("Heading ").size();
     const OrxString& style = out_.state().styleName;
     if (style.isEmpty()) {
         return static_cast<std::int32_t>(tocLevel_);
     }
-    const std::int32_t level = leadingInteger(style.substr(prefixLength));
-    return level == 0 ? 1 : level;
+    // The style need not be a heading: every name is read as if it were one.
+    return style_names::levelAfter(style_names::heading, style);
 }
 
 void ContentsCollector::addEntry(OrxString& anchor, const OrxString& text, std::int32_t level) {
@@ -60,10 +58,10 @@ void ContentsCollector::addEntry(OrxString& anchor, const OrxString& text, std::
     anchor.clear();
 }
 
-void ContentsCollector::finishPage(std::uint32_t pageNumber) {
+void ContentsCollector::finishPage() {
     DocHtmlPage& page = out_.page();
     if (!pageHasTocEntry_) {
-        OrxString anchor = "Page " + OrxString(std::to_string(pageNumber));
+        OrxString anchor = "Page " + OrxString(std::to_string(out_.pageNumber()));
         addEntry(anchor, OrxString(anchor), 1);
         if (page.setInsertPoint(page_marks::topOfPage)) {
             // This anchor stays open: the next entry will point back at the top of this page.

@@ -48,7 +48,7 @@ public:
 
     void startPage() noexcept { pageHasTocEntry_ = false; }
     /// Gives a page without an entry its own, and settles the page's top mark.
-    void finishPage(std::uint32_t pageNumber);
+    void finishPage();
     /// Writes the listing of all entries so far to the page's place for it, if it has one.
     void fillListing(DocHtmlPage& page) const;
 

@@ -8,7 +8,7 @@ namespace quillmark {
 namespace {
 
 struct AttributeRow {
-    std::int16_t code;
+    FontAttribute attribute;
     std::string_view word;
     std::string_view opening;
     std::string_view closing;
@@ -25,9 +25,9 @@ constexpr std::array<AttributeRow, 4> attributes = {{
 constexpr std::string_view baseFontOpening = "<BASEFONT SIZE = ";
 constexpr std::string_view baseFontClosing = "</BASEFONT>";
 
-const AttributeRow* findAttribute(std::int16_t code) noexcept {
+const AttributeRow* findAttribute(FontAttribute attribute) noexcept {
     for (const AttributeRow& row : attributes) {
-        if (row.code == code) {
+        if (row.attribute == attribute) {
             return &row;
         }
     }
@@ -45,8 +45,8 @@ char sizeDigit(std::int16_t points) noexcept {
 
 }  // namespace
 
-std::string_view fontAttributeWord(std::int16_t code) noexcept {
-    const AttributeRow* const row = findAttribute(code);
+std::string_view fontAttributeWord(FontAttribute attribute) noexcept {
+    const AttributeRow* const row = findAttribute(attribute);
     return row != nullptr ? row->word : std::string_view();
 }
 
@@ -68,9 +68,9 @@ void FontWriter::setSize(std::int16_t points) {
     store(font);
 }
 
-void FontWriter::setAttribute(std::int16_t code, bool value) {
+void FontWriter::setAttribute(FontAttribute attribute, bool value) {
     FontData font = current();
-    if (const AttributeRow* const row = findAttribute(code); row != nullptr) {
+    if (const AttributeRow* const row = findAttribute(attribute); row != nullptr) {
         font.*(row->flag) = value;
         out_.writeOut(value ? row->opening : row->closing);
     }

@@ -20,7 +20,7 @@ public:
     void setName(const OrxString& name);
     void setSize(std::int16_t points);
     /// Writes the tag whether or not the attribute changes; an unknown code writes nothing.
-    void setAttribute(std::int16_t code, bool value);
+    void setAttribute(FontAttribute attribute, bool value);
 
     /// The font in force. In the body a closed font falls back to the default; in a section the
     /// font stored last carries on, closed or not.
@@ -41,7 +41,7 @@ private:
     OutputRouter& out_;
 };
 
-/// The word of an attribute code in the call trace, empty for an unknown one.
-[[nodiscard]] std::string_view fontAttributeWord(std::int16_t code) noexcept;
+/// The attribute's name in the call trace, empty for an unknown code.
+[[nodiscard]] std::string_view fontAttributeWord(FontAttribute attribute) noexcept;
 
 }  // namespace quillmark

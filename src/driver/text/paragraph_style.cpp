@@ -3,16 +3,12 @@
 #include <algorithm>
 #include <string>
 
-#include "foundation/decimal.h"
+#include "driver/text/style_names.h"
 
 namespace quillmark {
 
 namespace {
 
-constexpr std::string_view headingPrefix = "Heading";
-constexpr std::string_view numberPrefix = "List Number";
-constexpr std::string_view bulletPrefix = "List Bullet";
-constexpr std::string_view listPrefix = "List ";
 constexpr std::string_view alignEnd = "</DIV>\n";
 
 /// Headings of these levels have elements of their own, the next ones style-sheet classes.
@@ -23,20 +19,23 @@ constexpr std::int32_t deepestClass = 9;
 /// cannot fill the memory.
 constexpr std::int32_t deepestList = 65535;
 
-/// The number behind as many characters as the prefix and a blank have, whatever they are: of
-/// "Heading2" the digit is gone with them.
-std::int32_t styleLevelOf(std::string_view prefix, std::string_view name) noexcept {
-    const std::size_t skipped = std::min(prefix.size() + 1, name.size());
-    const std::int32_t level = leadingInteger(name.substr(skipped));
-    return level == 0 ? 1 : level;
-}
-
 std::string repeated(std::string_view tag, std::int32_t level) {
     std::string tags;
     for (std::int32_t i = 0; i < std::min(level, deepestList); ++i) {
         tags.append(tag);
     }
     return tags;
+}
+
+std::string_view sideOf(TextAlign align) noexcept {
+    switch (align) {
+        case TextAlign::center:
+            return "center";
+        case TextAlign::right:
+            return "right";
+        default:
+            return "left";
+    }
 }
 
 std::string headingOpening(std::int32_t level) {
@@ -56,14 +55,14 @@ std::string headingClosing(std::int32_t level) {
 std::int32_t ParagraphStyle::openStyle(std::string_view name) {
     std::int32_t level = 0;
     std::string tags;
-    if (name.starts_with(headingPrefix)) {
-        level = styleLevelOf(headingPrefix, name);
+    if (name.starts_with(style_names::heading)) {
+        level = style_names::levelAfter(style_names::heading, name);
         tags = headingOpening(level);
-    } else if (name.starts_with(numberPrefix)) {
-        level = styleLevelOf(numberPrefix, name);
+    } else if (name.starts_with(style_names::numberedList)) {
+        level = style_names::levelAfter(style_names::numberedList, name);
         tags = repeated("<OL>", level);
-    } else if (name.starts_with(bulletPrefix)) {
-        level = styleLevelOf(bulletPrefix, name);
+    } else if (name.starts_with(style_names::bulletedList)) {
+        level = style_names::levelAfter(style_names::bulletedList, name);
         tags = repeated("<UL>", level);
     }
     if (!tags.empty()) {
@@ -75,11 +74,11 @@ std::int32_t ParagraphStyle::openStyle(std::string_view name) {
 std::int32_t ParagraphStyle::closeStyle(std::string_view name) {
     std::int32_t level = 0;
     std::string tags;
-    if (name.starts_with(headingPrefix)) {
-        level = styleLevelOf(headingPrefix, name);
+    if (name.starts_with(style_names::heading)) {
+        level = style_names::levelAfter(style_names::heading, name);
         tags = headingClosing(level);
-    } else if (name.starts_with(numberPrefix)) {
-        tags = repeated("</OL>\n", styleLevelOf(numberPrefix, name));
+    } else if (name.starts_with(style_names::numberedList)) {
+        tags = repeated("</OL>\n", style_names::levelAfter(style_names::numberedList, name));
     }
     // Nothing closes a bulleted list: reports rely on its indentation going on.
     if (!tags.empty()) {
@@ -88,24 +87,24 @@ std::int32_t ParagraphStyle::closeStyle(std::string_view name) {
     return level;
 }
 
-void ParagraphStyle::openAlign(std::uint16_t code) {
-    if (code == 0) {
+void ParagraphStyle::openAlign(TextAlign align) {
+    if (align == TextAlign::none) {
         return;
     }
-    const std::string_view side = code == 2 ? "center" : code == 3 ? "right" : "left";
-    out_.writeOut(std::string("<DIV align=").append(side).append(">"));
+    std::string tag("<DIV align=");
+    out_.writeOut(tag.append(sideOf(align)).append(">"));
 }
 
 void ParagraphStyle::closeAlignTag() {
-    if (out_.state().textAlign != 0) {
+    if (out_.state().textAlign != TextAlign::none) {
         out_.writeOut(alignEnd);
     }
 }
 
 void ParagraphStyle::endAlign() {
-    if (out_.state().textAlign != 0) {
+    if (out_.state().textAlign != TextAlign::none) {
         out_.writeOut(alignEnd);
-        out_.state().textAlign = 0;
+        out_.state().textAlign = TextAlign::none;
         contents_.completeHeading();
     }
 }
@@ -123,12 +122,12 @@ void ParagraphStyle::setStyle(const OrxString& name) {
         font_.close();
         return;
     }
-    const std::uint16_t align = state.textAlign;
+    const TextAlign align = state.textAlign;
     endAlign();
     font_.close();
     endStyle();
     headingLevel_ = static_cast<std::uint32_t>(openStyle(name));
-    if (name.startsWith(listPrefix)) {
+    if (name.startsWith(style_names::listWithBlank)) {
         listItemOpen_ = false;
     }
     state.styleName = name;
@@ -136,10 +135,10 @@ void ParagraphStyle::setStyle(const OrxString& name) {
     state.textAlign = align;
 }
 
-void ParagraphStyle::setAlign(std::uint16_t code) {
+void ParagraphStyle::setAlign(TextAlign align) {
     endAlign();
-    openAlign(code);
-    out_.state().textAlign = code;
+    openAlign(align);
+    out_.state().textAlign = align;
 }
 
 void ParagraphStyle::closeAll() {

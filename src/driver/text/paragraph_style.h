@@ -20,8 +20,8 @@ public:
 
     /// Makes a style current. The one already in force only loses its font.
     void setStyle(const OrxString& name);
-    /// Makes an alignment current: 0 none, 2 center, 3 right, every other code left.
-    void setAlign(std::uint16_t code);
+    /// Makes an alignment current.
+    void setAlign(TextAlign align);
     /// Closes font, style and alignment for good, in that order.
     void closeAll();
 
@@ -30,7 +30,7 @@ public:
     /// when closing, else 0.
     std::int32_t openStyle(std::string_view name);
     std::int32_t closeStyle(std::string_view name);
-    void openAlign(std::uint16_t code);
+    void openAlign(TextAlign align);
     /// The closing tag of the alignment in force, if there is one.
     void closeAlignTag();
 

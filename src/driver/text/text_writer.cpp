@@ -1,6 +1,7 @@
 #include "driver/text/text_writer.h"
 
 #include "driver/text/escape_text.h"
+#include "driver/text/style_names.h"
 #include "platform/sys_file.h"
 #include "platform/sys_time.h"
 
@@ -16,11 +17,11 @@ void TextWriter::emitText(std::string_view html) {
         return;
     }
     const OrxString& style = out_.state().styleName;
-    if (contents_.inEntry() || style.startsWith("Heading")) {
+    if (contents_.inEntry() || style.startsWith(style_names::heading)) {
         if (!tables_.insideTable()) {
             contents_.collect(html);
         }
-    } else if (!style_.listItemOpen() && style.startsWith("List")) {
+    } else if (!style_.listItemOpen() && style.startsWith(style_names::list)) {
         out_.writeOut("<LI>");
         style_.setListItemOpen(true);
     }
@@ -40,7 +41,7 @@ void TextWriter::insertEndl() {
     }
 }
 
-void TextWriter::insertField(std::int16_t kind, std::uint32_t pageNumber) {
+void TextWriter::insertField(FieldKind kind) {
     if (DocHtmlSection* const section = out_.section(out_.mode()); section != nullptr) {
         section->insertField(kind);
         return;
@@ -48,17 +49,17 @@ void TextWriter::insertField(std::int16_t kind, std::uint32_t pageNumber) {
     // Dates in the body are always the real ones: only sections know the test level.
     OrxString value;
     switch (kind) {
-        case 1:
+        case FieldKind::date:
             value = SysTime::currentDate();
             break;
-        case 2:
+        case FieldKind::time:
             value = SysTime::currentTime();
             break;
-        case 3:
+        case FieldKind::fileName:
             value = SysFile::stripDir(out_.page().getFileName());
             break;
-        case 4:
-            value = OrxString(std::to_string(pageNumber));
+        case FieldKind::pageNumber:
+            value = OrxString(std::to_string(out_.pageNumber()));
             break;
         default:
             break;

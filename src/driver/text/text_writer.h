@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -8,6 +7,7 @@
 #include "driver/text/contents_collector.h"
 #include "driver/text/paragraph_style.h"
 #include "driver/text/table_writer.h"
+#include "page/field_kind.h"
 
 namespace quillmark {
 
@@ -32,9 +32,8 @@ public:
     /// Writes finished HTML as body text: it feeds the contents, opens list items, fills cells.
     void emitText(std::string_view html);
     void insertEndl();
-    /// A field in the section that is open, or its value in the body: 1 date, 2 time, 3 file name,
-    /// 4 page number; other kinds are empty.
-    void insertField(std::int16_t kind, std::uint32_t pageNumber);
+    /// Adds a field to the open section, or its value to the body. An unknown kind is empty.
+    void insertField(FieldKind kind);
 
 private:
     OutputRouter& out_;

@@ -25,7 +25,8 @@ protected:
     CapturingTrace heard;
     Trace trace;
     OutputRouter out;
-    Bookmarks bookmarks{out, trace};
+    HeldPages held;
+    Bookmarks bookmarks{out, held, trace};
 };
 
 TEST_F(BareReferences, ToAKnownPlaceAreTheAttributeAlone) {

@@ -5,16 +5,6 @@
 namespace quillmark {
 namespace {
 
-TEST(ImageNames, EndExactlyInOneOfThreeExtensions) {
-    for (const char* const name : {"a.jpg", "a.jpeg", "a.gif", "C:\\x\\a.b.gif", ".gif"}) {
-        EXPECT_TRUE(isImageName(name)) << name;
-    }
-    for (const char* const name :
-         {"a.JPG", "a.Gif", "a.png", "a.bmp", "a", "", "gif", "a.gif.txt", "a.gif\\b"}) {
-        EXPECT_FALSE(isImageName(name)) << name;
-    }
-}
-
 class Links : public testing::OpenDocumentTest {
 protected:
     /// A link with the text "x" to that target.
