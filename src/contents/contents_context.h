@@ -1,6 +1,6 @@
 #pragma once
 
-#include "contents/entries/toc_entry_list.h"
+#include "contents/entries/contents_entry_list.h"
 #include "foundation/orx_string.h"
 #include "page/file_copier.h"
 #include "platform/trace.h"
@@ -49,7 +49,7 @@ struct ContentsContext {
 
     const FileCopier& copier;
     const Trace& trace;
-    const TocEntryList& entries;
+    const ContentsEntryList& entries;
 };
 
 }  // namespace quillmark

@@ -24,7 +24,7 @@ constexpr std::string_view linkEnd = "</a>";
 constexpr std::string_view entryEnd = "<BR>\n";
 
 /// Writes one entry; `scratch` only lends its memory from entry to entry.
-void writeEntry(const TocEntryView& entry, IndentBudget& budget, DocHtmlPage& page,
+void writeEntry(const ContentsEntryView& entry, IndentBudget& budget, DocHtmlPage& page,
                 std::string& scratch) {
     const std::size_t units = budget.take(indentUnits(entry.level), indentUnit.size());
     scratch.clear();
@@ -42,24 +42,24 @@ void writeEntry(const TocEntryView& entry, IndentBudget& budget, DocHtmlPage& pa
 
 }  // namespace
 
-std::size_t staticListingSize(const TocEntryList& entries) {
+std::size_t staticListingSize(const ContentsEntryList& entries) {
     constexpr std::size_t linkSize =
         linkOpening.size() + linkMiddle.size() + linkEnd.size() + entryEnd.size();
     std::size_t size = baseTarget.size() + heading.size() + entries.size() * linkSize;
     IndentBudget budget;
-    for (const TocEntryView entry : entries) {
+    for (const ContentsEntryView entry : entries) {
         const std::size_t units = budget.take(indentUnits(entry.level), indentUnit.size());
         size += units * indentUnit.size() + entry.href.size() + entry.text.size();
     }
     return size;
 }
 
-void writeStaticListing(const TocEntryList& entries, DocHtmlPage& page) {
+void writeStaticListing(const ContentsEntryList& entries, DocHtmlPage& page) {
     page.append(baseTarget);
     page.append(heading);
     IndentBudget budget;
     std::string scratch;
-    for (const TocEntryView entry : entries) {
+    for (const ContentsEntryView entry : entries) {
         writeEntry(entry, budget, page, scratch);
     }
 }

@@ -2,7 +2,7 @@
 
 #include "driver/doc_html.h"
 #include "driver/doc_html_impl.h"
-#include "driver/links/mark_pair.h"
+#include "driver/text/element_handle.h"
 #include "foundation/orx_exception.h"
 #include "platform/signal_to_exception.h"
 #include "platform/sys_shell.h"
@@ -114,9 +114,9 @@ DocResult DocHtml::showLast() {
 DocResult DocHtml::insertMark(std::int32_t ptr, bool isPrimary) {
     const auto half = static_cast<std::uint32_t>(ptr);
     if (isPrimary) {
-        impl_->contents.setCurrentElement(MarkPair::join(half));
+        impl_->contents.setCurrentElement(ElementHandle::joinHighHalf(half));
     } else {
-        MarkPair::setLow(half);
+        ElementHandle::setLowHalf(half);
     }
     return resultOk;
 }

@@ -6,7 +6,7 @@
 #include "driver/files/file_inserter.h"
 #include "driver/files/image_writer.h"
 #include "driver/files/locate_button.h"
-#include "driver/links/bookmarks.h"
+#include "driver/links/bookmark_writer.h"
 #include "driver/links/link_writer.h"
 #include "driver/page_turner.h"
 #include "driver/pages/document_context.h"
@@ -27,7 +27,7 @@ struct DocHtmlImpl {
     RegisterCache settings;
     CallTrace calls{context.trace};
     HeldPages heldPages;
-    Bookmarks bookmarks{context.out, heldPages, context.trace};
+    BookmarkWriter bookmarks{context.out, heldPages, context.trace};
     ContentsCollector contents{context.out, bookmarks};
     FontWriter font{context.out};
     ParagraphStyle style{context.out, font, contents};

@@ -115,7 +115,7 @@ DocResult DocHtml::insertTag(WideText tagName) {
     SysText::appendNarrow(impl_->narrowed, tagName);
     const std::string_view name = impl_->narrowed;
     impl_->calls.call("insertTag", name);
-    impl_->bookmarks.define(name, Bookmarks::Origin::host);
+    impl_->bookmarks.define(name, BookmarkWriter::Origin::host);
     return resultOk;
 }
 
@@ -131,7 +131,7 @@ DocResult DocHtml::insertXref(WideText text, WideText tagName) {
 
 void DocHtml::insertXrefCall(std::string_view text, std::string_view tagName) {
     impl_->calls.call("insertXref", text, tagName);
-    impl_->contents.beforeText(impl_->style.headingLevel());
+    impl_->contents.openAnchorForHeading(impl_->style.headingLevel());
     OrxString& target = impl_->linkTarget;
     target.clear();
     target.append(tagName);
@@ -155,7 +155,7 @@ DocResult DocHtml::endTOCEntry() {
 DocResult DocHtml::insertTOC() {
     impl_->calls.call("insertTOC");
     // A depth below 0, which an unbalanced end of a table leaves, is outside a table.
-    if (!impl_->tables.insideTable()) {
+    if (!impl_->tables.hasOpenTable()) {
         impl_->context.out.page().addMark(page_marks::contentsListing, "");
     }
     return resultOk;

@@ -28,7 +28,7 @@ void PageTurner::startPage() {
     page.setFileName(pageFileName());
     page.addMark(page_marks::topOfPage, "");
     bookmarks_.define("Page " + std::to_string(context_.out.pageNumber()),
-                      Bookmarks::Origin::driver);
+                      BookmarkWriter::Origin::driver);
     reopenTextState();
     contents_.startPage();
 }

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "driver/links/bookmarks.h"
+#include "driver/links/bookmark_writer.h"
 #include "driver/pages/arrow_bar.h"
 #include "driver/pages/document_context.h"
 #include "driver/pages/held_pages.h"
@@ -19,7 +19,7 @@ namespace quillmark {
 /// state again that was closed.
 class PageTurner {
 public:
-    PageTurner(DocumentContext& context, HeldPages& held, Bookmarks& bookmarks,
+    PageTurner(DocumentContext& context, HeldPages& held, BookmarkWriter& bookmarks,
                ContentsCollector& contents, FontWriter& font, ParagraphStyle& style) noexcept
         : context_(context),
           held_(held),
@@ -60,7 +60,7 @@ private:
 
     DocumentContext& context_;
     HeldPages& held_;
-    Bookmarks& bookmarks_;
+    BookmarkWriter& bookmarks_;
     ContentsCollector& contents_;
     FontWriter& font_;
     ParagraphStyle& style_;
@@ -68,7 +68,7 @@ private:
     OrxString subDirectory_;
     DocHtmlTextState savedState_;
     ArrowBar arrows_;
-    LinkMemo styleSheetLink_;
+    CachedLink styleSheetLink_;
     /// Bytes in the body of the page before this one.
     std::size_t expectedSize_ = 0;
 };

@@ -54,7 +54,7 @@ protected:
     InstalledFileSystem inForce{files};
     FileCopier copier;
     Trace trace;
-    TocEntryList entries;
+    ContentsEntryList entries;
     ContentsContext context{.baseName = "C:\\out\\rep",
                             .extension = ".htm",
                             .title = "My <Report>",

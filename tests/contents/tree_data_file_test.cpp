@@ -40,7 +40,7 @@ protected:
     const OrxString path{"C:\\out\\rep_toc.dat"};
     MemoryFileSystem files;
     InstalledFileSystem inForce{files};
-    TocEntryList entries;
+    ContentsEntryList entries;
 };
 
 TEST_F(TreeDataFile, WithoutEntriesIsAnEmptyTreeOnTwoLines) {

@@ -31,7 +31,7 @@ public:
         buffer_ = "(TREE";
     }
 
-    void add(const TocEntryView& entry) {
+    void add(const ContentsEntryView& entry) {
         const std::size_t level = correctedLevel(entry.level);
         if (level <= previous_) {
             buffer_.append(previous_ - level + 1, ')');
@@ -62,7 +62,7 @@ private:
         return level < 1 ? 1 : std::min(static_cast<std::size_t>(level), previous_ + 1);
     }
 
-    void appendNode(const TocEntryView& entry, std::size_t level) {
+    void appendNode(const ContentsEntryView& entry, std::size_t level) {
         buffer_.append(budget_.take(level, indentUnit.size()) * indentUnit.size(), ' ');
         buffer_.append("(NODE \"");
         const std::size_t textStart = buffer_.size();
@@ -113,9 +113,9 @@ private:
 
 }  // namespace
 
-void writeTreeDataFile(const OrxString& path, const TocEntryList& entries, bool showIcons) {
+void writeTreeDataFile(const OrxString& path, const ContentsEntryList& entries, bool showIcons) {
     TreeWriter writer(path, showIcons);
-    for (const TocEntryView entry : entries) {
+    for (const ContentsEntryView entry : entries) {
         writer.add(entry);
     }
     writer.finish();

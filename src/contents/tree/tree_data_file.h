@@ -1,6 +1,6 @@
 #pragma once
 
-#include "contents/entries/toc_entry_list.h"
+#include "contents/entries/contents_entry_list.h"
 #include "foundation/orx_string.h"
 
 namespace quillmark {
@@ -20,6 +20,6 @@ namespace quillmark {
 ///
 /// Throws `OrxException` "Error opening file: " + path when the file cannot be made, "Error
 /// writing to file: " + path when the disk takes no more.
-void writeTreeDataFile(const OrxString& path, const TocEntryList& entries, bool showIcons);
+void writeTreeDataFile(const OrxString& path, const ContentsEntryList& entries, bool showIcons);
 
 }  // namespace quillmark

@@ -11,20 +11,20 @@ namespace {
 
 /// What a byte calls for: nothing, a look at what stands there, or, where line ends are, the
 /// conversions one after the other.
-enum class Look : unsigned char { none, here, lineEnd };
+enum class ByteKind : unsigned char { plain, escape, lineEnd };
 
-constexpr std::array<Look, 256> looks = [] {
-    std::array<Look, 256> table{};
-    table['\\'] = Look::here;
-    table['"'] = Look::here;
-    table['&'] = Look::here;
-    table['\r'] = Look::lineEnd;
-    table['\n'] = Look::lineEnd;
+constexpr std::array<ByteKind, 256> kinds = [] {
+    std::array<ByteKind, 256> table{};
+    table['\\'] = ByteKind::escape;
+    table['"'] = ByteKind::escape;
+    table['&'] = ByteKind::escape;
+    table['\r'] = ByteKind::lineEnd;
+    table['\n'] = ByteKind::lineEnd;
     return table;
 }();
 
-Look lookOf(char c) noexcept {
-    return looks[static_cast<unsigned char>(c)];
+ByteKind kindOf(char c) noexcept {
+    return kinds[static_cast<unsigned char>(c)];
 }
 
 /// One after the other, in this order: a later step sees what an earlier one has made, so that
@@ -67,12 +67,12 @@ void appendTreeText(std::string& out, std::string_view text) {
     const std::size_t start = out.size();
     std::size_t copied = 0;
     for (std::size_t at = 0; at < text.size();) {
-        const Look look = lookOf(text[at]);
-        if (look == Look::none) {
+        const ByteKind kind = kindOf(text[at]);
+        if (kind == ByteKind::plain) {
             ++at;
             continue;
         }
-        if (look == Look::lineEnd) {
+        if (kind == ByteKind::lineEnd) {
             out.resize(start);
             appendStepByStep(out, text);
             return;

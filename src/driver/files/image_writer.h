@@ -9,7 +9,7 @@ namespace quillmark {
 /// Pictures: found, copied next to the document, shown with their image map.
 class ImageWriter {
 public:
-    ImageWriter(DocumentContext& context, Bookmarks& bookmarks, LinkWriter& links) noexcept
+    ImageWriter(DocumentContext& context, BookmarkWriter& bookmarks, LinkWriter& links) noexcept
         : context_(context), bookmarks_(bookmarks), links_(links) {}
 
     /// For a new document: image maps are counted from 0.
@@ -23,7 +23,7 @@ public:
 
 private:
     DocumentContext& context_;
-    Bookmarks& bookmarks_;
+    BookmarkWriter& bookmarks_;
     LinkWriter& links_;
     ImageMapWriter maps_;
 };

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "driver/links/bookmarks.h"
+#include "driver/links/bookmark_writer.h"
 #include "driver/pages/document_context.h"
 
 namespace quillmark {
@@ -21,7 +21,7 @@ public:
     /// bookmark all the same, which leaves its end tag waiting for a bookmark of that name.
     enum class End { tag, bookmark };
 
-    LinkWriter(DocumentContext& context, Bookmarks& bookmarks) noexcept
+    LinkWriter(DocumentContext& context, BookmarkWriter& bookmarks) noexcept
         : context_(context), bookmarks_(bookmarks) {}
 
     /// A file is copied next to the document first when links are relative.
@@ -38,7 +38,7 @@ private:
     [[nodiscard]] bool findExternalDocument(const OrxString& target);
 
     DocumentContext& context_;
-    Bookmarks& bookmarks_;
+    BookmarkWriter& bookmarks_;
     // Kept between calls for their memory alone.
     OrxString candidate_;
     std::string markup_;

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "driver/pages/document_context.h"
-#include "page/link_memo.h"
+#include "page/cached_link.h"
 
 namespace quillmark {
 
@@ -26,7 +26,7 @@ private:
     void appendArrow(OrxString& bar, std::uint32_t pageNumber, Picture picture);
 
     const DocumentContext& context_;
-    std::array<LinkMemo, pictureCount> links_;
+    std::array<CachedLink, pictureCount> links_;
 };
 
 /// Copies the four arrow pictures from the installed pictures into the image directory.

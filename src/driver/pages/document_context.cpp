@@ -14,13 +14,13 @@ OrxString DocumentContext::linkBase() const {
 }
 
 OrxString DocumentContext::documentLink(const OrxString& fileName) const {
-    LinkMemo forThisOnce;
-    return documentLink(fileName, forThisOnce);
+    CachedLink uncached;
+    return documentLink(fileName, uncached);
 }
 
-OrxString DocumentContext::documentLink(const OrxString& fileName, LinkMemo& memo) const {
+OrxString DocumentContext::documentLink(const OrxString& fileName, CachedLink& cached) const {
     if (settings.useRelative) {
-        return memo.relativeFile(fileName, linkBase());
+        return cached.relativeFile(fileName, linkBase());
     }
     return "file:///" + links::fromPath(fileName);
 }

@@ -3,8 +3,8 @@
 #include "driver/pages/document_settings.h"
 #include "driver/pages/output_names.h"
 #include "driver/pages/output_router.h"
+#include "page/cached_link.h"
 #include "page/file_copier.h"
-#include "page/link_memo.h"
 #include "platform/trace.h"
 
 namespace quillmark {
@@ -27,7 +27,7 @@ struct DocumentContext {
     /// URL when relative links are off.
     [[nodiscard]] OrxString documentLink(const OrxString& fileName) const;
     /// The same for a file that many pages refer to.
-    [[nodiscard]] OrxString documentLink(const OrxString& fileName, LinkMemo& memo) const;
+    [[nodiscard]] OrxString documentLink(const OrxString& fileName, CachedLink& cached) const;
     /// Copies a file under its own name and returns the name to refer to.
     OrxString copyTo(const OrxString& directory, const OrxString& fileName) const;
     /// Writes an error line to the trace.

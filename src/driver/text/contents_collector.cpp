@@ -16,7 +16,7 @@ void ContentsCollector::reset() noexcept {
 
 void ContentsCollector::openAnchor() {
     const std::string name = "toc" + std::to_string(++tocAnchorCount_);
-    bookmarks_.define(name, Bookmarks::Origin::driver);
+    bookmarks_.define(name, BookmarkWriter::Origin::driver);
     tocAnchor_ = name;
     tocText_.clear();
 }
@@ -54,7 +54,7 @@ void ContentsCollector::addEntry(OrxString& anchor, const OrxString& text, std::
     OrxString href = pageLink_.relativeFile(out_.page().getFileName(), outputDir_);
     href.append('#').append(anchor);
     const EntryIcons icons = showIcons_ ? entryIconsOf(currentElement_) : EntryIcons{};
-    entries_.add(TocEntryView{href, text, level, icons.gif, icons.stereoGif});
+    entries_.add(ContentsEntryView{href, text, level, icons.gif, icons.stereoGif});
     anchor.clear();
 }
 

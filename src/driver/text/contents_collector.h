@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <string_view>
 
-#include "contents/entries/toc_entry_list.h"
-#include "driver/links/bookmarks.h"
+#include "contents/entries/contents_entry_list.h"
+#include "driver/links/bookmark_writer.h"
 #include "driver/pages/output_router.h"
-#include "page/link_memo.h"
+#include "page/cached_link.h"
 
 namespace quillmark {
 
@@ -17,7 +17,7 @@ namespace quillmark {
 /// an anchor whose entry never comes stays open, and the next heading's entry points at it.
 class ContentsCollector {
 public:
-    ContentsCollector(OutputRouter& out, Bookmarks& bookmarks) noexcept
+    ContentsCollector(OutputRouter& out, BookmarkWriter& bookmarks) noexcept
         : out_(out), bookmarks_(bookmarks) {}
 
     /// For a new document; an entry that is open stays open.
@@ -36,7 +36,7 @@ public:
     [[nodiscard]] bool inEntry() const noexcept { return inTocEntry_; }
 
     /// Opens an anchor when text of a heading of that level is about to come and none is open.
-    void beforeText(std::uint32_t headingLevel) {
+    void openAnchorForHeading(std::uint32_t headingLevel) {
         if (headingLevel != 0 && headingLevel <= tocLevel_ && tocAnchor_.isEmpty()) {
             openAnchor();
         }
@@ -52,7 +52,7 @@ public:
     /// Writes the listing of all entries so far to the page's place for it, if it has one.
     void fillListing(DocHtmlPage& page) const;
 
-    [[nodiscard]] const TocEntryList& entries() const noexcept { return entries_; }
+    [[nodiscard]] const ContentsEntryList& entries() const noexcept { return entries_; }
 
 private:
     void openAnchor();
@@ -61,10 +61,10 @@ private:
     [[nodiscard]] std::int32_t levelOfStyle() const;
 
     OutputRouter& out_;
-    Bookmarks& bookmarks_;
-    TocEntryList entries_;
+    BookmarkWriter& bookmarks_;
+    ContentsEntryList entries_;
     OrxString outputDir_;
-    LinkMemo pageLink_;
+    CachedLink pageLink_;
     std::uint32_t tocLevel_ = 0;
     bool showIcons_ = true;
     std::uint64_t currentElement_ = 0;

@@ -30,7 +30,7 @@ public:
     /// Tables whose start is written and whose end is not. It can fall below 0 (see `endTable`),
     /// which is outside a table like 0.
     [[nodiscard]] std::int32_t depth() const noexcept { return tableDepth_; }
-    [[nodiscard]] bool insideTable() const noexcept { return tableDepth_ > 0; }
+    [[nodiscard]] bool hasOpenTable() const noexcept { return tableDepth_ > 0; }
     /// Between a start and the next end, of whatever table; directories do not change meanwhile.
     [[nodiscard]] bool inTable() const noexcept { return inTable_; }
 

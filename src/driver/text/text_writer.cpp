@@ -18,7 +18,7 @@ void TextWriter::emitText(std::string_view html) {
     }
     const OrxString& style = out_.state().styleName;
     if (contents_.inEntry() || style.startsWith(style_names::heading)) {
-        if (!tables_.insideTable()) {
+        if (!tables_.hasOpenTable()) {
             contents_.collect(html);
         }
     } else if (!style_.listItemOpen() && style.startsWith(style_names::list)) {
@@ -26,13 +26,13 @@ void TextWriter::emitText(std::string_view html) {
         style_.setListItemOpen(true);
     }
     out_.writeOut(html);
-    if (!html.empty() && tables_.insideTable()) {
+    if (!html.empty() && tables_.hasOpenTable()) {
         tables_.noteText();
     }
 }
 
 void TextWriter::insertEndl() {
-    if (!tables_.insideTable()) {
+    if (!tables_.hasOpenTable()) {
         contents_.completeHeading();
     }
     out_.writeOut("<BR>\n");

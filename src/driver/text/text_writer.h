@@ -24,7 +24,7 @@ public:
 
     /// Plain text: a heading's first one gets its contents anchor, then it is escaped and written.
     void insertText(std::string_view text) {
-        contents_.beforeText(style_.headingLevel());
+        contents_.openAnchorForHeading(style_.headingLevel());
         insertEscaped(text);
     }
     /// The same without the anchor.

@@ -169,7 +169,7 @@ std::string Player::describe(std::size_t line) const {
 /// Takes the lines that the driver wrote for `call` off the recording and reads the next call
 /// that the host made. A line that the recording does not have is passed over, so that the lines
 /// behind it still find their own.
-ReadResult Player::takeOff(CallSource& source, Call& call) {
+ReadResult Player::consumeRecordedLines(CallSource& source, Call& call) {
     const PackedTexts& heard = trace_.calls();
     const auto tell = [this](std::size_t line, const std::string& how) {
         if (listeners_.diverged) {
@@ -209,7 +209,8 @@ bool Player::play(CallSource& source) {
         if (listeners_.played) {
             listeners_.played(calls_);
         }
-        result = played && !call.recorded.empty() ? takeOff(source, call) : source.next(call);
+        result = played && !call.recorded.empty() ? consumeRecordedLines(source, call)
+                                                  : source.next(call);
     }
     if (result == ReadResult::malformed && isOpen_) {
         invoke(closeOperation(), {});

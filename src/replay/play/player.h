@@ -67,7 +67,7 @@ private:
     void countLost(std::span<const Argument> arguments);
     void invoke(const Operation& operation, std::span<const Argument> arguments);
     void adaptCreate(Call& call);
-    ReadResult takeOff(CallSource& source, Call& call);
+    ReadResult consumeRecordedLines(CallSource& source, Call& call);
     [[nodiscard]] std::string describe(std::size_t line) const;
 
     Settings settings_;

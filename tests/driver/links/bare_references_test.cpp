@@ -2,7 +2,7 @@
 // the bookmarks themselves.
 
 #include "driver/document_fixture.h"
-#include "driver/links/bookmarks.h"
+#include "driver/links/bookmark_writer.h"
 
 namespace quillmark {
 namespace {
@@ -26,11 +26,11 @@ protected:
     Trace trace;
     OutputRouter out;
     HeldPages held;
-    Bookmarks bookmarks{out, held, trace};
+    BookmarkWriter bookmarks{out, held, trace};
 };
 
 TEST_F(BareReferences, ToAKnownPlaceAreTheAttributeAlone) {
-    bookmarks.define("x", Bookmarks::Origin::host);
+    bookmarks.define("x", BookmarkWriter::Origin::host);
     bookmarks.reference("x", "");
     EXPECT_EQ(closed(), "<a name=\"x\"></a>HREF=\"p.htm#x\"");
 }
@@ -38,7 +38,7 @@ TEST_F(BareReferences, ToAKnownPlaceAreTheAttributeAlone) {
 TEST_F(BareReferences, ToAPlaceToComeWaitForIt) {
     bookmarks.reference("x", "");
     out.page().append("-");
-    bookmarks.define("x", Bookmarks::Origin::host);
+    bookmarks.define("x", BookmarkWriter::Origin::host);
     EXPECT_EQ(closed(), "HREF=\"p.htm#x\"-<a name=\"x\"></a>");
 }
 
@@ -50,22 +50,22 @@ TEST_F(BareReferences, AreReportedWithoutMarkup) {
 
 TEST_F(BareReferences, MeetMarkupInWhichTheNameStandsNowhere) {
     bookmarks.reference("x", "<B>");
-    bookmarks.define("x", Bookmarks::Origin::host);
+    bookmarks.define("x", BookmarkWriter::Origin::host);
     bookmarks.reference("x", "<I>");
     EXPECT_EQ(closed(), "<B><a name=\"x\"></a><I>");
 }
 
 TEST_F(BareReferences, AreForgottenWithAllBookmarks) {
-    bookmarks.define("x", Bookmarks::Origin::host);
+    bookmarks.define("x", BookmarkWriter::Origin::host);
     bookmarks.clear();
     bookmarks.reference("x", "");
-    bookmarks.define("x", Bookmarks::Origin::driver);
+    bookmarks.define("x", BookmarkWriter::Origin::driver);
     EXPECT_EQ(closed(), "<a name=\"x\"></a>HREF=\"p.htm#x\"<a name=\"x\"></a>");
 }
 
 TEST_F(BareReferences, OfAPageWithoutAFileAreItsAnchorAlone) {
     out.page().setFileName("");
-    bookmarks.define("x", Bookmarks::Origin::host);
+    bookmarks.define("x", BookmarkWriter::Origin::host);
     EXPECT_EQ(heard.text(), "created bookmark:x as #x\n");
     out.page().setFileName("C:\\out\\p.htm");
     bookmarks.reference("x", "<A x>");

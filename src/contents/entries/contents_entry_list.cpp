@@ -1,4 +1,4 @@
-#include "contents/entries/toc_entry_list.h"
+#include "contents/entries/contents_entry_list.h"
 
 #include <algorithm>
 #include <limits>
@@ -21,7 +21,7 @@ std::uint32_t asLength(std::size_t length) {
 
 }  // namespace
 
-void TocEntryList::add(const TocEntryView& entry) {
+void ContentsEntryList::add(const ContentsEntryView& entry) {
     Record record;
     record.hrefLength = asLength(entry.href.size());
     record.textLength = asLength(entry.text.size());
@@ -36,22 +36,22 @@ void TocEntryList::add(const TocEntryView& entry) {
     DocumentObserver::current().contentsEntryAdded();
 }
 
-void TocEntryList::add(const HtmlTOCTag& tag) {
+void ContentsEntryList::add(const HtmlTOCTag& tag) {
     const OrxString href = tag.getHref();
     const OrxString text = tag.getText();
     const OrxString gif = tag.getGif();
     const OrxString stereoGif = tag.getStereoGif();
-    add(TocEntryView{href, text, tag.getLevel(), gif, stereoGif});
+    add(ContentsEntryView{href, text, tag.getLevel(), gif, stereoGif});
 }
 
-void TocEntryList::clear() noexcept {
+void ContentsEntryList::clear() noexcept {
     records_.clear();
     chunks_.clear();
     icons_.clear();
     iconNumbers_.clear();
 }
 
-TocEntryView TocEntryList::operator[](std::size_t index) const {
+ContentsEntryView ContentsEntryList::operator[](std::size_t index) const {
     const Record& record = records_[index];
     const std::string_view chunk = chunks_[record.chunk];
     return {chunk.substr(record.offset, record.hrefLength),
@@ -59,8 +59,8 @@ TocEntryView TocEntryList::operator[](std::size_t index) const {
             record.level, icons_[record.gif], icons_[record.stereoGif]};
 }
 
-HtmlTOCTag TocEntryList::tag(std::size_t index) const {
-    const TocEntryView entry = (*this)[index];
+HtmlTOCTag ContentsEntryList::tag(std::size_t index) const {
+    const ContentsEntryView entry = (*this)[index];
     HtmlTOCTag tag;
     tag.setHref(entry.href);
     tag.setText(entry.text);
@@ -72,14 +72,14 @@ HtmlTOCTag TocEntryList::tag(std::size_t index) const {
 
 /// The chunk with room for that many bytes: the last one, or a new one. A chunk is given its room
 /// at once, so that what it holds is never moved; a text that needs more has a chunk of its own.
-std::string& TocEntryList::chunkFor(std::size_t bytes) {
+std::string& ContentsEntryList::chunkFor(std::size_t bytes) {
     if (chunks_.empty() || chunks_.back().size() + bytes > chunkSize) {
         chunks_.emplace_back().reserve(std::max(bytes, chunkSize));
     }
     return chunks_.back();
 }
 
-std::uint32_t TocEntryList::intern(std::string_view icon) {
+std::uint32_t ContentsEntryList::intern(std::string_view icon) {
     const auto known = iconNumbers_.find(icon);
     if (known != iconNumbers_.end()) {
         return known->second;

@@ -6,7 +6,7 @@ namespace quillmark {
 
 /// The link from a directory to a file, remembered: the pages of a report lie in few directories
 /// and ask for the same link again and again.
-class LinkMemo {
+class CachedLink {
 public:
     /// The same as `links::relativeFile`; the result lives until the next call.
     [[nodiscard]] const OrxString& relativeFile(const OrxString& fileName, const OrxString& base);

@@ -1,4 +1,4 @@
-#include "driver/links/mark_pair.h"
+#include "driver/text/element_handle.h"
 
 #include <vector>
 
@@ -8,16 +8,16 @@
 namespace quillmark {
 namespace {
 
-TEST(MarkPair, JoinsBothHalvesAndIsReset) {
-    MarkPair::setLow(5);
-    EXPECT_EQ(MarkPair::join(7), 0x0000000700000005U);
-    EXPECT_EQ(MarkPair::join(7), 0x0000000700000000U);
+TEST(ElementHandle, JoinsBothHalvesOnce) {
+    ElementHandle::setLowHalf(5);
+    EXPECT_EQ(ElementHandle::joinHighHalf(7), 0x0000000700000005U);
+    EXPECT_EQ(ElementHandle::joinHighHalf(7), 0x0000000700000000U);
 }
 
-TEST(MarkPair, KeepsTheLastLowHalf) {
-    MarkPair::setLow(1);
-    MarkPair::setLow(0xFFFFFFFFU);
-    EXPECT_EQ(MarkPair::join(0xFFFFFFFFU), 0xFFFFFFFFFFFFFFFFU);
+TEST(ElementHandle, KeepsTheLastLowHalf) {
+    ElementHandle::setLowHalf(1);
+    ElementHandle::setLowHalf(0xFFFFFFFFU);
+    EXPECT_EQ(ElementHandle::joinHighHalf(0xFFFFFFFFU), 0xFFFFFFFFFFFFFFFFU);
 }
 
 /// A model that knows nothing and keeps the handles that it is asked for.

@@ -1,10 +1,10 @@
-#include "driver/links/bookmark_registry.h"
+#include "driver/links/bookmark_table.h"
 
 #include "platform/path_text.h"
 
 namespace quillmark {
 
-BookmarkRegistry::Id BookmarkRegistry::add(std::string_view name) {
+BookmarkTable::Id BookmarkTable::add(std::string_view name) {
     if (lastAdded_ != unknown && names_.name(lastAdded_) == name) {
         return lastAdded_;
     }
@@ -15,18 +15,18 @@ BookmarkRegistry::Id BookmarkRegistry::add(std::string_view name) {
     return lastAdded_;
 }
 
-void BookmarkRegistry::define(Id id, const OrxString& pageFile) {
+void BookmarkTable::define(Id id, const OrxString& pageFile) {
     // Bookmarks come page by page, so one look at the last file keeps each name once.
     const auto files = static_cast<std::uint32_t>(pageFiles_.size());
     const bool known = files != 0 && pageFiles_[files - 1] == pageFile.view();
     records_[id].pageFile = known ? files - 1 : pageFiles_.add(pageFile);
 }
 
-std::string_view BookmarkRegistry::pageFile(Id id) const noexcept {
+std::string_view BookmarkTable::pageFile(Id id) const noexcept {
     return pageFiles_[records_[id].pageFile];
 }
 
-OrxString BookmarkRegistry::reference(Id id) const {
+OrxString BookmarkTable::reference(Id id) const {
     const std::string_view file = pageFile(id);
     const std::string_view filePart = file.substr(path_text::fileStart(file));
     const std::string_view name = names_.name(id);
@@ -35,8 +35,8 @@ OrxString BookmarkRegistry::reference(Id id) const {
     return text.append(filePart).append("#").append(name);
 }
 
-void BookmarkRegistry::clear() noexcept {
-    *this = BookmarkRegistry();
+void BookmarkTable::clear() noexcept {
+    *this = BookmarkTable();
 }
 
 }  // namespace quillmark

@@ -25,7 +25,7 @@ struct WaitingPage {
 /// A bookmark goes from unknown to referenced to defined and never back; the first definition
 /// wins. It holds a few words a name, so that a million of them stay cheap: the anchor's
 /// reference is put together when it is asked for.
-class BookmarkRegistry {
+class BookmarkTable {
 public:
     using Id = NameIndex::Id;
     static constexpr Id unknown = NameIndex::none;

@@ -1,4 +1,4 @@
-#include "driver/links/bookmarks.h"
+#include "driver/links/bookmark_writer.h"
 
 #include <utility>
 
@@ -14,9 +14,9 @@ namespace {
 constexpr std::string_view anchorOpening = "<a name=\"";
 constexpr std::string_view anchorEnd = "\"></a>";
 
-/// The link from one page's file to another's, up to the name of the bookmark. A page that has no
-/// file name yet is reached by the fragment alone.
-OrxString wayTo(const OrxString& target, const OrxString& fromPage) {
+/// The link from one page's file to another's, up to the name of the bookmark. The link to a page
+/// without a file name is only the fragment.
+OrxString routeTo(const OrxString& target, const OrxString& fromPage) {
     OrxString link;
     if (!target.isEmpty()) {
         link = links::fromPath(
@@ -30,12 +30,12 @@ OrxString wayTo(const OrxString& target, const OrxString& fromPage) {
 
 }  // namespace
 
-void Bookmarks::define(std::string_view name, Origin origin) {
+void BookmarkWriter::define(std::string_view name, Origin origin) {
     if (name.empty()) {
         return;
     }
-    const BookmarkRegistry::Id id = registry_.add(name);
-    if (!registry_.isDefined(id)) {
+    const BookmarkTable::Id id = table_.add(name);
+    if (!table_.isDefined(id)) {
         writeAnchor(id, name);
         resolve(id, name);
         return;
@@ -44,24 +44,24 @@ void Bookmarks::define(std::string_view name, Origin origin) {
     if (trace_.isTrace(level)) {
         OrxString line("WARNING: bookmark \"");
         line.append(name).append("\" already exists as ");
-        line.append(registry_.reference(id)).append('\n');
+        line.append(table_.reference(id)).append('\n');
         trace_.write(level, line);
     }
 }
 
-void Bookmarks::writeAnchor(BookmarkRegistry::Id id, std::string_view name) {
+void BookmarkWriter::writeAnchor(BookmarkTable::Id id, std::string_view name) {
     anchor_.assign(anchorOpening).append(name).append(anchorEnd);
     out_.page().append(anchor_);
-    registry_.define(id, out_.page().getFileName());
+    table_.define(id, out_.page().getFileName());
     if (trace_.isTrace(Trace::reports)) {
         OrxString line("created bookmark:");
-        line.append(name).append(" as ").append(registry_.reference(id)).append('\n');
+        line.append(name).append(" as ").append(table_.reference(id)).append('\n');
         trace_.write(Trace::reports, line);
     }
 }
 
-void Bookmarks::resolve(BookmarkRegistry::Id id, std::string_view name) {
-    registry_.takeWaiting(id, [&](const WaitingPage& waiting) {
+void BookmarkWriter::resolve(BookmarkTable::Id id, std::string_view name) {
+    table_.takeWaiting(id, [&](const WaitingPage& waiting) {
         DocHtmlPage& page = *waiting.page;
         page.resolveMarks(name, relativeReference(id, page), waiting.nameId);
         if (&page != &out_.page() && !page.hasMarks()) {
@@ -70,24 +70,24 @@ void Bookmarks::resolve(BookmarkRegistry::Id id, std::string_view name) {
     });
 }
 
-void Bookmarks::reference(std::string_view name, std::string_view markup) {
-    const BookmarkRegistry::Id id = registry_.add(name);
-    if (registry_.isDefined(id)) {
+void BookmarkWriter::reference(std::string_view name, std::string_view markup) {
+    const BookmarkTable::Id id = table_.add(name);
+    if (table_.isDefined(id)) {
         writeReference(name, markup, relativeReference(id, out_.page()));
         return;
     }
     DocHtmlPage& page = out_.page();
-    const WaitingPage* last = registry_.lastWaiting(id);
+    const WaitingPage* last = table_.lastWaiting(id);
     if (last != nullptr && last->page.get() == &page) {
         page.addMark(name, markup, last->nameId);
     } else {
         const DocHtmlPage::MarkNameId nameId = page.addMark(name, markup);
-        registry_.addWaiting(id, {out_.sharedPage(), out_.pageNumber(), nameId});
+        table_.addWaiting(id, {out_.sharedPage(), out_.pageNumber(), nameId});
     }
 }
 
-void Bookmarks::writeReference(std::string_view name, std::string_view markup,
-                               std::string_view reference) {
+void BookmarkWriter::writeReference(std::string_view name, std::string_view markup,
+                                    std::string_view reference) {
     const auto place = LinkAttribute::placeIn(markup, name);
     if (!place.isThere()) {
         out_.writeOut(markup);
@@ -104,13 +104,14 @@ void Bookmarks::writeReference(std::string_view name, std::string_view markup,
     }
 }
 
-std::string_view Bookmarks::relativeReference(BookmarkRegistry::Id id, const DocHtmlPage& page) {
-    const std::uint32_t toPage = registry_.pageFileNumber(id);
+std::string_view BookmarkWriter::relativeReference(BookmarkTable::Id id, const DocHtmlPage& page) {
+    const std::uint32_t toPage = table_.pageFileNumber(id);
     const OrxString& fromPage = page.getFileName();
-    if (lastWay_.link.isEmpty() || toPage != lastWay_.toPage || fromPage != lastWay_.fromPage) {
-        lastWay_ = {fromPage, toPage, wayTo(OrxString(registry_.pageFile(id)), fromPage)};
+    if (lastRoute_.link.isEmpty() || toPage != lastRoute_.toPage ||
+        fromPage != lastRoute_.fromPage) {
+        lastRoute_ = {fromPage, toPage, routeTo(OrxString(table_.pageFile(id)), fromPage)};
     }
-    return reference_.assign(lastWay_.link).append(registry_.name(id));
+    return reference_.assign(lastRoute_.link).append(table_.name(id));
 }
 
 }  // namespace quillmark

@@ -1,4 +1,4 @@
-#include "contents/entries/toc_entry_list.h"
+#include "contents/entries/contents_entry_list.h"
 
 #include <gtest/gtest.h>
 
@@ -32,10 +32,10 @@ struct Owned {
     std::string gif;
     std::string stereoGif;
 
-    [[nodiscard]] TocEntryView view() const { return {href, text, level, gif, stereoGif}; }
+    [[nodiscard]] ContentsEntryView view() const { return {href, text, level, gif, stereoGif}; }
 };
 
-void expectSame(const TocEntryView& entry, const Owned& expected) {
+void expectSame(const ContentsEntryView& entry, const Owned& expected) {
     EXPECT_EQ(entry.href, expected.href);
     EXPECT_EQ(entry.text, expected.text);
     EXPECT_EQ(entry.level, expected.level);
@@ -62,15 +62,15 @@ std::vector<Owned> randomEntries(std::size_t count) {
     return entries;
 }
 
-TEST(TocEntryList, StartsEmpty) {
-    const TocEntryList entries;
+TEST(ContentsEntryList, StartsEmpty) {
+    const ContentsEntryList entries;
     EXPECT_TRUE(entries.isEmpty());
     EXPECT_EQ(entries.size(), 0U);
     EXPECT_EQ(entries.begin(), entries.end());
 }
 
-TEST(TocEntryList, KeepsEntriesInTheOrderMade) {
-    TocEntryList entries;
+TEST(ContentsEntryList, KeepsEntriesInTheOrderMade) {
+    ContentsEntryList entries;
     entries.add({.href = "a.htm#toc1", .text = "A", .level = 1});
     entries.add({.href = "a.htm#toc2", .text = "B", .level = 2, .gif = "B.gif"});
     ASSERT_EQ(entries.size(), 2U);
@@ -79,14 +79,14 @@ TEST(TocEntryList, KeepsEntriesInTheOrderMade) {
     expectSame(entries[1], {"a.htm#toc2", "B", 2, "B.gif", ""});
 }
 
-TEST(TocEntryList, TakesAndGivesWholeTags) {
+TEST(ContentsEntryList, TakesAndGivesWholeTags) {
     HtmlTOCTag tag;
     tag.setHref("a.htm#toc1");
     tag.setText("A");
     tag.setLevel(-5);
     tag.setGif("Class.gif");
     tag.setStereoGif("entity.gif");
-    TocEntryList entries;
+    ContentsEntryList entries;
     entries.add(tag);
     const HtmlTOCTag copy = entries.tag(0);
     EXPECT_EQ(copy.getHref(), "a.htm#toc1");
@@ -96,25 +96,25 @@ TEST(TocEntryList, TakesAndGivesWholeTags) {
     EXPECT_EQ(copy.getStereoGif(), "entity.gif");
 }
 
-TEST(TocEntryList, GivesBackEveryByteOfEveryEntry) {
+TEST(ContentsEntryList, GivesBackEveryByteOfEveryEntry) {
     const std::vector<Owned> expected = randomEntries(3000);
-    TocEntryList entries;
+    ContentsEntryList entries;
     for (const Owned& entry : expected) {
         entries.add(entry.view());
     }
     ASSERT_EQ(entries.size(), expected.size());
     std::size_t index = 0;
-    for (const TocEntryView entry : entries) {
+    for (const ContentsEntryView entry : entries) {
         expectSame(entry, expected[index++]);
     }
     EXPECT_EQ(index, expected.size());
 }
 
-TEST(TocEntryList, HoldsTextsLongerThanItsOwnBlocks) {
+TEST(ContentsEntryList, HoldsTextsLongerThanItsOwnBlocks) {
     const Owned before{"a", "b", 1, "", ""};
     const Owned huge{std::string(100'000, 'h'), std::string(300'000, 't'), 2, "", ""};
     const Owned after{"c", "d", 3, "", ""};
-    TocEntryList entries;
+    ContentsEntryList entries;
     for (const Owned* const entry : {&before, &huge, &after}) {
         entries.add(entry->view());
     }
@@ -123,9 +123,9 @@ TEST(TocEntryList, HoldsTextsLongerThanItsOwnBlocks) {
     expectSame(entries[2], after);
 }
 
-TEST(TocEntryList, HoldsMoreIconNamesThanSixteenBitsCount) {
+TEST(ContentsEntryList, HoldsMoreIconNamesThanSixteenBitsCount) {
     constexpr int count = 70'000;
-    TocEntryList entries;
+    ContentsEntryList entries;
     for (int i = 0; i < count; ++i) {
         entries.add({.href = "h", .text = "t", .level = 1, .gif = std::to_string(i)});
     }
@@ -133,15 +133,15 @@ TEST(TocEntryList, HoldsMoreIconNamesThanSixteenBitsCount) {
     EXPECT_EQ(entries[count - 1].gif, "69999");
 }
 
-TEST(TocEntryList, KeepsEveryIconNameOnce) {
-    TocEntryList entries;
+TEST(ContentsEntryList, KeepsEveryIconNameOnce) {
+    ContentsEntryList entries;
     entries.add({.href = "h", .text = "t", .level = 1, .gif = "Class.gif"});
     entries.add({.href = "h", .text = "t", .level = 1, .stereoGif = "Class.gif"});
     EXPECT_EQ(entries[0].gif.data(), entries[1].stereoGif.data());
 }
 
-TEST(TocEntryList, IsEmptyAfterClearAndCanBeFilledAgain) {
-    TocEntryList entries;
+TEST(ContentsEntryList, IsEmptyAfterClearAndCanBeFilledAgain) {
+    ContentsEntryList entries;
     entries.add({.href = "h", .text = "t", .level = 1, .gif = "Class.gif"});
     entries.clear();
     EXPECT_TRUE(entries.isEmpty());
@@ -150,13 +150,13 @@ TEST(TocEntryList, IsEmptyAfterClearAndCanBeFilledAgain) {
     expectSame(entries[0], {"i", "u", 2, "Class.gif", ""});
 }
 
-TEST(TocEntryList, ACopyIsIndependent) {
+TEST(ContentsEntryList, ACopyIsIndependent) {
     const std::vector<Owned> expected = randomEntries(100);
-    TocEntryList entries;
+    ContentsEntryList entries;
     for (const Owned& entry : expected) {
         entries.add(entry.view());
     }
-    TocEntryList copy = entries;
+    ContentsEntryList copy = entries;
     copy.add({.href = "more", .text = "more", .level = 1, .gif = "more.gif"});
     entries.clear();
     ASSERT_EQ(copy.size(), expected.size() + 1);
@@ -166,9 +166,9 @@ TEST(TocEntryList, ACopyIsIndependent) {
     EXPECT_EQ(copy[expected.size()].gif, "more.gif");
 }
 
-TEST(TocEntryList, TellsTheObserverOfEveryEntry) {
+TEST(ContentsEntryList, TellsTheObserverOfEveryEntry) {
     EntryCounter counter;
-    TocEntryList entries;
+    ContentsEntryList entries;
     entries.add({.href = "h", .text = "t", .level = 1});
     entries.add(HtmlTOCTag());
     EXPECT_EQ(counter.entries, 2);

@@ -14,7 +14,7 @@
 namespace quillmark {
 
 /// One entry as the list shows it. The texts live until the list changes.
-struct TocEntryView {
+struct ContentsEntryView {
     std::string_view href{};
     std::string_view text{};
     std::int32_t level = 0;
@@ -28,23 +28,23 @@ struct TocEntryView {
 /// costs the bytes of its href and its text and 28 more, and no heap block of its own. Icon names
 /// are kept once each.
 ///
-///     TocEntryList entries;
+///     ContentsEntryList entries;
 ///     entries.add({.href = "rep_dtl.htm#toc1", .text = "Introduction", .level = 1});
-///     for (const TocEntryView entry : entries) { ... }
-class TocEntryList {
+///     for (const ContentsEntryView entry : entries) { ... }
+class ContentsEntryList {
 public:
     class Iterator;
 
     /// Appends an entry and tells the document observer. The texts are copied; they must not be
     /// views into this very list. `std::length_error` for an href or a text of 4 GiB.
-    void add(const TocEntryView& entry);
+    void add(const ContentsEntryView& entry);
     void add(const HtmlTOCTag& tag);
     void clear() noexcept;
 
     [[nodiscard]] std::size_t size() const noexcept { return records_.size(); }
     [[nodiscard]] bool isEmpty() const noexcept { return records_.empty(); }
     /// `index` must be below `size()`.
-    [[nodiscard]] TocEntryView operator[](std::size_t index) const;
+    [[nodiscard]] ContentsEntryView operator[](std::size_t index) const;
     /// The same entry with texts of its own.
     [[nodiscard]] HtmlTOCTag tag(std::size_t index) const;
 
@@ -74,10 +74,11 @@ private:
 };
 
 /// Walks a list from front to back; each step gives a view by value.
-class TocEntryList::Iterator {
+class ContentsEntryList::Iterator {
 public:
-    Iterator(const TocEntryList& list, std::size_t index) noexcept : list_(&list), index_(index) {}
-    [[nodiscard]] TocEntryView operator*() const { return (*list_)[index_]; }
+    Iterator(const ContentsEntryList& list, std::size_t index) noexcept
+        : list_(&list), index_(index) {}
+    [[nodiscard]] ContentsEntryView operator*() const { return (*list_)[index_]; }
     Iterator& operator++() noexcept {
         ++index_;
         return *this;
@@ -85,14 +86,14 @@ public:
     friend bool operator==(const Iterator&, const Iterator&) noexcept = default;
 
 private:
-    const TocEntryList* list_;
+    const ContentsEntryList* list_;
     std::size_t index_;
 };
 
-inline TocEntryList::Iterator TocEntryList::begin() const noexcept {
+inline ContentsEntryList::Iterator ContentsEntryList::begin() const noexcept {
     return {*this, 0};
 }
-inline TocEntryList::Iterator TocEntryList::end() const noexcept {
+inline ContentsEntryList::Iterator ContentsEntryList::end() const noexcept {
     return {*this, size()};
 }
 

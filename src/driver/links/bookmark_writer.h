@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "driver/links/bookmark_registry.h"
+#include "driver/links/bookmark_table.h"
 #include "driver/pages/held_pages.h"
 #include "driver/pages/output_router.h"
 #include "platform/trace.h"
@@ -16,13 +16,13 @@ namespace quillmark {
 /// A link to an unknown place leaves marks in the current page; the definition fills the marks of
 /// every page that waits, and a page that is finished and whose last mark is filled is written at
 /// that moment.
-class Bookmarks {
+class BookmarkWriter {
 public:
     /// Who defines: the host's own tags, or the driver for its pages and contents entries. It
     /// only decides at which trace level a second definition is told.
     enum class Origin { host, driver };
 
-    Bookmarks(OutputRouter& out, HeldPages& held, Trace& trace) noexcept
+    BookmarkWriter(OutputRouter& out, HeldPages& held, Trace& trace) noexcept
         : out_(out), held_(held), trace_(trace) {}
 
     /// Writes the anchor to the current page and fills what waits for it. An empty name does
@@ -34,31 +34,30 @@ public:
     void reference(std::string_view name, std::string_view markup);
 
     void clear() noexcept {
-        registry_.clear();
-        lastWay_ = {};
+        table_.clear();
+        lastRoute_ = {};
     }
 
 private:
-    void writeAnchor(BookmarkRegistry::Id id, std::string_view name);
-    void resolve(BookmarkRegistry::Id id, std::string_view name);
+    void writeAnchor(BookmarkTable::Id id, std::string_view name);
+    void resolve(BookmarkTable::Id id, std::string_view name);
     void writeReference(std::string_view name, std::string_view markup, std::string_view reference);
     /// The bookmark's reference as seen from a page; it lives until the next call.
-    [[nodiscard]] std::string_view relativeReference(BookmarkRegistry::Id id,
-                                                     const DocHtmlPage& page);
+    [[nodiscard]] std::string_view relativeReference(BookmarkTable::Id id, const DocHtmlPage& page);
 
     OutputRouter& out_;
     HeldPages& held_;
     Trace& trace_;
-    BookmarkRegistry registry_;
+    BookmarkTable table_;
 
     /// What stands in front of a bookmark's name, from one page to another: thousands of links in
     /// a row go the same way.
-    struct Way {
+    struct Route {
         OrxString fromPage;
         std::uint32_t toPage = 0;
         OrxString link;
     };
-    Way lastWay_;
+    Route lastRoute_;
 
     // Kept between calls for their memory alone.
     std::string anchor_;

@@ -1,4 +1,4 @@
-#include "driver/links/mark_pair.h"
+#include "driver/text/element_handle.h"
 
 #include <atomic>
 
@@ -13,11 +13,11 @@ std::atomic<std::uint32_t>& lowHalf() noexcept {
 
 }  // namespace
 
-void MarkPair::setLow(std::uint32_t low) {
+void ElementHandle::setLowHalf(std::uint32_t low) {
     lowHalf().store(low);
 }
 
-std::uint64_t MarkPair::join(std::uint32_t high) {
+std::uint64_t ElementHandle::joinHighHalf(std::uint32_t high) {
     return (std::uint64_t{high} << 32U) | lowHalf().exchange(0);
 }
 

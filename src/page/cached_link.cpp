@@ -1,10 +1,10 @@
-#include "page/link_memo.h"
+#include "page/cached_link.h"
 
 #include "page/links.h"
 
 namespace quillmark {
 
-const OrxString& LinkMemo::relativeFile(const OrxString& fileName, const OrxString& base) {
+const OrxString& CachedLink::relativeFile(const OrxString& fileName, const OrxString& base) {
     if (!known_ || fileName != fileName_ || base != base_) {
         link_ = links::relativeFile(fileName, base);
         fileName_ = fileName;
