@@ -10,8 +10,8 @@ namespace quillmark {
 
 /// Writes client-side image maps for the pictures of one document.
 ///
-/// The host's image map service tells which regions of a picture can be clicked and which
-/// bookmark each leads to; a host without the service, or a picture without regions, gets no map.
+/// The host's image map service knows the clickable regions of a picture and the bookmark that
+/// each leads to. Without the service, or without regions, a picture gets no map.
 ///
 ///     ImageMapWriter maps;
 ///     page.append("<IMG SRC=\"pix/a.gif\"");
@@ -19,24 +19,21 @@ namespace quillmark {
 ///     page.append(">");                  // closes the picture's tag, or the map's end tag
 class ImageMapWriter {
 public:
-    /// Where the markup goes.
+    /// The receiver of the markup.
     struct Output {
-        /// Takes markup as it is to be written.
+        /// Writes markup as it is.
         std::function<void(std::string_view markup)> write;
-        /// Takes the markup of one region, in which the bookmark's name stands bare where its
-        /// reference belongs. The reference replaces the first occurrence of that name in the
-        /// whole markup, be it in the region's own name or coordinates.
+        /// Writes the markup of one region, with the link instead of the first occurrence of
+        /// the bookmark's name. That may be in the region's own name or coordinates.
         std::function<void(const OrxString& bookmark, const OrxString& markup)> reference;
     };
 
-    /// Begins a document: its first map is "map0" again.
+    /// Starts a new document: its first map is "map0".
     void restart() noexcept { count_ = 0; }
-    /// Number of the next map.
-    [[nodiscard]] std::int32_t count() const noexcept { return count_; }
 
-    /// Writes the map of `picture`, the name exactly as the host gave it, between the attributes
-    /// of its IMG tag and the closing ">". Writes nothing when it has no regions. A region
-    /// without a target or without coordinates is passed over.
+    /// Writes the map of a picture, between the attributes of its IMG tag and the closing ">".
+    /// `picture` must be the name as the host gave it. Writes nothing if there are no regions.
+    /// Skips regions without a target or without coordinates.
     void write(const OrxString& picture, const Output& output);
 
 private:

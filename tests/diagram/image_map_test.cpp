@@ -50,14 +50,14 @@ public:
 TEST(ImageMap, WritesNothingWithoutAService) {
     Recorder recorder;
     EXPECT_EQ(recorder.write(), "");
-    EXPECT_EQ(recorder.maps.count(), 0);
+    const Regions regions({"", "", ""});
+    EXPECT_EQ(recorder.write(), " USEMAP=#map0 >\n<MAP NAME=\"map0\">\n</MAP");
 }
 
 TEST(ImageMap, WritesNothingForAPictureWithoutRegions) {
     const Regions none({});
     Recorder recorder;
     EXPECT_EQ(recorder.write(), "");
-    EXPECT_EQ(recorder.maps.count(), 0);
 }
 
 TEST(ImageMap, AsksForThePictureAsItWasNamed) {
@@ -84,7 +84,6 @@ TEST(ImageMap, NumbersTheMapsOfADocumentAndStartsAgainWithTheNext) {
     Recorder recorder;
     EXPECT_EQ(recorder.write(), " USEMAP=#map0 >\n<MAP NAME=\"map0\">\n</MAP");
     EXPECT_EQ(recorder.write(), " USEMAP=#map1 >\n<MAP NAME=\"map1\">\n</MAP");
-    EXPECT_EQ(recorder.maps.count(), 2);
     recorder.maps.restart();
     EXPECT_EQ(recorder.write(), " USEMAP=#map0 >\n<MAP NAME=\"map0\">\n</MAP");
 }

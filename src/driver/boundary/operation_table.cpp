@@ -10,11 +10,11 @@ namespace quillmark {
 
 namespace {
 
-/// A parameter's name as a template argument, so that each operation's row of parameters is a
-/// constant of its own.
+/// A parameter's name as a template argument, so that the parameters of each operation are a
+/// constant.
 template <std::size_t size>
 struct ParameterName {
-    // Only an array keeps its size on the way from the literal to the template.
+    // Only a C array lets the compiler deduce the size from the literal.
     consteval ParameterName(const char (&literal)[size]) {  // NOLINT(modernize-avoid-c-arrays)
         std::copy_n(literal, size, text.begin());
     }
@@ -51,7 +51,7 @@ T valueOf(const Argument& argument) {
     }
 }
 
-/// Everything about an operation follows from its member function.
+/// Derives an operation's parameters and its call from its member function.
 template <typename Method>
 struct Signature;
 
@@ -133,51 +133,13 @@ constexpr bool isInOrder() {
 }
 static_assert(isInOrder(), "the n-th operation has dispatch identifier n");
 
-/// Finds a name with one look: a slot for each name, without collisions, worked out when the
-/// program is built.
-class NameSlots {
-public:
-    consteval NameSlots() {
-        while (!fill()) {
-            ++seed_;
-        }
-    }
-
-    [[nodiscard]] constexpr const Operation* find(std::string_view name) const noexcept {
-        const int id = ids_[slotOf(name)];
-        return id != 0 && name == table[static_cast<std::size_t>(id - 1)].name
-                   ? &table[static_cast<std::size_t>(id - 1)]
-                   : nullptr;
-    }
-
-private:
-    static constexpr std::size_t slotCount = 256;
-
-    [[nodiscard]] constexpr std::size_t slotOf(std::string_view name) const noexcept {
-        std::uint32_t hash = seed_;
-        for (const char character : name) {
-            hash = (hash ^ static_cast<unsigned char>(character)) * 16777619U;
-        }
-        return (hash ^ (hash >> 15)) % slotCount;
-    }
-
-    constexpr bool fill() {
-        ids_ = {};
-        for (const Operation& row : table) {
-            std::uint8_t& slot = ids_[slotOf(row.name)];
-            if (slot != 0) {
-                return false;
-            }
-            slot = static_cast<std::uint8_t>(row.dispatchId);
-        }
-        return true;
-    }
-
-    std::uint32_t seed_ = 1;
-    std::array<std::uint8_t, slotCount> ids_{};
-};
-
-constexpr NameSlots nameIndex;
+/// The names alone, so that a search reads little memory. Nearly every comparison ends with the
+/// lengths; `bench` shows what a search costs beside a call.
+constexpr std::array<std::string_view, operationCount> names = [] {
+    std::array<std::string_view, operationCount> all;
+    std::ranges::transform(table, all.begin(), &Operation::name);
+    return all;
+}();
 
 template <typename T>
 bool fits(std::int64_t value) noexcept {
@@ -210,7 +172,8 @@ std::span<const Operation> operations() noexcept {
 }
 
 const Operation* findOperation(std::string_view name) noexcept {
-    return nameIndex.find(name);
+    const auto found = std::ranges::find(names, name);
+    return found != names.end() ? &table[static_cast<std::size_t>(found - names.begin())] : nullptr;
 }
 
 const Operation* findOperation(int dispatchId) noexcept {
