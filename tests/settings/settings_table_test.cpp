@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 
 namespace quillmark {
@@ -56,9 +57,14 @@ TEST(SettingsTable, GivesEveryOtherAddressAnEmptyDefault) {
     EXPECT_EQ(defaultValue("Html", "Unknown").asString(), "");
 }
 
-TEST(SettingsTable, EverySettingSaysWhatItMeans) {
+TEST(SettingsTable, DescribesEverySettingInOneLineOfItsOwn) {
+    std::set<std::string> meanings;
     for (const SettingDescription& setting : allSettings()) {
-        EXPECT_GT(std::string(setting.meaning).size(), 10U) << setting.name;
+        const std::string meaning = setting.meaning;
+        EXPECT_NE(meaning, "") << setting.name;
+        EXPECT_EQ(meaning.find('\n'), std::string::npos) << setting.name;
+        EXPECT_FALSE(meaning.ends_with('.')) << setting.name;
+        EXPECT_TRUE(meanings.insert(meaning).second) << setting.name << ": " << meaning;
     }
 }
 
