@@ -112,7 +112,7 @@ void appendAppletScript(const ContentsContext& context, const IconArchives& arch
     }
     appendIconParameters(context, archives, page);
     appendParameter("TOCFILE", SysFile::stripDir(treeFile), page);
-    // The two variants spell the applet's end tag each in its own way.
+    // The two variants spell the end tag of the applet differently.
     page.append(context.locateInBrowser ? "\t\tdocument.writeln(\"</APPLET>\");\n"
                                         : "   document.writeln(\"<\\/APPLET>\");\n");
     page.append("}\n</SCRIPT>\n");

@@ -5,8 +5,8 @@
 
 namespace quillmark {
 
-/// Writes the applet contents page: a script that writes the navigator applet's tag as the
-/// browser needs it. `treeFile` is the tree data the applet is to read, packed or not.
+/// Writes the applet contents page. Its script writes the tag of the navigator applet, as the
+/// browser needs it. `treeFile` is the tree data file that the applet reads, packed or not.
 void writeAppletContents(const ContentsContext& context, const IconArchives& archives,
                          const OrxString& treeFile);
 

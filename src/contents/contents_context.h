@@ -7,20 +7,20 @@
 
 namespace quillmark {
 
-/// What the contents, frame and start pages need to know of the document.
+/// What the contents, frame and start pages need to know about the document.
 ///
-/// The document fills one when it is closed and hands it to `writeContentsPages`. What is
-/// referred to must outlive that call. Paths are full paths in the driver's form.
+/// `DocHtml::close` fills it and passes it to `writeContentsPages`. The objects that it refers to
+/// must outlive that call. Paths are full paths, with "\\" on every system.
 struct ContentsContext {
-    /// Path of the document file without its extension; every name below is made from it.
+    /// Path of the document file without its extension. The names of the pages are derived from it.
     OrxString baseName;
-    /// Extension of the pages, its dot included.
+    /// Extension of the pages, with its dot.
     OrxString extension;
     OrxString title;
     /// Attributes for the BODY tags.
     OrxString bodyTags;
-    /// The style-sheet link as seen from the output directory; empty for none. Only the fixed
-    /// frame set and the fixed applet contents carry it.
+    /// Link to the style sheet, relative to the output directory; empty for none. Only the fixed
+    /// frame set and the fixed applet contents use it.
     OrxString styleSheetLink;
 
     bool showIcons = true;
@@ -28,14 +28,14 @@ struct ContentsContext {
     OrxString iconFile;
     /// Also write the frame sets for old browsers.
     bool supportOld = false;
-    /// Let locate buttons select the entry of their place.
+    /// Write the functions that the locate buttons call.
     bool locateInBrowser = true;
 
     /// Start the applet from its launch file; otherwise from its archive (Java before 7).
     bool useJnlp = true;
     /// Name of the applet archive in the installation directory.
     OrxString appletJar;
-    /// Name that the archive is copied under and that the page gives; empty for its own name.
+    /// Name of the copy of the archive, and its name in the page; empty to keep its own name.
     OrxString appletArchive;
     /// Name of the launch file.
     OrxString appletJnlp;
@@ -44,7 +44,7 @@ struct ContentsContext {
     OrxString outputDir;
     /// The image directory.
     OrxString pixDir;
-    /// Name of the first detail page, which the start page shows.
+    /// Path of the first detail page, which the start page shows.
     OrxString firstDetailPage;
 
     const FileCopier& copier;

@@ -14,7 +14,7 @@ namespace quillmark {
 
 namespace {
 
-/// Returns the name of what the applet is to read: the archive, or the plain file.
+/// Returns the file that the applet reads: the archive, or the plain file.
 OrxString writeTreeData(const ContentsContext& context) {
     const OrxString dataFile = contents_names::treeData(context);
     writeTreeDataFile(dataFile, context.entries, context.showIcons);
@@ -25,8 +25,8 @@ OrxString writeTreeData(const ContentsContext& context) {
 
 void writeContentsPages(const ContentsContext& context) {
     const IconArchives archives = copyContentsSupportFiles(context);
-    // An archiver that looks for its files in the current directory finds them there. Where the
-    // directory cannot be entered, its full names still serve.
+    // For archivers that look for their files in the current directory. It may fail, because the
+    // archiver also gets full paths.
     std::ignore = SysDirectory::setCurrentDir(context.outputDir);
     const OrxString treeFile = writeTreeData(context);
     writeAppletContents(context, archives, treeFile);

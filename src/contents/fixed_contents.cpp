@@ -12,7 +12,7 @@ namespace quillmark {
 
 namespace {
 
-// "toc.jar" is not among the files that are copied: who still serves such browsers puts it there.
+// "toc.jar" is not copied. Whoever still supports such browsers must add it to the document set.
 constexpr std::string_view appletOpening =
     R"html(<BODY>
 <APPLET CODE='com/brevanta/lumivast/TOC/DirectNavigator.class' ARCHIVE='toc.jar' WIDTH=192 HEIGHT=300>
@@ -26,7 +26,7 @@ void appendParameter(std::string_view name, const OrxString& value, DocHtmlPage&
         OrxString("<PARAM NAME=").append(name).append(" VALUE='").append(value).append("'>\n"));
 }
 
-/// The link to a file of the image directory, whether or not it is there.
+/// The link to a file in the image directory, which need not exist.
 OrxString pictureLink(const ContentsContext& context, const OrxString& name) {
     return links::relativeFile(SysFile::appendToDir(context.pixDir, name), context.outputDir);
 }

@@ -5,11 +5,11 @@
 
 namespace quillmark {
 
-/// Write a frame set for old browsers and the contents page that it shows on the left: the fixed
-/// applet, or the static listing. Both return the frame set's file name.
+/// Write a frame set for old browsers, and the contents page in its left frame: the fixed applet or
+/// the static listing. Both return the path of the frame set.
 ///
-/// The right frame is the first detail page under the extension ".htm", whatever the document's
-/// extension is.
+/// The right frame shows the first detail page. Its link always has the extension ".htm", whatever
+/// the document's extension is.
 OrxString writeFixedFrameSet(const ContentsContext& context);
 OrxString writeStaticFrameSet(const ContentsContext& context);
 

@@ -2,10 +2,9 @@
 
 namespace quillmark {
 
-// A button calls Locate with its page's address, itself and its document. The walk remembers the
-// last contents anchor that it met and stops at the button, so what it remembers then is the
-// nearest one in front. The tree knows its entries by addresses relative to the output
-// directory, which is where the contents page itself lies.
+// A button calls Locate with the address of its page, itself and its document. The walk remembers
+// the last contents anchor it has seen and stops at the button. The tree identifies its entries by
+// addresses relative to the output directory, where the contents page is.
 std::string_view locateScript() noexcept {
     return "var bkmark, locatebtn = null ; \n"
            R"js(function getClosestAnchor(lookIn)

@@ -4,8 +4,8 @@
 
 namespace quillmark {
 
-/// The JavaScript behind the locate buttons of the detail pages: `Locate(url, Obj, docmnt)`
-/// selects in the applet's tree the entry of the nearest contents anchor in front of the button.
+/// The JavaScript that the locate buttons of the detail pages call. `Locate(url, Obj, docmnt)`
+/// finds the last contents anchor before the button and selects its entry in the applet's tree.
 [[nodiscard]] std::string_view locateScript() noexcept;
 
 }  // namespace quillmark

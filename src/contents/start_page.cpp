@@ -68,8 +68,8 @@ constexpr std::string_view otherOptions =
 <LI>If you <EM>do</EM> have a supported browser please ensure that Javascript and Java are both enabled and reload.<BR>
 <LI>If your browser supports JDK 1.1.5 or later, you might try the nonresizable version of the )html";
 
-/// A script in front of the BODY tag: a frame set must not follow a body, so the one that the
-/// script writes has to come before it. It is page text like the rest, right behind the head.
+/// Appends the script that writes the frame set. It comes between the head and the BODY tag,
+/// because a frame set must not follow a body.
 void appendFrameSetScript(const ContentsContext& context, DocHtmlPage& page) {
     const OrxString contents = SysFile::stripDir(contents_names::appletContents(context));
     const OrxString main = SysFile::stripDir(context.firstDetailPage);

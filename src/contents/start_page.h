@@ -4,9 +4,9 @@
 
 namespace quillmark {
 
-/// Writes the page that a reader opens: a script that checks the browser and builds the frame
-/// set of contents and first detail page, and a text for browsers that stay outside. With
-/// `supportOld` the two frame sets for old browsers are written too and linked from that text.
+/// Writes the page that a reader opens. Its script checks the browser and builds a frame set with
+/// the contents and the first detail page. Other browsers show a text instead. With `supportOld`,
+/// the text links to the two frame sets for old browsers, which are written too.
 void writeStartPage(const ContentsContext& context);
 
 }  // namespace quillmark

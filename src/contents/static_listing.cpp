@@ -23,7 +23,7 @@ constexpr std::string_view linkMiddle = "\">";
 constexpr std::string_view linkEnd = "</a>";
 constexpr std::string_view entryEnd = "<BR>\n";
 
-/// Writes one entry; `scratch` only lends its memory from entry to entry.
+/// Writes one entry. `scratch` is only passed in to reuse its memory.
 void writeEntry(const ContentsEntryView& entry, IndentBudget& budget, DocHtmlPage& page,
                 std::string& scratch) {
     const std::size_t units = budget.take(indentUnits(entry.level), indentUnit.size());

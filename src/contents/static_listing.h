@@ -7,12 +7,12 @@
 
 namespace quillmark {
 
-/// Writes the contents as plain links into `page`, where its insertion point stands: a base
-/// target, a heading, and one line an entry, indented by its level. The entries' texts are HTML
-/// and are written as they stand. See `IndentBudget` for levels that no page can show.
+/// Writes the contents as plain links at the insertion point of `page`: a base target, a heading,
+/// and one line per entry, indented by its level. The texts of the entries are already HTML. See
+/// `IndentBudget` for entries with an absurd level.
 void writeStaticListing(const ContentsEntryList& entries, DocHtmlPage& page);
 
-/// How many bytes that writes.
+/// The number of bytes that `writeStaticListing` writes.
 [[nodiscard]] std::size_t staticListingSize(const ContentsEntryList& entries);
 
 }  // namespace quillmark

@@ -5,22 +5,22 @@
 
 namespace quillmark {
 
-/// Name of a file or folder in the directory of the setting "InstallDir" or "UserFilesDir". When
-/// the setting is empty the name begins with "\": a file that happens to lie in the current
-/// directory is never taken.
+/// The path of a file or folder in the directory of the setting "InstallDir" or "UserFilesDir". If
+/// the setting is empty, the path begins with "\", so that a file in the current directory is never
+/// used.
 [[nodiscard]] OrxString installedName(const OrxString& directory, const OrxString& name);
 
-/// The icon archives as the contents pages refer to them: the copies in the image directory, or
-/// the sources where those were not copied.
+/// The icon archives that the contents pages refer to: the copies in the image directory, or the
+/// sources of those that were not copied.
 struct IconArchives {
     OrxString icons;
     /// Empty when the user has no archive of their own.
     OrxString userIcons;
 };
 
-/// Copies what the applet contents page needs: the applet's archive (and its launch file) into
-/// the output directory, the icon archives into the image directory. What is missing is passed
-/// over in silence.
+/// Copies what the applet contents page needs: the applet's archive and its launch file into the
+/// output directory, the icon archives into the image directory. Missing files are skipped without
+/// a message.
 IconArchives copyContentsSupportFiles(const ContentsContext& context);
 
 /// Name of the icon archive, in the installation directory and in the image directory.

@@ -10,14 +10,14 @@ namespace quillmark {
 
 namespace {
 
-/// One clickable region, as three texts of the service's list.
+/// One clickable region: three texts of the service's list.
 struct Region {
     OrxString name;
     OrxString target;
     OrxString coords;
 };
 
-/// How many texts a list is given room for at first.
+/// Room for this many texts is reserved at first.
 constexpr std::size_t listBlock = 10;
 
 std::vector<OrxString> regionTexts(const OrxString& picture) {
@@ -30,7 +30,7 @@ std::vector<OrxString> regionTexts(const OrxString& picture) {
     return texts;
 }
 
-/// The region whose texts begin at `first`; what a list that ends too early lacks is empty.
+/// The region whose texts begin at `first`. Texts missing at the end of the list are empty.
 Region regionAt(const std::vector<OrxString>& texts, std::size_t first) {
     const auto text = [&](std::size_t index) {
         return index < texts.size() ? texts[index] : OrxString();
@@ -69,7 +69,7 @@ void ImageMapWriter::write(const OrxString& picture, const Output& output) {
             output.reference(region.target, areaMarkup(region));
         }
     }
-    // The caller's ">" completes the end tag.
+    // The caller's ">" completes this end tag.
     output.write("</MAP");
 }
 

@@ -1,4 +1,4 @@
-// The life of a document: opened, cut into pages and directories, closed.
+// The operations for the life of a document: create, close, page breaks and directories.
 
 #include "driver/doc_html.h"
 
@@ -15,8 +15,8 @@ namespace quillmark {
 
 namespace {
 
-/// Takes a bare name of a style sheet as one of the installation directory, and fails when there
-/// is no such file. The name is kept even then: later pages link to it.
+/// Looks for a style sheet without a directory in the installation directory. Throws if the file
+/// does not exist. The setting keeps the path even then, because later pages link to it.
 void findStyleSheet(DocumentSettings& settings) {
     OrxString& path = settings.styleSheet;
     if (SysFile::getDir(path).isEmpty()) {
@@ -33,8 +33,8 @@ DocHtml::DocHtml() : impl_(std::make_unique<DocHtmlImpl>()) {}
 
 DocHtml::~DocHtml() {
     try {
-        // The sections go first: a document that its host never closed gets its last page without
-        // header and footer.
+        // Without the sections, the last page of a document that was never closed gets no header
+        // and no footer.
         impl_->context.out.freeSections();
         if (!impl_->context.out.page().isEmpty()) {
             DocHtml::close();
@@ -43,7 +43,7 @@ DocHtml::~DocHtml() {
     } catch (const std::exception& problem) {
         OrxException::logCatch(problem.what());
     } catch (...) {
-        OrxException::logCatch("unknown exception");  // a service of the host's
+        OrxException::logCatch("unknown exception");  // thrown by a service of the host
     }
 }
 

@@ -10,9 +10,9 @@ namespace quillmark {
 
 struct DocHtmlImpl;
 
-/// The HTML driver: turns a stream of document operations into a set of HTML pages with their
-/// contents. One object writes one document; a second `create` on it starts another document with
-/// the state left as it was.
+/// The HTML driver. It turns a stream of document operations into a set of HTML pages and a table
+/// of contents. An object writes one document at a time. A second `create` starts another document;
+/// the page number, the title and the text state carry over.
 ///
 ///     DocHtml document;
 ///     document.create(u"C:\\out\\rep.htm");
@@ -20,10 +20,10 @@ struct DocHtmlImpl;
 ///     document.insertText(u"Introduction");
 ///     document.close();                       // the pages are on the disk
 ///
-/// Every operation answers `resultOk`; what fails on the way is told in the exception log and in
-/// the call trace. Only `create` without its style sheet and `close` without its tree data file
-/// throw `OrxException`. Call an object from one thread. A document that was never closed is
-/// closed by the destructor, without its header and footer.
+/// Every operation returns `resultOk`. Failures are reported in the call trace and in the exception
+/// log. Two failures throw `OrxException`: `create` when the style sheet is missing, and `close`
+/// when the tree data file cannot be written. Use an object from one thread only. The destructor
+/// closes a document that is still open; its last page then has no header and no footer.
 class DocHtml : public IDocument {
 public:
     DocHtml();
@@ -81,7 +81,7 @@ private:
     void endPage(bool last);
     void writeContents();
 
-    /// The contents applet is started from its launch file; false for a Java before 7.
+    /// Start the contents applet from its launch file. False for a Java before version 7.
     bool useJnlp_ = true;
     OrxString appletJar_;
     OrxString appletArchive_{"toc2.jar"};

@@ -1,4 +1,4 @@
-// The operations between the document and its host: sections, options, settings, trace.
+// The other operations: sections, options, settings, trace, and those that do nothing here.
 
 #include "driver/doc_html.h"
 #include "driver/doc_html_impl.h"
@@ -13,7 +13,7 @@ namespace quillmark {
 
 namespace {
 
-/// The class identifier of the settings page, in the text form of the component registry.
+/// The class identifier of the settings page, as text.
 constexpr std::u16string_view settingsPageClass = u"{474BDD93-0170-11D3-A6BF-00104B2AEFE1}";
 
 /// The value types of `overrideRegistry`, which are not the settings library's own.
@@ -56,7 +56,7 @@ DocResult DocHtml::startFooter() {
 
 DocResult DocHtml::endFooter() {
     impl_->calls.call("endFooter");
-    // Unlike `endHeader` it does not ask what is open: in the body it closes the body's tags.
+    // Unlike `endHeader` this does not check what is open. In the body it closes the body's tags.
     impl_->style.closeAll();
     impl_->context.out.returnToBody();
     return resultOk;
@@ -123,7 +123,7 @@ DocResult DocHtml::insertMark(std::int32_t ptr, bool isPrimary) {
 
 DocResult DocHtml::insertDiagram(std::int32_t /*ptr*/, std::int16_t /*width*/,
                                  std::int16_t /*height*/) {
-    // Diagrams arrive as pictures; the call is only guarded, as its host expects.
+    // Diagrams arrive as pictures through `insertImage`. Hosts only expect this call to be guarded.
     try {
         CSignal2Exception::run([] {});
     } catch (const OrxException& problem) {
@@ -133,7 +133,7 @@ DocResult DocHtml::insertDiagram(std::int32_t /*ptr*/, std::int16_t /*width*/,
     return resultOk;
 }
 
-// Accepted for other document formats; an HTML document has nothing to do for them.
+// These are for drivers of other formats. This driver accepts them and does nothing.
 DocResult DocHtml::start() {
     return resultOk;
 }

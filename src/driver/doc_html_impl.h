@@ -20,8 +20,8 @@
 
 namespace quillmark {
 
-/// The private record of `DocHtml`: the parts of a document, each with its own state, put
-/// together here and nowhere else. A part knows those above it.
+/// The parts of a document, each with its own state. They are connected here and nowhere else: a
+/// part may refer to the parts declared above it.
 struct DocHtmlImpl {
     DocumentContext context;
     RegisterCache settings;
@@ -39,10 +39,10 @@ struct DocHtmlImpl {
     LocateButton locate{context, text};
     PageTurner pages{context, heldPages, bookmarks, contents, font, style};
 
-    /// A directory change has just cut the page; a page break right behind it is not another one.
+    /// `pushDirectory` has just ended a page, so an immediate page break does not end another one.
     bool breakJustMade = false;
-    /// The host's text in 8 bits, and the target of the link in work; kept between calls for its
-    /// memory alone.
+    // The host's text in 8 bits, and the target of the current link. Members only to reuse their
+    // memory.
     std::string narrowed;
     OrxString linkTarget;
 };

@@ -1,4 +1,4 @@
-// The operations that pour text and markup into the document.
+// The operations that write text, tables, links, contents entries, pictures and files.
 
 #include "driver/doc_html.h"
 #include "driver/doc_html_impl.h"
@@ -17,7 +17,7 @@ DocResult DocHtml::insertText(WideText text) {
 
 void DocHtml::insertTextCall(std::string_view text) {
     impl_->calls.call("insertText", text);
-    // The pieces around an embedded link are calls of their own, in the trace too.
+    // The text around an embedded link is traced as calls of its own.
     while (const auto link = findEmbeddedLink(text)) {
         if (!link->before.empty()) {
             insertTextCall(link->before);
@@ -154,7 +154,7 @@ DocResult DocHtml::endTOCEntry() {
 
 DocResult DocHtml::insertTOC() {
     impl_->calls.call("insertTOC");
-    // A depth below 0, which an unbalanced end of a table leaves, is outside a table.
+    // An unbalanced `endTable` can leave a depth below 0, which also means outside a table.
     if (!impl_->tables.hasOpenTable()) {
         impl_->context.out.page().addMark(page_marks::contentsListing, "");
     }

@@ -15,7 +15,7 @@ OrxString PageTurner::pageFileName() const {
 void PageTurner::newPage() {
     auto page = OrxCountedPtr<DocHtmlPage>::make();
     page->setTrace(context_.trace);
-    // Pages of a report are alike; a page that is much larger than others says nothing of the next.
+    // Pages of a report are similar in size, but one very large page does not predict the next.
     constexpr std::size_t commonPage = 65536;
     page->reserve(std::min(expectedSize_, commonPage));
     context_.out.setPage(std::move(page));
@@ -43,7 +43,7 @@ void PageTurner::reopenTextState() {
     if (savedState_.font.size != 0 || savedState_.fontOpen) {
         font_.reopen(savedState_.font);
     }
-    // The alignment is not opened again.
+    // The alignment is not reopened.
 }
 
 void PageTurner::endPage(bool last, const std::function<void()>& closeTables) {
@@ -94,8 +94,8 @@ OrxString PageTurner::stamp(const DocHtmlSection& section) {
     const DocHtmlTextState& sectionState = *section.getState();
     if (sectionState.fontOpen) {
         font_.switchTo(sectionState.font);
-        // The way back to the body's font finds the section's, just made the body's: it is closed
-        // and opened once more, and stays the body's on the pages that follow.
+        // The body's font is now the section's font, so this closes and reopens it. It stays the
+        // body's font on the following pages.
         if (context_.out.bodyState().fontOpen) {
             font_.switchTo(FontData(context_.out.bodyState().font));
         }

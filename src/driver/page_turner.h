@@ -12,11 +12,11 @@
 
 namespace quillmark {
 
-/// Begins and ends the pages of a document.
+/// Starts and ends the pages of a document.
 ///
-/// Ending a page closes what is open in the body, stamps header, footer and arrows onto the page
-/// and writes it, or holds it back while it carries marks. Beginning the next one opens the text
-/// state again that was closed.
+/// The end of a page closes everything that is open in the body and adds header, footer and
+/// arrows. Then the page is written, or held back while it has open marks. The start of the next
+/// page reopens style and font.
 class PageTurner {
 public:
     PageTurner(DocumentContext& context, HeldPages& held, BookmarkWriter& bookmarks,
@@ -29,30 +29,30 @@ public:
           style_(style),
           arrows_(context) {}
 
-    /// Makes a new page the current one, with its anchor and the text state that goes on.
+    /// Starts a new current page: writes its anchor and reopens style and font.
     void startPage();
-    /// `closeTables` ends every open table, through the document's own interface. The last page's
-    /// end also finishes every page that was held back.
+    /// Ends the current page. `closeTables` must end every open table through the document's own
+    /// interface, so that the calls are traced. The end of the last page also writes every page
+    /// that was held back.
     void endPage(bool last, const std::function<void()>& closeTables);
-    /// Makes a fresh, empty page the current one.
+    /// Makes a new, empty page the current one.
     void newPage();
-    /// Writes the pages that a document before this one left held back.
+    /// Writes the pages that an earlier document left held back.
     void releaseHeldPages();
 
     void setTitle(const OrxString& title) { title_ = title; }
     [[nodiscard]] const OrxString& title() const noexcept { return title_; }
 
-    /// The directory of the following pages, and of this one from now on.
+    /// Sets the directory of the following pages.
     void setSubDirectory(const OrxString& directory) { subDirectory_ = directory; }
     [[nodiscard]] const OrxString& subDirectory() const noexcept { return subDirectory_; }
-    /// The current page's file in the directory now in force.
+    /// The file of the current page in the subdirectory that is set now.
     [[nodiscard]] OrxString pageFileName() const;
 
 private:
     void writeTop(bool last);
     void writeTail();
-    /// The section's text for this page. A font that the section left open becomes the body's
-    /// and stays it.
+    /// The section's text for this page. A font that the section left open becomes the body's font.
     [[nodiscard]] OrxString stamp(const DocHtmlSection& section);
     void finishBody(const std::function<void()>& closeTables);
     void dispatchPage(bool last);
@@ -69,7 +69,7 @@ private:
     DocHtmlTextState savedState_;
     ArrowBar arrows_;
     CachedLink styleSheetLink_;
-    /// Bytes in the body of the page before this one.
+    /// The size in bytes of the previous page's body.
     std::size_t expectedSize_ = 0;
 };
 

@@ -4,11 +4,11 @@
 
 namespace quillmark {
 
-/// The link from a directory to a file, remembered: the pages of a report lie in few directories
-/// and ask for the same link again and again.
+/// Caches the last relative link to a file. The pages of a report are in few directories, so they
+/// need the same link again and again.
 class CachedLink {
 public:
-    /// The same as `links::relativeFile`; the result lives until the next call.
+    /// The same as `links::relativeFile`. The result is valid until the next call.
     [[nodiscard]] const OrxString& relativeFile(const OrxString& fileName, const OrxString& base);
 
 private:

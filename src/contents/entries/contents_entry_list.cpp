@@ -70,8 +70,8 @@ HtmlTOCTag ContentsEntryList::tag(std::size_t index) const {
     return tag;
 }
 
-/// The chunk with room for that many bytes: the last one, or a new one. A chunk is given its room
-/// at once, so that what it holds is never moved; a text that needs more has a chunk of its own.
+/// The last chunk, or a new one if that has too little room. A chunk is reserved at its full size,
+/// so its texts never move. An entry larger than `chunkSize` gets a chunk of its own.
 std::string& ContentsEntryList::chunkFor(std::size_t bytes) {
     if (chunks_.empty() || chunks_.back().size() + bytes > chunkSize) {
         chunks_.emplace_back().reserve(std::max(bytes, chunkSize));

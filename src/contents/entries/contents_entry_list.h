@@ -13,7 +13,7 @@
 
 namespace quillmark {
 
-/// One entry as the list shows it. The texts live until the list changes.
+/// A view of one entry. The texts are valid until the list changes.
 struct ContentsEntryView {
     std::string_view href{};
     std::string_view text{};
@@ -22,11 +22,11 @@ struct ContentsEntryView {
     std::string_view stereoGif{};
 };
 
-/// The document's contents: all entries, in the order made.
+/// All contents entries of a document, in the order of their creation.
 ///
-/// A document of 100,000 pages has at least as many entries, so the list is packed: an entry
-/// costs the bytes of its href and its text and 28 more, and no heap block of its own. Icon names
-/// are kept once each.
+/// A document of 100,000 pages has at least as many entries, so the list is packed. An entry takes
+/// the bytes of its href and its text plus 28, without a heap block of its own. Each icon name is
+/// stored once.
 ///
 ///     ContentsEntryList entries;
 ///     entries.add({.href = "rep_dtl.htm#toc1", .text = "Introduction", .level = 1});
@@ -35,8 +35,8 @@ class ContentsEntryList {
 public:
     class Iterator;
 
-    /// Appends an entry and tells the document observer. The texts are copied; they must not be
-    /// views into this very list. `std::length_error` for an href or a text of 4 GiB.
+    /// Appends a copy of an entry and notifies the document observer. The texts must not be views
+    /// into this list. Throws `std::length_error` for an href or a text of 4 GiB or more.
     void add(const ContentsEntryView& entry);
     void add(const HtmlTOCTag& tag);
     void clear() noexcept;
@@ -45,15 +45,15 @@ public:
     [[nodiscard]] bool isEmpty() const noexcept { return records_.empty(); }
     /// `index` must be below `size()`.
     [[nodiscard]] ContentsEntryView operator[](std::size_t index) const;
-    /// The same entry with texts of its own.
+    /// A copy of the entry.
     [[nodiscard]] HtmlTOCTag tag(std::size_t index) const;
 
     [[nodiscard]] Iterator begin() const noexcept;
     [[nodiscard]] Iterator end() const noexcept;
 
 private:
-    /// Where an entry's href is; its text stands right behind it in the same chunk. Places are
-    /// numbers rather than addresses, so that a copied list needs no fixing up.
+    /// The position of an entry's href; its text follows in the same chunk. Positions are indexes,
+    /// so a copy of the list is valid as it is.
     struct Record {
         std::uint32_t chunk = 0;
         std::uint32_t offset = 0;
@@ -73,7 +73,7 @@ private:
     std::map<std::string, std::uint32_t, std::less<>> iconNumbers_;
 };
 
-/// Walks a list from front to back; each step gives a view by value.
+/// Iterates over a list. It returns views by value.
 class ContentsEntryList::Iterator {
 public:
     Iterator(const ContentsEntryList& list, std::size_t index) noexcept

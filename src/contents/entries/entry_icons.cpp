@@ -22,7 +22,7 @@ OrxString attribute(const MMInfo& info, const char* name) {
     return info.getAttrAsString(name, info.getObject());
 }
 
-/// What tells elements of one metaclass apart, empty for the other metaclasses.
+/// The attribute that distinguishes icons within a metaclass; empty for the other metaclasses.
 OrxString detailOf(const MMInfo& info, const OrxString& metaclass) {
     if (isOneOf(metaclass, {"Class", "Diagram", "TaggedValue"})) {
         return attribute(info, "kind");
@@ -49,7 +49,7 @@ EntryIcons iconsByMetaclass(const MMInfo& info) {
     return icons;
 }
 
-/// Icons by what the element's own attributes say it is.
+/// Icons by the element's own attributes.
 EntryIcons iconsByAttributes(const MMInfo& info) {
     EntryIcons icons{noneIcon, {}};
     const OrxString metaClass = attribute(info, "metaClass");

@@ -13,11 +13,11 @@ public:
     [[nodiscard]] std::int32_t getLevel() const noexcept { return level_; }
     void setLevel(std::int32_t level) noexcept { level_ = level; }
 
-    /// The text as the page holds it; it is HTML already ("&lt;", "&nbsp;", "<BR>\n").
+    /// The text as it is on the page: already HTML, with "&lt;", "&nbsp;" and "<BR>\n".
     [[nodiscard]] OrxString getText() const { return text_; }
     void setText(const OrxString& text) { text_ = text; }
 
-    /// Where it leads: the page's file name relative to the output directory, "#", the anchor.
+    /// The link: the page file relative to the output directory, "#", the anchor.
     [[nodiscard]] OrxString getHref() const { return href_; }
     void setHref(const OrxString& href) { href_ = href; }
 
@@ -29,8 +29,8 @@ public:
     [[nodiscard]] OrxString getStereoGif() const { return stereoGif_; }
     void setStereoGif(const OrxString& stereoGif) { stereoGif_ = stereoGif; }
 
-    // Entries are neither ordered nor looked up. The comparisons are there for containers that
-    // ask for them, and each is true whatever it is given: do not sort or search by them.
+    // Entries are neither sorted nor searched. The comparisons only exist for containers that
+    // require them, and always return true: never sort or search by them.
     friend bool operator==(const HtmlTOCTag& /*a*/, const HtmlTOCTag& /*b*/) { return true; }
     friend bool operator!=(const HtmlTOCTag& /*a*/, const HtmlTOCTag& /*b*/) { return true; }
     friend bool operator<(const HtmlTOCTag& /*a*/, const HtmlTOCTag& /*b*/) { return true; }

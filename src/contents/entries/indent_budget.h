@@ -4,18 +4,17 @@
 
 namespace quillmark {
 
-/// Bounds the indentation that one output may get altogether.
+/// Limits the total indentation of one output.
 ///
-/// A level is whatever number stands in a style's name: "Heading 2000000000" is a level. Written
-/// as it stands, one such entry would fill gigabytes with blanks. An output may have 256 MiB of
-/// indentation (100,000 entries at level 150 are within it); an indentation that does not fit
-/// into what is left is left out whole, and the entry itself is written as always.
+/// A level is any number in a style's name, so "Heading 2000000000" is possible. Its indentation
+/// would take gigabytes. An output may have 256 MiB of indentation, enough for 100,000 entries at
+/// level 150. An entry whose indentation exceeds what is left is written without indentation.
 class IndentBudget {
 public:
     static constexpr std::size_t total = std::size_t{256} * 1024 * 1024;
 
-    /// How often a unit of `unitBytes` is to be written for an indentation of `units`: as often
-    /// as asked, or not at all. `unitBytes` must not be 0.
+    /// Returns how many units to write for an indentation of `units` units with `unitBytes` bytes
+    /// each: either `units` or 0. `unitBytes` must not be 0.
     [[nodiscard]] std::size_t take(std::size_t units, std::size_t unitBytes) noexcept {
         if (units > left_ / unitBytes) {
             return 0;

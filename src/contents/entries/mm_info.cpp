@@ -10,7 +10,7 @@ namespace quillmark {
 
 namespace {
 
-/// The answer of `query`, or the empty one, told to the log, when the library throws.
+/// The answer of `query`. If the library throws, logs the exception and returns `empty`.
 template <typename Answer, typename Query>
 Answer guarded(Answer empty, const Query& query) {
     try {

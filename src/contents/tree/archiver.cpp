@@ -7,7 +7,7 @@ namespace quillmark {
 
 namespace {
 
-/// Move into the archive, say nothing, and leave the directory part of the name out.
+/// -m moves the file into the archive, -q is quiet, -j stores the name without its directory.
 OrxString archiverArguments(const OrxString& archive, const OrxString& dataFile) {
     return "-m -q -j \"" + archive + "\" \"" + dataFile + "\"";
 }

@@ -5,11 +5,11 @@
 
 namespace quillmark {
 
-/// Starts the archiver "zip.exe" of the installation directory, to move `dataFile` into the
-/// archive `dataFile` + ".zip"; an older archive of that name is deleted first.
+/// Starts the archiver "zip.exe" of the installation directory, which moves `dataFile` into the
+/// archive `dataFile` + ".zip". Deletes an older archive of that name first.
 ///
-/// Nobody waits for the archiver. Returns the archive's name once it was started, whatever then
-/// becomes of it; `dataFile`, after an error line in the trace, when it was not.
+/// Does not wait for the archiver. Returns the path of the archive if the archiver was started,
+/// even if it fails later. Otherwise writes an error line to the trace and returns `dataFile`.
 [[nodiscard]] OrxString packDataFile(const OrxString& dataFile, const OrxString& installDir,
                                      const Trace& trace);
 

@@ -56,8 +56,7 @@ public:
     }
 
 private:
-    /// From 1 to one deeper than the node before. Before the first node that one is 0, which
-    /// makes the first node's level 1 whatever it says.
+    /// From 1 to one deeper than the previous node. The first node always gets level 1.
     [[nodiscard]] std::size_t correctedLevel(std::int32_t level) const {
         return level < 1 ? 1 : std::min(static_cast<std::size_t>(level), previous_ + 1);
     }
@@ -84,7 +83,7 @@ private:
         }
     }
 
-    /// A line feed that a text still holds ends as every line of the file does.
+    /// Replaces the line feeds that are left in a text by the line end of the file.
     void endLinesFrom(std::size_t start) {
         if (lineEnd_ != "\n" && buffer_.find('\n', start) != std::string::npos) {
             OrxString node(std::string_view(buffer_).substr(start));
@@ -106,7 +105,7 @@ private:
     std::unique_ptr<OutputFile> file_;
     std::string_view lineEnd_ = systemLineEnd();
     std::string buffer_;
-    /// The level of the node before, 0 when there is none.
+    /// The level of the previous node; 0 before the first.
     std::size_t previous_ = 0;
     IndentBudget budget_;
 };

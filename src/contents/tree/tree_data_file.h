@@ -12,14 +12,13 @@ namespace quillmark {
 ///           (NODE "Purpose" "rep_dtl.htm#toc2" ))
 ///        (NODE "Index" "rep_dtl2.htm#toc3" ))
 ///
-/// A node is closed in front of the next line, so its children stand inside it. Levels are
-/// corrected on the way: none is below 1, and none is more than one deeper than the one before.
-/// The text is converted (see tree_text.h); hrefs and icon names are written as they stand, the
-/// latter only with `showIcons`. Lines end as the platform ends them. See `IndentBudget` for
-/// trees too deep to be indented.
+/// A node is closed before the next node that is not inside it. Levels are corrected: none is
+/// below 1, and none is more than one deeper than the level before it. The text is converted (see
+/// tree_text.h). Links and icon names are written unchanged, icon names only with `showIcons`.
+/// Lines end as usual on the platform. See `IndentBudget` for very deep trees.
 ///
-/// Throws `OrxException` "Error opening file: " + path when the file cannot be made, "Error
-/// writing to file: " + path when the disk takes no more.
+/// Throws `OrxException`: "Error opening file: " + path when the file cannot be created, "Error
+/// writing to file: " + path when it cannot be written.
 void writeTreeDataFile(const OrxString& path, const ContentsEntryList& entries, bool showIcons);
 
 }  // namespace quillmark

@@ -9,8 +9,7 @@ namespace quillmark {
 
 namespace {
 
-/// What a byte calls for: nothing, a look at what stands there, or, where line ends are, the
-/// conversions one after the other.
+/// What a byte needs: nothing, a check for an escape, or, for line ends, the slow conversion.
 enum class ByteKind : unsigned char { plain, escape, lineEnd };
 
 constexpr std::array<ByteKind, 256> kinds = [] {
@@ -27,8 +26,8 @@ ByteKind kindOf(char c) noexcept {
     return kinds[static_cast<unsigned char>(c)];
 }
 
-/// One after the other, in this order: a later step sees what an earlier one has made, so that
-/// "&lt;BR>" and a line feed are dropped like a line break.
+/// The order matters: a later step sees the result of an earlier one, so "&lt;BR>" with a line feed
+/// is dropped like a line break.
 void appendStepByStep(std::string& out, std::string_view text) {
     OrxString converted(text);
     converted.replaceStr("\\", "\\\\");
@@ -40,7 +39,7 @@ void appendStepByStep(std::string& out, std::string_view text) {
     out.append(converted);
 }
 
-/// Appends what stands at the front of `text` converted; returns how much of it that was.
+/// Converts and appends the front of `text`. Returns how many bytes of `text` it consumed.
 std::size_t appendFront(std::string& out, std::string_view text) {
     constexpr std::string_view lessThan = "&lt;";
     constexpr std::string_view blank = "&nbsp;";
@@ -61,8 +60,8 @@ std::size_t appendFront(std::string& out, std::string_view text) {
 
 }  // namespace
 
-// Nearly every text has no line end. Then no step can see what another one makes, and one pass
-// does for all.
+// Nearly every text is free of line ends. Then the steps do not affect each other, and one pass is
+// enough.
 void appendTreeText(std::string& out, std::string_view text) {
     const std::size_t start = out.size();
     std::size_t copied = 0;

@@ -5,9 +5,9 @@
 
 namespace quillmark {
 
-/// Appends an entry's text as the tree file holds it between its quotes: backslash and double
-/// quote escaped, "&lt;" and "&nbsp;" turned into "<" and a blank, carriage returns and line
-/// breaks ("<BR>\n") dropped. Other entities stay as they are: the navigator shows them so.
+/// Appends an entry's text as it is written between quotes in the tree file. Backslashes and
+/// double quotes are escaped. "&lt;" becomes "<", and "&nbsp;" becomes a blank. Carriage returns
+/// and line breaks ("<BR>\n") are dropped. Other entities stay, and the navigator shows them so.
 void appendTreeText(std::string& out, std::string_view text);
 
 }  // namespace quillmark

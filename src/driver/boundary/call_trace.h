@@ -8,15 +8,15 @@
 
 namespace quillmark {
 
-/// Records the host's calls as lines that read like the call in source form.
+/// Records the host's calls, one line per call, in the form of source code.
 ///
-/// Text arguments stand between quotes as they arrive, unescaped: a text that holds a quote or a
-/// line feed gives a line that may not parse back. Nothing is built while the trace is off.
+/// Text arguments are quoted but not escaped. A text that holds a quote or a line feed may give a
+/// line that cannot be parsed back. No line is built while the trace is off.
 class CallTrace {
 public:
     explicit CallTrace(Trace& trace) noexcept : trace_(trace) {}
 
-    /// An argument that stands without quotes.
+    /// An argument that is written without quotes.
     struct Word {
         std::string_view text;
     };
@@ -32,7 +32,7 @@ public:
         }
     }
 
-    /// The same for a call that ends a page: an empty line follows it.
+    /// Writes the line of `insertPageBreak`, followed by an empty line.
     void pageBreak();
 
 private:

@@ -6,8 +6,8 @@
 
 namespace quillmark {
 
-/// A host's wide text: UTF-16 with its length. It may hold any unit, zero and lone surrogates
-/// included; a host's null string arrives as an empty text.
+/// A host's UTF-16 text. It may hold any code units, including zeros and lone surrogates. A null
+/// string of the host arrives as an empty text.
 using WideText = std::u16string_view;
 
 /// The platform's 32-bit result code. Every operation answers `resultOk`.
@@ -17,10 +17,9 @@ inline constexpr DocResult resultOk = 0;
 /// The boundary between the report generator and a document driver: 42 operations, declared in
 /// the order of the operation table, so that the n-th one has dispatch identifier n.
 ///
-/// A host calls them from one thread, in document order; each runs to completion. What an
-/// operation needs as its pair, what it writes and when it may come is told operation by
-/// operation in docs/operations.md. `driver/operation_table.h` serves calls by name or
-/// identifier.
+/// A host calls them from one thread, in document order. docs/operations.md describes each
+/// operation: its arguments, which operation it pairs with, and what it writes. To call operations
+/// by name or identifier, see `driver/boundary/operation_table.h`.
 class IDocument {
 public:
     IDocument() = default;

@@ -10,7 +10,7 @@
 
 namespace quillmark {
 
-/// What a parameter of an operation is at the boundary.
+/// The kind of a parameter of an operation.
 enum class ParameterKind { string, shortInteger, longInteger, boolean, outString };
 
 struct Parameter {
@@ -18,13 +18,13 @@ struct Parameter {
     ParameterKind kind;
 };
 
-/// One argument of a late-bound call. An integer argument is accepted by every parameter of an
-/// integer or boolean kind that can hold it; a boolean only by a boolean.
+/// One argument of a late-bound call. A parameter of an integer kind takes any integer that fits;
+/// a boolean parameter takes an integer or a boolean.
 using Argument = std::variant<WideText, std::int64_t, bool, std::u16string*>;
 
 enum class InvokeStatus { done, unknownOperation, wrongArgumentCount, wrongArgumentKind };
 
-/// One row of the table: everything a late-bound caller must know of an operation.
+/// One row of the table: everything that a late-bound caller needs to know about an operation.
 struct Operation {
     int dispatchId;
     const char* name;
@@ -38,13 +38,13 @@ inline constexpr int operationCount = 42;
 /// The operations in the order of their dispatch identifiers, 1 to 42.
 [[nodiscard]] std::span<const Operation> operations() noexcept;
 
-/// The row of that name (compared exactly), or null.
+/// The operation with that name, compared exactly; null when there is none.
 [[nodiscard]] const Operation* findOperation(std::string_view name) noexcept;
-/// The row of that dispatch identifier, or null.
+/// The operation with that dispatch identifier; null when there is none.
 [[nodiscard]] const Operation* findOperation(int dispatchId) noexcept;
 
-/// Checks number and kinds of the arguments and, when they fit, makes the call. `badArgument`,
-/// when given, gets the 0-based position of the first argument of a wrong kind.
+/// Checks the number and the kinds of the arguments and then makes the call. On
+/// `wrongArgumentKind`, `*badArgument` (if given) is the 0-based position of the first bad one.
 [[nodiscard]] InvokeStatus invoke(IDocument& document, int dispatchId,
                                   std::span<const Argument> arguments,
                                   std::size_t* badArgument = nullptr);

@@ -10,8 +10,8 @@ void FileInserter::insertFile(const OrxString& fileName, InsertAs as) {
     if (fileName.isEmpty()) {
         return;
     }
-    // The search for a picture runs, and tells what it does not find, before the copy among the
-    // external documents is looked at.
+    // The image search comes first, because it may write an error line to the trace. The directory
+    // of external documents comes second.
     OrxString name = fileName;
     const bool found = SysFile::isHyperLink(name) || images_.findImage(name);
     const OrxString namePart = SysFile::stripDir(fileName);
@@ -26,8 +26,7 @@ void FileInserter::insertFile(const OrxString& fileName, InsertAs as) {
         insertContents(candidateFound ? candidate : name);
         return;
     }
-    // The end tag is written at once, whatever the link leads to: one that waits for a bookmark
-    // opens only when the bookmark comes.
+    // The end tag is always written at once, even if the start tag waits for a bookmark.
     static_cast<void>(links_.open(name));
     context_.out.writeOut(SysFile::stripDir(name));
     links_.writeEnd();

@@ -12,7 +12,7 @@ namespace quillmark {
 /// The codes of `insertFile` that mean something. Every other code is a link to the file.
 enum class InsertAs : std::int16_t { contents = 3 };
 
-/// Outside documents: linked, shown when they are pictures, or pasted line by line.
+/// Inserts outside files: as a link, as a picture, or as text, line by line.
 class FileInserter {
 public:
     FileInserter(DocumentContext& context, LinkWriter& links, ImageWriter& images,

@@ -43,7 +43,7 @@ void ImageWriter::insertImage(const OrxString& imageFile, const OrxString& linkT
     }
     OrxString markup("<IMG SRC=\"");
     context_.out.writeOut(markup.append(source).append("\" ALIGN=\"BOTTOM\" BORDER=\"0\" "));
-    // The map's own ">" closes the picture's tag; the one below then closes "</MAP".
+    // With a map, the picture's tag ends in the map's markup, and the ">" below ends "</MAP".
     maps_.write(imageFile, {[this](std::string_view html) { context_.out.writeOut(html); },
                             [this](const OrxString& bookmark, const OrxString& area) {
                                 bookmarks_.reference(bookmark, area);

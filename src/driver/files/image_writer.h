@@ -6,19 +6,20 @@
 
 namespace quillmark {
 
-/// Pictures: found, copied next to the document, shown with their image map.
+/// Writes pictures with their image maps, and copies them to the image directory.
 class ImageWriter {
 public:
     ImageWriter(DocumentContext& context, BookmarkWriter& bookmarks, LinkWriter& links) noexcept
         : context_(context), bookmarks_(bookmarks), links_(links) {}
 
-    /// For a new document: image maps are counted from 0.
+    /// Starts a new document: its image maps are numbered from 0.
     void restart() noexcept { maps_.restart(); }
-    /// Shows a picture, as a link when `linkTarget` is not empty. A picture that is not found is
-    /// only told in the trace.
+    /// Writes a picture, inside a link if `linkTarget` is not empty. If the picture is not found,
+    /// only an error line is written, to the trace.
     void insertImage(const OrxString& imageFile, const OrxString& linkTarget);
-    /// Whether the picture is there. A bare name that is not found may stand for a picture of the
-    /// installation directory, whose name then takes its place.
+    /// Whether the picture exists. A file name without a directory is also looked for among the
+    /// installed pictures; `name` then becomes the path of the installed picture. Otherwise writes
+    /// an error line to the trace.
     [[nodiscard]] bool findImage(OrxString& name);
 
 private:

@@ -10,24 +10,24 @@ namespace quillmark {
 
 /// Reads a text file line by line, however long the file is.
 ///
-/// A carriage return in front of a line feed is dropped. A line longer than `longest` bytes is
-/// read as several lines. A line end at the end of the file starts no further line. Where a read
-/// fails the file ends: what came before it is kept.
+/// A carriage return before a line feed is dropped. A line longer than `longest` bytes is read as
+/// several lines. A line end at the end of the file does not start another line. A read error is
+/// treated as the end of the file.
 class LineReader {
 public:
     static constexpr std::size_t longest = 2000;
 
     explicit LineReader(InputFile& file) : file_(file), ahead_(readCharacter()) {}
 
-    /// Puts the next line, without its end, into `line`. False behind the last one.
+    /// Reads the next line into `line`, without its end. Returns false after the last line.
     [[nodiscard]] bool next(std::string& line);
 
 private:
     static constexpr int endOfFile = -1;
 
-    /// The next byte of the file, left there.
+    /// The next byte of the file, without consuming it.
     [[nodiscard]] int peekByte();
-    /// The next character, taken: a line end of two bytes is one.
+    /// Consumes the next character. A carriage return with a line feed counts as one.
     int readCharacter();
 
     InputFile& file_;

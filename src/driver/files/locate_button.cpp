@@ -10,7 +10,7 @@ namespace quillmark {
 
 namespace {
 
-/// The pages name this directory whatever the image directory is called.
+/// The buttons always refer to this directory, whatever the image directory is called.
 constexpr const char* pictureDir = "pixs";
 constexpr const char* picture = "locate_in_brw.JPG";
 constexpr const char* pictureUnderMouse = "locate_in_brw_button_mouse_over.JPG";
@@ -27,12 +27,12 @@ void LocateButton::insert() {
     if (!context_.settings.locateInBrowser) {
         return;
     }
-    OrxString way = links::relative(context_.names.outputDir(), context_.pageDir());
-    if (way.isEmpty()) {
-        way = ".";
+    OrxString path = links::relative(context_.names.outputDir(), context_.pageDir());
+    if (path.isEmpty()) {
+        path = ".";
     }
     OrxString button(buttonTemplate);
-    text_.emitText(button.replaceStr("%s", way));
+    text_.emitText(button.replaceStr("%s", path));
     if (locateImagesPending_) {
         locateImagesPending_ = false;
         copyPictures();

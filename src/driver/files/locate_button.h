@@ -5,14 +5,13 @@
 
 namespace quillmark {
 
-/// The "Locate in browser" button: pressed, it lets the contents select the entry of its place.
+/// Writes "Locate in browser" buttons. A click selects the contents entry of the button's place.
 class LocateButton {
 public:
     LocateButton(DocumentContext& context, TextWriter& text) noexcept
         : context_(context), text_(text) {}
 
-    /// Writes a button; the first one also copies its pictures. Does nothing when the setting is
-    /// off.
+    /// Writes a button. The first one also copies its pictures. Does nothing if the setting is off.
     void insert();
 
 private:

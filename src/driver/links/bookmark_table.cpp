@@ -16,7 +16,7 @@ BookmarkTable::Id BookmarkTable::add(std::string_view name) {
 }
 
 void BookmarkTable::define(Id id, const OrxString& pageFile) {
-    // Bookmarks come page by page, so one look at the last file keeps each name once.
+    // Bookmarks come page by page, so comparing with the last file avoids duplicates.
     const auto files = static_cast<std::uint32_t>(pageFiles_.size());
     const bool known = files != 0 && pageFiles_[files - 1] == pageFile.view();
     records_[id].pageFile = known ? files - 1 : pageFiles_.add(pageFile);

@@ -12,49 +12,48 @@
 
 namespace quillmark {
 
-/// A page that waits for a bookmark.
+/// A page with links to a bookmark that is not defined yet.
 struct WaitingPage {
     OrxCountedPtr<DocHtmlPage> page;
-    std::uint32_t number = 0;  // the page number that it is held under
+    std::uint32_t number = 0;  // its key in `HeldPages`
     DocHtmlPage::MarkNameId nameId = DocHtmlPage::unknownName;
 };
 
-/// The document's bookmarks: every name that was defined or referred to, and for each the page
-/// that holds its anchor or the pages that wait for it.
+/// The bookmarks of a document: every name that was defined or referred to. For each one it knows
+/// the page with the anchor, or the pages that wait for it.
 ///
-/// A bookmark goes from unknown to referenced to defined and never back; the first definition
-/// wins. It holds a few words a name, so that a million of them stay cheap: the anchor's
-/// reference is put together when it is asked for.
+/// A bookmark goes from unknown to referenced to defined, and never back. The first definition
+/// wins. A bookmark takes only a few words of memory, because its reference is not stored.
 class BookmarkTable {
 public:
     using Id = NameIndex::Id;
     static constexpr Id unknown = NameIndex::none;
 
-    /// The bookmark of that name, registered now when it is new. The last name asked for is found
-    /// without a search: the end of a link follows its beginning.
+    /// Returns the bookmark with that name and adds it when it is new. Asking for the same name
+    /// twice in a row is fast, because a link asks at its start and at its end.
     [[nodiscard]] Id add(std::string_view name);
 
     [[nodiscard]] bool isDefined(Id id) const noexcept { return records_[id].pageFile != none; }
-    /// Registers the page file that holds the anchor.
+    /// Defines the bookmark: its anchor is in that page file.
     void define(Id id, const OrxString& pageFile);
-    /// The file of the page that holds the anchor of a defined bookmark.
+    /// The page file with the anchor. The bookmark must be defined.
     [[nodiscard]] std::string_view pageFile(Id id) const noexcept;
-    /// Number of that file: equal for bookmarks whose anchors are on one page.
+    /// A number for that file: the same for bookmarks on the same page.
     [[nodiscard]] std::uint32_t pageFileNumber(Id id) const noexcept {
         return records_[id].pageFile;
     }
-    /// The anchor's page without directory, "#", the name; for a defined bookmark.
+    /// The file name without its directory, "#" and the name. The bookmark must be defined.
     [[nodiscard]] OrxString reference(Id id) const;
     [[nodiscard]] std::string_view name(Id id) const noexcept { return names_.name(id); }
 
-    /// Lets a page wait. Pages come in the order of their making.
+    /// Adds a page that waits for the bookmark. Pages are added in the order of their creation.
     void addWaiting(Id id, const WaitingPage& page) { waiting_.append(records_[id].waiting, page); }
-    /// The page that waits for the bookmark and was made last; null when none does.
+    /// The newest page that waits for the bookmark; null when none does.
     [[nodiscard]] const WaitingPage* lastWaiting(Id id) const noexcept {
         const auto& list = records_[id].waiting;
         return list.isEmpty() ? nullptr : &waiting_.last(list);
     }
-    /// Hands over the pages that waited, in the order of their making; none waits afterwards.
+    /// Passes the waiting pages to `each`, oldest first. No page waits afterwards.
     template <typename Each>
     void takeWaiting(Id id, const Each& each) {
         waiting_.take(records_[id].waiting, each);

@@ -11,26 +11,27 @@
 
 namespace quillmark {
 
-/// Named places and the links to them, also to places that do not exist yet.
+/// Writes the anchors of bookmarks and the links to them. A link may come before its bookmark.
 ///
-/// A link to an unknown place leaves marks in the current page; the definition fills the marks of
-/// every page that waits, and a page that is finished and whose last mark is filled is written at
-/// that moment.
+/// A link to a bookmark that is not defined yet leaves marks in the current page. When the
+/// bookmark is defined, the marks are filled on every page that waits for it. A finished page is
+/// written as soon as its last mark is filled.
 class BookmarkWriter {
 public:
-    /// Who defines: the host's own tags, or the driver for its pages and contents entries. It
-    /// only decides at which trace level a second definition is told.
+    /// Who defines a bookmark: the host, or the driver for its pages and contents entries. It
+    /// decides the trace level of the warning about a second definition.
     enum class Origin { host, driver };
 
     BookmarkWriter(OutputRouter& out, HeldPages& held, Trace& trace) noexcept
         : out_(out), held_(held), trace_(trace) {}
 
-    /// Writes the anchor to the current page and fills what waits for it. An empty name does
-    /// nothing; a name defined before only gets its warning.
+    /// Writes the anchor to the current page and fills the marks that wait for it. An empty name
+    /// does nothing. A name that is already defined only causes a warning in the trace.
     void define(std::string_view name, Origin origin);
 
-    /// Writes `markup` with the link in the place of the name's first occurrence, or leaves a mark
-    /// for it. An empty markup is the bare link attribute.
+    /// Writes `markup`, with the link attribute instead of the first occurrence of `name` in it.
+    /// Leaves a mark instead while the bookmark is not defined. An empty markup means the link
+    /// attribute alone.
     void reference(std::string_view name, std::string_view markup);
 
     void clear() noexcept {
@@ -42,7 +43,7 @@ private:
     void writeAnchor(BookmarkTable::Id id, std::string_view name);
     void resolve(BookmarkTable::Id id, std::string_view name);
     void writeReference(std::string_view name, std::string_view markup, std::string_view reference);
-    /// The bookmark's reference as seen from a page; it lives until the next call.
+    /// The link from a page to the bookmark. It is valid until the next call.
     [[nodiscard]] std::string_view relativeReference(BookmarkTable::Id id, const DocHtmlPage& page);
 
     OutputRouter& out_;
@@ -50,8 +51,8 @@ private:
     Trace& trace_;
     BookmarkTable table_;
 
-    /// What stands in front of a bookmark's name, from one page to another: thousands of links in
-    /// a row go the same way.
+    /// The part of a link before the bookmark's name. It is kept because thousands of links in a
+    /// row may lead from the same page to the same page.
     struct Route {
         OrxString fromPage;
         std::uint32_t toPage = 0;
@@ -59,7 +60,7 @@ private:
     };
     Route lastRoute_;
 
-    // Kept between calls for their memory alone.
+    // Members only to reuse their memory.
     std::string anchor_;
     std::string reference_;
 };

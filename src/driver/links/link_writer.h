@@ -8,38 +8,40 @@
 
 namespace quillmark {
 
-/// Writes links whose target is told by a host: a URL, a file, or the name of a bookmark.
+/// Writes links to a target that the host names: a URL, a file, or a bookmark.
 ///
 ///     const LinkWriter::End end = links.open(target);
 ///     text.insertEscaped("link text");
 ///     links.close(target, end);
 class LinkWriter {
 public:
-    /// How a link ends: with its end tag, or with one that waits for the bookmark as the beginning
-    /// does. Looking at the disk for a target is the dearest part of a link, so it is decided when
-    /// the link is opened. A target that was found only among the external documents is ended as a
-    /// bookmark all the same, which leaves its end tag waiting for a bookmark of that name.
+    /// How a link ends: with its end tag at once, or with an end tag that waits for the bookmark
+    /// as the start tag does. `open` decides it, because disk lookups dominate the cost of a link.
+    /// A target found only in the directory of external documents still ends as a bookmark: its end
+    /// tag waits for a bookmark of that name.
     enum class End { tag, bookmark };
 
     LinkWriter(DocumentContext& context, BookmarkWriter& bookmarks) noexcept
         : context_(context), bookmarks_(bookmarks) {}
 
-    /// A file is copied next to the document first when links are relative.
+    /// Writes the start of a link. When links are relative, a file is first copied to the
+    /// document's directories.
     [[nodiscard]] End open(const OrxString& target);
+    /// Writes the end that `open` returned for this target.
     void close(const OrxString& target, End end);
-    /// The end tag alone.
+    /// Writes the end tag.
     void writeEnd();
 
 private:
     void writeStart(const OrxString& href);
     [[nodiscard]] OrxString linkOfFile(const OrxString& file);
-    /// Whether a file of the target's name lies among the external documents; its name then is in
-    /// `candidate_`.
+    /// Looks for a file with the target's name in the directory of external documents. Puts its
+    /// path into `candidate_`.
     [[nodiscard]] bool findExternalDocument(const OrxString& target);
 
     DocumentContext& context_;
     BookmarkWriter& bookmarks_;
-    // Kept between calls for their memory alone.
+    // Members only to reuse their memory.
     OrxString candidate_;
     std::string markup_;
 };

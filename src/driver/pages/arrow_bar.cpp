@@ -30,8 +30,8 @@ void ArrowBar::appendArrow(OrxString& bar, std::uint32_t pageNumber, Picture pic
 
 OrxString ArrowBar::bar(std::uint32_t pageNumber, bool lastPage) {
     OrxString bar;
-    // The dead arrows write their attributes in two different orders; browsers do not mind, and
-    // comparisons of document sets do.
+    // The two dead arrows have their attributes in different orders. This is kept because document
+    // sets are compared byte for byte.
     if (pageNumber == OutputNames::firstPageNumber) {
         bar.append("<IMG SRC=\"").append(pictureLink(backOff));
         bar.append("\" BORDER=\"0\" NOSAVE HEIGHT=20 WIDTH=22>\n");

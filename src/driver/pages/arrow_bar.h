@@ -8,10 +8,10 @@
 
 namespace quillmark {
 
-/// The back and next arrows at the top of a page, and the line break behind them.
+/// The back and next arrows at the top of a page, and the line break after them.
 ///
-/// They lead to pages of the page's own directory, also for pages that were sent into a
-/// subdirectory, and to pages that may turn out empty and never be written.
+/// An arrow names the neighbouring page by its number, in the directory of the page itself. It may
+/// lead nowhere: the neighbour may be in another directory, or be empty and never written.
 class ArrowBar {
 public:
     explicit ArrowBar(const DocumentContext& context) noexcept : context_(context) {}

@@ -9,8 +9,8 @@
 
 namespace quillmark {
 
-/// What most parts of a document look at: its names, its settings, where output goes, and how
-/// files get next to it. One a document; the parts keep a reference.
+/// What most parts of a document share: file names, settings, output, trace, and the copying of
+/// files. There is one per document, and the parts keep a reference to it.
 struct DocumentContext {
     Trace trace;
     OutputRouter out;
@@ -18,17 +18,18 @@ struct DocumentContext {
     DocumentSettings settings;
     FileCopier copier;
 
-    /// Directory of the page being written.
+    /// The directory of the current page.
     [[nodiscard]] OrxString pageDir() const;
-    /// Directory that the current page's links count from: its own, or the default base directory
-    /// when it has none.
+    /// The base directory of the current page's links: the page's own directory, or the default
+    /// base directory if it has none.
     [[nodiscard]] OrxString linkBase() const;
-    /// The link of a file as pages refer to it: relative to the current page, or an absolute file
-    /// URL when relative links are off.
+    /// The link from the current page to a file: a relative link, or an absolute file URL when
+    /// relative links are off.
     [[nodiscard]] OrxString documentLink(const OrxString& fileName) const;
-    /// The same for a file that many pages refer to.
+    /// The same for a file that many pages link to: `cached` holds its last link.
     [[nodiscard]] OrxString documentLink(const OrxString& fileName, CachedLink& cached) const;
-    /// Copies a file under its own name and returns the name to refer to.
+    /// Copies a file into a directory, under its own name. Returns the path to link to: the copy,
+    /// or the source when it was not copied.
     OrxString copyTo(const OrxString& directory, const OrxString& fileName) const;
     /// Writes an error line to the trace.
     void traceError(std::string_view opening, std::string_view subject) const;

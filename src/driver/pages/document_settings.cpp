@@ -49,13 +49,14 @@ void DocumentSettings::readTexts(const RegisterCache& settings) {
     passThrough = readHtml(settings, "PassThrough").asBool();
     locateInBrowser = readHtml(settings, "LocateInBrowser").asBool();
     testLevel = readDirectly("TestLevel").asInt();
-    // Asked for and not kept: the host draws the diagrams, but a store may count on being asked.
+    // The value is not used, because the host draws the diagrams. It is read all the same,
+    // because a store may rely on being asked.
     static_cast<void>(readHtml(settings, "DiagramType"));
 }
 
 bool DocumentSettings::readIniFile() {
     const OrxString file = iniFileName();
-    // This one is compared with case, the next one without.
+    // This value is compared with case, the next one without.
     const bool beforeJava7 =
         IniFile::read(file, iniSection, "UseJavaPre7", "FALSE", iniBufferSize) == "TRUE";
     OrxString expand =

@@ -8,8 +8,8 @@
 
 namespace quillmark {
 
-/// The settings of one document, as `create` read them. Before that they are as a fresh object
-/// has them, which is not always the stored default.
+/// The settings of one document, as `create` reads them. Before the first `create` they have the
+/// values below, which are not always the defaults of the stored settings.
 struct DocumentSettings {
     OrxString pixDir;          // image directory, full path
     OrxString externalDocDir;  // directory for copied documents, full path
@@ -34,16 +34,17 @@ struct DocumentSettings {
     }
     [[nodiscard]] bool hasArrows() const noexcept { return (navigation & navigateByArrows) != 0; }
 
-    /// Reads what belongs to the files of the document. Group "Html" is read through the cache,
-    /// so overrides apply; group "Settings" straight from the store, which they do not reach.
+    /// Reads the settings for files and links. Group "Html" is read through the cache, so
+    /// overrides apply. Group "Settings" is read directly from the store, where they do not.
     void readPlaces(const RegisterCache& settings, const OrxString& outputDir);
-    /// Reads what belongs to the way texts are written.
+    /// Reads the settings for texts.
     void readTexts(const RegisterCache& settings);
-    /// Reads the modelling tool's ini file. False when the applet is for a Java before 7.
+    /// Reads the modelling tool's ini file. Returns false when the applet must run on a Java before
+    /// version 7.
     [[nodiscard]] bool readIniFile();
 };
 
-/// Directory of the user's own files, as it is stored now.
+/// The directory of the user's own files, read from the store at each call.
 [[nodiscard]] OrxString userFilesDir();
 
 }  // namespace quillmark

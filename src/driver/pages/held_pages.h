@@ -9,14 +9,16 @@
 
 namespace quillmark {
 
-/// Finished pages that are held back because they carry marks: references to places that do not
-/// exist yet, or the place of the contents listing.
+/// Finished pages that are not written yet because they have open marks: references to bookmarks
+/// that are not defined yet, or the position of a contents listing.
 class HeldPages {
 public:
+    /// Keeps a page under its number.
     void hold(std::uint32_t pageNumber, OrxCountedPtr<DocHtmlPage> page);
-    /// Writes a held page whose last mark is filled. A page that is not held is written as well.
+    /// Writes a page whose last mark has been filled, and forgets it if it is held.
     void finish(std::uint32_t pageNumber, DocHtmlPage& page);
-    /// Hands over every held page, in the order of their numbers; none is held afterwards.
+    /// Passes every held page to `finishPage` in the order of their numbers. No page is held
+    /// afterwards.
     void finishAll(const std::function<void(DocHtmlPage&)>& finishPage);
 
 private:

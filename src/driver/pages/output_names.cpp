@@ -9,8 +9,8 @@ namespace quillmark {
 
 namespace {
 
-/// Directory of the document and subdirectory together stay within this, so that there is room
-/// for file names below the system's limit for a path.
+/// The greatest length of output directory and subdirectory together. It leaves room for the file
+/// name within the system's limit for a path.
 constexpr std::ptrdiff_t directoryLimit = 210;
 
 }  // namespace

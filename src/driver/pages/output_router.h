@@ -15,9 +15,8 @@ namespace quillmark {
 /// Where output goes.
 enum class SectionMode { header = 0, body = 1, footer = 2 };
 
-/// The router of all markup: to the header section, the current page's body or the footer
-/// section. It keeps the page being written with its number, the two sections, and the text state
-/// in force.
+/// Routes all markup to the header section, the body of the current page, or the footer section.
+/// It holds the current page with its number, both sections, and the text state in force.
 class OutputRouter {
 public:
     OutputRouter() : page_(OrxCountedPtr<DocHtmlPage>::make()) {}
@@ -25,7 +24,7 @@ public:
     OutputRouter& operator=(const OutputRouter&) = delete;
     ~OutputRouter() = default;
 
-    /// Takes finished HTML to the place that is current.
+    /// Writes finished HTML to the section that is open.
     void writeOut(std::string_view html) {
         if (mode_ == SectionMode::body) {
             page_->append(html);
@@ -37,12 +36,12 @@ public:
     [[nodiscard]] SectionMode mode() const noexcept { return mode_; }
     [[nodiscard]] bool inBody() const noexcept { return mode_ == SectionMode::body; }
 
-    /// The page being written; never null.
+    /// The current page.
     [[nodiscard]] DocHtmlPage& page() const noexcept { return *page_; }
     [[nodiscard]] const OrxCountedPtr<DocHtmlPage>& sharedPage() const noexcept { return page_; }
     void setPage(OrxCountedPtr<DocHtmlPage> page) noexcept { page_ = std::move(page); }
 
-    /// The number of the page being written. It survives a second `create`.
+    /// The number of the current page. A second `create` does not reset it.
     [[nodiscard]] std::uint32_t pageNumber() const noexcept { return pageNumber_; }
     void nextPageNumber() noexcept { ++pageNumber_; }
 
@@ -50,16 +49,16 @@ public:
     [[nodiscard]] DocHtmlTextState& state() const noexcept { return *state_; }
     [[nodiscard]] DocHtmlTextState& bodyState() noexcept { return bodyState_; }
 
-    /// The section of a mode; null for the body and for a section that was never opened.
+    /// The section for a mode. Null for the body, and for a section that was never opened.
     [[nodiscard]] DocHtmlSection* section(SectionMode mode) const noexcept;
-    /// Makes the section current, empty, with the document's test level.
+    /// Empties a section and makes it current.
     void openSection(SectionMode mode, int testLevel);
     /// Makes the body current.
     void returnToBody() noexcept;
-    /// Makes the body current and frees both sections.
+    /// Makes the body current and deletes both sections.
     void freeSections() noexcept;
 
-    /// While it lives the body is current; afterwards an open section is current again.
+    /// Makes the body current for its lifetime, then the section that was open before.
     class BodyScope {
     public:
         explicit BodyScope(OutputRouter& out) noexcept : out_(out), mode_(out.mode_) {

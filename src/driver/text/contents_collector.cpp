@@ -64,7 +64,7 @@ void ContentsCollector::finishPage() {
         OrxString anchor = "Page " + OrxString(std::to_string(out_.pageNumber()));
         addEntry(anchor, OrxString(anchor), 1);
         if (page.setInsertPoint(page_marks::topOfPage)) {
-            // This anchor stays open: the next entry will point back at the top of this page.
+            // This anchor stays open: the next heading's entry will point to the top of this page.
             openAnchor();
             page.clearInsertPoint();
         }

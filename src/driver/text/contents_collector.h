@@ -10,32 +10,33 @@
 
 namespace quillmark {
 
-/// Gathers the entries of the contents while the document is written: from explicit blocks, from
-/// headings, and one for every page that has none.
+/// Collects the entries of the contents while the document is written. Entries come from headings
+/// and from `startTOCEntry` blocks. A page without an entry gets one of its own.
 ///
-/// An entry needs an anchor and a text. The anchor is opened in front of a heading's first text;
-/// an anchor whose entry never comes stays open, and the next heading's entry points at it.
+/// An entry needs an anchor and a text. The anchor is written before the first text of a heading.
+/// An anchor that never gets an entry stays open, and the entry of the next heading points to it.
 class ContentsCollector {
 public:
     ContentsCollector(OutputRouter& out, BookmarkWriter& bookmarks) noexcept
         : out_(out), bookmarks_(bookmarks) {}
 
-    /// For a new document; an entry that is open stays open.
+    /// Starts a new document. An open entry stays open.
     void reset() noexcept;
     /// Ends the open entry without adding it.
     void leaveEntry() noexcept { inTocEntry_ = false; }
     void setOutputDir(const OrxString& outputDir) { outputDir_ = outputDir; }
-    /// Deepest level that headings enter by themselves; 0 for none.
+    /// Headings down to this level become entries; with 0, none do.
     void setLevel(std::uint32_t level) noexcept { tocLevel_ = level; }
     void setShowIcons(bool show) noexcept { showIcons_ = show; }
-    /// The model element that the following output describes; it chooses the icons.
+    /// Sets the model element that the following output describes. It decides the icons.
     void setCurrentElement(std::uint64_t handle) noexcept { currentElement_ = handle; }
 
     void startEntry();
     void endEntry();
     [[nodiscard]] bool inEntry() const noexcept { return inTocEntry_; }
 
-    /// Opens an anchor when text of a heading of that level is about to come and none is open.
+    /// Call it before text is written. Opens an anchor if the text is in a heading that becomes an
+    /// entry and no anchor is open.
     void openAnchorForHeading(std::uint32_t headingLevel) {
         if (headingLevel != 0 && headingLevel <= tocLevel_ && tocAnchor_.isEmpty()) {
             openAnchor();
@@ -43,20 +44,20 @@ public:
     }
     /// Adds to the text of the open entry.
     void collect(std::string_view html) { tocText_.append(html); }
-    /// Turns the open anchor and its text, when both are there, into an entry.
+    /// Adds an entry if there is an open anchor with a text.
     void completeHeading();
 
     void startPage() noexcept { pageHasTocEntry_ = false; }
-    /// Gives a page without an entry its own, and settles the page's top mark.
+    /// Ends the page: adds an entry for a page without one, and removes the mark at its top.
     void finishPage();
-    /// Writes the listing of all entries so far to the page's place for it, if it has one.
+    /// Writes the listing of all entries so far if the page has a position for it.
     void fillListing(DocHtmlPage& page) const;
 
     [[nodiscard]] const ContentsEntryList& entries() const noexcept { return entries_; }
 
 private:
     void openAnchor();
-    /// Adds an entry and empties `anchor`; without an anchor or a text nothing happens.
+    /// Adds an entry and clears `anchor`. Does nothing if anchor or text is empty.
     void addEntry(OrxString& anchor, const OrxString& text, std::int32_t level);
     [[nodiscard]] std::int32_t levelOfStyle() const;
 

@@ -12,7 +12,7 @@ constexpr std::string_view closing = "</a>";
 }  // namespace
 
 std::optional<EmbeddedLink> findEmbeddedLink(std::string_view text) noexcept {
-    // A link begins with "<", which most texts do not have at all.
+    // Fast path: most texts do not have a "<".
     if (text.find('<') == std::string_view::npos) {
         return std::nullopt;
     }

@@ -11,8 +11,8 @@ constexpr std::string_view lineFeedText = "<BR>\n";
 constexpr std::string_view twoBlanksText = "&nbsp; ";
 constexpr std::string_view twoAnglesText = "&lt;&lt;";
 
-/// Whether anything changes at all. Nearly every text is plain, so this looks at every byte
-/// without a jump, in a loop that the compiler can vectorise.
+/// Whether anything changes. Nearly every text is plain, so the loop has no branches: the compiler
+/// can vectorise it.
 bool hasStop(std::string_view text, bool passThrough) noexcept {
     if (text.empty()) {
         return false;
@@ -29,8 +29,8 @@ bool hasStop(std::string_view text, bool passThrough) noexcept {
     return stops != 0 || bytes[last] == '\t' || bytes[last] == '\n';
 }
 
-/// What stands for the text at a stop, and how many bytes of the text it stands for; a length of
-/// 0 when nothing changes there.
+/// The HTML for the text at a position, and how many bytes of the text it replaces. A length of 0
+/// means that nothing changes there.
 struct Replacement {
     std::string_view html;
     std::size_t length = 0;

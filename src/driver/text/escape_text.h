@@ -5,12 +5,14 @@
 
 namespace quillmark {
 
-/// The conversion of a host's text to HTML. It is no general escaping: only four things change.
-/// A tab becomes two non-breaking spaces and a blank, a line feed a line break, two blanks in a
-/// row a non-breaking space and a blank; and with `passThrough` on, where a text's own markup is
-/// let through, "<<" becomes "&lt;&lt;". With it off every "<" is copied, "<<" too.
+/// Converts a host's text to HTML. This is not general escaping; only four things change:
 ///
-/// Returns `text` itself when nothing changes, else a view of `buffer`, which it then fills.
+/// - a tab becomes two non-breaking spaces and a blank
+/// - a line feed becomes a line break
+/// - two blanks in a row become a non-breaking space and a blank
+/// - "<<" becomes "&lt;&lt;", but only with `passThrough` on
+///
+/// Returns `text` itself when nothing changes. Otherwise fills `buffer` and returns a view of it.
 [[nodiscard]] std::string_view escapeText(std::string_view text, bool passThrough,
                                           std::string& buffer);
 

@@ -6,32 +6,32 @@
 
 namespace quillmark {
 
-/// Attribute codes of `setFontAttribute`. They are not combined: 3 is unknown.
+/// The codes of `setFontAttribute`. They cannot be combined: 3 is an unknown code.
 enum FontAttribute : std::int16_t { DocBold = 1, DocItalic = 2, DocUnderline = 4, DocStrike = 8 };
 
-/// The font in force and the tags that it leaves open.
+/// Keeps the current font and writes its tags.
 ///
-/// The face name is kept but never written. Closing tags come in the order of the opening ones,
-/// not mirrored.
+/// The face name is stored but never written. Tags are closed in the order in which they were
+/// opened, not in reverse.
 class FontWriter {
 public:
     explicit FontWriter(OutputRouter& out) noexcept : out_(out) {}
 
     void setName(const OrxString& name);
     void setSize(std::int16_t points);
-    /// Writes the tag whether or not the attribute changes; an unknown code writes nothing.
+    /// Writes the tag even if the attribute does not change. An unknown code writes nothing.
     void setAttribute(FontAttribute attribute, bool value);
 
-    /// The font in force. In the body a closed font falls back to the default; in a section the
-    /// font stored last carries on, closed or not.
+    /// The current font. In the body, a closed font falls back to the default. In a section, the
+    /// font that was stored last stays current, closed or not.
     [[nodiscard]] FontData current() const;
     void openTags(const FontData& font);
     void closeTags(const FontData& font);
-    /// Closes what may be open of the current state's font.
+    /// Closes the font of the current text state if it is open.
     void close();
-    /// Closes the current state's font, makes `font` the current one and opens its tags.
+    /// Closes the current font, then stores `font` as the current one and opens its tags.
     void switchTo(const FontData& font);
-    /// Stores the font as the current one and opens its tags without closing anything.
+    /// Stores `font` as the current one and opens its tags, without closing anything.
     void reopen(const FontData& font);
 
 private:

@@ -11,12 +11,12 @@ namespace {
 
 constexpr std::string_view alignEnd = "</DIV>\n";
 
-/// Headings of these levels have elements of their own, the next ones style-sheet classes.
+/// Headings to level 6 are HTML elements. Deeper ones are style-sheet classes, up to level 9.
 constexpr std::int32_t deepestElement = 6;
 constexpr std::int32_t deepestClass = 9;
 
-/// A list level is a repetition of tags; far beyond any list it ends here, so that a wild number
-/// cannot fill the memory.
+/// A list tag is repeated once per level. The limit keeps an absurd level in a style name from
+/// filling the memory.
 constexpr std::int32_t deepestList = 65535;
 
 std::string repeated(std::string_view tag, std::int32_t level) {
@@ -80,7 +80,7 @@ std::int32_t ParagraphStyle::closeStyle(std::string_view name) {
     } else if (name.starts_with(style_names::numberedList)) {
         tags = repeated("</OL>\n", style_names::levelAfter(style_names::numberedList, name));
     }
-    // Nothing closes a bulleted list: reports rely on its indentation going on.
+    // A bulleted list is never closed, because existing reports rely on the indentation staying.
     if (!tags.empty()) {
         out_.writeOut(tags);
     }

@@ -9,35 +9,36 @@
 
 namespace quillmark {
 
-/// Paragraph styles and alignment: which tags they open and close, and in which order.
+/// Opens and closes the tags of paragraph styles and alignments, in their fixed order.
 ///
-/// The alignment's DIV opens inside the style's tags but closes in front of theirs. Numbered
-/// lists are closed when their style ends; bulleted ones never are.
+/// A change of style closes the alignment's DIV before the style's tags; the end of a page or
+/// section closes it after them. Numbered lists are closed when their style ends, bulleted lists
+/// are never closed.
 class ParagraphStyle {
 public:
     ParagraphStyle(OutputRouter& out, FontWriter& font, ContentsCollector& contents) noexcept
         : out_(out), font_(font), contents_(contents) {}
 
-    /// Makes a style current. The one already in force only loses its font.
+    /// Makes a style current. Setting the current style again only closes the font.
     void setStyle(const OrxString& name);
     /// Makes an alignment current.
     void setAlign(TextAlign align);
-    /// Closes font, style and alignment for good, in that order.
+    /// Closes font, style and alignment, in that order.
     void closeAll();
 
-    /// Write the tags alone and leave the state as it is; table cells are opened and closed so.
-    /// Both return the level of the style: of headings and lists when opening, of headings only
-    /// when closing, else 0.
+    /// Write only the tags and leave the state unchanged, for the start and the end of table cells.
+    /// `openStyle` returns the level of a heading or list, otherwise 0. `closeStyle` returns the
+    /// level of a heading, otherwise 0.
     std::int32_t openStyle(std::string_view name);
     std::int32_t closeStyle(std::string_view name);
     void openAlign(TextAlign align);
-    /// The closing tag of the alignment in force, if there is one.
+    /// Writes the closing tag of the current alignment, if there is one.
     void closeAlignTag();
 
-    /// The level of the style last opened, 0 when it is neither a heading nor a list.
+    /// The level of the style that `setStyle` opened last; 0 if it is neither a heading nor a list.
     [[nodiscard]] std::uint32_t headingLevel() const noexcept { return headingLevel_; }
 
-    /// An item of a list begins with the first text of a line.
+    /// Whether the current line of a list has its item tag. The first text of a line writes it.
     [[nodiscard]] bool listItemOpen() const noexcept { return listItemOpen_; }
     void setListItemOpen(bool open) noexcept { listItemOpen_ = open; }
 

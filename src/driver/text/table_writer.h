@@ -9,39 +9,40 @@
 
 namespace quillmark {
 
-/// Tables, up to five deep. The host never says where a cell or a row ends, so tags are written
-/// lazily: starting a table or a row only marks it pending, and the next cell writes them.
+/// Writes tables, nested up to five deep. The host does not say where a cell or a row ends.
+/// `startTable` and `addRow` only set a flag; the next `addCell` writes the tags.
 ///
-/// Every cell is self-contained: font, style and alignment in force are closed at its end and
-/// opened again in the next one.
+/// Every cell is self-contained: the current font, style and alignment are closed at its end and
+/// reopened in the next cell.
 class TableWriter {
 public:
     TableWriter(OutputRouter& out, FontWriter& font, ParagraphStyle& style) noexcept
         : out_(out), font_(font), style_(style) {}
 
-    /// Beyond five levels a table is flattened into the cell that it stands in.
+    /// Starts a table. Beyond five levels its calls are ignored, and its text goes into the open
+    /// cell.
     void startTable();
     void addRow() noexcept;
     void addCell();
-    /// Ends the innermost table. A table that never got a cell is ended all the same: its end tag
-    /// is written, the depth falls one below the tables really open, and the table stays pending.
+    /// Ends the innermost table. For a table without a cell it also writes the end tag and
+    /// decrements the depth, although no table was opened. That table then stays pending.
     void endTable();
 
-    /// Tables whose start is written and whose end is not. It can fall below 0 (see `endTable`),
-    /// which is outside a table like 0.
+    /// The number of open tables. It can fall below 0 (see `endTable`), which means the same as 0.
     [[nodiscard]] std::int32_t depth() const noexcept { return tableDepth_; }
     [[nodiscard]] bool hasOpenTable() const noexcept { return tableDepth_ > 0; }
-    /// Between a start and the next end, of whatever table; directories do not change meanwhile.
+    /// True from any `startTable` to the next `endTable`, even if an outer table is still open. The
+    /// page's directory cannot change then.
     [[nodiscard]] bool inTable() const noexcept { return inTable_; }
 
-    /// Text came: a cell that got any is not filled when it ends.
+    /// Call it when the cell gets text. A cell without text gets a filler at its end.
     void noteText() noexcept { cellHasText_ = true; }
 
 private:
     static constexpr std::int32_t deepest = 5;
 
     void closeCell();
-    /// The counter of the innermost table; null outside any table, where there is none.
+    /// The counter of the innermost table; null outside a table.
     [[nodiscard]] std::uint32_t* openCells() noexcept;
 
     OutputRouter& out_;

@@ -46,7 +46,7 @@ void TextWriter::insertField(FieldKind kind) {
         section->insertField(kind);
         return;
     }
-    // Dates in the body are always the real ones: only sections know the test level.
+    // The test level does not apply to dates in the body, only to those in sections.
     OrxString value;
     switch (kind) {
         case FieldKind::date:

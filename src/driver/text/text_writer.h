@@ -11,25 +11,27 @@
 
 namespace quillmark {
 
-/// Running text, line ends and fields. Text is 8-bit here; links embedded in it are the
-/// document's business.
+/// Writes running text, line ends and fields. Text is already 8-bit here. `DocHtml` handles the
+/// links that are embedded in a text.
 class TextWriter {
 public:
     TextWriter(OutputRouter& out, ContentsCollector& contents, ParagraphStyle& style,
                TableWriter& tables) noexcept
         : out_(out), contents_(contents), style_(style), tables_(tables) {}
 
-    /// The text may carry markup of its own.
+    /// Whether texts carry markup of their own.
     void setPassThrough(bool passThrough) noexcept { passThrough_ = passThrough; }
 
-    /// Plain text: a heading's first one gets its contents anchor, then it is escaped and written.
+    /// Writes a text, converted to HTML. The first text of a heading gets an anchor for the
+    /// contents.
     void insertText(std::string_view text) {
         contents_.openAnchorForHeading(style_.headingLevel());
         insertEscaped(text);
     }
     /// The same without the anchor.
     void insertEscaped(std::string_view text);
-    /// Writes finished HTML as body text: it feeds the contents, opens list items, fills cells.
+    /// Writes finished HTML. In the body it counts as text: it is collected for contents entries,
+    /// opens list items, and fills table cells.
     void emitText(std::string_view html);
     void insertEndl();
     /// Adds a field to the open section, or its value to the body. An unknown kind is empty.
@@ -41,7 +43,7 @@ private:
     ParagraphStyle& style_;
     TableWriter& tables_;
     bool passThrough_ = false;
-    std::string escaped_;  // kept between calls for its memory alone
+    std::string escaped_;  // a member only to reuse its memory
 };
 
 }  // namespace quillmark
