@@ -81,20 +81,20 @@ TEST_F(ArchiverProgram, IsNotWaitedFor) {
     EXPECT_EQ(reportOf(dir), "done\n");
 }
 
-TEST_F(ArchiverProgram, ItsFailureIsNotNoticed) {
+TEST_F(ArchiverProgram, FailsUnnoticed) {
     installScript(install, "exit 12\n");
     EXPECT_EQ(pack(), dir.file("rep_toc.dat.zip"));
     EXPECT_EQ(trace.text(), "");
     EXPECT_EQ(dir.content("rep_toc.dat"), "(TREE\n)\n");
 }
 
-TEST_F(ArchiverProgram, AFileThatIsNoProgramIsTraced) {
+TEST_F(ArchiverProgram, ThatIsNotAProgramIsTraced) {
     install.put("zip.exe", "not a program");
     EXPECT_EQ(pack(), dir.file("rep_toc.dat"));
     EXPECT_EQ(trace.text(), "ERR: running " + install.path().str() + "\\zip.exe\n");
 }
 
-TEST_F(ArchiverProgram, ARealOneMovesTheFileIntoTheArchiveWithoutItsDirectory) {
+TEST_F(ArchiverProgram, MovesTheFileIntoTheArchiveWithoutItsDirectory) {
     const std::filesystem::path zip = "/usr/bin/zip";
     if (!std::filesystem::exists(zip)) {
         GTEST_SKIP() << "no zip on this machine";

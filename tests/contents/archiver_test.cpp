@@ -34,13 +34,13 @@ TEST_F(Archiver, IsSilentWhenNobodyWantsErrors) {
     EXPECT_EQ(deaf.text(), "");
 }
 
-TEST_F(Archiver, AnOlderArchiveIsDeletedEvenWhenNothingIsPacked) {
+TEST_F(Archiver, DeletesAnOlderArchiveEvenWhenNothingIsPacked) {
     dir.put("rep_toc.dat.zip", "old");
     EXPECT_EQ(pack(), dir.file("rep_toc.dat"));
     EXPECT_EQ(dir.content("rep_toc.dat.zip"), std::nullopt);
 }
 
-TEST_F(Archiver, ADirectoryIsNoArchiver) {
+TEST_F(Archiver, MustNotBeADirectory) {
     std::filesystem::create_directory(install.nativeFile("zip.exe"));
     EXPECT_EQ(pack(), dir.file("rep_toc.dat"));
     EXPECT_EQ(trace.text(), "ERR: running " + install.path().str() + "\\zip.exe\n");

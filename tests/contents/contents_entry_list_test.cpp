@@ -150,7 +150,7 @@ TEST(ContentsEntryList, IsEmptyAfterClearAndCanBeFilledAgain) {
     expectSame(entries[0], {"i", "u", 2, "Class.gif", ""});
 }
 
-TEST(ContentsEntryList, ACopyIsIndependent) {
+TEST(ContentsEntryList, CopiesAreIndependent) {
     const std::vector<Owned> expected = randomEntries(100);
     ContentsEntryList entries;
     for (const Owned& entry : expected) {
@@ -166,7 +166,7 @@ TEST(ContentsEntryList, ACopyIsIndependent) {
     EXPECT_EQ(copy[expected.size()].gif, "more.gif");
 }
 
-TEST(ContentsEntryList, TellsTheObserverOfEveryEntry) {
+TEST(ContentsEntryList, NotifiesTheObserverOfEveryEntry) {
     EntryCounter counter;
     ContentsEntryList entries;
     entries.add({.href = "h", .text = "t", .level = 1});

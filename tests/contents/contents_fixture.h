@@ -24,7 +24,7 @@ protected:
     [[nodiscard]] std::string written(const OrxString& name) const {
         return files.content("C:\\out\\" + name).value_or("(none)");
     }
-    /// A page file's bytes behind its head, without the end that every page has.
+    /// The bytes of a page file after its head, without the end that every page has.
     [[nodiscard]] std::string body(const OrxString& name) const {
         const std::string page = written(name);
         const std::string headEnd = "</HEAD>\n\n";
@@ -36,7 +36,7 @@ protected:
         const std::size_t first = start + headEnd.size();
         return page.substr(first, page.size() - pageEnd.size() - first);
     }
-    /// What stands in a page's head behind its title.
+    /// The rest of a page's head after its title.
     [[nodiscard]] std::string headBehindTitle(const OrxString& name) const {
         const std::string page = written(name);
         const std::string titleEnd = "</TITLE>\n";

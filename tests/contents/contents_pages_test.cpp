@@ -48,14 +48,14 @@ protected:
     InstalledFileSystem failingInForce{failing};
 };
 
-TEST_F(ContentsPages, WritesTreeContentsAndStartPage) {
+TEST_F(ContentsPages, AreTreeContentsAndStartPage) {
     writeContentsPages(context);
     EXPECT_EQ(files.fileNames(),
               (Names{"C:\\out\\rep.htm", "C:\\out\\rep_cnt.htm", "C:\\out\\rep_toc.dat"}));
     EXPECT_EQ(files.currentDirectory(), "C:\\out");
 }
 
-TEST_F(ContentsPages, WritesTheFrameSetsForOldBrowsersToo) {
+TEST_F(ContentsPages, IncludeTheFrameSetsForOldBrowsers) {
     context.supportOld = true;
     writeContentsPages(context);
     EXPECT_EQ(files.fileNames(),
@@ -64,7 +64,7 @@ TEST_F(ContentsPages, WritesTheFrameSetsForOldBrowsersToo) {
                      "C:\\out\\rep_toc.dat"}));
 }
 
-TEST_F(ContentsPages, WorksInItsOrder) {
+TEST_F(ContentsPages, AreWrittenInTheirOrder) {
     OrderNotingFileSystem noting(files);
     const InstalledFileSystem notingInForce(noting);
     files.put("C:\\inst\\toc2.jar", "");
@@ -94,7 +94,7 @@ TEST_F(ContentsPages, LeaveIconsOutOfTheTreeWhenTheyAreNotShown) {
     EXPECT_EQ(written("rep_toc.dat").find("Class.gif"), std::string::npos);
 }
 
-TEST_F(ContentsPages, NoPageIsWrittenWhenTheTreeCannotBe) {
+TEST_F(ContentsPages, AreNotWrittenWhenTheTreeCannotBeWritten) {
     failing.failAt(FailingFileSystem::Operation::openForWriting, 1);
     try {
         writeContentsPages(context);
@@ -105,7 +105,7 @@ TEST_F(ContentsPages, NoPageIsWrittenWhenTheTreeCannotBe) {
     EXPECT_EQ(files.fileNames(), Names{});
 }
 
-TEST_F(ContentsPages, APageThatCannotBeWrittenIsLoggedAndTheOthersAreWritten) {
+TEST_F(ContentsPages, AreWrittenAndLoggedWhenOneOfThemCannotBeWritten) {
     const CapturingExceptionLog log;
     failing.failAt(FailingFileSystem::Operation::openForWriting, 2);
     writeContentsPages(context);
@@ -115,7 +115,7 @@ TEST_F(ContentsPages, APageThatCannotBeWrittenIsLoggedAndTheOthersAreWritten) {
     EXPECT_EQ(files.fileNames(), (Names{"C:\\out\\rep.htm", "C:\\out\\rep_toc.dat"}));
 }
 
-TEST_F(ContentsPages, ADirectoryThatCannotBeEnteredStopsNothing) {
+TEST_F(ContentsPages, AreWrittenWhenTheDirectoryCannotBeEntered) {
     failing.failAll(FailingFileSystem::Operation::setCurrentDirectory);
     writeContentsPages(context);
     EXPECT_EQ(files.fileNames(),

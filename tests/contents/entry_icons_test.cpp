@@ -38,19 +38,19 @@ protected:
     EntryIconsOfTheSecondRuleSet() { CQuillmarkMode::SetSchemaType(2); }
 };
 
-TEST_F(EntryIcons, NoElementHasTheNoneIcon) {
+TEST_F(EntryIcons, AreTheNoneIconWithoutAnElement) {
     const auto icons = entryIconsOf(0);
     EXPECT_EQ(icons.gif, "__None.gif");
     EXPECT_EQ(icons.stereoGif, "");
 }
 
-TEST_F(EntryIcons, AllOnesIsACollection) {
+TEST_F(EntryIcons, AreTheCollectionIconForAHandleOfAllOnes) {
     const auto icons = entryIconsOf(0xFFFFFFFFFFFFFFFF);
     EXPECT_EQ(icons.gif, "__Collection.gif");
     EXPECT_EQ(icons.stereoGif, "");
 }
 
-TEST_F(EntryIcons, AHandleThatTheModelDoesNotKnowHasTheNoneIconAndNoLogLine) {
+TEST_F(EntryIcons, AreTheNoneIconForAnUnknownHandleWithoutALogLine) {
     const FakeObject object("Class");
     const FakeSchema schema(object);
     const CapturingExceptionLog log;
@@ -58,45 +58,45 @@ TEST_F(EntryIcons, AHandleThatTheModelDoesNotKnowHasTheNoneIconAndNoLogLine) {
     EXPECT_EQ(log.messages(), Lines{});
 }
 
-TEST_F(EntryIcons, WithoutAModelEveryElementHasTheNoneIcon) {
+TEST_F(EntryIcons, AreTheNoneIconWithoutAModel) {
     EXPECT_EQ(entryIconsOf(5).gif, "__None.gif");
 }
 
-TEST_F(EntryIcons, ClassesDiagramsAndTaggedValuesAreToldApartByKind) {
+TEST_F(EntryIcons, DistinguishClassesDiagramsAndTaggedValuesByKind) {
     expectIcons(FakeObject("Class").with("kind", "actor"), "Class_actor.gif", "");
     expectIcons(FakeObject("Diagram").with("kind", "Use Case"), "Diagram_Use Case.gif", "");
     expectIcons(FakeObject("TaggedValue").with("kind", "x"), "TaggedValue_x.gif", "");
     expectIcons(FakeObject("Class").with("visibility", "public"), "Class.gif", "");
 }
 
-TEST_F(EntryIcons, OperationsAndAttributesAreToldApartByVisibility) {
+TEST_F(EntryIcons, DistinguishOperationsAndAttributesByVisibility) {
     expectIcons(FakeObject("Operation").with("visibility", "public"), "Operation_public.gif", "");
     expectIcons(FakeObject("Attribute").with("visibility", "Private"), "Attribute_Private.gif", "");
     expectIcons(FakeObject("Operation").with("kind", "query"), "Operation.gif", "");
 }
 
-TEST_F(EntryIcons, OtherMetaclassesHaveNoDetail) {
+TEST_F(EntryIcons, HaveNoDetailForOtherMetaclasses) {
     expectIcons(FakeObject("Package").with("kind", "a").with("visibility", "b"), "Package.gif", "");
 }
 
-TEST_F(EntryIcons, AnEmptyDetailGivesTheBareMetaclass) {
+TEST_F(EntryIcons, AreNamedByTheMetaclassAloneForAnEmptyDetail) {
     expectIcons(FakeObject("Class").with("kind", ""), "Class.gif", "");
     expectIcons(FakeObject("Class"), "Class.gif", "");
 }
 
-TEST_F(EntryIcons, AUserDefinedMetaclassIsTheStereotype) {
+TEST_F(EntryIcons, ShowAUserDefinedMetaclassAsStereotype) {
     expectIcons(FakeObject("Class").with("userDefinedMetaClass", "Entity"), "Class.gif",
                 "Entity.gif");
 }
 
-TEST_F(EntryIcons, AUserDefinedMetaclassEqualToTheMetaclassIsNoStereotype) {
+TEST_F(EntryIcons, ShowNoStereotypeForAUserDefinedMetaclassEqualToTheMetaclass) {
     expectIcons(FakeObject("Class").with("userDefinedMetaClass", "Class"), "Class.gif", "");
     expectIcons(FakeObject("Class").with("userDefinedMetaClass", "class"), "Class.gif",
                 "class.gif");
     expectIcons(FakeObject("Class").with("userDefinedMetaClass", ""), "Class.gif", "");
 }
 
-TEST_F(EntryIcons, WithoutAMetaclassTheUserDefinedOneIsNotAsked) {
+TEST_F(EntryIcons, IgnoreTheUserDefinedMetaclassWithoutAMetaclass) {
     FakeObject object("");
     object.with("userDefinedMetaClass", "Entity").attribute("userDefinedMetaClass").broken = true;
     const CapturingExceptionLog log;
@@ -104,7 +104,7 @@ TEST_F(EntryIcons, WithoutAMetaclassTheUserDefinedOneIsNotAsked) {
     EXPECT_EQ(log.messages(), Lines{});
 }
 
-TEST_F(EntryIcons, EveryOtherSchemaTypeSelectsTheFirstRuleSet) {
+TEST_F(EntryIcons, FollowTheFirstRuleSetForEveryOtherSchemaType) {
     FakeObject object("Class");
     object.with("metaClass", "Block").with("stereotype", "X");
     for (const int schemaType : {-1, 0, 1, 3}) {
@@ -113,7 +113,7 @@ TEST_F(EntryIcons, EveryOtherSchemaTypeSelectsTheFirstRuleSet) {
     }
 }
 
-TEST_F(EntryIcons, AFailureOfTheLibraryIsLoggedAndLeavesThatAnswerEmpty) {
+TEST_F(EntryIcons, TreatAFailureOfTheLibraryAsAnEmptyAnswerAndLogIt) {
     FakeObject object("Class");
     object.with("kind", "actor").with("userDefinedMetaClass", "Entity");
     object.attribute("kind").broken = true;
@@ -122,7 +122,7 @@ TEST_F(EntryIcons, AFailureOfTheLibraryIsLoggedAndLeavesThatAnswerEmpty) {
     EXPECT_EQ(log.messages(), (Lines{"Exception catch: attribute is broken\n"}));
 }
 
-TEST_F(EntryIcons, AFailureToNameTheMetaclassGivesTheNoneIcon) {
+TEST_F(EntryIcons, AreTheNoneIconWhenTheMetaclassCannotBeNamed) {
     FakeObject object("Class");
     object.metaclass().broken = true;
     const CapturingExceptionLog log;
@@ -130,22 +130,22 @@ TEST_F(EntryIcons, AFailureToNameTheMetaclassGivesTheNoneIcon) {
     EXPECT_EQ(log.messages(), (Lines{"Exception catch: class is broken\n"}));
 }
 
-TEST_F(EntryIconsOfTheSecondRuleSet, TheElementNamesItsOwnMetaclass) {
+TEST_F(EntryIconsOfTheSecondRuleSet, FollowTheMetaclassThatTheElementNames) {
     expectIcons(FakeObject("Class").with("metaClass", "Block"), "Block.gif", "");
 }
 
-TEST_F(EntryIconsOfTheSecondRuleSet, TheStereotypeIsWrittenInLowerCase) {
+TEST_F(EntryIconsOfTheSecondRuleSet, HaveTheStereotypeInLowerCase) {
     expectIcons(FakeObject("Class").with("metaClass", "Block").with("stereotype", "ValueType"),
                 "Block.gif", "Block+valuetype.gif");
 }
 
-TEST_F(EntryIconsOfTheSecondRuleSet, WithoutAMetaclassTheStereotypeDoesNotCount) {
+TEST_F(EntryIconsOfTheSecondRuleSet, IgnoreTheStereotypeWithoutAMetaclass) {
     expectIcons(FakeObject("Class").with("stereotype", "ValueType"), "__None.gif", "");
     expectIcons(FakeObject("Class").with("metaClass", "").with("stereotype", "v"), "__None.gif",
                 "");
 }
 
-TEST_F(EntryIconsOfTheSecondRuleSet, NoElementAndCollectionAreAsInTheFirst) {
+TEST_F(EntryIconsOfTheSecondRuleSet, AreTheSameForNoElementAndForACollection) {
     EXPECT_EQ(entryIconsOf(0).gif, "__None.gif");
     EXPECT_EQ(entryIconsOf(~std::uint64_t{0}).gif, "__Collection.gif");
 }

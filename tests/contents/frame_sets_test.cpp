@@ -15,7 +15,7 @@ protected:
         "  <LINK REL=STYLESHEET TYPE=\"text/css\" HREF=\"default.css\" >\n";
 };
 
-TEST_F(FrameSets, TheFixedOneShowsTheFixedAppletAndTheFirstDetailPage) {
+TEST_F(FrameSets, ShowTheFixedAppletAndTheFirstDetailPage) {
     EXPECT_EQ(writeFixedFrameSet(context), "C:\\out\\rep_ffrm.htm");
     EXPECT_EQ(headBehindTitle("rep_ffrm.htm"), styleSheetLink);
     EXPECT_EQ(body("rep_ffrm.htm"),
@@ -26,7 +26,7 @@ TEST_F(FrameSets, TheFixedOneShowsTheFixedAppletAndTheFirstDetailPage) {
               "</FRAMESET>\n");
 }
 
-TEST_F(FrameSets, TheFixedAppletNamesThePackedTreeAndTheIcons) {
+TEST_F(FrameSets, NameThePackedTreeAndTheIconsInTheFixedApplet) {
     context.iconFile = "D:\\icons\\mine.zip";
     writeFixedFrameSet(context);
     EXPECT_EQ(headBehindTitle("rep_fcnt.htm"), styleSheetLink);
@@ -46,14 +46,14 @@ If you would rather not, you might try the <A HREF='rep_scnt.htm'>static table o
 </BODY>)");
 }
 
-TEST_F(FrameSets, TheFixedAppletNamesNoIconsOfTheUserWithoutAFile) {
+TEST_F(FrameSets, NameNoIconsOfTheUserWithoutAFile) {
     writeFixedFrameSet(context);
     const std::string page = body("rep_fcnt.htm");
     EXPECT_NE(page.find("ICONZIPFILE VALUE='pix/icons.zip'"), std::string::npos);
     EXPECT_EQ(page.find("USERZIPFILE"), std::string::npos);
 }
 
-TEST_F(FrameSets, TheFixedAppletNamesNoIconsWhenTheyAreNotShown) {
+TEST_F(FrameSets, NameNoIconsWhenTheyAreNotShown) {
     context.iconFile = "D:\\icons\\mine.zip";
     context.showIcons = false;
     writeFixedFrameSet(context);
@@ -62,7 +62,7 @@ TEST_F(FrameSets, TheFixedAppletNamesNoIconsWhenTheyAreNotShown) {
     EXPECT_EQ(page.find("USERZIPFILE"), std::string::npos);
 }
 
-TEST_F(FrameSets, TheStaticOneShowsTheListingAndTheFirstDetailPage) {
+TEST_F(FrameSets, ShowTheListingAndTheFirstDetailPage) {
     EXPECT_EQ(writeStaticFrameSet(context), "C:\\out\\rep_sfrm.htm");
     EXPECT_EQ(headBehindTitle("rep_sfrm.htm"), "");
     EXPECT_EQ(body("rep_sfrm.htm"),
@@ -76,7 +76,7 @@ TEST_F(FrameSets, TheStaticOneShowsTheListingAndTheFirstDetailPage) {
               "<A HREF=\"rep_dtl.htm#toc1\">Intro</a><BR>\n\n</BODY>");
 }
 
-TEST_F(FrameSets, AllFourPagesCarryTheTitle) {
+TEST_F(FrameSets, HaveTheTitleOnAllFourPages) {
     writeFixedFrameSet(context);
     writeStaticFrameSet(context);
     for (const char* const name :
@@ -85,7 +85,7 @@ TEST_F(FrameSets, AllFourPagesCarryTheTitle) {
     }
 }
 
-TEST_F(FrameSets, WithoutAStyleSheetThereIsNoLink) {
+TEST_F(FrameSets, HaveNoLinkWithoutAStyleSheet) {
     context.styleSheetLink = "";
     writeFixedFrameSet(context);
     EXPECT_EQ(headBehindTitle("rep_ffrm.htm"), "");

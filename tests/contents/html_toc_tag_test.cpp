@@ -44,13 +44,13 @@ TEST(HtmlTOCTag, IsCopiedWithAllItsMembers) {
     EXPECT_EQ(again.getStereoGif(), "entity.gif");
 }
 
-TEST(HtmlTOCTag, GettersGiveCopies) {
+TEST(HtmlTOCTag, ReturnsCopies) {
     HtmlTOCTag tag = classEntry();
     tag.getText().append(" and more");
     EXPECT_EQ(tag.getText(), "Class A");
 }
 
-TEST(HtmlTOCTag, EveryComparisonIsTrueWhateverItCompares) {
+TEST(HtmlTOCTag, ComparesAsTrueWithEverything) {
     const HtmlTOCTag empty;
     const HtmlTOCTag full = classEntry();
     EXPECT_TRUE(empty == full);

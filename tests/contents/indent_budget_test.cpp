@@ -21,7 +21,7 @@ TEST(IndentBudget, GrantsEverythingExactlyOnce) {
     EXPECT_EQ(budget.take(0, 1), 0U);
 }
 
-TEST(IndentBudget, AnIndentationThatDoesNotFitCostsTheOthersNothing) {
+TEST(IndentBudget, IsNotUsedUpByAnIndentationThatDoesNotFit) {
     IndentBudget budget;
     EXPECT_EQ(budget.take(std::numeric_limits<std::size_t>::max(), 18), 0U);
     EXPECT_EQ(budget.take(1'999'999'999, 18), 0U);

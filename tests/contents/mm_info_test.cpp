@@ -22,7 +22,7 @@ MMInfo infoOf(const MMObject& object) {
     return info;
 }
 
-TEST(MMInfo, HoldsTheObjectBehindAHandle) {
+TEST(MMInfo, HoldsTheObjectWithAHandle) {
     const FakeObject object("Class");
     const FakeSchema schema(object);
     const MMInfo info(FakeSchema::handle);
@@ -57,13 +57,13 @@ TEST(MMInfo, ReadsAttributesAsEveryType) {
     EXPECT_EQ(info.getAttrAsDouble("cost", &object), 2.5);
 }
 
-TEST(MMInfo, TheFlagChangesNoAnswer) {
+TEST(MMInfo, IgnoresTheFlag) {
     FakeObject object("Class");
     object.with("kind", "abstract");
     EXPECT_EQ(infoOf(object).getAttrAsString("kind", &object, true), "abstract");
 }
 
-TEST(MMInfo, AMissingAttributeIsEmpty) {
+TEST(MMInfo, IsEmptyForAMissingAttribute) {
     const FakeObject object("Class");
     const MMInfo info = infoOf(object);
     EXPECT_EQ(info.getAttr("kind", &object), nullptr);
@@ -73,13 +73,13 @@ TEST(MMInfo, AMissingAttributeIsEmpty) {
     EXPECT_EQ(info.getAttrAsDouble("kind", &object), 0.0);
 }
 
-TEST(MMInfo, AnAttributeCountsOnlyWhenTheClassHasIt) {
+TEST(MMInfo, IgnoresAnAttributeThatTheClassDoesNotHave) {
     FakeObject object("Class");
     object.with("kind", "abstract").metaclass().attributes.clear();
     EXPECT_EQ(infoOf(object).getAttr("kind", &object), nullptr);
 }
 
-TEST(MMInfo, EveryQueryOfNoObjectIsEmpty) {
+TEST(MMInfo, AnswersEveryQueryOfNoObjectWithNothing) {
     const MMInfo info;
     EXPECT_EQ(info.getAttr("kind", nullptr), nullptr);
     EXPECT_EQ(info.getAttrAsString("kind", nullptr), "");
@@ -87,7 +87,7 @@ TEST(MMInfo, EveryQueryOfNoObjectIsEmpty) {
     EXPECT_EQ(info.className(), "");
 }
 
-TEST(MMInfo, AnObjectWithoutAClassHasNothing) {
+TEST(MMInfo, AnswersNothingForAnObjectWithoutAClass) {
     FakeObject object("Class");
     object.with("kind", "abstract").classless = true;
     const MMInfo info = infoOf(object);
@@ -108,7 +108,7 @@ TEST(MMInfo, FollowsAnAssociationToItsFirstEnd) {
     EXPECT_EQ(found.getObject(), &first);
 }
 
-TEST(MMInfo, AnAssociationWithoutEndsLeadsNowhere) {
+TEST(MMInfo, FindsNothingThroughAnAssociationWithoutEnds) {
     FakeObject object("Class");
     object.linked("owner", {});
     const MMInfo info = infoOf(object);
@@ -141,7 +141,7 @@ TEST(MMInfo, ComparesTheObjectsThemselves) {
     EXPECT_FALSE(second < first);
 }
 
-TEST(MMInfo, AnObjectOfTheExpectedClassIsValid) {
+TEST(MMInfo, AcceptsAnObjectOfTheExpectedClass) {
     const FakeObject object("Class");
     MMInfo info = infoOf(object);
     info.setMetaObjectName("Class");
@@ -149,7 +149,7 @@ TEST(MMInfo, AnObjectOfTheExpectedClassIsValid) {
     EXPECT_NO_THROW(info.validatePtr());
 }
 
-TEST(MMInfo, AnObjectOfAnotherClassIsToldByName) {
+TEST(MMInfo, NamesBothClassesWhenAnObjectHasAnotherClass) {
     const FakeObject object("Operation");
     MMInfo info = infoOf(object);
     info.setMetaObjectName("Class");
@@ -165,14 +165,14 @@ TEST(MMInfo, AnObjectOfAnotherClassIsToldByName) {
                                      "a Class pointer was expected.\n"}));
 }
 
-TEST(MMInfo, NoObjectIsNotValidWhereAClassIsExpected) {
+TEST(MMInfo, RefusesNoObjectWhereAClassIsExpected) {
     MMInfo info;
     EXPECT_NO_THROW(info.validatePtr());
     info.setMetaObjectName("Class");
     EXPECT_THROW(info.validatePtr(), OrxException);
 }
 
-TEST(MMInfo, AFailureOfTheSchemaIsLoggedAndMeansNoObject) {
+TEST(MMInfo, LogsAFailureOfTheSchemaAndHoldsNoObject) {
     const FakeObject object("Class");
     FakeSchema schema(object);
     schema.broken = true;
@@ -181,7 +181,7 @@ TEST(MMInfo, AFailureOfTheSchemaIsLoggedAndMeansNoObject) {
     EXPECT_EQ(log.messages(), (Lines{"Exception catch: schema is broken\n"}));
 }
 
-TEST(MMInfo, AFailureOfAnObjectIsLoggedAndMeansEmpty) {
+TEST(MMInfo, LogsAFailureOfAnObjectAndAnswersNothing) {
     FakeObject object("Class");
     object.with("kind", "abstract").linked("owner", {&object}).broken = true;
     const FakeSchema schema(object);
@@ -197,7 +197,7 @@ TEST(MMInfo, AFailureOfAnObjectIsLoggedAndMeansEmpty) {
                "Exception catch: object is broken\n", "Exception catch: object is broken\n"}));
 }
 
-TEST(MMInfo, AFailureOfAnAttributeIsLoggedAndMeansEmpty) {
+TEST(MMInfo, LogsAFailureOfAnAttributeAndAnswersNothing) {
     FakeObject object("Class");
     object.with("kind", "7").attribute("kind").broken = true;
     const MMInfo info = infoOf(object);

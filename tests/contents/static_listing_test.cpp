@@ -38,7 +38,7 @@ TEST_F(StaticListing, HasOneLineAnEntryIndentedByItsLevel) {
                                     "<A HREF=\"rep_dtl2.htm#Page 2\">Page 2</a><BR>\n"));
 }
 
-TEST_F(StaticListing, WritesTextAndHrefAsTheyStand) {
+TEST_F(StaticListing, WritesTextAndHrefUnchanged) {
     entries.add({.href = "a\"b%s#t", .text = "x&lt;y<BR>\n\"\\z", .level = 1});
     EXPECT_EQ(listing(), opening + std::string("<A HREF=\"a\"b%s#t\">x&lt;y<BR>\n\"\\z</a><BR>\n"));
 }
@@ -83,7 +83,7 @@ TEST_F(StaticListing, StartsALineOfThePageForEveryWriteWithALineFeed) {
     EXPECT_EQ(page.getLineCount(), 6);
 }
 
-TEST_F(StaticListing, GoesWhereTheInsertionPointStands) {
+TEST_F(StaticListing, IsWrittenAtTheInsertionPoint) {
     entries.add({.href = "h", .text = "t", .level = 1});
     DocHtmlPage page;
     page.setFileName("C:\\out\\listing.htm");

@@ -50,17 +50,17 @@ TEST(TreeText, LeavesABreakWithoutItsLineFeedAndALineFeedWithoutItsBreak) {
     EXPECT_EQ(converted("a<BR>b\nc<br>\nd"), "|a<BR>b\nc<br>\nd");
 }
 
-TEST(TreeText, ALaterStepSeesWhatAnEarlierOneMade) {
+TEST(TreeText, ConvertsInALaterStepWhatAnEarlierOneMade) {
     EXPECT_EQ(converted("a&lt;BR>\nb"), "|ab");
     EXPECT_EQ(converted("a<BR\r>\nb"), "|ab");
 }
 
-TEST(TreeText, AnEarlierStepDoesNotSeeWhatALaterOneMade) {
+TEST(TreeText, DoesNotConvertInAnEarlierStepWhatALaterOneMade) {
     EXPECT_EQ(converted("&nb\rsp;"), "|&nbsp;");
     EXPECT_EQ(converted("&l<BR>\nt;"), "|&lt;");
 }
 
-TEST(TreeText, NoStepLooksAgainAtWhatItMadeItself) {
+TEST(TreeText, DoesNotConvertTwiceInOneStep) {
     EXPECT_EQ(converted("<B<BR>\nR>\n"), "|<BR>\n");
 }
 
@@ -68,7 +68,7 @@ TEST(TreeText, CopiesBytesAboveAscii) {
     EXPECT_EQ(converted("\xE4\xFF\x01"), "|\xE4\xFF\x01");
 }
 
-TEST(TreeText, AnEmptyTextAddsNothing) {
+TEST(TreeText, AddsNothingForAnEmptyText) {
     EXPECT_EQ(converted(""), "|");
 }
 

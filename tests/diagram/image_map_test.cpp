@@ -32,7 +32,7 @@ private:
     CImageMapInterface* before_;
 };
 
-/// Writes maps and keeps, in order, what was handed out.
+/// Writes maps and records the markup in order.
 class Recorder {
 public:
     std::string write(const OrxString& picture = "a.gif") {
@@ -88,7 +88,7 @@ TEST(ImageMap, NumbersTheMapsOfADocumentAndStartsAgainWithTheNext) {
     EXPECT_EQ(recorder.write(), " USEMAP=#map0 >\n<MAP NAME=\"map0\">\n</MAP");
 }
 
-TEST(ImageMap, APictureWithoutRegionsUsesNoNumber) {
+TEST(ImageMap, UsesNoNumberForAPictureWithoutRegions) {
     Recorder recorder;
     {
         const Regions regions({"n", "t", "c"});
@@ -111,7 +111,7 @@ TEST(ImageMap, PassesOverRegionsWithoutTargetOrCoordinates) {
               "</MAP");
 }
 
-TEST(ImageMap, ARegionMayHaveNoName) {
+TEST(ImageMap, WritesARegionWithoutAName) {
     const Regions regions({"", "t", "1"});
     Recorder recorder;
     EXPECT_EQ(recorder.write(),

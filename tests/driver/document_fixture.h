@@ -24,7 +24,7 @@ inline std::u16string wide(std::string_view text) {
     return units;
 }
 
-/// The text between the first `from` and the first `to` behind it.
+/// The text between the first `from` and the first `to` after it.
 inline std::string between(const std::string& text, const std::string& from,
                            const std::string& to) {
     const std::size_t hit = text.find(from);
@@ -68,7 +68,7 @@ protected:
     /// A file of the output directory.
     [[nodiscard]] std::string out(const OrxString& name) const { return bytes("C:\\out\\" + name); }
 
-    /// What stands between the anchor of a written page and its footer.
+    /// The text between the anchor of a written page and its footer.
     [[nodiscard]] std::string bodyOf(const OrxString& name, int number = 1) const {
         return between(out(name), anchorOf(number), "\n\n</BODY>\n</HTML>\n");
     }
@@ -81,7 +81,7 @@ protected:
     std::string written() { return cutAtEnd().substr(0, cut_); }
     /// What the end of the page adds to the body.
     std::string pageEnd() { return cutAtEnd().substr(cut_ + endMark_.size()); }
-    /// Closes the document and returns what its first page has in front of the header's rule.
+    /// Closes the document and returns what its first page has before the header's rule.
     std::string header() {
         doc().close();
         return between(out("rep.htm"), "<BODY  >\n", "<HR>\n");
@@ -111,7 +111,7 @@ private:
     static std::string anchorOf(int number) {
         return "<a name=\"Page " + std::to_string(number) + "\"></a>";
     }
-    /// A field goes to the body as it stands, past every hook: it tells where the host ended.
+    /// Ends the body with a field, which is written unchanged and so marks where the host ended.
     std::string cutAtEnd() {
         constexpr std::int16_t fileNameField = 3;
         doc().insertField(fileNameField);

@@ -67,7 +67,7 @@ TEST_F(Calls, AreHeardFromTheirLevelOn) {
 /// Traces into logs; nobody listens besides.
 class Logs : public testing::DocumentTest {
 protected:
-    /// Logs are told apart by name for the whole process, so every test has its own.
+    /// The process remembers logs by name, so every test has a log of its own.
     Logs() : name_("C:\\log\\" + std::string(testInfo()->name()) + ".log") {
         files.makeDirectories("C:\\log");
         setting("Log", "LogName", name_);
@@ -102,7 +102,7 @@ TEST_F(Logs, HoldNoCallsAtALowerLevel) {
     EXPECT_EQ(logged(), "ERR File not found: gone.png\n");
 }
 
-TEST_F(Logs, EndAtLevelNought) {
+TEST_F(Logs, EndAtLevelZero) {
     open();
     doc().trace(10);
     doc().insertText(u"a");

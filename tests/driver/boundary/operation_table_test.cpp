@@ -60,7 +60,7 @@ Outcome invoked(int id, std::initializer_list<Argument> arguments) {
     return outcome;
 }
 
-TEST(OperationTable, listsAllOperationsInTheOrderOfTheirIdentifiers) {
+TEST(OperationTable, ListsAllOperationsInTheOrderOfTheirIdentifiers) {
     std::vector<std::string> rows;
     for (const Operation& row : operations()) {
         rows.push_back(describe(row));
@@ -88,14 +88,14 @@ TEST(OperationTable, listsAllOperationsInTheOrderOfTheirIdentifiers) {
                     "41 pushDirectory, string directoryName", "42 popDirectory"));
 }
 
-TEST(OperationTable, findsEveryOperationByNameAndByIdentifier) {
+TEST(OperationTable, FindsEveryOperationByNameAndByIdentifier) {
     for (const Operation& row : operations()) {
         EXPECT_EQ(findOperation(row.name), &row) << row.name;
         EXPECT_EQ(findOperation(row.dispatchId), &row) << row.name;
     }
 }
 
-TEST(OperationTable, knowsNamesExactly) {
+TEST(OperationTable, KnowsNamesExactly) {
     EXPECT_EQ(findOperation("inserttext"), nullptr);
     EXPECT_EQ(findOperation("insertText "), nullptr);
     EXPECT_EQ(findOperation("insertTex"), nullptr);
@@ -104,7 +104,7 @@ TEST(OperationTable, knowsNamesExactly) {
     EXPECT_EQ(findOperation("new"), nullptr);
 }
 
-TEST(OperationTable, knowsNoIdentifierOutsideItsRows) {
+TEST(OperationTable, KnowsNoIdentifierOutsideItsRows) {
     EXPECT_EQ(findOperation(0), nullptr);
     EXPECT_EQ(findOperation(43), nullptr);
     EXPECT_EQ(findOperation(-1), nullptr);
@@ -112,7 +112,7 @@ TEST(OperationTable, knowsNoIdentifierOutsideItsRows) {
     EXPECT_EQ(invoked(43, {}).status, InvokeStatus::unknownOperation);
 }
 
-TEST(OperationTable, callsEachOperationWithArgumentsInTheirOrder) {
+TEST(OperationTable, CallsEachOperationWithArgumentsInTheirOrder) {
     std::u16string out;
     RecordingDocument document;
     for (const Operation& row : operations()) {
@@ -152,7 +152,7 @@ TEST(OperationTable, callsEachOperationWithArgumentsInTheirOrder) {
     EXPECT_EQ(out, u"Recording");
 }
 
-TEST(OperationTable, refusesAWrongNumberOfArguments) {
+TEST(OperationTable, RefusesAWrongNumberOfArguments) {
     const Outcome missing = invoked(idOf("insertText"), {});
     EXPECT_EQ(missing.status, InvokeStatus::wrongArgumentCount);
     EXPECT_THAT(missing.calls, IsEmpty());
@@ -161,7 +161,7 @@ TEST(OperationTable, refusesAWrongNumberOfArguments) {
     EXPECT_EQ(invoked(idOf("close"), {std::int64_t{1}}).status, InvokeStatus::wrongArgumentCount);
 }
 
-TEST(OperationTable, tellsWhichArgumentIsOfAWrongKind) {
+TEST(OperationTable, ReportsWhichArgumentIsOfAWrongKind) {
     const Outcome outcome =
         invoked(idOf("overrideRegistry"), {WideText(u"Html"), std::int64_t{3}, true, WideText()});
     EXPECT_EQ(outcome.status, InvokeStatus::wrongArgumentKind);
@@ -169,7 +169,7 @@ TEST(OperationTable, tellsWhichArgumentIsOfAWrongKind) {
     EXPECT_THAT(outcome.calls, IsEmpty());
 }
 
-TEST(OperationTable, takesIntegersThatTheParameterCanHold) {
+TEST(OperationTable, TakesIntegersThatTheParameterCanHold) {
     const int size = idOf("setFontSize");
     EXPECT_THAT(invoked(size, {std::int64_t{-32768}}).calls, ElementsAre("setFontSize(-32768)"));
     EXPECT_THAT(invoked(size, {std::int64_t{32767}}).calls, ElementsAre("setFontSize(32767)"));
@@ -187,7 +187,7 @@ TEST(OperationTable, takesIntegersThatTheParameterCanHold) {
               InvokeStatus::wrongArgumentKind);
 }
 
-TEST(OperationTable, takesAnyNonZeroIntegerAsTrue) {
+TEST(OperationTable, TakesAnyNonZeroIntegerAsTrue) {
     const int attribute = idOf("setFontAttribute");
     EXPECT_THAT(invoked(attribute, {std::int64_t{1}, std::int64_t{-1}}).calls,
                 ElementsAre("setFontAttribute(1,true)"));
@@ -197,12 +197,12 @@ TEST(OperationTable, takesAnyNonZeroIntegerAsTrue) {
                 ElementsAre("setFontAttribute(1,false)"));
 }
 
-TEST(OperationTable, takesABooleanForABooleanOnly) {
+TEST(OperationTable, TakesABooleanForABooleanOnly) {
     EXPECT_EQ(invoked(idOf("setFontSize"), {true}).status, InvokeStatus::wrongArgumentKind);
     EXPECT_EQ(invoked(idOf("insertText"), {true}).status, InvokeStatus::wrongArgumentKind);
 }
 
-TEST(OperationTable, asksForAPlaceToPutAnAnswer) {
+TEST(OperationTable, AsksForAPlaceToPutAnAnswer) {
     EXPECT_EQ(invoked(idOf("getDocType"), {static_cast<std::u16string*>(nullptr)}).status,
               InvokeStatus::wrongArgumentKind);
     EXPECT_EQ(invoked(idOf("getDocType"), {WideText()}).status, InvokeStatus::wrongArgumentKind);

@@ -114,7 +114,7 @@ TEST_F(Files, ThatAreUrlsCannotBePasted) {
     EXPECT_EQ(written(), "");
 }
 
-TEST_F(Files, AreOnlyToldWhenMissing) {
+TEST_F(Files, AreTracedWhenMissing) {
     doc().insertFile(u"C:\\docs\\gone.doc", asLink);
     doc().insertFile(u"C:\\docs\\gone.txt", asContents);
     EXPECT_EQ(traced(),
@@ -151,7 +151,7 @@ TEST_F(Files, AreFoundAmongTheExternalDocumentsAlone) {
     EXPECT_EQ(written(), "external<A HREF=\"docs/a.txt\">a.txt</A>");
 }
 
-TEST_F(Files, ThatCannotBeOpenedAreTold) {
+TEST_F(Files, ThatCannotBeOpenedAreTraced) {
     files.put("C:\\docs\\a.txt", "a");
     FailingFileSystem failing(files);
     const InstalledFileSystem installed(failing);

@@ -47,7 +47,7 @@ TEST_F(Images, AreLookedForInTheRootWithoutAnInstallation) {
     EXPECT_EQ(out("pix\\b.gif"), "of the root");
 }
 
-TEST_F(Images, AreOnlyToldWhenMissing) {
+TEST_F(Images, AreTracedWhenMissing) {
     EXPECT_EQ(doc().insertImage(u"C:\\pics\\gone.png", u"http://example.org/"), 0);
     EXPECT_EQ(traced(),
               "dochtml->insertImage(\"C:\\pics\\gone.png\",\"http://example.org/\");\n"
@@ -55,7 +55,7 @@ TEST_F(Images, AreOnlyToldWhenMissing) {
     EXPECT_EQ(body(), "");
 }
 
-TEST_F(Images, WithoutANameWriteAndTellNothing) {
+TEST_F(Images, WithoutANameWriteAndTraceNothing) {
     doc().insertImage(u"", u"http://example.org/");
     EXPECT_EQ(traced(), "dochtml->insertImage(\"\",\"http://example.org/\");\n");
     EXPECT_EQ(body(), "");
@@ -85,7 +85,7 @@ TEST_F(Images, AreNotTakenFromTheInstallationWithADirectoryOrAnotherKind) {
     EXPECT_EQ(body(), "");
 }
 
-TEST_F(Images, AreShownWhereTheyLieWhenLinksAreAbsolute) {
+TEST_F(Images, AreNotCopiedWhenLinksAreAbsolute) {
     html("UseRelative", "false");
     open();
     doc().insertImage(u"C:\\pics\\a.gif", u"");
@@ -93,7 +93,7 @@ TEST_F(Images, AreShownWhereTheyLieWhenLinksAreAbsolute) {
     EXPECT_FALSE(isWritten("C:\\out\\pix\\a.gif"));
 }
 
-TEST_F(Images, AreShownWhereTheyLieWhenTheyMustNotBeCopied) {
+TEST_F(Images, AreLinkedToTheirSourceWhenTheyMustNotBeCopied) {
     html("DontCopy", "gif.gif");
     open();
     doc().insertImage(u"C:\\pics\\a.gif", u"");
@@ -112,7 +112,7 @@ TEST_F(Images, CanLinkToAPlaceThatComesLater) {
                           "</A><a name=\"target\"></a>");
 }
 
-TEST_F(Images, AreNoTextOfACell) {
+TEST_F(Images, AreNotTextOfACell) {
     doc().startTable();
     doc().addCell();
     doc().insertImage(u"C:\\pics\\a.gif", u"");

@@ -11,7 +11,7 @@
 namespace quillmark {
 namespace {
 
-/// A file of given bytes that hands out a few at a time.
+/// A file of given bytes that returns a few at a time.
 class TextInput : public InputFile {
 public:
     TextInput(std::string bytes, std::size_t piece) : bytes_(std::move(bytes)), piece_(piece) {}
@@ -45,14 +45,14 @@ TEST(LineReader, CutsAtLineFeeds) {
     EXPECT_EQ(linesOf("a\n\nb"), (Lines{"a", "", "b"}));
 }
 
-TEST(LineReader, StartsNoLineBehindTheLastLineFeed) {
+TEST(LineReader, StartsNoLineAfterTheLastLineFeed) {
     EXPECT_EQ(linesOf("a\nb\n"), (Lines{"a", "b"}));
     EXPECT_EQ(linesOf("\n"), (Lines{""}));
     EXPECT_EQ(linesOf("\n\n"), (Lines{"", ""}));
     EXPECT_EQ(linesOf(""), Lines{});
 }
 
-TEST(LineReader, DropsACarriageReturnInFrontOfALineFeed) {
+TEST(LineReader, DropsACarriageReturnBeforeALineFeed) {
     EXPECT_EQ(linesOf("a\r\nb\r\n"), (Lines{"a", "b"}));
     EXPECT_EQ(linesOf("a\r\r\nb"), (Lines{"a\r", "b"}));
 }

@@ -1,5 +1,5 @@
-// References without markup of their own: no operation of the host makes one, so they are asked of
-// the bookmarks themselves.
+// References without markup of their own: no operation writes one, so they are tested on
+// BookmarkWriter itself.
 
 #include "driver/document_fixture.h"
 #include "driver/links/bookmark_writer.h"
@@ -48,7 +48,7 @@ TEST_F(BareReferences, AreReportedWithoutMarkup) {
     EXPECT_EQ(heard.text(), "Unresolved references on page C:\\out\\p.htm\n  x near line 1\n");
 }
 
-TEST_F(BareReferences, MeetMarkupInWhichTheNameStandsNowhere) {
+TEST_F(BareReferences, KeepMarkupWithoutTheName) {
     bookmarks.reference("x", "<B>");
     bookmarks.define("x", BookmarkWriter::Origin::host);
     bookmarks.reference("x", "<I>");

@@ -43,7 +43,7 @@ TEST_F(Tags, KeepTheFirstPlaceOfAName) {
     EXPECT_EQ(bodyOf("rep2.htm", 2), "<A HREF=\"rep.htm#target\">x</A>");
 }
 
-TEST_F(Tags, AreToldApartByCase) {
+TEST_F(Tags, AreCaseSensitive) {
     doc().insertTag(u"target");
     doc().insertTag(u"Target");
     EXPECT_EQ(body(), "<a name=\"target\"></a><a name=\"Target\"></a>");
@@ -71,7 +71,7 @@ TEST_F(Tags, WarnAtLevelOneOnly) {
         CapturingTrace callsOnly(Trace::calls);
         doc().insertTag(u"toc1");
         callsOnly.clear();
-        doc().startTOCEntry();  // the driver's own anchor: told at the level of reports
+        doc().startTOCEntry();  // the driver's own anchor: traced at the level of reports
         EXPECT_EQ(callsOnly.text(), "dochtml->startTOCEntry();\n");
     }
     Trace::setListener(&trace);
@@ -159,7 +159,7 @@ TEST_F(References, WithoutANameCloseTheirTagAlone) {
               "   near line 1 <A >\n");
 }
 
-TEST_F(References, WithoutATextStandInTheirOrder) {
+TEST_F(References, WithoutATextKeepTheirOrder) {
     doc().insertXref(u"", u"one");
     doc().insertXref(u"", u"two");
     doc().insertTag(u"two");
@@ -169,7 +169,7 @@ TEST_F(References, WithoutATextStandInTheirOrder) {
               "<a name=\"two\"></a><a name=\"one\"></a>");
 }
 
-TEST_F(References, PutTheLinkWhereTheNameFirstStandsInTheTag) {
+TEST_F(References, PutTheLinkWhereTheNameFirstOccursInTheTag) {
     doc().insertXref(u"x", u"A");
     doc().insertTag(u"A");
     doc().insertXref(u"y", u"A");

@@ -14,7 +14,7 @@ protected:
     }
 };
 
-TEST_F(Links, LeadToAUrlAsItStands) {
+TEST_F(Links, LeadToAUrlUnchanged) {
     EXPECT_EQ(linkTo(u"http://example.org/a b?c=\"d\""),
               "<A HREF=\"http://example.org/a b?c=\"d\"\">x</A>");
     EXPECT_EQ(traced().find("Unresolved"), std::string::npos);
@@ -62,7 +62,7 @@ TEST_F(Links, CountFromThePagesDirectory) {
     EXPECT_EQ(bodyOf("s\\t\\rep.htm"), "<A HREF=\"../../docs/a.doc\">x</A>");
 }
 
-TEST_F(Links, LeaveADocumentThatMustNotBeCopiedWhereItLies) {
+TEST_F(Links, LeadToTheSourceOfADocumentThatMustNotBeCopied) {
     html("DontCopy", ".doc.pdf");
     open();
     files.put("C:\\elsewhere\\a.doc", "doc");
@@ -118,7 +118,7 @@ TEST_F(ExternalDocuments, HaveTheirLinkEndedByATagOfTheirName) {
     EXPECT_EQ(body(), "<A HREF=\"docs/a.doc\">x</A><a name=\"a.doc\"></a>");
 }
 
-TEST_F(ExternalDocuments, HaveTheirLinkEndedAtOnceBehindATagOfTheirName) {
+TEST_F(ExternalDocuments, HaveTheirLinkEndedAtOnceAfterATagOfTheirName) {
     doc().insertTag(u"a.doc");
     doc().insertXref(u"x", u"a.doc");
     EXPECT_EQ(body(), "<a name=\"a.doc\"></a><A HREF=\"docs/a.doc\">x</A>");

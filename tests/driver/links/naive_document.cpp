@@ -44,7 +44,7 @@ std::vector<std::string> components(const std::string& path) {
     return parts;
 }
 
-/// The way from directory to directory as a link; both lie below the output directory.
+/// The link from directory to directory. Both are below the output directory.
 std::string wayTo(const std::string& target, const std::string& base) {
     const std::vector<std::string> to = components(target);
     const std::vector<std::string> from = components(base);

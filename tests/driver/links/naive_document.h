@@ -11,10 +11,10 @@
 
 namespace quillmark::testing {
 
-/// The driver's document once more, as plainly as it can be told: pages, bookmarks, references,
-/// directories, header, contents entries and listing, on plain strings and maps. It knows what the
-/// random documents use and nothing else: a document "C:\out\rep.htm" without contents pages and
-/// arrows, in style "Normal", texts without embedded links.
+/// A second implementation of the driver's document, as simple as possible: pages, bookmarks,
+/// references, directories, header, contents entries and listing, on plain strings and maps. It
+/// knows what the random documents use and nothing else: a document "C:\out\rep.htm" without
+/// contents pages and arrows, in style "Normal", texts without embedded links.
 class NaiveDocument {
 public:
     NaiveDocument();

@@ -158,7 +158,7 @@ private:
     std::string text_;
 };
 
-/// What a document leaves behind.
+/// What a document has written.
 struct Outcome {
     std::map<std::string, std::string> files;
     std::string reports;

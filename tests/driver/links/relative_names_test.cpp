@@ -3,7 +3,7 @@
 namespace quillmark {
 namespace {
 
-/// A document that its host names without a directory: it lies in the current directory.
+/// A document that its host names without a directory: it is in the current directory.
 class RelativeNames : public testing::DocumentTest {
 protected:
     RelativeNames() {

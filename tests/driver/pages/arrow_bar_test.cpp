@@ -71,7 +71,7 @@ TEST_F(Arrows, ShowTheirPicturesByUrlWhenLinksAreAbsolute) {
               deadBack("file:///C|/out/pix") + deadNext("file:///C|/out/pix") + "<BR>\n");
 }
 
-TEST_F(Arrows, StandInFrontOfTheHeader) {
+TEST_F(Arrows, AreBeforeTheHeader) {
     open();
     doc().startHeader();
     doc().insertText(u"h");
@@ -127,7 +127,7 @@ TEST_F(Arrows, BringTheirPicturesAlong) {
     }
 }
 
-TEST_F(Arrows, TellWhichPictureCouldNotBeCopied) {
+TEST_F(Arrows, TraceEveryPictureThatCouldNotBeCopied) {
     files.makeDirectories("C:\\out\\pix\\forwardON.gif");
     files.makeDirectories("C:\\out\\pix\\forwardOFF.gif");
     files.makeDirectories("C:\\out\\pix\\backON.gif");

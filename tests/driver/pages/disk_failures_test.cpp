@@ -66,7 +66,7 @@ TEST_F(DiskFailures, OfAFullDiskWriteWhatFits) {
                                   "Exception catch: Error writing to file: C:\\out\\rep2.htm\n"}));
 }
 
-TEST_F(DiskFailures, OfAnOutputDirectoryThatCannotBeMadeAreTold) {
+TEST_F(DiskFailures, OfAnOutputDirectoryThatCannotBeMadeAreReported) {
     files.put("C:\\out", "a file");
     open();
     doc().insertText(u"a");
@@ -79,7 +79,7 @@ TEST_F(DiskFailures, OfAnOutputDirectoryThatCannotBeMadeAreTold) {
               std::string::npos);
 }
 
-TEST_F(DiskFailures, OfASubdirectoryThatCannotBeMadeAreTold) {
+TEST_F(DiskFailures, OfASubdirectoryThatCannotBeMadeAreReported) {
     open();
     files.put("C:\\out\\sub", "a file");
     doc().pushDirectory(u"sub");
@@ -119,7 +119,7 @@ TEST_F(DiskFailures, OfContentsInADestructorAreLogged) {
     EXPECT_TRUE(logged("Exception catch: Error opening file: C:\\out\\rep_dtl.htm\n"));
 }
 
-TEST_F(DiskFailures, AreOnlyAskedForWhenTheLogWantsThem) {
+TEST_F(DiskFailures, AreRecordedOnlyWhenTheLogWantsThem) {
     const CapturingExceptionLog catches(CapturingExceptionLog::Records::catchesOnly);
     open();
     failing.failAll(Operation::openForWriting);
@@ -243,7 +243,7 @@ TEST_F(FullDisk, HoldsTheBeginningOfTheDocumentAndTheLogNamesEveryFileThatIsCut)
     EXPECT_EQ(files.openFiles(), 0);
 }
 
-TEST_F(FullDisk, ThatTakesNoCopyIsSurvived) {
+TEST_F(FullDisk, WithoutRoomForACopyIsReported) {
     for (std::uint64_t room = 0; room < 17; ++room) {
         const CapturingExceptionLog log;
         EXPECT_LE(sizeOf(outputWith(room)), room);

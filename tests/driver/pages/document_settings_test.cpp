@@ -91,7 +91,7 @@ TEST_F(Settings, MayPlaceDirectoriesAnywhere) {
     EXPECT_TRUE(isWritten("\\documents\\a.doc"));
 }
 
-TEST_F(Settings, TakeNavigNoughtAsOne) {
+TEST_F(Settings, TakeNavigZeroAsOne) {
     html("Navig", "0");
     open();
     doc().close();

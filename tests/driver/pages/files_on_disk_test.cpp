@@ -49,7 +49,7 @@ protected:
     DocHtml doc_;
 };
 
-TEST_F(FilesOnDisk, APictureThatIsADirectoryIsNotFound) {
+TEST_F(FilesOnDisk, ThatAreDirectoriesAreNotFoundAsPictures) {
     SysDirectory::create(dir_.file("album.gif"));
     open("2");
     doc_.insertImage(wide("album.gif"), u"");
@@ -59,7 +59,7 @@ TEST_F(FilesOnDisk, APictureThatIsADirectoryIsNotFound) {
     EXPECT_NE(page("rep.htm").find("</a>goes on"), std::string::npos);
 }
 
-TEST_F(FilesOnDisk, ALinkToADirectoryIsTakenForABookmark) {
+TEST_F(FilesOnDisk, ThatAreDirectoriesAreTakenForBookmarks) {
     SysDirectory::create(dir_.file("folder"));
     open("2");
     doc_.insertXref(u"text", wide("folder"));
@@ -68,7 +68,7 @@ TEST_F(FilesOnDisk, ALinkToADirectoryIsTakenForABookmark) {
     EXPECT_TRUE(traced("Unresolved references on page "));
 }
 
-TEST_F(FilesOnDisk, NamesMayGoUpADirectory) {
+TEST_F(FilesOnDisk, MayBeNamedThroughTheParentDirectory) {
     SysDirectory::create(dir_.file("pics"));
     dir_.put("pics/a.gif", "gif");
     open("2");
@@ -78,7 +78,7 @@ TEST_F(FilesOnDisk, NamesMayGoUpADirectory) {
     EXPECT_NE(page("rep.htm").find("<IMG SRC=\"pix/a.gif\""), std::string::npos);
 }
 
-TEST_F(FilesOnDisk, APictureOfAMegabyteIsCopiedForEveryReference) {
+TEST_F(FilesOnDisk, OfAMegabyteAreCopiedForEveryReference) {
     const std::string megabyte(std::size_t{1} << 20U, 'g');
     dir_.put("large.gif", megabyte);
     open("2");
@@ -90,7 +90,7 @@ TEST_F(FilesOnDisk, APictureOfAMegabyteIsCopiedForEveryReference) {
     doc_.close();
 }
 
-TEST_F(FilesOnDisk, AnOutputDirectoryThatVanishesBeforeTheEndTakesNoMoreThanItHeld) {
+TEST_F(FilesOnDisk, AreWrittenAfterTheirDirectoryVanished) {
     open("1");
     doc_.insertText(u"first");
     doc_.insertPageBreak();
@@ -98,7 +98,7 @@ TEST_F(FilesOnDisk, AnOutputDirectoryThatVanishesBeforeTheEndTakesNoMoreThanItHe
     std::filesystem::remove_all(dir_.nativeFile("out"));
     doc_.close();
     // The page that ends then finds no place. The copies for the contents make the directory
-    // again, so the pages behind them are whole.
+    // again, so the pages after them are whole.
     const std::string failure =
         "Error opening file: " + dir_.file("out").str() + "\\rep_dtl2.htm\n";
     EXPECT_EQ(exceptions_.messages(), (std::vector<std::string>{"Exception throw: " + failure,

@@ -7,7 +7,7 @@ namespace {
 
 class Lifecycle : public testing::DocumentTest {
 protected:
-    /// The whole file of a page that was let go without being ended.
+    /// The whole file of a page that was released without being ended.
     static std::string unfinished(const std::string& body) {
         return htmlHead("", "", "") + body + "\n</HTML>\n";
     }
@@ -89,7 +89,7 @@ TEST_F(Lifecycle, ClosesWhileASectionIsStillOpen) {
     EXPECT_EQ(bodyOf("rep.htm"), "a");
 }
 
-TEST_F(Lifecycle, WritesHeldPagesWhenItIsLetGo) {
+TEST_F(Lifecycle, WritesHeldPagesWhenTheObjectIsReleased) {
     open();
     doc().insertXref(u"x", u"gone");
     doc().insertPageBreak();
@@ -137,7 +137,7 @@ TEST_F(Lifecycle, DropsANamelessPageWithTheObject) {
     EXPECT_EQ(exceptions.messages(), namelessPage);
 }
 
-TEST_F(Lifecycle, LetsGoOfAPageThatASecondCreateFinds) {
+TEST_F(Lifecycle, DropsAPageThatASecondCreateFinds) {
     open();
     doc().insertText(u"a");
     open(u"C:\\out\\other.htm");

@@ -53,7 +53,7 @@ TEST(OutputNames, NumberEveryPageButTheFirst) {
     EXPECT_EQ(names.pageFileName(0, ""), "C:\\out\\rep0.htm");
 }
 
-TEST(OutputNames, TellDetailPagesFromTheStartPage) {
+TEST(OutputNames, DistinguishDetailPagesFromTheStartPage) {
     const OutputNames names = namesOf("C:\\out\\rep.htm", true);
     EXPECT_EQ(names.pageFileName(1, ""), "C:\\out\\rep_dtl.htm");
     EXPECT_EQ(names.pageFileName(2, ""), "C:\\out\\rep_dtl2.htm");
@@ -77,7 +77,7 @@ TEST(OutputNames, ShortenASubdirectoryToWhatAPathHolds) {
     EXPECT_EQ(names.shortenedDirectory(""), "");
 }
 
-TEST(OutputNames, LeaveNoRoomBehindALongDirectory) {
+TEST(OutputNames, LeaveNoRoomAfterALongDirectory) {
     const OutputNames names = namesOf("C:\\" + std::string(300, 'd') + "\\rep.htm");
     EXPECT_EQ(names.shortenedDirectory("a\\b\\c"), "a");
     EXPECT_EQ(names.shortenedDirectory(""), "");

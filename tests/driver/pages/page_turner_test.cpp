@@ -61,7 +61,7 @@ TEST_F(Pages, CarryTheStyleOver) {
     EXPECT_EQ(bodyOf("rep2.htm", 2), "<H2><a name=\"toc2\"></a>b</H2>\n");
 }
 
-TEST_F(Pages, CarryTheFontOverBehindTheStyle) {
+TEST_F(Pages, CarryTheFontOverAfterTheStyle) {
     doc().setStyle(u"List Number");
     doc().setFontSize(14);
     doc().setFontAttribute(1, true);
@@ -181,7 +181,7 @@ TEST_F(Directories, CutAPageOfTwoLines) {
     EXPECT_EQ(bodyOf("sub\\rep2.htm", 2), "b");
 }
 
-TEST_F(Directories, SwallowThePageBreakRightBehind) {
+TEST_F(Directories, SwallowAnImmediatePageBreak) {
     doc().insertEndl();
     doc().pushDirectory(u"sub");
     traced();
@@ -196,7 +196,7 @@ TEST_F(Directories, SwallowThePageBreakRightBehind) {
     EXPECT_FALSE(isWritten("C:\\out\\sub\\rep3.htm"));
 }
 
-TEST_F(Directories, LetAPageBreakBehindTwoLinesCut) {
+TEST_F(Directories, KeepAPageBreakAfterTwoLines) {
     doc().insertEndl();
     doc().pushDirectory(u"sub");
     doc().insertEndl();

@@ -41,7 +41,7 @@ TEST_F(Alignment, IsClosedAndOpenedBySettingItAgain) {
     EXPECT_EQ(written(), "<DIV align=right></DIV>\n<DIV align=right>");
 }
 
-TEST_F(Alignment, ClosesInFrontOfTheStyleAndOpensBehindIt) {
+TEST_F(Alignment, ClosesBeforeTheStyleAndOpensAfterIt) {
     doc().setStyle(u"Heading 1");
     doc().setTextAlign(2);
     doc().insertText(u"x");
@@ -51,7 +51,7 @@ TEST_F(Alignment, ClosesInFrontOfTheStyleAndOpensBehindIt) {
               "</H1>\n<H2><DIV align=center>");
 }
 
-TEST_F(Alignment, ClosesInFrontOfTheFontAtAChangeOfStyle) {
+TEST_F(Alignment, ClosesBeforeTheFontAtAChangeOfStyle) {
     doc().setTextAlign(2);
     doc().setFontAttribute(1, true);
     doc().setStyle(u"Heading 2");

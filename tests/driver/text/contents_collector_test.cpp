@@ -51,7 +51,7 @@ TEST_F(Headings, StayOutBelowTheContentsLevel) {
     EXPECT_EQ(contents(), entry("rep.htm#Page 1", "Page 1"));
 }
 
-TEST_F(Headings, AllStayOutAtLevelNought) {
+TEST_F(Headings, AllStayOutAtLevelZero) {
     html("TOCLevel", "0");
     open();
     doc().setStyle(u"Heading 1");
@@ -170,7 +170,7 @@ TEST_F(Headings, MakeNoEntryAtALineEndInATable) {
 
 TEST_F(Headings, CollectAgainOutsideATableThatNeverGotACell) {
     doc().startTable();
-    doc().endTable();  // the depth is below nought now
+    doc().endTable();  // the depth is below 0 now
     heading(u"Heading 1", u"One");
     EXPECT_EQ(contents(), entry("rep.htm#toc1", "One"));
 }
@@ -222,7 +222,7 @@ TEST_F(Entries, HaveLevelOneInANormalStyle) {
     EXPECT_EQ(contents(), entry("rep.htm#toc1", "Intro"));
 }
 
-TEST_F(Entries, StandBehindTheirAnchor) {
+TEST_F(Entries, FollowTheirAnchor) {
     entryOf(u"Intro");
     EXPECT_EQ(written(), "<a name=\"toc1\"></a>Intro");
 }
@@ -245,7 +245,7 @@ TEST_F(Entries, HaveTheDeepestLevelWithoutAStyleByDefault) {
     EXPECT_EQ(contents(), indents + entry("rep.htm#toc1", "Intro"));
 }
 
-TEST_F(Entries, ReadTheirLevelBehindEightCharactersOfAnyStyle) {
+TEST_F(Entries, ReadTheirLevelAfterEightCharactersOfAnyStyle) {
     doc().setStyle(u"Anything3");
     entryOf(u"a");
     doc().setStyle(u"List Bullet 4");
@@ -256,7 +256,7 @@ TEST_F(Entries, ReadTheirLevelBehindEightCharactersOfAnyStyle) {
                               entry("rep.htm#toc2", "b") + indent + entry("rep.htm#toc3", "c"));
 }
 
-TEST_F(Entries, WorkAtContentsLevelNought) {
+TEST_F(Entries, WorkAtContentsLevelZero) {
     html("TOCLevel", "0");
     open();
     entryOf(u"Intro");

@@ -9,7 +9,7 @@ std::string entry(const std::string& href, const std::string& text) {
 
 class PageEntries : public testing::OpenDocumentTest {};
 
-TEST_F(PageEntries, StandForPagesWithoutAny) {
+TEST_F(PageEntries, AreAddedForPagesWithoutAny) {
     doc().insertText(u"a");
     doc().insertPageBreak();
     doc().insertText(u"b");
@@ -56,7 +56,7 @@ TEST_F(PageEntries, ComeForEveryPageAnew) {
 
 class Listing : public testing::OpenDocumentTest {};
 
-TEST_F(Listing, StandsWhereItWasAskedFor) {
+TEST_F(Listing, IsWhereItWasInserted) {
     doc().insertText(u"a");
     doc().insertTOC();
     doc().insertText(u"b");
@@ -80,7 +80,7 @@ TEST_F(Listing, WaitsForTheEntriesOfLaterPages) {
                           entry("rep3.htm#Page 3", "Page 3"));
 }
 
-TEST_F(Listing, IsNoneInATable) {
+TEST_F(Listing, IsIgnoredInATable) {
     doc().startTable();
     doc().addCell();
     traced();
@@ -97,7 +97,7 @@ TEST_F(Listing, IsAllowedWhileATableIsOnlyPending) {
     EXPECT_NE(body().find("<H2>Table of Contents</H2>"), std::string::npos);
 }
 
-TEST_F(Listing, StandsOnceOnAPageAtTheFirstPlace) {
+TEST_F(Listing, IsOnceOnAPageAtTheFirstPlace) {
     doc().insertText(u"a");
     doc().insertTOC();
     doc().insertText(u"b");
@@ -109,7 +109,7 @@ TEST_F(Listing, StandsOnceOnAPageAtTheFirstPlace) {
     EXPECT_EQ(traced().find("Unresolved"), std::string::npos);
 }
 
-TEST_F(Listing, StandsOnEveryPageThatAsks) {
+TEST_F(Listing, IsOnEveryPageThatAsks) {
     doc().insertTOC();
     doc().insertPageBreak();
     doc().insertTOC();

@@ -14,7 +14,7 @@ TEST(EmbeddedLink, IsCutIntoItsFourParts) {
     EXPECT_EQ(link->after, " now");
 }
 
-TEST(EmbeddedLink, MayStandAloneAndBeEmpty) {
+TEST(EmbeddedLink, MayBeTheWholeTextAndEmpty) {
     const auto link = findEmbeddedLink("<a href=\"#GUID\"></a>");
     ASSERT_TRUE(link.has_value());
     EXPECT_EQ(link->before, "");
@@ -23,7 +23,7 @@ TEST(EmbeddedLink, MayStandAloneAndBeEmpty) {
     EXPECT_EQ(link->after, "");
 }
 
-TEST(EmbeddedLink, IsNoneWhenAPieceIsMissing) {
+TEST(EmbeddedLink, IsNotFoundWhenAPieceIsMissing) {
     EXPECT_FALSE(findEmbeddedLink(""));
     EXPECT_FALSE(findEmbeddedLink("no link"));
     EXPECT_FALSE(findEmbeddedLink("<a href=\"#other\">x</a>"));
@@ -35,7 +35,7 @@ TEST(EmbeddedLink, IsNoneWhenAPieceIsMissing) {
     EXPECT_FALSE(findEmbeddedLink("</a>\"><a href=\"#GUID-1"));
 }
 
-TEST(EmbeddedLink, LooksForEachPieceBehindTheOneBefore) {
+TEST(EmbeddedLink, LooksForEachPieceAfterThePreviousOne) {
     const auto link = findEmbeddedLink("a\">b</a><a href=\"#GUID-1\" x\">t\">u</a>v</a>");
     ASSERT_TRUE(link.has_value());
     EXPECT_EQ(link->before, "a\">b</a>");

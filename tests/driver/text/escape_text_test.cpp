@@ -38,7 +38,7 @@ TEST(EscapeText, MakesEveryPairOfBlanksAHardOneAndASoftOne) {
     EXPECT_EQ(escaped("  "), "&nbsp; ");
 }
 
-TEST(EscapeText, CopiesEveryOtherCharacterAsItStands) {
+TEST(EscapeText, CopiesEveryOtherCharacterUnchanged) {
     const std::string text = "&><\"'\x7f\x80\xe4\xff&nbsp;</p>";
     EXPECT_EQ(escaped(text), text);
     const std::string withZero("a\0b\0", 4);

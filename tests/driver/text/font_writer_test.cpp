@@ -26,7 +26,7 @@ TEST_F(Fonts, MapPointsToTheSevenSizes) {
     }
 }
 
-TEST_F(Fonts, CloseTheBaseFontAtSizeNought) {
+TEST_F(Fonts, CloseTheBaseFontAtSizeZero) {
     EXPECT_EQ(sizeTag(0), "</BASEFONT>");
 }
 
@@ -100,7 +100,7 @@ TEST_F(Fonts, NeverWriteTheFace) {
     EXPECT_EQ(body(), "x");
 }
 
-TEST_F(Fonts, AreClosedByAStyleInFrontOfTheOldStylesEnd) {
+TEST_F(Fonts, AreClosedByAStyleBeforeTheOldStylesEnd) {
     html("TOCLevel", "0");
     open();
     doc().setStyle(u"Heading 2");
@@ -125,7 +125,7 @@ TEST_F(Fonts, StayStoredWhenNothingOfThemIsLeft) {
     EXPECT_EQ(body(), "<B></B>");
 }
 
-TEST_F(Fonts, CloseASizeThatWasSetToNoughtOnlyOnce) {
+TEST_F(Fonts, CloseASizeThatWasSetToZeroOnlyOnce) {
     doc().setFontSize(10);
     doc().setFontSize(0);
     EXPECT_EQ(body(), "<BASEFONT SIZE = 2></BASEFONT>");

@@ -3,7 +3,7 @@
 namespace quillmark {
 namespace {
 
-/// Styles without contents entries, whose anchors are told elsewhere.
+/// Styles without contents entries; other tests cover the anchors.
 class Styles : public testing::DocumentTest {
 protected:
     Styles() {
@@ -35,7 +35,7 @@ TEST_F(Styles, MakeDeepHeadingsClasses) {
     EXPECT_EQ(styled(u"Heading 14"), "<DIV CLASS=H9>x</DIV>\n");
 }
 
-TEST_F(Styles, ReadTheLevelBehindAsManyCharactersAsThePrefixHas) {
+TEST_F(Styles, ReadTheLevelAfterAsManyCharactersAsThePrefixHas) {
     EXPECT_EQ(styled(u"Heading"), "<H1>x</H1>\n");
     EXPECT_EQ(styled(u"Heading2"), "<H1>x</H1>\n");
     EXPECT_EQ(styled(u"Heading23"), "<H3>x</H3>\n");
@@ -47,7 +47,7 @@ TEST_F(Styles, ReadTheLevelBehindAsManyCharactersAsThePrefixHas) {
     EXPECT_EQ(styled(u"Headings of 3"), "<H1>x</H1>\n");
 }
 
-TEST_F(Styles, UseANegativeLevelAsItStands) {
+TEST_F(Styles, UseANegativeLevelUnchanged) {
     EXPECT_EQ(styled(u"Heading -2"), "<H-2>x</H-2>\n");
     EXPECT_EQ(styled(u"List Number -2"), "<LI>x");
 }
@@ -150,7 +150,7 @@ TEST_F(ListItems, StayOpenOverAPlainStyle) {
     EXPECT_EQ(body(), "<LI>abc");
 }
 
-TEST_F(ListItems, BeginBehindALineEndInWhateverStyle) {
+TEST_F(ListItems, BeginAfterALineEndInAnyStyle) {
     doc().setStyle(u"List");
     doc().insertText(u"a");
     doc().setStyle(u"Normal");
@@ -160,7 +160,7 @@ TEST_F(ListItems, BeginBehindALineEndInWhateverStyle) {
     EXPECT_EQ(body(), "<LI>a<BR>\n<LI>b");
 }
 
-TEST_F(ListItems, StandInFrontOfALinksTextButBehindItsTag) {
+TEST_F(ListItems, AreOpenedBetweenALinksTagAndItsText) {
     doc().setStyle(u"List");
     doc().insertXref(u"x", u"http://example.org/");
     EXPECT_EQ(body(), "<A HREF=\"http://example.org/\"><LI>x</A>");
@@ -202,7 +202,7 @@ TEST_F(ListItems, AreNoneInAContentsEntry) {
 
 class StyleTrace : public testing::OpenDocumentTest {};
 
-TEST_F(StyleTrace, TellsStylesAndAlignments) {
+TEST_F(StyleTrace, HoldsStylesAndAlignments) {
     doc().setStyle(u"Heading 1");
     doc().setTextAlign(-1);
     EXPECT_EQ(traced(), "dochtml->setStyle(\"Heading 1\");\ndochtml->setTextAlign(-1);\n");

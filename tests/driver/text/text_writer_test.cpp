@@ -11,7 +11,7 @@ TEST_F(Texts, AreEscapedAndWritten) {
     EXPECT_EQ(body(), "a&nbsp;&nbsp; b&nbsp; c<BR>\nd <i>&amp;</i>");
 }
 
-TEST_F(Texts, LetMarkupThroughWhenTold) {
+TEST_F(Texts, PassMarkupThroughWhenTheSettingIsOn) {
     html("PassThrough", "1");
     open();
     doc().insertText(u"<b>x</b> a<<b");
@@ -34,7 +34,7 @@ TEST_F(Texts, KeepAZeroByte) {
     EXPECT_EQ(body(), std::string("a\0b", 3));
 }
 
-TEST_F(Texts, AnswerZeroAndTellTheirCall) {
+TEST_F(Texts, ReturnZeroAndTraceTheirCall) {
     EXPECT_EQ(doc().insertText(u"say \"a\nb\""), 0);
     EXPECT_EQ(doc().insertText({}), 0);
     EXPECT_EQ(doc().insertEndl(), 0);
