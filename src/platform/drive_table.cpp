@@ -41,7 +41,7 @@ std::optional<std::size_t> indexOf(char letter) noexcept {
 std::string withoutDots(const std::string& name) {
     const std::u8string plain = std::filesystem::path(std::u8string(name.begin(), name.end()))
                                     .lexically_normal()
-                                    .u8string();
+                                    .generic_u8string();
     return {plain.begin(), plain.end()};
 }
 
