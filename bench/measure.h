@@ -13,14 +13,17 @@
 
 namespace quillmark::bench {
 
-/// What a call takes: on the clock, and of the processor (the program and the system for it),
-/// which other load on the machine moves less.
+/// What "doubling" should stay below: a little more than twice the time for twice the size.
+inline constexpr double doublingGoal = 2.2;
+
+/// The time that a call takes: on the clock, and on the processor (user and system time), which
+/// depends less on other load of the machine.
 struct Seconds {
     double clock = 0;
     double processor = 0;
 };
 
-/// The processor's account of this process.
+/// The processor time of this process so far.
 [[nodiscard]] double processorSeconds() noexcept;
 
 template <typename Work>
@@ -33,10 +36,10 @@ template <typename Work>
     return {std::chrono::duration<double>(clock).count(), processor};
 }
 
-/// The calls of a document between its `create` and its `close`, of a size.
+/// Makes the calls of a document of that size between its `create` and its `close`.
 using Body = void (*)(IDocument& document, std::size_t size);
 
-/// Writes a document into the directory, from making the object to letting it go.
+/// Writes a document into the directory, from creating the object to releasing it.
 [[nodiscard]] Seconds secondsOfDocument(const std::filesystem::path& directory, Body body,
                                         std::size_t size);
 
@@ -52,24 +55,24 @@ struct FileBytes {
 [[nodiscard]] Seconds secondsOfPlainFiles(const std::filesystem::path& directory,
                                           const std::vector<FileBytes>& files);
 
-/// A writer that knows every target in advance: it collects each file tag by tag and line by
-/// line, as a program does that generates it, and writes it once.
+/// A writer that knows every target in advance: it builds each file tag by tag and line by line, as
+/// a generating program does, and writes it once.
 [[nodiscard]] Seconds secondsOfStreaming(const std::filesystem::path& directory,
                                          const std::vector<FileBytes>& files);
 
-/// The middle one of each.
+/// The median of each member.
 [[nodiscard]] Seconds median(const std::vector<Seconds>& values);
 
-/// Writes the document and the same files plainly, in turn, for every iteration of the
-/// benchmark. Counters: "ratio" (document by floor, on the clock), "ratio_cpu" (of the
-/// processor), "floor_ms", "files", "MB", "peak_MiB" and "us_per_unit" (of `size`). Returns the
-/// document's files.
+/// Writes the document and then the same files plainly, in every iteration of the benchmark.
+/// Counters: "ratio" (document / floor, by the clock), "ratio_cpu" (by processor time), "floor_ms",
+/// "files", "MB", "peak_MiB" and "us_per_unit" (per unit of `size`). Returns the files of the
+/// document.
 std::vector<FileBytes> documentAgainstFloor(benchmark::State& state, Place place, Body body,
                                             std::size_t size);
 
-/// As above, and adds, of the processor: "doubling" (`size` by half of it), "ratio_streaming", and
-/// both "blind", with tags that are known to be no files: what is left of them without the looks at
-/// the disk for every link's target.
+/// As above, with further counters in processor time: "doubling" (`size` / half of it),
+/// "ratio_streaming", and "doubling_blind" and "ratio_blind", which are measured with tags that are
+/// known not to be files: they leave out the disk lookup for the target of every link.
 void documentDoubled(benchmark::State& state, Place place, Body body, std::size_t size);
 
 }  // namespace quillmark::bench

@@ -1,5 +1,5 @@
-# GoogleTest: the installed package for the native build; built from its packaged source where
-# the test programs need it compiled their way (another system, sanitizers).
+# GoogleTest. Native builds use the installed package. Cross builds and builds with sanitizers
+# compile it from its packaged source, with the same options as the test programs.
 if(CMAKE_CROSSCOMPILING OR DOCHTML_SANITIZE)
     find_path(DOCHTML_GTEST_SOURCE CMakeLists.txt PATHS /usr/src/googletest NO_DEFAULT_PATH
               NO_CMAKE_FIND_ROOT_PATH REQUIRED DOC "Source folder of GoogleTest")

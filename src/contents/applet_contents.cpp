@@ -80,7 +80,7 @@ void appendDirectNavigator(const ContentsContext& context, DocHtmlPage& page) {
 )js");
 }
 
-void appendParameter(std::string_view name, const OrxString& value, DocHtmlPage& page) {
+void appendScriptedParameter(std::string_view name, const OrxString& value, DocHtmlPage& page) {
     page.append(OrxString("   document.writeln(\"<PARAM NAME=")
                     .append(name)
                     .append(" VALUE='")
@@ -93,10 +93,11 @@ void appendIconParameters(const ContentsContext& context, const IconArchives& ar
     if (!context.showIcons) {
         return;
     }
-    appendParameter("ICONZIPFILE", links::relativeFile(archives.icons, context.outputDir), page);
+    appendScriptedParameter("ICONZIPFILE", links::relativeFile(archives.icons, context.outputDir),
+                            page);
     if (!archives.userIcons.isEmpty()) {
-        appendParameter("USERZIPFILE", links::relativeFile(archives.userIcons, context.outputDir),
-                        page);
+        appendScriptedParameter("USERZIPFILE",
+                                links::relativeFile(archives.userIcons, context.outputDir), page);
     }
 }
 
@@ -111,7 +112,7 @@ void appendAppletScript(const ContentsContext& context, const IconArchives& arch
             "\"'>\");\n");
     }
     appendIconParameters(context, archives, page);
-    appendParameter("TOCFILE", SysFile::stripDir(treeFile), page);
+    appendScriptedParameter("TOCFILE", SysFile::stripDir(treeFile), page);
     // The two variants spell the end tag of the applet differently.
     page.append(context.locateInBrowser ? "\t\tdocument.writeln(\"</APPLET>\");\n"
                                         : "   document.writeln(\"<\\/APPLET>\");\n");

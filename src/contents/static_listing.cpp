@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view baseTarget = "<BASE TARGET=\"main\">\n";
 constexpr std::string_view heading = "<H2>Table of Contents</H2>\n";
-constexpr std::string_view indentUnit = "&nbsp;&nbsp;&nbsp;";
+constexpr std::string_view indentMarkup = "&nbsp;&nbsp;&nbsp;";
 
 std::size_t indentUnits(std::int32_t level) noexcept {
     return level > 1 ? static_cast<std::size_t>(level) - 1 : 0;
@@ -26,10 +26,10 @@ constexpr std::string_view entryEnd = "<BR>\n";
 /// Writes one entry. `scratch` is only passed in to reuse its memory.
 void writeEntry(const ContentsEntryView& entry, IndentBudget& budget, DocHtmlPage& page,
                 std::string& scratch) {
-    const std::size_t units = budget.take(indentUnits(entry.level), indentUnit.size());
+    const std::size_t units = budget.take(indentUnits(entry.level), indentMarkup.size());
     scratch.clear();
     for (std::size_t i = 0; i < units; ++i) {
-        scratch.append(indentUnit);
+        scratch.append(indentMarkup);
     }
     if (!scratch.empty()) {
         page.append(scratch);
@@ -48,8 +48,8 @@ std::size_t staticListingSize(const ContentsEntryList& entries) {
     std::size_t size = baseTarget.size() + heading.size() + entries.size() * linkSize;
     IndentBudget budget;
     for (const ContentsEntryView entry : entries) {
-        const std::size_t units = budget.take(indentUnits(entry.level), indentUnit.size());
-        size += units * indentUnit.size() + entry.href.size() + entry.text.size();
+        const std::size_t units = budget.take(indentUnits(entry.level), indentMarkup.size());
+        size += units * indentMarkup.size() + entry.href.size() + entry.text.size();
     }
     return size;
 }

@@ -8,10 +8,10 @@
 namespace quillmark {
 namespace {
 
-using Marks = std::vector<MarkTable::MarkId>;
+using MarkIds = std::vector<MarkTable::MarkId>;
 
-Marks taken(MarkTable& table, std::string_view name) {
-    Marks marks;
+MarkIds taken(MarkTable& table, std::string_view name) {
+    MarkIds marks;
     table.take(name, [&](MarkTable::MarkId mark) { marks.push_back(mark); });
     return marks;
 }
@@ -28,7 +28,7 @@ TEST(MarkTable, IsEmptyAtFirst) {
     MarkTable table;
     EXPECT_EQ(table.size(), 0U);
     EXPECT_EQ(table.first("a"), SpliceText::none);
-    EXPECT_EQ(taken(table, "a"), Marks{});
+    EXPECT_EQ(taken(table, "a"), MarkIds{});
     EXPECT_EQ(listed(table), "");
 }
 
@@ -40,10 +40,10 @@ TEST(MarkTable, HandsOutTheMarksOfANameInTheOrderOfTheirMaking) {
     table.add("a", 9);
     EXPECT_EQ(table.size(), 4U);
     EXPECT_EQ(table.first("a"), 5U);
-    EXPECT_EQ(taken(table, "a"), (Marks{5, 3, 9}));
+    EXPECT_EQ(taken(table, "a"), (MarkIds{5, 3, 9}));
     EXPECT_EQ(table.size(), 1U);
     EXPECT_EQ(table.first("a"), SpliceText::none);
-    EXPECT_EQ(taken(table, "a"), Marks{});
+    EXPECT_EQ(taken(table, "a"), MarkIds{});
 }
 
 TEST(MarkTable, FindsANameByItsNumberAndByAWrongOneToo) {
@@ -54,12 +54,12 @@ TEST(MarkTable, FindsANameByItsNumberAndByAWrongOneToo) {
     EXPECT_EQ(table.add("a", 4, b), a);
     EXPECT_EQ(table.add("a", 5, 77), a);
     EXPECT_EQ(listed(table), "a=1 a=3 a=4 a=5 b=2 ");
-    Marks marks;
+    MarkIds marks;
     const auto keep = [&](MarkTable::MarkId mark) { marks.push_back(mark); };
     table.take("a", keep, a);
     table.take("b", keep, a);
     table.take("c", keep, a);
-    EXPECT_EQ(marks, (Marks{1, 3, 4, 5, 2}));
+    EXPECT_EQ(marks, (MarkIds{1, 3, 4, 5, 2}));
     // After a fresh start old numbers mean nothing.
     table.clear();
     table.add("c", 6, a);
@@ -114,7 +114,7 @@ TEST(MarkTable, KeepsTenThousandNamesApart) {
         table.add(std::to_string(i), i + 10000);
     }
     for (MarkTable::MarkId i = 0; i < 10000; ++i) {
-        ASSERT_EQ(taken(table, std::to_string(i)), (Marks{i, i + 10000}));
+        ASSERT_EQ(taken(table, std::to_string(i)), (MarkIds{i, i + 10000}));
     }
     EXPECT_EQ(table.size(), 0U);
 }

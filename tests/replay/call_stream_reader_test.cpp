@@ -11,16 +11,16 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-Reading read(const std::string& text) {
+Reading readStream(const std::string& text) {
     return readText<CallStreamReader>(text);
 }
 
 std::string problemOf(const std::string& text) {
-    return read(text).problem;
+    return readStream(text).problem;
 }
 
 TEST(CallStreamReader, readsACallALine) {
-    const Reading reading = read(
+    const Reading reading = readStream(
         "[\"create\",\"C:\\\\out\\\\rep.htm\"]\n"
         "[\"insertText\",\"Hello\"]\n"
         "[\"setFontAttribute\",1,true]\n"
@@ -34,37 +34,37 @@ TEST(CallStreamReader, readsACallALine) {
 }
 
 TEST(CallStreamReader, passesOverBlankLinesAndTakesCarriageReturns) {
-    const Reading reading = read("\r\n\n  \t\n[\"start\"]\r\n\r\n [ \"stop\" ] \r\n");
+    const Reading reading = readStream("\r\n\n  \t\n[\"start\"]\r\n\r\n [ \"stop\" ] \r\n");
     EXPECT_THAT(reading.calls, ElementsAre("start()", "stop()"));
     EXPECT_THAT(reading.lines, ElementsAre(4, 6));
 }
 
 TEST(CallStreamReader, needsNoLineEndBehindTheLastCall) {
-    EXPECT_THAT(read("[\"start\"]\n[\"stop\"]").calls, ElementsAre("start()", "stop()"));
+    EXPECT_THAT(readStream("[\"start\"]\n[\"stop\"]").calls, ElementsAre("start()", "stop()"));
 }
 
 TEST(CallStreamReader, passesOverAByteOrderMark) {
-    EXPECT_THAT(read("\xEF\xBB\xBF[\"start\"]\n").calls, ElementsAre("start()"));
+    EXPECT_THAT(readStream("\xEF\xBB\xBF[\"start\"]\n").calls, ElementsAre("start()"));
 }
 
 TEST(CallStreamReader, findsNothingInAnEmptyInput) {
-    EXPECT_THAT(read("").calls, IsEmpty());
-    EXPECT_THAT(read(" \n\t\r\n").calls, IsEmpty());
+    EXPECT_THAT(readStream("").calls, IsEmpty());
+    EXPECT_THAT(readStream(" \n\t\r\n").calls, IsEmpty());
     EXPECT_EQ(problemOf(" \n"), "");
 }
 
 TEST(CallStreamReader, readsEveryKindOfEscape) {
-    EXPECT_THAT(read(R"(["insertText","a\"b\\c\/d\te\u00e9\uD83D\uDE00"])").calls,
+    EXPECT_THAT(readStream(R"(["insertText","a\"b\\c\/d\te\u00e9\uD83D\uDE00"])").calls,
                 ElementsAre("insertText(\"a\"b\\c/d\te\xC3\xA9\xF0\x9F\x98\x80\")"));
 }
 
 TEST(CallStreamReader, readsUtf8) {
-    EXPECT_THAT(read("[\"insertText\",\"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80\"]").calls,
+    EXPECT_THAT(readStream("[\"insertText\",\"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80\"]").calls,
                 ElementsAre("insertText(\"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80\")"));
 }
 
 TEST(CallStreamReader, hidesNothingBehindAZeroInAText) {
-    EXPECT_THAT(read(R"(["insertText","a\u0000b"])").calls,
+    EXPECT_THAT(readStream(R"(["insertText","a\u0000b"])").calls,
                 ElementsAre(std::string("insertText(\"a\0b\")", 17)));
 }
 
@@ -80,12 +80,12 @@ TEST(CallStreamReader, handsOutALoneSurrogateAsItIs) {
 }
 
 TEST(CallStreamReader, takesBooleansAsIntegersToo) {
-    EXPECT_THAT(read("[\"setFontAttribute\",1,0]\n[\"setFontAttribute\",2,-1]\n").calls,
+    EXPECT_THAT(readStream("[\"setFontAttribute\",1,0]\n[\"setFontAttribute\",2,-1]\n").calls,
                 ElementsAre("setFontAttribute(1,false)", "setFontAttribute(2,true)"));
 }
 
 TEST(CallStreamReader, holdsIntegersToTheirTypes) {
-    EXPECT_THAT(read("[\"setFontSize\",-32768]\n[\"setFontSize\",32767]\n").calls,
+    EXPECT_THAT(readStream("[\"setFontSize\",-32768]\n[\"setFontSize\",32767]\n").calls,
                 ElementsAre("setFontSize(-32768)", "setFontSize(32767)"));
     const std::string wanted =
         "1: setFontSize: argument 1 (size) must be an integer from -32768 to 32767";
@@ -103,8 +103,8 @@ TEST(CallStreamReader, holdsIntegersToTheirTypes) {
 }
 
 TEST(CallStreamReader, takesTheHalfOfAModelHandleUnsignedToo) {
-    EXPECT_THAT(read("[\"insertMark\",4294967295,true]\n[\"insertMark\",2147483648,0]\n"
-                     "[\"insertMark\",-2147483648,0]\n[\"insertMark\",2147483647,0]\n")
+    EXPECT_THAT(readStream("[\"insertMark\",4294967295,true]\n[\"insertMark\",2147483648,0]\n"
+                           "[\"insertMark\",-2147483648,0]\n[\"insertMark\",2147483647,0]\n")
                     .calls,
                 ElementsAre("insertMark(-1,true)", "insertMark(-2147483648,false)",
                             "insertMark(-2147483648,false)", "insertMark(2147483647,false)"));
@@ -136,13 +136,13 @@ TEST(CallStreamReader, asksForTheRightNumberOfArguments) {
 }
 
 TEST(CallStreamReader, leavesAnswersOut) {
-    EXPECT_THAT(read("[\"getDocType\"]\n[\"getPropPages\"]\n").calls,
+    EXPECT_THAT(readStream("[\"getDocType\"]\n[\"getPropPages\"]\n").calls,
                 ElementsAre("getDocType()", "getPropPages()"));
     EXPECT_EQ(problemOf("[\"getDocType\",\"x\"]"), "1: getDocType takes no argument, not 1");
 }
 
 TEST(CallStreamReader, readsTheRequestForAFreshObject) {
-    EXPECT_THAT(read("[\"new\"]\n").calls, ElementsAre("new"));
+    EXPECT_THAT(readStream("[\"new\"]\n").calls, ElementsAre("new"));
     EXPECT_EQ(problemOf("[\"new\",1]"), "1: new takes no argument, not 1");
 }
 
@@ -209,7 +209,7 @@ TEST(CallStreamReader, readsCallsHoweverTheirBytesArrive) {
 
 TEST(CallStreamReader, readsATextLargerThanItsBuffer) {
     const std::string value(3U << 20U, 'y');
-    EXPECT_THAT(read("[\"start\"]\n[\"insertText\",\"" + value + "\"]\n[\"stop\"]\n").calls,
+    EXPECT_THAT(readStream("[\"start\"]\n[\"insertText\",\"" + value + "\"]\n[\"stop\"]\n").calls,
                 ElementsAre("start()", "insertText(\"" + value + "\")", "stop()"));
 }
 

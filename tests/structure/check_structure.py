@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Holds the source tree against its own rules.
+"""Checks the source tree against the rules of the project.
 
 - An include points to the same module or to a layer below, never upwards or sideways.
 - Within a module, an include points to the same folder or to one before it.
 - System headers and system macros stay in the folders that are there for them.
 - No file of code grows beyond 400 lines.
+- No two classes that a program may contain have the same name.
 
 Usage: check_structure.py ROOT
 """
@@ -12,6 +13,8 @@ Usage: check_structure.py ROOT
 import pathlib
 import re
 import sys
+
+from class_names import ClassNames
 
 MAX_LINES = 400
 
@@ -144,15 +147,19 @@ def text_faults(name, lines):
 def check(root):
     checked = 0
     faults = []
+    class_names = ClassNames()
     for name, path in tree(root):
         if path.suffix not in TEXT and path.name != "run":
             continue
         checked += 1
-        lines = path.read_text(encoding="utf-8", errors="replace").splitlines()
+        text = path.read_text(encoding="utf-8", errors="replace")
+        lines = text.splitlines()
         is_source = name.startswith("src/") and path.suffix in {".cpp", ".h"}
         rules = [text_faults] + ([source_faults] if is_source else [])
         for rule in rules:
             faults += [f"{name}:{line}: {what}" for line, what in rule(name, lines)]
+        if name.startswith(("src/", "tests/")) and path.suffix in {".cpp", ".h"}:
+            faults += [f"{name}:{line}: {what}" for line, what in class_names.faults(name, text)]
     return checked, faults
 
 

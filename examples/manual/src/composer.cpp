@@ -6,7 +6,7 @@ namespace quillmark::manual {
 
 namespace {
 
-constexpr int bold = 1;
+constexpr int boldAttribute = 1;
 /// Deepest heading that becomes a contents entry by itself, as the manual's settings have it.
 constexpr int deepestAutomaticHeading = 2;
 
@@ -46,9 +46,9 @@ void Composer::line(const std::string& text) {
     for (const Span& span : parseSpans(text)) {
         if (span.kind == SpanKind::bold) {
             flush();
-            calls_.add("setFontAttribute", bold, true);
+            calls_.add("setFontAttribute", boldAttribute, true);
             calls_.add("insertText", spanMarkup(span, current_));
-            calls_.add("setFontAttribute", bold, false);
+            calls_.add("setFontAttribute", boldAttribute, false);
         } else {
             pending += spanMarkup(span, current_);
         }
@@ -86,11 +86,11 @@ void Composer::startTable(const std::vector<std::string>& head) {
     for (std::size_t i = 0; i < head.size(); ++i) {
         calls_.add("addCell");
         if (i == 0) {
-            calls_.add("setFontAttribute", bold, true);
+            calls_.add("setFontAttribute", boldAttribute, true);
         }
         line(head[i]);
     }
-    calls_.add("setFontAttribute", bold, false);
+    calls_.add("setFontAttribute", boldAttribute, false);
 }
 
 void Composer::row(const std::vector<std::string>& cells) {

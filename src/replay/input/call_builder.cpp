@@ -38,7 +38,7 @@ std::string wanted(const Operation& operation, const Parameter& parameter) {
     return "absent";
 }
 
-std::string counted(std::size_t count) {
+std::string argumentCount(std::size_t count) {
     return count == 0   ? "no argument"
            : count == 1 ? "1 argument"
                         : std::to_string(count) + " arguments";
@@ -160,8 +160,8 @@ bool CallBuilder::finish(std::string& problem) {
     if (seen_ != expected_) {
         const char* const name =
             call_->operation != nullptr ? call_->operation->name : freshObject.data();
-        problem =
-            std::string(name) + " takes " + counted(expected_) + ", not " + std::to_string(seen_);
+        problem = std::string(name) + " takes " + argumentCount(expected_) + ", not " +
+                  std::to_string(seen_);
     }
     return problem.empty();
 }

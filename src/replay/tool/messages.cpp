@@ -7,7 +7,7 @@ namespace quillmark::replay {
 namespace {
 
 constexpr std::chrono::milliseconds longRun{1000};
-constexpr std::chrono::milliseconds between{200};
+constexpr std::chrono::milliseconds progressInterval{200};
 
 }  // namespace
 
@@ -27,7 +27,7 @@ void Messages::progress(std::size_t calls, std::size_t pages) {
     if (!showsProgress_ || Clock::now() < nextProgress_) {
         return;
     }
-    nextProgress_ = Clock::now() + between;
+    nextProgress_ = Clock::now() + progressInterval;
     const std::string text =
         counted(calls, "call") + ", " + counted(pages, "page") + " written ...";
     stream_ << '\r' << text << std::flush;

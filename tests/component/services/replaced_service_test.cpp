@@ -20,16 +20,12 @@ DochtmlObserver observerOf(int& calls) {
     return observer;
 }
 
-LentServices& services() {
-    return LentServices::module();
-}
-
 class ReplacedService : public ::testing::Test {
 protected:
     void TearDown() override {
         // Without a user this also lets go of what a test has left.
-        EXPECT_EQ(services().setObserver(nullptr), S_OK);
-        EXPECT_EQ(services().retiredCount(), 0U);
+        EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
+        EXPECT_EQ(LentServices::module().retiredCount(), 0U);
     }
 };
 
@@ -37,9 +33,9 @@ TEST_F(ReplacedService, canStillBeCalledByWhoTookItUpBefore) {
     const ServiceUser another;
     int calls = 0;
     const DochtmlObserver observer = observerOf(calls);
-    ASSERT_EQ(services().setObserver(&observer), S_OK);
+    ASSERT_EQ(LentServices::module().setObserver(&observer), S_OK);
     DocumentObserver& takenUp = DocumentObserver::current();
-    EXPECT_EQ(services().setObserver(nullptr), S_OK);
+    EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
     takenUp.contentsEntryAdded();
     EXPECT_EQ(calls, 1);
 }
@@ -48,25 +44,25 @@ TEST_F(ReplacedService, isLetGoOfWhenNobodyCanHaveTakenItUp) {
     const DochtmlObserver deaf{};
     {
         const ServiceUser another;
-        ASSERT_EQ(services().setObserver(&deaf), S_OK);
-        ASSERT_EQ(services().setObserver(&deaf), S_OK);
-        ASSERT_EQ(services().setObserver(&deaf), S_OK);
-        EXPECT_EQ(services().retiredCount(), 2U);
+        ASSERT_EQ(LentServices::module().setObserver(&deaf), S_OK);
+        ASSERT_EQ(LentServices::module().setObserver(&deaf), S_OK);
+        ASSERT_EQ(LentServices::module().setObserver(&deaf), S_OK);
+        EXPECT_EQ(LentServices::module().retiredCount(), 2U);
     }
-    EXPECT_EQ(services().setObserver(nullptr), S_OK);
-    EXPECT_EQ(services().retiredCount(), 0U);
+    EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
+    EXPECT_EQ(LentServices::module().retiredCount(), 0U);
 }
 
 TEST_F(ReplacedService, isKeptForADocument) {
     const DochtmlObserver deaf{};
     {
         const RecordedObject document;
-        ASSERT_EQ(services().setObserver(&deaf), S_OK);
-        EXPECT_EQ(services().setObserver(nullptr), S_OK);
-        EXPECT_EQ(services().retiredCount(), 1U);
+        ASSERT_EQ(LentServices::module().setObserver(&deaf), S_OK);
+        EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
+        EXPECT_EQ(LentServices::module().retiredCount(), 1U);
     }
-    EXPECT_EQ(services().setObserver(nullptr), S_OK);
-    EXPECT_EQ(services().retiredCount(), 0U);
+    EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
+    EXPECT_EQ(LentServices::module().retiredCount(), 0U);
 }
 
 TEST_F(ReplacedService, mayBeReplacedWhileAnotherThreadWritesItsTrace) {
@@ -76,7 +72,7 @@ TEST_F(ReplacedService, mayBeReplacedWhileAnotherThreadWritesItsTrace) {
                                         [](void* context, std::int32_t, const DochtmlText*) {
                                             ++*static_cast<std::atomic<int>*>(context);
                                         }};
-    ASSERT_EQ(services().setTraceListener(&listener), S_OK);
+    ASSERT_EQ(LentServices::module().setTraceListener(&listener), S_OK);
     std::thread writer([] {
         const ServiceUser document;
         Trace trace;
@@ -85,10 +81,10 @@ TEST_F(ReplacedService, mayBeReplacedWhileAnotherThreadWritesItsTrace) {
         }
     });
     for (int round = 0; round < rounds; ++round) {
-        EXPECT_EQ(services().setTraceListener(&listener), S_OK);
+        EXPECT_EQ(LentServices::module().setTraceListener(&listener), S_OK);
     }
     writer.join();
-    EXPECT_EQ(services().setTraceListener(nullptr), S_OK);
+    EXPECT_EQ(LentServices::module().setTraceListener(nullptr), S_OK);
     EXPECT_EQ(heard, rounds);
 }
 

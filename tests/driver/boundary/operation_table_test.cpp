@@ -45,15 +45,15 @@ int idOf(const char* name) {
     return row != nullptr ? row->dispatchId : 0;
 }
 
-struct Outcome {
+struct InvokeOutcome {
     InvokeStatus status;
     std::size_t badArgument;
     std::vector<std::string> calls;
 };
 
-Outcome invoked(int id, std::initializer_list<Argument> arguments) {
+InvokeOutcome invoked(int id, std::initializer_list<Argument> arguments) {
     RecordingDocument document;
-    Outcome outcome{InvokeStatus::done, 99, {}};
+    InvokeOutcome outcome{InvokeStatus::done, 99, {}};
     outcome.status =
         invoke(document, id, {arguments.begin(), arguments.size()}, &outcome.badArgument);
     outcome.calls = document.calls;
@@ -153,7 +153,7 @@ TEST(OperationTable, CallsEachOperationWithArgumentsInTheirOrder) {
 }
 
 TEST(OperationTable, RefusesAWrongNumberOfArguments) {
-    const Outcome missing = invoked(idOf("insertText"), {});
+    const InvokeOutcome missing = invoked(idOf("insertText"), {});
     EXPECT_EQ(missing.status, InvokeStatus::wrongArgumentCount);
     EXPECT_THAT(missing.calls, IsEmpty());
     EXPECT_EQ(invoked(idOf("insertText"), {WideText(u"a"), WideText(u"b")}).status,
@@ -162,7 +162,7 @@ TEST(OperationTable, RefusesAWrongNumberOfArguments) {
 }
 
 TEST(OperationTable, ReportsWhichArgumentIsOfAWrongKind) {
-    const Outcome outcome =
+    const InvokeOutcome outcome =
         invoked(idOf("overrideRegistry"), {WideText(u"Html"), std::int64_t{3}, true, WideText()});
     EXPECT_EQ(outcome.status, InvokeStatus::wrongArgumentKind);
     EXPECT_EQ(outcome.badArgument, 1U);

@@ -1,11 +1,8 @@
 #include "driver/document_fixture.h"
+#include "driver/text/contents_entry.h"
 
 namespace quillmark {
 namespace {
-
-std::string entry(const std::string& href, const std::string& text) {
-    return "<A HREF=\"" + href + "\">" + text + "</a><BR>\n";
-}
 
 const std::string indent = "&nbsp;&nbsp;&nbsp;";
 
