@@ -19,10 +19,4 @@ void appendNarrowed(std::string& out, std::u16string_view text);
 /// The UTF-16 text of Windows-1252 bytes, one unit a byte.
 [[nodiscard]] std::u16string widened(std::string_view bytes);
 
-/// UTF-8 to UTF-16; each malformed byte becomes U+FFFD.
-[[nodiscard]] std::u16string fromUtf8(std::string_view utf8);
-
-/// UTF-16 to UTF-8; a lone surrogate becomes U+FFFD.
-[[nodiscard]] std::string toUtf8(std::u16string_view text);
-
 }  // namespace quillmark::code_page

@@ -13,6 +13,9 @@ namespace quillmark::surrogates {
 [[nodiscard]] constexpr bool isLow(std::uint32_t unit) noexcept {
     return unit >= 0xDC00 && unit <= 0xDFFF;
 }
+[[nodiscard]] constexpr bool isAny(std::uint32_t unit) noexcept {
+    return isHigh(unit) || isLow(unit);
+}
 
 /// How many units the first character of `text`, which is not empty, takes: 2 for a pair. A half
 /// that stands alone counts as a character.

@@ -2,17 +2,17 @@
 
 #include <algorithm>
 
-#include "foundation/code_page.h"
 #include "foundation/surrogates.h"
+#include "foundation/utf8.h"
 
 namespace quillmark {
 
 OrxString SysText::fromUtf8(std::string_view utf8) {
-    return narrow(code_page::fromUtf8(utf8));
+    return narrow(utf8::toUtf16(utf8));
 }
 
 std::string SysText::toUtf8(std::string_view text) {
-    return code_page::toUtf8(widen(text));
+    return utf8::fromUtf16(widen(text));
 }
 
 bool SysText::holds(std::u16string_view text) {

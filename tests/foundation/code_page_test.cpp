@@ -69,69 +69,6 @@ TEST(CodePage, AppendsBehindWhatIsThere) {
               "a");
 }
 
-TEST(Utf8, HasOneToFourBytesACharacter) {
-    EXPECT_EQ(code_page::toUtf8(u"a\u00E9\u20AC\U0001F600"),
-              "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80");
-    EXPECT_EQ(code_page::fromUtf8("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80"),
-              u"a\u00E9\u20AC\U0001F600");
-}
-
-TEST(Utf8, HoldsTheEdgesOfEveryLength) {
-    for (const std::u16string_view text : {u"\x7F", u"\x80", u"\u07FF", u"\u0800", u"\uD7FF",
-                                           u"\uE000", u"\uFFFF", u"\U00010000", u"\U0010FFFF"}) {
-        EXPECT_EQ(code_page::fromUtf8(code_page::toUtf8(text)), text);
-    }
-    EXPECT_EQ(code_page::fromUtf8(std::string_view("\0", 1)), std::u16string(1, u'\0'));
-}
-
-TEST(Utf8, GetsAReplacementForALoneSurrogate) {
-    constexpr std::string_view replacement = "\xEF\xBF\xBD";
-    EXPECT_EQ(code_page::toUtf8(std::u16string_view(u"\xD800")), replacement);
-    EXPECT_EQ(code_page::toUtf8(std::u16string_view(u"\xDC00")), replacement);
-    EXPECT_EQ(code_page::toUtf8(std::u16string_view(u"\xD800x")), std::string(replacement) + "x");
-    EXPECT_EQ(code_page::toUtf8(std::u16string_view(u"\xDC00\xD800")),
-              std::string(replacement) + std::string(replacement));
-}
-
-TEST(Utf8, GetsAReplacementForEachMalformedByte) {
-    const std::u16string one = u"\uFFFD";
-    EXPECT_EQ(code_page::fromUtf8("\x80"), one);
-    EXPECT_EQ(code_page::fromUtf8("\xFF"), one);
-    EXPECT_EQ(code_page::fromUtf8("\xC3"), one);
-    EXPECT_EQ(code_page::fromUtf8("\xC3("), one + u"(");
-    EXPECT_EQ(code_page::fromUtf8("\xE2\x82"), one + one);
-    EXPECT_EQ(code_page::fromUtf8("\xE2\x82x"), one + one + u"x");
-    EXPECT_EQ(code_page::fromUtf8("\xF0\x9F\x98x"), one + one + one + u"x");
-}
-
-TEST(Utf8, DoesNotTakeAnOverlongFormASurrogateOrWhatLiesBeyond) {
-    const std::u16string one = u"\uFFFD";
-    EXPECT_EQ(code_page::fromUtf8("\xC0\x80"), one + one);
-    EXPECT_EQ(code_page::fromUtf8("\xC1\xBF"), one + one);
-    EXPECT_EQ(code_page::fromUtf8("\xE0\x9F\xBF"), one + one + one);
-    EXPECT_EQ(code_page::fromUtf8("\xF0\x8F\xBF\xBF"), one + one + one + one);
-    EXPECT_EQ(code_page::fromUtf8("\xED\xA0\x80"), one + one + one);
-    EXPECT_EQ(code_page::fromUtf8("\xF4\x90\x80\x80"), one + one + one + one);
-    EXPECT_EQ(code_page::fromUtf8("\xF5\x80\x80\x80"), one + one + one + one);
-}
-
-TEST(Utf8Property, GivesAnyWellFormedTextBack) {
-    std::mt19937 random(3);
-    for (int i = 0; i < 5000; ++i) {
-        std::u16string text;
-        for (std::size_t length = random() % 20; length > 0; --length) {
-            const auto point = static_cast<char32_t>(random() % 0x110000);
-            if (point >= 0x10000) {
-                text.push_back(static_cast<char16_t>(0xD800 + ((point - 0x10000) >> 10)));
-                text.push_back(static_cast<char16_t>(0xDC00 + (point & 0x3FF)));
-            } else if (point < 0xD800 || point > 0xDFFF) {
-                text.push_back(static_cast<char16_t>(point));
-            }
-        }
-        ASSERT_EQ(code_page::fromUtf8(code_page::toUtf8(text)), text);
-    }
-}
-
 TEST(CodePageProperty, TakesAnyBytesAndUnits) {
     std::mt19937 random(4);
     for (int i = 0; i < 5000; ++i) {
@@ -145,10 +82,6 @@ TEST(CodePageProperty, TakesAnyBytesAndUnits) {
         }
         ASSERT_EQ(narrowed(code_page::widened(bytes)), bytes);
         ASSERT_EQ(narrowed(units).size(), units.size());
-        ASSERT_EQ(code_page::toUtf8(code_page::fromUtf8(code_page::toUtf8(units))),
-                  code_page::toUtf8(units));
-        const std::u16string read = code_page::fromUtf8(bytes);
-        ASSERT_EQ(code_page::fromUtf8(code_page::toUtf8(read)), read);
     }
 }
 

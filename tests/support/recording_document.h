@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "driver/boundary/i_document.h"
-#include "foundation/code_page.h"
+#include "foundation/utf8.h"
 
 namespace quillmark::testing {
 
@@ -89,7 +89,7 @@ public:
     DocResult popDirectory() override { return note("popDirectory"); }
 
 private:
-    static std::string shown(WideText text) { return '"' + code_page::toUtf8(text) + '"'; }
+    static std::string shown(WideText text) { return '"' + utf8::fromUtf16(text) + '"'; }
     static std::string shown(bool value) { return value ? "true" : "false"; }
     static std::string shown(std::int16_t value) { return std::to_string(value); }
     static std::string shown(std::int32_t value) { return std::to_string(value); }

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "foundation/code_page.h"
+#include "foundation/utf8.h"
 #include "platform/drive_table.h"
 #include "platform/path_text.h"
 
@@ -13,7 +14,7 @@ bool isAscii(std::string_view text) noexcept {
 }
 
 std::string utf8Name(std::string_view name) {
-    return isAscii(name) ? std::string(name) : code_page::toUtf8(code_page::widened(name));
+    return isAscii(name) ? std::string(name) : utf8::fromUtf16(code_page::widened(name));
 }
 
 }  // namespace
@@ -34,7 +35,7 @@ std::string nativePath(const OrxString& name) {
 
 OrxString driverPath(const std::string& native) {
     std::string name;
-    code_page::appendNarrowed(name, code_page::fromUtf8(native));
+    code_page::appendNarrowed(name, utf8::toUtf16(native));
     std::replace(name.begin(), name.end(), '/', '\\');
     return name;
 }

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <memory>
 
-#include "foundation/code_page.h"
+#include "foundation/utf8.h"
 #include "platform/windows/windows_api.h"
 // Needs the header above.
 #include <shellapi.h>
@@ -15,8 +15,8 @@ namespace quillmark {
 
 namespace {
 
-std::string utf8(const std::wstring& text) {
-    return code_page::toUtf8(std::u16string(text.begin(), text.end()));
+std::string utf8From(const std::wstring& text) {
+    return utf8::fromUtf16(std::u16string(text.begin(), text.end()));
 }
 
 }  // namespace
@@ -28,7 +28,7 @@ std::vector<std::string> Console::arguments(int /*argc*/, const char* const* /*a
         CommandLineToArgvW(GetCommandLineW(), &count), &LocalFree);
     std::vector<std::string> texts;
     for (int i = 1; words != nullptr && i < count; ++i) {
-        texts.push_back(utf8(words.get()[i]));
+        texts.push_back(utf8From(words.get()[i]));
     }
     return texts;
 }
@@ -37,7 +37,7 @@ std::string Console::executablePath() {
     constexpr std::size_t longestPath = 32768;
     std::wstring path(longestPath, L'\0');
     path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return utf8(path);
+    return utf8From(path);
 }
 
 bool Console::errorsAreWatched() noexcept {

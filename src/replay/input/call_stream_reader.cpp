@@ -4,6 +4,7 @@
 #include <cstring>
 #include <string>
 
+#include "foundation/utf8.h"
 #include "replay/input/call_builder.h"
 #include "replay/input/json_text.h"
 #include "replay/input/rapidjson_reader.h"
@@ -31,7 +32,8 @@ public:
         isOpen_ = false;
         builder_.start(call);
         const std::size_t size = foldLoneSurrogates(line);
-        surrogates_ = size != line.size();
+        loneSurrogates_ =
+            size != line.size() ? utf8::LoneSurrogates::accepted : utf8::LoneSurrogates::malformed;
         line[size] = '\0';
         // A text never has more units than its line has bytes.
         if (units_.size() < size) {
@@ -68,7 +70,7 @@ public:
         if (!builder_.isNamed()) {
             return builder_.name({text, size}, problem_);
         }
-        char16_t* const end = decodeUtf8({text, size}, nextUnit_, surrogates_);
+        char16_t* const end = utf8::decodeStrictly({text, size}, nextUnit_, loneSurrogates_);
         if (end == nullptr) {
             problem_ = "the text is not UTF-8";
             return false;
@@ -100,7 +102,7 @@ private:
     std::u16string units_;
     char16_t* nextUnit_ = nullptr;
     bool isOpen_ = false;
-    bool surrogates_ = false;
+    utf8::LoneSurrogates loneSurrogates_ = utf8::LoneSurrogates::malformed;
 };
 
 CallStreamReader::CallStreamReader(InputBuffer& input)

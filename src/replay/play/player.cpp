@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "foundation/code_page.h"
+#include "foundation/utf8.h"
 #include "platform/path_text.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_text.h"
@@ -35,7 +35,7 @@ std::string quoted(std::string_view text) {
 
 std::string nameProblem(WideText name) {
     return "create: the driver's 8-bit code page (" + SysText::codePageName() +
-           ") cannot hold the name \"" + code_page::toUtf8(name) +
+           ") cannot hold the name \"" + utf8::fromUtf16(name) +
            "\"; the calls up to the next create or new are passed over";
 }
 

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <system_error>
 
-#include "foundation/code_page.h"
+#include "foundation/utf8.h"
 #include "platform/drive_table.h"
 #include "platform/sys_text.h"
 #include "replay/input/bad_input.h"
@@ -94,7 +94,7 @@ private:
 
     Player::Listeners listeners() {
         return {[this](WideText answer) {
-                    around_.output << code_page::toUtf8(answer) << '\n' << std::flush;
+                    around_.output << utf8::fromUtf16(answer) << '\n' << std::flush;
                 },
                 [this](std::size_t line, const std::string& how) {
                     ++errors_;

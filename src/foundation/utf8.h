@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// Conversions between UTF-8 and UTF-16.
+namespace quillmark::utf8 {
+
+/// Whether three bytes that encode half of a surrogate pair count as a character. Valid UTF-8 has
+/// no such bytes, but a host's UTF-16 text may hold half a pair, which must survive a round trip.
+enum class LoneSurrogates { malformed, accepted };
+
+/// Decodes leniently: each byte that is not part of a well-formed character becomes U+FFFD.
+///
+///     utf8::toUtf16("\xC3\xA9");   // u"\u00E9"
+///     utf8::toUtf16("a\xFF");      // u"a\uFFFD"
+[[nodiscard]] std::u16string toUtf16(std::string_view utf8);
+
+/// Decodes strictly: writes the UTF-16 form of `utf8` to `out` and returns the end of what it
+/// wrote, or null at the first malformed byte. `out` must have room for `utf8.size()` units.
+[[nodiscard]] char16_t* decodeStrictly(std::string_view utf8, char16_t* out,
+                                       LoneSurrogates loneSurrogates) noexcept;
+
+/// Encodes UTF-16 text. A lone surrogate becomes U+FFFD.
+[[nodiscard]] std::string fromUtf16(std::u16string_view text);
+
+}  // namespace quillmark::utf8
