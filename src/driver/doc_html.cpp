@@ -40,10 +40,8 @@ DocHtml::~DocHtml() {
             DocHtml::close();
         }
         impl_->pages.releaseHeldPages();
-    } catch (const std::exception& problem) {
-        OrxException::logCatch(problem.what());
     } catch (...) {
-        OrxException::logCatch("unknown exception");  // thrown by a service of the host
+        OrxException::logCaught();
     }
 }
 

@@ -128,7 +128,7 @@ DocResult DocHtml::insertDiagram(std::int32_t /*ptr*/, std::int16_t /*width*/,
         CSignal2Exception::run([] {});
     } catch (const OrxException& problem) {
         impl_->context.traceError("ERR ", problem.reasonText());
-        OrxException::logCatch(problem.reasonText());
+        OrxException::logCaught();
     }
     return resultOk;
 }

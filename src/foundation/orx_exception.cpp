@@ -51,7 +51,19 @@ void OrxException::logCatch(std::string_view reason) noexcept {
     try {
         tell(OrxExceptionLog::catchCategory, "Exception catch: ", reason);
     } catch (...) {
-        // The log is the last place to tell anything; when it fails too, the document goes on.
+        // There is nowhere left to report a failure of the log itself. The document goes on.
+    }
+}
+
+void OrxException::logCaught() noexcept {
+    try {
+        throw;
+    } catch (const OrxException& exception) {
+        logCatch(exception.reasonText());
+    } catch (const std::exception& exception) {
+        logCatch(exception.what());
+    } catch (...) {
+        logCatch("unknown exception");
     }
 }
 

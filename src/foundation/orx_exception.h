@@ -26,8 +26,8 @@ public:
 
 /// The one exception type of the driver; it carries a reason in words.
 ///
-/// Throw it with `raise`, which tells the log first; where one is caught and not passed on, call
-/// `logCatch`.
+/// Throw it with `raise`, which writes to the log first. Code that catches one and does not pass it
+/// on calls `logCaught`.
 class OrxException : public std::exception {
 public:
     explicit OrxException(OrxString reason) : reason_(std::move(reason)) {}
@@ -45,6 +45,15 @@ public:
     [[noreturn]] static void raise(const OrxString& reason);
     /// Writes "Exception catch: " + reason to the log when it records "Catch".
     static void logCatch(std::string_view reason) noexcept;
+    /// Logs the exception being handled as `logCatch` does. Call it in a `catch` block that ends
+    /// the exception. One without a reason is logged as "unknown exception".
+    ///
+    ///     try {
+    ///         callTheHost();
+    ///     } catch (...) {
+    ///         OrxException::logCaught();
+    ///     }
+    static void logCaught() noexcept;
 
 private:
     OrxString reason_;

@@ -111,10 +111,8 @@ DocHtmlPage& DocHtmlPage::operator=(const DocHtmlPage& other) {
 DocHtmlPage::~DocHtmlPage() {
     try {
         close();
-    } catch (const std::exception& problem) {
-        OrxException::logCatch(problem.what());
     } catch (...) {
-        OrxException::logCatch("unknown exception");  // a service of the host's
+        OrxException::logCaught();
     }
 }
 
@@ -242,8 +240,8 @@ void DocHtmlPage::close() {
     }
     try {
         CSignal2Exception::run([this] { record_->writeFile(); });
-    } catch (const OrxException& problem) {
-        OrxException::logCatch(problem.reasonText());
+    } catch (const OrxException&) {
+        OrxException::logCaught();
     }
     record_->reportUnresolved();
     record_->reset();

@@ -66,6 +66,28 @@ TEST(ExceptionLog, GetsOnlyTheCategoriesThatItRecords) {
     EXPECT_EQ(log.messages(), Messages{});
 }
 
+template <typename Exception>
+Messages loggedWhenCaught(const Exception& exception) {
+    const CapturingExceptionLog log;
+    try {
+        throw exception;
+    } catch (...) {
+        OrxException::logCaught();
+    }
+    return log.messages();
+}
+
+TEST(ExceptionLog, RecordsTheReasonOfAnyCaughtException) {
+    EXPECT_EQ(loggedWhenCaught(OrxException("a")), Messages{"Exception catch: a\n"});
+    EXPECT_EQ(loggedWhenCaught(std::runtime_error("b")), Messages{"Exception catch: b\n"});
+    EXPECT_EQ(loggedWhenCaught(7), Messages{"Exception catch: unknown exception\n"});
+}
+
+TEST(ExceptionLog, RecordsAReasonWithAZeroInsideInFull) {
+    const OrxException exception(OrxString(std::string_view("a\0b", 3)));
+    EXPECT_EQ(loggedWhenCaught(exception), Messages{std::string("Exception catch: a\0b\n", 21)});
+}
+
 TEST(ExceptionLog, RecordsNothingUnlessOneIsInstalled) {
     OrxExceptionLog* const standard = OrxException::getLog();
     ASSERT_NE(standard, nullptr);

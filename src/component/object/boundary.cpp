@@ -1,6 +1,5 @@
 #include "component/object/boundary.h"
 
-#include <exception>
 #include <new>
 
 #include "component/object/module_state.h"
@@ -11,15 +10,7 @@ namespace quillmark {
 void logCaughtException() noexcept {
     // Not every call has an object that counts as one.
     const ServiceUser user;
-    try {
-        throw;
-    } catch (const OrxException& exception) {
-        OrxException::logCatch(exception.reasonText());
-    } catch (const std::exception& exception) {
-        OrxException::logCatch(exception.what());
-    } catch (...) {
-        OrxException::logCatch("unknown exception");
-    }
+    OrxException::logCaught();
 }
 
 HRESULT resultOfCaughtException() noexcept {

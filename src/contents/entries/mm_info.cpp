@@ -15,10 +15,8 @@ template <typename Answer, typename Query>
 Answer guarded(Answer empty, const Query& query) {
     try {
         return query();
-    } catch (const OrxException& problem) {
-        OrxException::logCatch(problem.reasonText());
-    } catch (const std::exception& problem) {
-        OrxException::logCatch(problem.what());
+    } catch (const std::exception&) {
+        OrxException::logCaught();
     }
     return empty;
 }

@@ -1,6 +1,5 @@
 #include "replay/play/in_process_document.h"
 
-#include <exception>
 #include <utility>
 
 #include "foundation/orx_exception.h"
@@ -18,12 +17,8 @@ int InProcessDocument::idOf(std::string_view name) {
 InvokeStatus InProcessDocument::invoke(int id, std::span<const Argument> arguments) {
     try {
         return quillmark::invoke(*document_, id, arguments);
-    } catch (const OrxException& failure) {
-        OrxException::logCatch(failure.reasonText());
-    } catch (const std::exception& failure) {
-        OrxException::logCatch(failure.what());
     } catch (...) {
-        OrxException::logCatch("unknown exception");
+        OrxException::logCaught();
     }
     return InvokeStatus::done;
 }
