@@ -1,6 +1,6 @@
 #include "component/posix/class_file.h"
 
-#include <unistd.h>
+#include <fcntl.h>
 
 #include <array>
 #include <cerrno>
@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#include "component/posix/descriptor.h"
+#include "platform/posix/descriptor_io.h"
 #include "platform/posix/home_directory.h"
 
 namespace quillmark {
@@ -85,21 +85,17 @@ void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree) 
 
 /// All of the file: nothing when it cannot be read, an empty text when it is not there.
 std::optional<std::string> contentOf(const std::filesystem::path& file) {
-    const Descriptor in(file, O_RDONLY);
-    if (in.number() < 0) {
+    const Descriptor in = descriptor_io::openFile(file.c_str(), O_RDONLY);
+    if (!in.isOpen()) {
         return errno == ENOENT || errno == ENOTDIR ? std::optional<std::string>("") : std::nullopt;
     }
     std::string content;
     std::array<char, 4096> piece{};
-    ssize_t size = 0;
-    while ((size = read(in.number(), piece.data(), piece.size())) != 0) {
-        if (size > 0) {
-            content.append(piece.data(), static_cast<std::size_t>(size));
-        } else if (errno != EINTR) {
-            return std::nullopt;
-        }
+    long size = 0;
+    while ((size = descriptor_io::readSome(in, piece)) > 0) {
+        content.append(piece.data(), static_cast<std::size_t>(size));
     }
-    return content;
+    return size == 0 ? std::optional(std::move(content)) : std::nullopt;
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 #include "component/posix/class_file_lock.h"
 
+#include <fcntl.h>
 #include <sys/file.h>
 
-#include <cerrno>
+#include "platform/posix/descriptor_io.h"
+#include "platform/posix/uninterrupted.h"
 
 namespace quillmark {
 namespace {
@@ -14,16 +16,13 @@ std::filesystem::path lockFileOf(const std::filesystem::path& classFile) {
 }
 
 bool lock(const Descriptor& file) noexcept {
-    int result = -1;
-    do {
-        result = flock(file.number(), LOCK_EX);
-    } while (result != 0 && errno == EINTR);
-    return result == 0;
+    return uninterrupted([&file] { return flock(file.number(), LOCK_EX); }) == 0;
 }
 
 }  // namespace
 
 ClassFileLock::ClassFileLock(const std::filesystem::path& classFile)
-    : file_(lockFileOf(classFile), O_RDWR | O_CREAT), isHeld_(lock(file_)) {}
+    : file_(descriptor_io::openFile(lockFileOf(classFile).c_str(), O_RDWR | O_CREAT)),
+      isHeld_(lock(file_)) {}
 
 }  // namespace quillmark

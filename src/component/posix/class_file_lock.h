@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "component/posix/descriptor.h"
+#include "platform/posix/descriptor.h"
 
 namespace quillmark {
 

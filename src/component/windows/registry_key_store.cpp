@@ -3,35 +3,10 @@
 
 #include "component/registration/class_key_store.h"
 #include "component/windows/wide_text.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/registry_key.h"
 
 namespace quillmark {
 namespace {
-
-/// An open key of the registry.
-class OpenKey {
-public:
-    OpenKey() = default;
-    OpenKey(const OpenKey&) = delete;
-    OpenKey& operator=(const OpenKey&) = delete;
-    ~OpenKey() {
-        if (handle_ != nullptr) {
-            RegCloseKey(handle_);
-        }
-    }
-
-    [[nodiscard]] LSTATUS open(HKEY parent, const std::wstring& path) {
-        return RegOpenKeyExW(parent, path.c_str(), 0, KEY_READ, &handle_);
-    }
-    [[nodiscard]] LSTATUS create(HKEY parent, const std::wstring& path) {
-        return RegCreateKeyExW(parent, path.c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
-                               &handle_, nullptr);
-    }
-    [[nodiscard]] HKEY get() const noexcept { return handle_; }
-
-private:
-    HKEY handle_ = nullptr;
-};
 
 HRESULT resultOf(LSTATUS status) noexcept {
     return HRESULT_FROM_WIN32(static_cast<unsigned long>(status));
@@ -81,8 +56,8 @@ void readValues(HKEY key, const KeySizes& sizes, KeyTree& tree) {
 }
 
 std::optional<KeyTree> readTree(HKEY parent, const std::wstring& path) {
-    OpenKey key;
-    if (key.open(parent, path) != ERROR_SUCCESS) {
+    RegistryKey key;
+    if (key.open(parent, path, KEY_READ) != ERROR_SUCCESS) {
         return std::nullopt;
     }
     KeyTree tree;
@@ -110,14 +85,14 @@ public:
     }
 
     [[nodiscard]] HRESULT createKey(const std::string& path) override {
-        OpenKey key;
-        return resultOf(key.create(HKEY_CLASSES_ROOT, toWide(path)));
+        RegistryKey key;
+        return resultOf(key.create(HKEY_CLASSES_ROOT, toWide(path), KEY_READ | KEY_WRITE));
     }
 
     [[nodiscard]] HRESULT setValue(const std::string& path, const std::string& name,
                                    const KeyValue& value) override {
-        OpenKey key;
-        const LSTATUS opened = key.create(HKEY_CLASSES_ROOT, toWide(path));
+        RegistryKey key;
+        const LSTATUS opened = key.create(HKEY_CLASSES_ROOT, toWide(path), KEY_READ | KEY_WRITE);
         if (opened != ERROR_SUCCESS) {
             return resultOf(opened);
         }

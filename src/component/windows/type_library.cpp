@@ -1,8 +1,8 @@
 #include "component/object/type_information.h"
-#include "component/windows/module_handle.h"
 #include "dochtml/com_pointer.h"
 #include "dochtml/document.h"
 #include "dochtml/text.h"
+#include "platform/windows/this_module.h"
 
 namespace quillmark {
 namespace {
@@ -14,7 +14,7 @@ constexpr SYSKIND systemKind = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
 
 /// The type library is the library's resource 1, which is the one that a bare file name means.
 HRESULT loadTypeLibrary(ComPointer<ITypeLib>& library) {
-    return LoadTypeLibEx(wideModulePath().c_str(), REGKIND_NONE,
+    return LoadTypeLibEx(moduleFileName(thisModule()).c_str(), REGKIND_NONE,
                          reinterpret_cast<ITypeLib**>(library.receive()));
 }
 
@@ -36,7 +36,7 @@ HRESULT registerTypeLibrary() {
     if (FAILED(loaded)) {
         return loaded;
     }
-    std::wstring path = wideModulePath();
+    std::wstring path = moduleFileName(thisModule());
     return RegisterTypeLib(library.get(), path.data(), nullptr);
 }
 

@@ -6,21 +6,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
+
+#include "platform/posix/uninterrupted.h"
 
 namespace quillmark::descriptor_io {
 
 namespace {
-
-/// Repeats a system call that a signal cut short.
-template <typename Call>
-auto uninterrupted(Call call) noexcept {
-    auto result = call();
-    while (result == -1 && errno == EINTR) {
-        result = call();
-    }
-    return result;
-}
 
 /// Moves `vectors` behind the `written` bytes that are done.
 std::span<iovec> behind(std::span<iovec> vectors, std::size_t written) noexcept {

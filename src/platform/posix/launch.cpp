@@ -5,11 +5,11 @@
 #include <unistd.h>
 
 #include <array>
-#include <cerrno>
 #include <csignal>
 #include <cstring>
 
-#include "platform/posix/descriptor.h"
+#include "platform/posix/descriptor_io.h"
+#include "platform/posix/uninterrupted.h"
 
 namespace quillmark {
 
@@ -79,9 +79,11 @@ bool forkTwice(const Launch& launch) noexcept {
         }
         _exit(0);
     }
-    while (middle > 0 && waitpid(middle, nullptr, 0) < 0 && errno == EINTR) {
+    if (middle < 0) {
+        return false;
     }
-    return middle > 0;
+    uninterrupted([middle] { return waitpid(middle, nullptr, 0); });
+    return true;
 }
 
 }  // namespace
@@ -109,11 +111,7 @@ bool launchDetached(const std::string& program, const std::vector<std::string>& 
     }
     static_cast<void>(sender.close());
     char sign = 0;
-    ssize_t taken = read(failures.number(), &sign, 1);
-    while (taken < 0 && errno == EINTR) {
-        taken = read(failures.number(), &sign, 1);
-    }
-    return taken == 0;
+    return descriptor_io::readSome(failures, {&sign, 1}) == 0;
 }
 
 }  // namespace quillmark

@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "foundation/utf8.h"
-#include "platform/windows/windows_api.h"
+#include "platform/windows/this_module.h"
 // Needs the header above.
 #include <shellapi.h>
 
@@ -34,10 +34,7 @@ std::vector<std::string> Console::arguments(int /*argc*/, const char* const* /*a
 }
 
 std::string Console::executablePath() {
-    constexpr std::size_t longestPath = 32768;
-    std::wstring path(longestPath, L'\0');
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return utf8From(path);
+    return utf8From(moduleFileName(nullptr));
 }
 
 bool Console::errorsAreWatched() noexcept {

@@ -1,8 +1,8 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 
+#include "platform/windows/registry_key.h"
 #include "platform/windows/wide_name.h"
 #include "settings/settings_store.h"
 
@@ -12,43 +12,11 @@ namespace {
 
 constexpr const char* userKey = "Software\\Zorvane\\Quillmark";
 
-/// An open key of the registry; closed when its holder goes.
-class Key {
-public:
-    static Key forReading(const std::wstring& path) noexcept {
-        Key key;
-        RegOpenKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, KEY_QUERY_VALUE, &key.key_);
-        return key;
-    }
-    static Key forWriting(const std::wstring& path) noexcept {
-        Key key;
-        RegCreateKeyExW(HKEY_CURRENT_USER, path.c_str(), 0, nullptr, REG_OPTION_NON_VOLATILE,
-                        KEY_SET_VALUE, nullptr, &key.key_, nullptr);
-        return key;
-    }
-    Key(Key&& other) noexcept : key_(std::exchange(other.key_, nullptr)) {}
-    Key(const Key&) = delete;
-    Key& operator=(const Key&) = delete;
-    Key& operator=(Key&&) = delete;
-    ~Key() {
-        if (key_ != nullptr) {
-            RegCloseKey(key_);
-        }
-    }
-
-    [[nodiscard]] HKEY get() const noexcept { return key_; }
-    [[nodiscard]] bool isOpen() const noexcept { return key_ != nullptr; }
-
-private:
-    Key() noexcept = default;
-    HKEY key_ = nullptr;
-};
-
 std::wstring groupPath(const OrxString& group) {
     return wideText(userKey + ("\\" + group));
 }
 
-std::optional<OrxString> numberValue(const Key& key, const std::wstring& name) {
+std::optional<OrxString> numberValue(const RegistryKey& key, const std::wstring& name) {
     DWORD number = 0;
     DWORD size = sizeof number;
     if (RegGetValueW(key.get(), nullptr, name.c_str(), RRF_RT_REG_DWORD, nullptr, &number, &size) !=
@@ -58,7 +26,7 @@ std::optional<OrxString> numberValue(const Key& key, const std::wstring& name) {
     return OrxString(std::to_string(static_cast<std::int32_t>(number)));
 }
 
-std::optional<OrxString> textValue(const Key& key, const std::wstring& name) {
+std::optional<OrxString> textValue(const RegistryKey& key, const std::wstring& name) {
     std::wstring text;
     DWORD size = 0;
     LSTATUS status =
@@ -82,8 +50,8 @@ class RegistrySettingsStore final : public SettingsStore {
 public:
     [[nodiscard]] std::optional<OrxString> read(const OrxString& group,
                                                 const OrxString& name) const override {
-        const Key key = Key::forReading(groupPath(group));
-        if (!key.isOpen()) {
+        RegistryKey key;
+        if (key.open(HKEY_CURRENT_USER, groupPath(group), KEY_QUERY_VALUE) != ERROR_SUCCESS) {
             return std::nullopt;
         }
         const std::wstring wide = wideText(name);
@@ -97,10 +65,10 @@ public:
         if (value.contains(std::string_view("\0", 1))) {
             return false;
         }
-        const Key key = Key::forWriting(groupPath(group));
+        RegistryKey key;
         const std::wstring text = wideText(value);
         const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-        return key.isOpen() &&
+        return key.create(HKEY_CURRENT_USER, groupPath(group), KEY_SET_VALUE) == ERROR_SUCCESS &&
                RegSetValueExW(key.get(), wideText(name).c_str(), 0, REG_SZ,
                               reinterpret_cast<const BYTE*>(text.c_str()), size) == ERROR_SUCCESS;
     }

@@ -4,12 +4,11 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/windows/this_module.h"
+
 namespace quillmark {
 
 namespace {
-
-/// Anything in this module: its address tells which module it is.
-const char moduleMark = 0;
 
 /// The head of an extended dialog template as it lies in the resource, words packed.
 #pragma pack(push, 2)
@@ -95,14 +94,6 @@ private:
 };
 
 }  // namespace
-
-HINSTANCE thisModule() noexcept {
-    HMODULE module = nullptr;
-    GetModuleHandleExW(
-        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-        reinterpret_cast<const wchar_t*>(&moduleMark), &module);
-    return module;
-}
 
 std::wstring resourceString(WORD id) {
     // With no buffer the call hands out the text in place, without a closing zero.

@@ -15,9 +15,6 @@ inline constexpr WORD pageDialog = 5106;
 
 }  // namespace resource
 
-/// The module (library or program) that this code was linked into.
-[[nodiscard]] HINSTANCE thisModule() noexcept;
-
 /// A string resource of the module; empty when there is none of that number.
 [[nodiscard]] std::wstring resourceString(WORD id);
 

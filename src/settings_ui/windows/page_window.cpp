@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/windows/this_module.h"
 #include "settings_ui/windows/module_resources.h"
 
 namespace quillmark {

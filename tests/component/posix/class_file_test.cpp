@@ -1,5 +1,6 @@
 #include "component/posix/class_file.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/file.h>
 
@@ -7,9 +8,9 @@
 #include <thread>
 
 #include "component/client/posix/class_lookup.h"
-#include "component/posix/descriptor.h"
 #include "component/registration/server_registration.h"
 #include "dochtml/client.h"
+#include "platform/posix/descriptor_io.h"
 #include "support/environment_variable.h"
 #include "support/temp_dir.h"
 
@@ -171,7 +172,7 @@ TEST_F(ClassFile, isNotThereWhereAFileIsInTheWay) {
 TEST_F(ClassFile, isChangedByOneAtATime) {
     std::unique_ptr<ClassKeyStore> store;
     ASSERT_EQ(openClassKeyStore(store), S_OK);
-    const Descriptor other(lockFile(), O_RDWR);
+    const Descriptor other = descriptor_io::openFile(lockFile().c_str(), O_RDWR);
     EXPECT_EQ(flock(other.number(), LOCK_EX | LOCK_NB), -1);
     EXPECT_EQ(errno, EWOULDBLOCK);
     store.reset();
