@@ -1,8 +1,7 @@
 #include "foundation/orx_exception.h"
 
-#include <atomic>
-
 #include "foundation/lasting.h"
+#include "foundation/process_wide.h"
 
 namespace quillmark {
 
@@ -19,10 +18,7 @@ SilentLog& silentLog() noexcept {
     return *log;
 }
 
-std::atomic<OrxExceptionLog*>& installedLog() noexcept {
-    static std::atomic<OrxExceptionLog*> log{nullptr};
-    return log;
-}
+constinit ProcessWide<OrxExceptionLog*> installedLog;
 
 void tell(const char* category, std::string_view opening, std::string_view reason) {
     OrxExceptionLog* const log = OrxException::getLog();
@@ -34,12 +30,12 @@ void tell(const char* category, std::string_view opening, std::string_view reaso
 }  // namespace
 
 OrxExceptionLog* OrxException::getLog() noexcept {
-    OrxExceptionLog* const log = installedLog().load(std::memory_order_acquire);
+    OrxExceptionLog* const log = installedLog.get();
     return log != nullptr ? log : &silentLog();
 }
 
 OrxExceptionLog* OrxException::setLog(OrxExceptionLog* log) noexcept {
-    return installedLog().exchange(log, std::memory_order_acq_rel);
+    return installedLog.exchange(log);
 }
 
 void OrxException::raise(const OrxString& reason) {

@@ -1,21 +1,21 @@
 #include "host/app_profile_interface.h"
 
-#include <atomic>
+#include "foundation/process_wide.h"
 
 namespace quillmark {
 
 namespace {
 
-std::atomic<AppProfileInterface*> installed{nullptr};
+constinit ProcessWide<AppProfileInterface*> installed;
 
 }  // namespace
 
 AppProfileInterface* AppProfileInterface::getInterface() noexcept {
-    return installed.load(std::memory_order_acquire);
+    return installed.get();
 }
 
 AppProfileInterface* AppProfileInterface::setInterface(AppProfileInterface* profile) noexcept {
-    return installed.exchange(profile, std::memory_order_acq_rel);
+    return installed.exchange(profile);
 }
 
 }  // namespace quillmark

@@ -1,25 +1,24 @@
 #include "host/document_observer.h"
 
-#include <atomic>
-
 #include "foundation/lasting.h"
+#include "foundation/process_wide.h"
 
 namespace quillmark {
 
 namespace {
 
-std::atomic<DocumentObserver*> installed{nullptr};
+constinit ProcessWide<DocumentObserver*> installed;
 
 }  // namespace
 
 DocumentObserver& DocumentObserver::current() noexcept {
-    static Lasting<DocumentObserver> deaf;
-    DocumentObserver* const observer = installed.load(std::memory_order_acquire);
-    return observer != nullptr ? *observer : *deaf;
+    static Lasting<DocumentObserver> silent;
+    DocumentObserver* const observer = installed.get();
+    return observer != nullptr ? *observer : *silent;
 }
 
 DocumentObserver* DocumentObserver::install(DocumentObserver* observer) noexcept {
-    return installed.exchange(observer, std::memory_order_acq_rel);
+    return installed.exchange(observer);
 }
 
 }  // namespace quillmark

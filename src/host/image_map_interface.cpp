@@ -1,21 +1,21 @@
 #include "host/image_map_interface.h"
 
-#include <atomic>
+#include "foundation/process_wide.h"
 
 namespace quillmark {
 
 namespace {
 
-std::atomic<CImageMapInterface*> installed{nullptr};
+constinit ProcessWide<CImageMapInterface*> installed;
 
 }  // namespace
 
 CImageMapInterface* CImageMapInterface::getInterface() noexcept {
-    return installed.load(std::memory_order_acquire);
+    return installed.get();
 }
 
 CImageMapInterface* CImageMapInterface::setInterface(CImageMapInterface* service) noexcept {
-    return installed.exchange(service, std::memory_order_acq_rel);
+    return installed.exchange(service);
 }
 
 }  // namespace quillmark

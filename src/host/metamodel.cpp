@@ -1,21 +1,21 @@
 #include "host/metamodel.h"
 
-#include <atomic>
+#include "foundation/process_wide.h"
 
 namespace quillmark {
 
 namespace {
 
-std::atomic<const MMSchema*> installed{nullptr};
+constinit ProcessWide<const MMSchema*> installed;
 
 }  // namespace
 
 const MMSchema* MMSchema::getSchema() noexcept {
-    return installed.load(std::memory_order_acquire);
+    return installed.get();
 }
 
 const MMSchema* MMSchema::setSchema(const MMSchema* schema) noexcept {
-    return installed.exchange(schema, std::memory_order_acq_rel);
+    return installed.exchange(schema);
 }
 
 }  // namespace quillmark

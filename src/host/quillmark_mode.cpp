@@ -1,21 +1,21 @@
 #include "host/quillmark_mode.h"
 
-#include <atomic>
+#include "foundation/process_wide.h"
 
 namespace quillmark {
 
 namespace {
 
-std::atomic<int> installedType{0};
+constinit ProcessWide<int> installedType;
 
 }  // namespace
 
 int CQuillmarkMode::GetSchemaType() noexcept {
-    return installedType.load();
+    return installedType.get();
 }
 
 void CQuillmarkMode::SetSchemaType(int schemaType) noexcept {
-    installedType.store(schemaType);
+    installedType.exchange(schemaType);
 }
 
 }  // namespace quillmark

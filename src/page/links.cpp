@@ -1,8 +1,7 @@
 #include "page/links.h"
 
-#include <mutex>
-
 #include "foundation/lasting.h"
+#include "foundation/process_wide.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 
@@ -10,13 +9,8 @@ namespace quillmark::links {
 
 namespace {
 
-struct DefaultBase {
-    std::mutex guard;
-    OrxString directory;
-};
-
-DefaultBase& theDefaultBase() {
-    static Lasting<DefaultBase> base;
+ProcessWide<OrxString>& processDefaultBase() {
+    static Lasting<ProcessWide<OrxString>> base;
     return *base;
 }
 
@@ -36,9 +30,7 @@ OrxString relativeFile(const OrxString& fileName, const OrxString& base) {
 }
 
 OrxString defaultBase() {
-    DefaultBase& base = theDefaultBase();
-    const std::scoped_lock lock(base.guard);
-    return base.directory;
+    return processDefaultBase().get();
 }
 
 OrxString baseOrDefault(const OrxString& directory) {
@@ -46,9 +38,7 @@ OrxString baseOrDefault(const OrxString& directory) {
 }
 
 void setDefaultBase(const OrxString& directory) {
-    DefaultBase& base = theDefaultBase();
-    const std::scoped_lock lock(base.guard);
-    base.directory = directory;
+    processDefaultBase().exchange(directory);
 }
 
 }  // namespace quillmark::links

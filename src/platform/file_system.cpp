@@ -1,22 +1,22 @@
 #include "platform/file_system.h"
 
-#include <atomic>
+#include "foundation/process_wide.h"
 
 namespace quillmark {
 
 namespace {
 
-std::atomic<FileSystem*> installed{nullptr};
+constinit ProcessWide<FileSystem*> installed;
 
 }  // namespace
 
 FileSystem& FileSystem::current() noexcept {
-    FileSystem* const fileSystem = installed.load(std::memory_order_acquire);
+    FileSystem* const fileSystem = installed.get();
     return fileSystem != nullptr ? *fileSystem : native();
 }
 
 FileSystem* FileSystem::install(FileSystem* fileSystem) noexcept {
-    return installed.exchange(fileSystem, std::memory_order_acq_rel);
+    return installed.exchange(fileSystem);
 }
 
 }  // namespace quillmark

@@ -17,7 +17,7 @@
 
 namespace quillmark {
 
-std::atomic<TraceListener*> Trace::listener_{nullptr};
+constinit ProcessWide<TraceListener*> Trace::listener_;
 
 /// One log file of the process, shared by every trace that has it open.
 class Trace::Log {
@@ -163,14 +163,14 @@ void Trace::write(int level, std::string_view text) const {
     if (level <= level_ && hasLog()) {
         stream_->write(text);
     }
-    TraceListener* const listener = listener_.load(std::memory_order_acquire);
+    TraceListener* const listener = listener_.get();
     if (listener != nullptr && level <= listener->level()) {
         listener->line(level, text);
     }
 }
 
 TraceListener* Trace::setListener(TraceListener* listener) noexcept {
-    return listener_.exchange(listener, std::memory_order_acq_rel);
+    return listener_.exchange(listener);
 }
 
 }  // namespace quillmark

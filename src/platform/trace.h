@@ -1,10 +1,10 @@
 #pragma once
 
-#include <atomic>
 #include <memory>
 #include <string_view>
 
 #include "foundation/orx_string.h"
+#include "foundation/process_wide.h"
 
 namespace quillmark {
 
@@ -65,12 +65,12 @@ private:
     class Stream;
 
     static bool listenerHears(int level) noexcept {
-        const TraceListener* const listener = listener_.load(std::memory_order_acquire);
+        const TraceListener* const listener = listener_.get();
         return listener != nullptr && level <= listener->level();
     }
     [[nodiscard]] bool hasLog() const noexcept;
 
-    static std::atomic<TraceListener*> listener_;
+    static ProcessWide<TraceListener*> listener_;
     std::shared_ptr<Stream> stream_;
     int level_ = 0;
 };

@@ -1,41 +1,28 @@
 #include "settings/register_base.h"
 
-#include <mutex>
 #include <optional>
 #include <utility>
 
 #include "foundation/lasting.h"
+#include "foundation/process_wide.h"
 
 namespace quillmark {
 
 namespace {
 
-struct StoreSlot {
-    std::mutex mutex;
-    std::shared_ptr<SettingsStore> store;
-};
-
-StoreSlot& storeSlot() {
-    static Lasting<StoreSlot> slot;
-    return *slot;
+ProcessWide<std::shared_ptr<SettingsStore>>& storeInForce() {
+    static Lasting<ProcessWide<std::shared_ptr<SettingsStore>>> store;
+    return *store;
 }
 
 }  // namespace
 
 std::shared_ptr<SettingsStore> RegisterBase::store() {
-    StoreSlot& slot = storeSlot();
-    const std::lock_guard lock(slot.mutex);
-    if (slot.store == nullptr) {
-        slot.store = makeUserSettingsStore();
-    }
-    return slot.store;
+    return storeInForce().getOrMake(makeUserSettingsStore);
 }
 
 void RegisterBase::setStore(std::shared_ptr<SettingsStore> store) {
-    StoreSlot& slot = storeSlot();
-    const std::lock_guard lock(slot.mutex);
-    // The old store goes after the lock is let go: its end is none of the slot's business.
-    std::swap(slot.store, store);
+    storeInForce().exchange(std::move(store));
 }
 
 RegEntry RegisterBase::readStored(const OrxString& group, const OrxString& name,

@@ -1,24 +1,21 @@
 #include "driver/text/element_handle.h"
 
-#include <atomic>
+#include "foundation/process_wide.h"
 
 namespace quillmark {
 
 namespace {
 
-std::atomic<std::uint32_t>& lowHalf() noexcept {
-    static std::atomic<std::uint32_t> low{0};
-    return low;
-}
+constinit ProcessWide<std::uint32_t> lowHalf;
 
 }  // namespace
 
 void ElementHandle::setLowHalf(std::uint32_t low) {
-    lowHalf().store(low);
+    lowHalf.exchange(low);
 }
 
 std::uint64_t ElementHandle::joinHighHalf(std::uint32_t high) {
-    return (std::uint64_t{high} << 32U) | lowHalf().exchange(0);
+    return (std::uint64_t{high} << 32U) | lowHalf.exchange(0);
 }
 
 }  // namespace quillmark
