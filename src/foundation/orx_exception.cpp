@@ -1,6 +1,6 @@
 #include "foundation/orx_exception.h"
 
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 #include "foundation/process_wide.h"
 
 namespace quillmark {
@@ -14,7 +14,7 @@ public:
 };
 
 SilentLog& silentLog() noexcept {
-    static Lasting<SilentLog> log;
+    static ModuleLifetime<SilentLog> log;
     return *log;
 }
 

@@ -1,6 +1,6 @@
 #include "host/document_observer.h"
 
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 #include "foundation/process_wide.h"
 
 namespace quillmark {
@@ -12,7 +12,7 @@ constinit ProcessWide<DocumentObserver*> installed;
 }  // namespace
 
 DocumentObserver& DocumentObserver::current() noexcept {
-    static Lasting<DocumentObserver> silent;
+    static ModuleLifetime<DocumentObserver> silent;
     DocumentObserver* const observer = installed.get();
     return observer != nullptr ? *observer : *silent;
 }

@@ -7,7 +7,7 @@
 #include "page/html_head.h"
 #include "page/link_attribute.h"
 #include "page/links.h"
-#include "page/mark_table.h"
+#include "page/open_marks.h"
 #include "page/splice_text.h"
 #include "platform/signal_to_exception.h"
 #include "platform/sys_file.h"
@@ -28,7 +28,7 @@ struct DocHtmlPage::Record {
     OrxString styleSheetLink;
     OrxString headExtra;
     OrxString fileName;
-    MarkTable marks;
+    OpenMarks marks;
     SpliceText::MarkId insertPoint = SpliceText::none;
     Trace trace;
 
@@ -41,7 +41,7 @@ struct DocHtmlPage::Record {
 void DocHtmlPage::Record::fillMark(SpliceText::MarkId mark, std::string_view name,
                                    std::string_view reference) {
     const auto place = LinkAttribute::placeIn(text.markup(mark), name);
-    if (place.isThere()) {
+    if (place.isFound()) {
         text.fill(mark, place.start, place.length,
                   {LinkAttribute::opening, reference, LinkAttribute::end});
     } else {

@@ -15,7 +15,7 @@ struct LinkAttribute {
         std::size_t start = std::string_view::npos;
         std::size_t length = 0;
 
-        [[nodiscard]] bool isThere() const noexcept { return start != std::string_view::npos; }
+        [[nodiscard]] bool isFound() const noexcept { return start != std::string_view::npos; }
     };
 
     /// The name's first occurrence in the markup, wherever it stands, in the tag's own letters

@@ -1,6 +1,6 @@
 #include "page/links.h"
 
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 #include "foundation/process_wide.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
@@ -10,7 +10,7 @@ namespace quillmark::links {
 namespace {
 
 ProcessWide<OrxString>& processDefaultBase() {
-    static Lasting<ProcessWide<OrxString>> base;
+    static ModuleLifetime<ProcessWide<OrxString>> base;
     return *base;
 }
 

@@ -14,9 +14,9 @@ public:
     /// Where the running program lies: a name of the system's own (UTF-8), empty when unknown.
     [[nodiscard]] static std::string executablePath();
     /// Whether somebody watches standard error.
-    [[nodiscard]] static bool errorsAreWatched() noexcept;
+    [[nodiscard]] static bool errorsGoToTerminal() noexcept;
     /// Makes standard input hand out bytes as they come, on systems that change line ends.
-    static void readBytes() noexcept;
+    static void readInputAsBytes() noexcept;
 };
 
 }  // namespace quillmark

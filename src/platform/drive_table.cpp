@@ -10,7 +10,7 @@
 #include <shared_mutex>
 
 #include "foundation/ascii.h"
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 
 namespace quillmark {
 
@@ -26,7 +26,7 @@ struct Table {
 };
 
 Table& table() {
-    static Lasting<Table> instance;
+    static ModuleLifetime<Table> instance;
     return *instance;
 }
 

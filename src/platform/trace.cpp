@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 #include "foundation/orx_exception.h"
 #include "platform/file_system.h"
 #include "platform/line_end.h"
@@ -130,7 +130,7 @@ private:
 
 template <typename T>
 Registry<T>& registry() {
-    static Lasting<Registry<T>> instance;
+    static ModuleLifetime<Registry<T>> instance;
     return *instance;
 }
 

@@ -62,7 +62,7 @@ public:
         if (state_ == State::unreadable) {
             return "Cannot read the settings file " + fileName_;
         }
-        const std::optional<std::size_t> line = ini_.firstOddLine();
+        const std::optional<std::size_t> line = ini_.firstUnknownLine();
         if (!line) {
             return {};
         }

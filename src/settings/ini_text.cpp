@@ -131,7 +131,7 @@ std::string IniText::text() const {
     return result;
 }
 
-std::optional<std::size_t> IniText::firstOddLine() const {
+std::optional<std::size_t> IniText::firstUnknownLine() const {
     const auto odd = std::ranges::find_if(lines_, [](std::string_view line) {
         const bool known = trimmed(line).empty() || isComment(line) ||
                            trimmed(line).starts_with('#') || sectionName(line) || keyOf(line);

@@ -28,7 +28,7 @@ public:
     [[nodiscard]] std::string text() const;
     /// The number (from 1) of the first line that is none of section, key, comment (with "#" too)
     /// or blank.
-    [[nodiscard]] std::optional<std::size_t> firstOddLine() const;
+    [[nodiscard]] std::optional<std::size_t> firstUnknownLine() const;
 
 private:
     /// Where a section's lines lie: behind its head up to the next section or the end.

@@ -3,7 +3,7 @@
 #include <optional>
 #include <utility>
 
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 #include "foundation/process_wide.h"
 
 namespace quillmark {
@@ -11,7 +11,7 @@ namespace quillmark {
 namespace {
 
 ProcessWide<std::shared_ptr<SettingsStore>>& storeInForce() {
-    static Lasting<ProcessWide<std::shared_ptr<SettingsStore>>> store;
+    static ModuleLifetime<ProcessWide<std::shared_ptr<SettingsStore>>> store;
     return *store;
 }
 

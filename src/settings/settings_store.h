@@ -33,6 +33,6 @@ public:
 [[nodiscard]] std::shared_ptr<SettingsStore> makeUserSettingsStore();
 
 /// Where `makeUserSettingsStore` keeps its values, for a person to read.
-[[nodiscard]] OrxString userSettingsPlace();
+[[nodiscard]] OrxString userSettingsLocation();
 
 }  // namespace quillmark

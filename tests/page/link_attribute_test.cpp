@@ -7,7 +7,7 @@ namespace {
 
 TEST(LinkAttribute, StandsWhereTheNameComesFirst) {
     const auto place = LinkAttribute::placeIn("<A GUID-1>", "GUID-1");
-    EXPECT_TRUE(place.isThere());
+    EXPECT_TRUE(place.isFound());
     EXPECT_EQ(place.start, 3U);
     EXPECT_EQ(place.length, 6U);
     EXPECT_EQ(LinkAttribute::placeIn("<A x x>", "x").start, 3U);
@@ -21,14 +21,14 @@ TEST(LinkAttribute, IsFoundInTheTagsOwnLettersToo) {
 
 TEST(LinkAttribute, IsAllThatAnEmptyMarkupHolds) {
     const auto place = LinkAttribute::placeIn("", "GUID-1");
-    EXPECT_TRUE(place.isThere());
+    EXPECT_TRUE(place.isFound());
     EXPECT_EQ(place.start, 0U);
     EXPECT_EQ(place.length, 0U);
 }
 
 TEST(LinkAttribute, HasNoPlaceInTheEndOfALink) {
-    EXPECT_FALSE(LinkAttribute::placeIn("</A>", "GUID-1").isThere());
-    EXPECT_FALSE(LinkAttribute::placeIn("</A>", "a").isThere());
+    EXPECT_FALSE(LinkAttribute::placeIn("</A>", "GUID-1").isFound());
+    EXPECT_FALSE(LinkAttribute::placeIn("</A>", "a").isFound());
 }
 
 }  // namespace

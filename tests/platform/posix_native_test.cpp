@@ -191,10 +191,10 @@ TEST(UserConfiguration, LiesWhereTheEnvironmentSays) {
     {
         const EnvironmentVariable config("XDG_CONFIG_HOME", "/conf/");
         EXPECT_EQ(system_facts::userConfigurationDirectory(), "\\conf");
-        EXPECT_EQ(userSettingsPlace(), "/conf/quillmark/settings.ini");
+        EXPECT_EQ(userSettingsLocation(), "/conf/quillmark/settings.ini");
     }
     const EnvironmentVariable config("XDG_CONFIG_HOME", "relative");
-    EXPECT_EQ(userSettingsPlace(), "/home/me/.config/quillmark/settings.ini");
+    EXPECT_EQ(userSettingsLocation(), "/home/me/.config/quillmark/settings.ini");
 }
 
 TEST(UserConfiguration, KeepsTheUsersSettings) {

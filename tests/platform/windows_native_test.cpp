@@ -88,7 +88,7 @@ TEST_F(UserStore, KeepsTextsInTheUsersBranchOfTheRegistry) {
     EXPECT_TRUE(store->write(group, "Name", ""));
     EXPECT_EQ(store->read(group, "Name"), "");
     EXPECT_EQ(store->problem(), "");
-    EXPECT_EQ(userSettingsPlace(), "HKEY_CURRENT_USER\\Software\\Zorvane\\Quillmark");
+    EXPECT_EQ(userSettingsLocation(), "HKEY_CURRENT_USER\\Software\\Zorvane\\Quillmark");
 }
 
 TEST_F(UserStore, KeepsATextOfAnyLength) {

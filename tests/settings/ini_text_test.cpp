@@ -124,10 +124,10 @@ TEST(IniChange, RefusesWhatAnIniFileCannotHold) {
 }
 
 TEST(IniOddLine, IsTheFirstThatIsNothingKnown) {
-    EXPECT_EQ(IniText("; c\n# c\n\n[S]\nK=1\n").firstOddLine(), std::nullopt);
-    EXPECT_EQ(IniText("[S]\nK=1\nwhat\n").firstOddLine(), 3U);
-    EXPECT_EQ(IniText("[S\n").firstOddLine(), 1U);
-    EXPECT_EQ(IniText(std::string_view("[S]\nK=\0\n", 8)).firstOddLine(), 2U);
+    EXPECT_EQ(IniText("; c\n# c\n\n[S]\nK=1\n").firstUnknownLine(), std::nullopt);
+    EXPECT_EQ(IniText("[S]\nK=1\nwhat\n").firstUnknownLine(), 3U);
+    EXPECT_EQ(IniText("[S\n").firstUnknownLine(), 1U);
+    EXPECT_EQ(IniText(std::string_view("[S]\nK=\0\n", 8)).firstUnknownLine(), 2U);
 }
 
 }  // namespace

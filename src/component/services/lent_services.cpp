@@ -5,14 +5,14 @@
 #include "component/services/lent_model.h"
 #include "component/services/lent_text.h"
 #include "foundation/ascii.h"
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 #include "host/quillmark_mode.h"
 #include "platform/drive_table.h"
 #include "settings/register_base.h"
 
 namespace quillmark {
 LentServices& LentServices::module() {
-    static Lasting<LentServices> services;
+    static ModuleLifetime<LentServices> services;
     return *services;
 }
 

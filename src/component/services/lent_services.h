@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "dochtml/callbacks.h"
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 #include "foundation/orx_exception.h"
 #include "host/app_profile_interface.h"
 #include "host/document_observer.h"
@@ -43,7 +43,7 @@ public:
     [[nodiscard]] std::size_t retiredCount() const;
 
 private:
-    friend class Lasting<LentServices>;
+    friend class ModuleLifetime<LentServices>;
 
     LentServices() = default;
     /// When the library is unloaded nothing lent may be looked at any more.

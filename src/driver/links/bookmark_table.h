@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "foundation/name_index.h"
+#include "foundation/name_table.h"
 #include "foundation/orx_counted_ptr.h"
 #include "foundation/orx_string.h"
 #include "foundation/pooled_lists.h"
@@ -26,8 +26,8 @@ struct WaitingPage {
 /// wins. A bookmark takes only a few words of memory, because its reference is not stored.
 class BookmarkTable {
 public:
-    using Id = NameIndex::Id;
-    static constexpr Id unknown = NameIndex::none;
+    using Id = NameTable::Id;
+    static constexpr Id unknown = NameTable::none;
 
     /// Returns the bookmark with that name and adds it when it is new. Asking for the same name
     /// twice in a row is fast, because a link asks at its start and at its end.
@@ -68,9 +68,9 @@ private:
         PooledLists<WaitingPage>::List waiting;
     };
 
-    NameIndex names_;
+    NameTable names_;
     std::vector<Record> records_;
-    PackedTexts pageFiles_;
+    PackedStrings pageFiles_;
     PooledLists<WaitingPage> waiting_;
     Id lastAdded_ = unknown;
 };

@@ -89,7 +89,7 @@ void BookmarkWriter::reference(std::string_view name, std::string_view markup) {
 void BookmarkWriter::writeReference(std::string_view name, std::string_view markup,
                                     std::string_view reference) {
     const auto place = LinkAttribute::placeIn(markup, name);
-    if (!place.isThere()) {
+    if (!place.isFound()) {
         out_.writeOut(markup);
         return;
     }

@@ -16,10 +16,10 @@ std::string Console::executablePath() {
     return std::filesystem::read_symlink("/proc/self/exe", failure).string();
 }
 
-bool Console::errorsAreWatched() noexcept {
+bool Console::errorsGoToTerminal() noexcept {
     return isatty(STDERR_FILENO) == 1;
 }
 
-void Console::readBytes() noexcept {}
+void Console::readInputAsBytes() noexcept {}
 
 }  // namespace quillmark

@@ -10,7 +10,7 @@
 #include <system_error>
 #include <utility>
 
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 #include "platform/drive_table.h"
 #include "platform/file_system.h"
 #include "platform/posix/descriptor_io.h"
@@ -227,7 +227,7 @@ public:
 }  // namespace
 
 FileSystem& FileSystem::native() noexcept {
-    static Lasting<NativeFileSystem> fileSystem;
+    static ModuleLifetime<NativeFileSystem> fileSystem;
     return *fileSystem;
 }
 

@@ -10,7 +10,7 @@
 #include <utility>
 #include <vector>
 
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 #include "foundation/orx_exception.h"
 
 namespace quillmark {
@@ -176,7 +176,7 @@ private:
 };
 
 Installation& installation() {
-    static Lasting<Installation> instance;
+    static ModuleLifetime<Installation> instance;
     return *instance;
 }
 

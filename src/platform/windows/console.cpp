@@ -37,11 +37,11 @@ std::string Console::executablePath() {
     return utf8From(moduleFileName(nullptr));
 }
 
-bool Console::errorsAreWatched() noexcept {
+bool Console::errorsGoToTerminal() noexcept {
     return _isatty(_fileno(stderr)) != 0;
 }
 
-void Console::readBytes() noexcept {
+void Console::readInputAsBytes() noexcept {
     _setmode(_fileno(stdin), _O_BINARY);
 }
 

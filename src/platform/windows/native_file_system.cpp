@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 #include "platform/file_system.h"
 #include "platform/windows/native_file.h"
 #include "platform/windows/wide_name.h"
@@ -166,7 +166,7 @@ public:
 }  // namespace
 
 FileSystem& FileSystem::native() noexcept {
-    static Lasting<NativeFileSystem> fileSystem;
+    static ModuleLifetime<NativeFileSystem> fileSystem;
     return *fileSystem;
 }
 

@@ -170,7 +170,7 @@ std::string Player::describe(std::size_t line) const {
 /// that the host made. A line that the recording does not have is passed over, so that the lines
 /// behind it still find their own.
 ReadResult Player::consumeRecordedLines(CallSource& source, Call& call) {
-    const PackedTexts& heard = trace_.calls();
+    const PackedStrings& heard = trace_.calls();
     const auto tell = [this](std::size_t line, const std::string& how) {
         if (listeners_.diverged) {
             listeners_.diverged(line, how);

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "foundation/orx_exception.h"
-#include "foundation/packed_texts.h"
+#include "foundation/packed_strings.h"
 #include "host/document_observer.h"
 #include "platform/trace.h"
 
@@ -23,13 +23,13 @@ public:
     void line(int level, std::string_view text) override;
 
     /// The call lines since `forgetCalls`, without their line ends.
-    [[nodiscard]] const PackedTexts& calls() const noexcept { return calls_; }
+    [[nodiscard]] const PackedStrings& calls() const noexcept { return calls_; }
     void forgetCalls() noexcept { calls_.clear(); }
     [[nodiscard]] std::size_t warnings() const noexcept { return warnings_; }
 
 private:
     bool keepsCalls_;
-    PackedTexts calls_;
+    PackedStrings calls_;
     std::size_t warnings_ = 0;
 };
 

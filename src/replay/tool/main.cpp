@@ -7,11 +7,11 @@
 int main(int argc, char** argv) {
     using quillmark::Console;
     std::ios::sync_with_stdio(false);
-    Console::readBytes();
+    Console::readInputAsBytes();
     quillmark::replay::LoadedComponent component(Console::executablePath());
     return quillmark::replay::runTool(
         Console::arguments(argc, argv),
-        {std::cin, std::cout, std::cerr, Console::errorsAreWatched(), Console::executablePath(),
+        {std::cin, std::cout, std::cerr, Console::errorsGoToTerminal(), Console::executablePath(),
          [&component] { return component.makeDocument(); },
          [&component](const quillmark::replay::HostServices& services) {
              return component.lend(services);

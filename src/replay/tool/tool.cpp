@@ -32,7 +32,7 @@ public:
           drives_(files_.allDrives()),
           inputs_(options.inputs, around.input),
           services_(options, files_, around.executable),
-          messages_(around.errors, around.errorsAreWatched && !options.quiet),
+          messages_(around.errors, around.errorsGoToTerminal && !options.quiet),
           trace_(inputs_.hasRecording()),
           exceptions_([this](std::string_view reason) { tellError(SysText::toUtf8(reason)); },
                       exceptionWriter()) {}

@@ -17,7 +17,7 @@ struct Surroundings {
     std::istream& input;
     std::ostream& output;
     std::ostream& errors;
-    bool errorsAreWatched = false;
+    bool errorsGoToTerminal = false;
     /// Where the program lies (UTF-8); the support files are found from there.
     std::string executable;
     DocumentMaker makeDocument;

@@ -3,7 +3,7 @@
 
 namespace quillmark {
 
-OrxString userSettingsPlace() {
+OrxString userSettingsLocation() {
     // With the system's own separator: the name is for a person, and for the store it is the same.
     return system_facts::userConfigurationDirectory()
         .append("/quillmark/settings.ini")
@@ -11,7 +11,7 @@ OrxString userSettingsPlace() {
 }
 
 std::shared_ptr<SettingsStore> makeUserSettingsStore() {
-    return makeIniSettingsStore(userSettingsPlace());
+    return makeIniSettingsStore(userSettingsLocation());
 }
 
 }  // namespace quillmark

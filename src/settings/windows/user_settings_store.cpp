@@ -76,7 +76,7 @@ public:
 
 }  // namespace
 
-OrxString userSettingsPlace() {
+OrxString userSettingsLocation() {
     return OrxString("HKEY_CURRENT_USER\\") + userKey;
 }
 

@@ -5,7 +5,7 @@
 
 int main(int argc, char** argv) {
     using quillmark::Console;
-    Console::readBytes();
+    Console::readInputAsBytes();
     return static_cast<int>(
         quillmark::runSettingsTool(Console::arguments(argc, argv),
                                    {std::cin, std::cout, std::cerr, Console::executablePath()}));

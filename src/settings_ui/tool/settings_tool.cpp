@@ -59,7 +59,7 @@ ToolStatus runCommand(const ToolOptions& options, const ToolSurroundings& around
         return ToolStatus::failed;
     }
     const std::string place =
-        options.settingsFile ? *options.settingsFile : SysText::toUtf8(userSettingsPlace());
+        options.settingsFile ? *options.settingsFile : SysText::toUtf8(userSettingsLocation());
     const bool accepted = SettingsCommands(*store, place, around).run(options);
     for (const OrxString& name : store->failures()) {
         tell(around.errors, "cannot write " + SysText::toUtf8(name) + " to " + place);

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "foundation/name_index.h"
+#include "foundation/name_table.h"
 #include "foundation/pooled_lists.h"
 #include "page/splice_text.h"
 
@@ -14,14 +14,14 @@ namespace quillmark {
 
 /// The names of a page's open marks: a multimap from a name to marks, equal names in the order
 /// of their making.
-class MarkTable {
+class OpenMarks {
 public:
     using MarkId = SpliceText::MarkId;
     /// The table's own number of a name. Told with the name again it spares the search; one that
     /// is another name's, or no name's, does no harm.
-    using NameId = NameIndex::Id;
+    using NameId = NameTable::Id;
 
-    NameId add(std::string_view name, MarkId mark, NameId hint = NameIndex::none);
+    NameId add(std::string_view name, MarkId mark, NameId hint = NameTable::none);
     /// Number of open marks of all names.
     [[nodiscard]] std::size_t size() const noexcept { return open_; }
     /// The first open mark of the name, or `SpliceText::none`.
@@ -29,7 +29,7 @@ public:
     /// Removes the marks of the name and hands each to `each(MarkId)`, in the order of their
     /// making.
     template <typename Each>
-    void take(std::string_view name, const Each& each, NameId hint = NameIndex::none);
+    void take(std::string_view name, const Each& each, NameId hint = NameTable::none);
     /// Every open mark, in name order.
     void forEach(const std::function<void(std::string_view name, MarkId)>& each) const;
     void clear() noexcept;
@@ -45,16 +45,16 @@ private:
     /// The number of the name, which gets one when it is new.
     NameId idOf(std::string_view name, NameId hint);
 
-    NameIndex names_;
+    NameTable names_;
     std::vector<Marks::List> lists_;  // by the name's number
     Marks marks_;
     std::size_t open_ = 0;
 };
 
 template <typename Each>
-void MarkTable::take(std::string_view name, const Each& each, NameId hint) {
+void OpenMarks::take(std::string_view name, const Each& each, NameId hint) {
     const NameId id = isNameOf(hint, name) ? hint : names_.find(name);
-    if (id == NameIndex::none) {
+    if (id == NameTable::none) {
         return;
     }
     marks_.take(lists_[id], [&](MarkId mark) {

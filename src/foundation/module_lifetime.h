@@ -6,25 +6,25 @@
 
 namespace quillmark {
 
-/// Keeps what is to go with the module in a list; see `Lasting`.
-class LastingEntry {
+/// Keeps what is to go with the module in a list; see `ModuleLifetime`.
+class ModuleLifetimeEntry {
 public:
-    LastingEntry() = default;
-    LastingEntry(const LastingEntry&) = delete;
-    LastingEntry& operator=(const LastingEntry&) = delete;
+    ModuleLifetimeEntry() = default;
+    ModuleLifetimeEntry(const ModuleLifetimeEntry&) = delete;
+    ModuleLifetimeEntry& operator=(const ModuleLifetimeEntry&) = delete;
 
 protected:
-    ~LastingEntry() = default;
+    ~ModuleLifetimeEntry() = default;
 
-    using Destroy = void (*)(LastingEntry& entry) noexcept;
+    using Destroy = void (*)(ModuleLifetimeEntry& entry) noexcept;
 
     void enlist(Destroy destroy) noexcept;
 
 private:
-    friend class LastingList;
+    friend class ModuleLifetimeList;
 
     Destroy destroy_ = nullptr;
-    LastingEntry* next_ = nullptr;
+    ModuleLifetimeEntry* next_ = nullptr;
 };
 
 /// Holds a static object of the driver in the place of the object itself. An ordinary static made
@@ -33,17 +33,19 @@ private:
 /// unloaded, or after all that the process has left to its exit.
 ///
 ///     Table& table() {
-///         static Lasting<Table> instance;
+///         static ModuleLifetime<Table> instance;
 ///         return *instance;
 ///     }
 ///
 /// Those of a module go in the reverse order of their making. Use it for statics only.
 template <typename T>
-class Lasting : private LastingEntry {
+class ModuleLifetime : private ModuleLifetimeEntry {
 public:
-    Lasting() {
+    ModuleLifetime() {
         new (room_.data()) T();
-        enlist([](LastingEntry& entry) noexcept { (*static_cast<Lasting&>(entry)).~T(); });
+        enlist([](ModuleLifetimeEntry& entry) noexcept {
+            (*static_cast<ModuleLifetime&>(entry)).~T();
+        });
     }
 
     [[nodiscard]] T& operator*() noexcept {

@@ -10,7 +10,7 @@ namespace quillmark {
 
 /// A growing list of texts in one block of memory: eight bytes a text besides its own, so that
 /// a document of hundreds of thousands of names stays small. A view lives until the next `add`.
-class PackedTexts {
+class PackedStrings {
 public:
     /// Returns the index of the text, counted from 0.
     std::uint32_t add(std::string_view text) {

@@ -1,4 +1,4 @@
-#include "page/mark_table.h"
+#include "page/open_marks.h"
 
 #include <gtest/gtest.h>
 
@@ -8,32 +8,32 @@
 namespace quillmark {
 namespace {
 
-using MarkIds = std::vector<MarkTable::MarkId>;
+using MarkIds = std::vector<OpenMarks::MarkId>;
 
-MarkIds taken(MarkTable& table, std::string_view name) {
+MarkIds taken(OpenMarks& table, std::string_view name) {
     MarkIds marks;
-    table.take(name, [&](MarkTable::MarkId mark) { marks.push_back(mark); });
+    table.take(name, [&](OpenMarks::MarkId mark) { marks.push_back(mark); });
     return marks;
 }
 
-std::string listed(const MarkTable& table) {
+std::string listed(const OpenMarks& table) {
     std::string all;
-    table.forEach([&](std::string_view name, MarkTable::MarkId mark) {
+    table.forEach([&](std::string_view name, OpenMarks::MarkId mark) {
         all.append(name).append("=").append(std::to_string(mark)).append(" ");
     });
     return all;
 }
 
-TEST(MarkTable, IsEmptyAtFirst) {
-    MarkTable table;
+TEST(OpenMarks, IsEmptyAtFirst) {
+    OpenMarks table;
     EXPECT_EQ(table.size(), 0U);
     EXPECT_EQ(table.first("a"), SpliceText::none);
     EXPECT_EQ(taken(table, "a"), MarkIds{});
     EXPECT_EQ(listed(table), "");
 }
 
-TEST(MarkTable, HandsOutTheMarksOfANameInTheOrderOfTheirMaking) {
-    MarkTable table;
+TEST(OpenMarks, HandsOutTheMarksOfANameInTheOrderOfTheirMaking) {
+    OpenMarks table;
     table.add("a", 5);
     table.add("b", 4);
     table.add("a", 3);
@@ -46,8 +46,8 @@ TEST(MarkTable, HandsOutTheMarksOfANameInTheOrderOfTheirMaking) {
     EXPECT_EQ(taken(table, "a"), MarkIds{});
 }
 
-TEST(MarkTable, FindsANameByItsNumberAndByAWrongOneToo) {
-    MarkTable table;
+TEST(OpenMarks, FindsANameByItsNumberAndByAWrongOneToo) {
+    OpenMarks table;
     const auto a = table.add("a", 1);
     const auto b = table.add("b", 2);
     EXPECT_EQ(table.add("a", 3, a), a);
@@ -55,7 +55,7 @@ TEST(MarkTable, FindsANameByItsNumberAndByAWrongOneToo) {
     EXPECT_EQ(table.add("a", 5, 77), a);
     EXPECT_EQ(listed(table), "a=1 a=3 a=4 a=5 b=2 ");
     MarkIds marks;
-    const auto keep = [&](MarkTable::MarkId mark) { marks.push_back(mark); };
+    const auto keep = [&](OpenMarks::MarkId mark) { marks.push_back(mark); };
     table.take("a", keep, a);
     table.take("b", keep, a);
     table.take("c", keep, a);
@@ -67,8 +67,8 @@ TEST(MarkTable, FindsANameByItsNumberAndByAWrongOneToo) {
     EXPECT_EQ(listed(table), "c=6 ");
 }
 
-TEST(MarkTable, ListsNamesInTheOrderOfTheirBytes) {
-    MarkTable table;
+TEST(OpenMarks, ListsNamesInTheOrderOfTheirBytes) {
+    OpenMarks table;
     table.add("b", 1);
     table.add("\xe4", 2);
     table.add("B", 3);
@@ -78,8 +78,8 @@ TEST(MarkTable, ListsNamesInTheOrderOfTheirBytes) {
     EXPECT_EQ(listed(table), "=4 B=3 b=1 b=5 ba=6 \xe4=2 ");
 }
 
-TEST(MarkTable, TakesANameUpAgain) {
-    MarkTable table;
+TEST(OpenMarks, TakesANameUpAgain) {
+    OpenMarks table;
     table.add("a", 1);
     table.add("b", 2);
     static_cast<void>(taken(table, "a"));
@@ -88,17 +88,17 @@ TEST(MarkTable, TakesANameUpAgain) {
     EXPECT_EQ(listed(table), "a=4 b=2 b=3 ");
 }
 
-TEST(MarkTable, CountsWhileItHandsOut) {
-    MarkTable table;
+TEST(OpenMarks, CountsWhileItHandsOut) {
+    OpenMarks table;
     table.add("a", 1);
     table.add("a", 2);
     std::vector<std::size_t> sizes;
-    table.take("a", [&](MarkTable::MarkId) { sizes.push_back(table.size()); });
+    table.take("a", [&](OpenMarks::MarkId) { sizes.push_back(table.size()); });
     EXPECT_EQ(sizes, (std::vector<std::size_t>{1, 0}));
 }
 
-TEST(MarkTable, IsEmptyOnceCleared) {
-    MarkTable table;
+TEST(OpenMarks, IsEmptyOnceCleared) {
+    OpenMarks table;
     table.add("a", 1);
     table.clear();
     EXPECT_EQ(table.size(), 0U);
@@ -107,13 +107,13 @@ TEST(MarkTable, IsEmptyOnceCleared) {
     EXPECT_EQ(listed(table), "a=2 ");
 }
 
-TEST(MarkTable, KeepsTenThousandNamesApart) {
-    MarkTable table;
-    for (MarkTable::MarkId i = 0; i < 10000; ++i) {
+TEST(OpenMarks, KeepsTenThousandNamesApart) {
+    OpenMarks table;
+    for (OpenMarks::MarkId i = 0; i < 10000; ++i) {
         table.add(std::to_string(i), i);
         table.add(std::to_string(i), i + 10000);
     }
-    for (MarkTable::MarkId i = 0; i < 10000; ++i) {
+    for (OpenMarks::MarkId i = 0; i < 10000; ++i) {
         ASSERT_EQ(taken(table, std::to_string(i)), (MarkIds{i, i + 10000}));
     }
     EXPECT_EQ(table.size(), 0U);

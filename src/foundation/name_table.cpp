@@ -1,4 +1,4 @@
-#include "foundation/name_index.h"
+#include "foundation/name_table.h"
 
 #include <algorithm>
 #include <functional>
@@ -21,7 +21,7 @@ constexpr std::size_t firstTableSize = 16;
 
 }  // namespace
 
-std::size_t NameIndex::slotOf(std::string_view name, std::uint32_t hash) const noexcept {
+std::size_t NameTable::slotOf(std::string_view name, std::uint32_t hash) const noexcept {
     const std::size_t mask = slots_.size() - 1;
     std::size_t at = hash & mask;
     while (slots_[at].id != none && (slots_[at].hash != hash || names_[slots_[at].id] != name)) {
@@ -30,7 +30,7 @@ std::size_t NameIndex::slotOf(std::string_view name, std::uint32_t hash) const n
     return at;
 }
 
-NameIndex::Id NameIndex::findAmongFew(std::string_view name) const noexcept {
+NameTable::Id NameTable::findAmongFew(std::string_view name) const noexcept {
     for (Id id = 0; id < names_.size(); ++id) {
         if (names_[id] == name) {
             return id;
@@ -39,11 +39,11 @@ NameIndex::Id NameIndex::findAmongFew(std::string_view name) const noexcept {
     return none;
 }
 
-NameIndex::Id NameIndex::find(std::string_view name) const noexcept {
+NameTable::Id NameTable::find(std::string_view name) const noexcept {
     return slots_.empty() ? findAmongFew(name) : slots_[slotOf(name, hashOf(name))].id;
 }
 
-NameIndex::Id NameIndex::add(std::string_view name) {
+NameTable::Id NameTable::add(std::string_view name) {
     if (slots_.empty() && names_.size() < fewNames) {
         const Id found = findAmongFew(name);
         return found != none ? found : names_.add(name);
@@ -59,7 +59,7 @@ NameIndex::Id NameIndex::add(std::string_view name) {
     return slot.id;
 }
 
-void NameIndex::grow() {
+void NameTable::grow() {
     std::vector<Slot> old = std::exchange(slots_, {});
     if (old.empty()) {
         for (Id id = 0; id < names_.size(); ++id) {
@@ -80,7 +80,7 @@ void NameIndex::grow() {
     }
 }
 
-void NameIndex::clear() noexcept {
+void NameTable::clear() noexcept {
     names_.clear();
     slots_.clear();
 }

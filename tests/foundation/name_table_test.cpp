@@ -1,4 +1,4 @@
-#include "foundation/name_index.h"
+#include "foundation/name_table.h"
 
 #include <gtest/gtest.h>
 
@@ -7,8 +7,8 @@
 namespace quillmark {
 namespace {
 
-TEST(PackedTexts, KeepTextsInTheirOrder) {
-    PackedTexts texts;
+TEST(PackedStrings, KeepTextsInTheirOrder) {
+    PackedStrings texts;
     EXPECT_EQ(texts.size(), 0U);
     EXPECT_EQ(texts.add("one"), 0U);
     EXPECT_EQ(texts.add(""), 1U);
@@ -21,8 +21,8 @@ TEST(PackedTexts, KeepTextsInTheirOrder) {
     EXPECT_EQ(texts[3], "");
 }
 
-TEST(PackedTexts, BeginAgainOnceCleared) {
-    PackedTexts texts;
+TEST(PackedStrings, BeginAgainOnceCleared) {
+    PackedStrings texts;
     texts.add("one");
     texts.clear();
     EXPECT_EQ(texts.size(), 0U);
@@ -30,15 +30,15 @@ TEST(PackedTexts, BeginAgainOnceCleared) {
     EXPECT_EQ(texts[0], "two");
 }
 
-TEST(NameIndex, KnowsNoNameAtFirst) {
-    const NameIndex index;
+TEST(NameTable, KnowsNoNameAtFirst) {
+    const NameTable index;
     EXPECT_EQ(index.size(), 0U);
-    EXPECT_EQ(index.find("a"), NameIndex::none);
-    EXPECT_EQ(index.find(""), NameIndex::none);
+    EXPECT_EQ(index.find("a"), NameTable::none);
+    EXPECT_EQ(index.find(""), NameTable::none);
 }
 
-TEST(NameIndex, NumbersNamesAsTheyFirstCome) {
-    NameIndex index;
+TEST(NameTable, NumbersNamesAsTheyFirstCome) {
+    NameTable index;
     EXPECT_EQ(index.add("b"), 0U);
     EXPECT_EQ(index.add("a"), 1U);
     EXPECT_EQ(index.add("b"), 0U);
@@ -50,34 +50,34 @@ TEST(NameIndex, NumbersNamesAsTheyFirstCome) {
     EXPECT_EQ(index.name(2), "");
 }
 
-TEST(NameIndex, TellsNamesApartByEveryByte) {
-    NameIndex index;
+TEST(NameTable, TellsNamesApartByEveryByte) {
+    NameTable index;
     EXPECT_EQ(index.add("name"), 0U);
     EXPECT_EQ(index.add("Name"), 1U);
     EXPECT_EQ(index.add("name "), 2U);
     EXPECT_EQ(index.add(std::string_view("name\0", 5)), 3U);
-    EXPECT_EQ(index.find("nam"), NameIndex::none);
+    EXPECT_EQ(index.find("nam"), NameTable::none);
 }
 
-TEST(NameIndex, FindsEveryNameOfAHundredThousand) {
-    NameIndex index;
-    for (NameIndex::Id i = 0; i < 100000; ++i) {
+TEST(NameTable, FindsEveryNameOfAHundredThousand) {
+    NameTable index;
+    for (NameTable::Id i = 0; i < 100000; ++i) {
         ASSERT_EQ(index.add("name " + std::to_string(i)), i);
     }
-    for (NameIndex::Id i = 0; i < 100000; ++i) {
+    for (NameTable::Id i = 0; i < 100000; ++i) {
         ASSERT_EQ(index.find("name " + std::to_string(i)), i);
         ASSERT_EQ(index.name(i), "name " + std::to_string(i));
     }
-    EXPECT_EQ(index.find("name 100000"), NameIndex::none);
+    EXPECT_EQ(index.find("name 100000"), NameTable::none);
 }
 
-TEST(NameIndex, BeginsAgainOnceCleared) {
-    NameIndex index;
+TEST(NameTable, BeginsAgainOnceCleared) {
+    NameTable index;
     index.add("a");
     index.add("b");
     index.clear();
     EXPECT_EQ(index.size(), 0U);
-    EXPECT_EQ(index.find("a"), NameIndex::none);
+    EXPECT_EQ(index.find("a"), NameTable::none);
     EXPECT_EQ(index.add("b"), 0U);
 }
 

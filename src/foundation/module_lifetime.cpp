@@ -1,45 +1,45 @@
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 
 #include <atomic>
 
 namespace quillmark {
 
 /// The module's entries, the latest first.
-class LastingList {
+class ModuleLifetimeList {
 public:
-    void add(LastingEntry& entry) noexcept {
+    void add(ModuleLifetimeEntry& entry) noexcept {
         entry.next_ = first_.load(std::memory_order_relaxed);
         while (!first_.compare_exchange_weak(entry.next_, &entry, std::memory_order_acq_rel,
                                              std::memory_order_relaxed)) {
         }
     }
     void destroyAll() noexcept {
-        for (LastingEntry* entry = first_.exchange(nullptr); entry != nullptr;) {
-            LastingEntry* const next = entry->next_;
+        for (ModuleLifetimeEntry* entry = first_.exchange(nullptr); entry != nullptr;) {
+            ModuleLifetimeEntry* const next = entry->next_;
             entry->destroy_(*entry);
             entry = next;
         }
     }
 
 private:
-    std::atomic<LastingEntry*> first_{nullptr};
+    std::atomic<ModuleLifetimeEntry*> first_{nullptr};
 };
 
 namespace {
 
-constinit LastingList lastingList;
+constinit ModuleLifetimeList moduleLifetimeList;
 
 /// Functions of this kind run when the module is unloaded and, at the end of a process, after the
 /// destructors of static objects, whichever module those are from.
-[[gnu::destructor]] void destroyLasting() noexcept {
-    lastingList.destroyAll();
+[[gnu::destructor]] void destroyModuleObjects() noexcept {
+    moduleLifetimeList.destroyAll();
 }
 
 }  // namespace
 
-void LastingEntry::enlist(Destroy destroy) noexcept {
+void ModuleLifetimeEntry::enlist(Destroy destroy) noexcept {
     destroy_ = destroy;
-    lastingList.add(*this);
+    moduleLifetimeList.add(*this);
 }
 
 }  // namespace quillmark

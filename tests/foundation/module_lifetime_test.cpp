@@ -1,4 +1,4 @@
-#include "foundation/lasting.h"
+#include "foundation/module_lifetime.h"
 
 #include <gtest/gtest.h>
 
@@ -16,11 +16,11 @@ struct Counted {
 };
 
 Counted& counted() {
-    static Lasting<Counted> instance;
+    static ModuleLifetime<Counted> instance;
     return *instance;
 }
 
-TEST(Lasting, isMadeOnceWithItsContent) {
+TEST(ModuleLifetime, isMadeOnceWithItsContent) {
     EXPECT_EQ(counted().name, "counted, in memory of its own");
     EXPECT_EQ(counted().uses, 0);
     ++counted().uses;
@@ -28,8 +28,8 @@ TEST(Lasting, isMadeOnceWithItsContent) {
     counted().uses = 0;
 }
 
-TEST(Lasting, leavesNothingForTheExitOfTheProcessToDestroy) {
-    static_assert(std::is_trivially_destructible_v<Lasting<Counted>>);
+TEST(ModuleLifetime, leavesNothingForTheExitOfTheProcessToDestroy) {
+    static_assert(std::is_trivially_destructible_v<ModuleLifetime<Counted>>);
 }
 
 #if GTEST_HAS_DEATH_TEST
@@ -43,15 +43,15 @@ struct Told {
 };
 
 Told& first() {
-    static Lasting<Told> instance;
+    static ModuleLifetime<Told> instance;
     return *instance;
 }
 Told& second() {
-    static Lasting<Told> instance;
+    static ModuleLifetime<Told> instance;
     return *instance;
 }
 
-TEST(LastingDeathTest, outlivesWhatTheProcessHasLeftToItsExitAndGoesInReverseOrder) {
+TEST(ModuleLifetimeDeathTest, outlivesWhatTheProcessHasLeftToItsExitAndGoesInReverseOrder) {
     EXPECT_EXIT(
         {
             // Registered before they are made, so it runs after the end of an ordinary static.

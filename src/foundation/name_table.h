@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "foundation/packed_texts.h"
+#include "foundation/packed_strings.h"
 
 namespace quillmark {
 
@@ -14,7 +14,7 @@ namespace quillmark {
 /// A flat table with open addressing, made when the names are more than a few: finding a name
 /// costs one probe or two however many there are. Names are compared byte by byte; nothing is ever
 /// removed but by `clear`.
-class NameIndex {
+class NameTable {
 public:
     using Id = std::uint32_t;
     static constexpr Id none = 0xFFFFFFFF;
@@ -40,7 +40,7 @@ private:
     [[nodiscard]] std::size_t slotOf(std::string_view name, std::uint32_t hash) const noexcept;
     void grow();
 
-    PackedTexts names_;
+    PackedStrings names_;
     std::vector<Slot> slots_;  // none, or a power of two and at most three quarters full
 };
 
