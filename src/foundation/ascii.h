@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
-/// Letters as they are the same in every locale and code page: those of ASCII alone.
+/// ASCII letters and their case, the same in every locale and code page. Other characters are left
+/// unchanged.
 namespace quillmark::ascii {
 
 template <typename Character>

@@ -10,8 +10,8 @@ namespace quillmark::code_page {
 
 namespace {
 
-/// What the bytes 0x80 to 0x9F stand for. The five that have no character of their own stand for
-/// the control codes of the same value, as the system's own table has it.
+/// The characters of the bytes 0x80 to 0x9F. Five of these bytes are unassigned. They map to the
+/// control codes of the same value, as in the Windows table.
 constexpr std::array<char16_t, 32> upperControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
@@ -29,8 +29,8 @@ char narrowed(char16_t unit) noexcept {
 }  // namespace
 
 bool copyAscii(char* target, std::u16string_view text) noexcept {
-    // Whole blocks by way of a local one: a fixed count and no overlap with the source let the
-    // compiler turn the inner loop into a few vector instructions at any level of optimization.
+    // Whole blocks go through a local array. Its fixed size, and that it cannot overlap the source,
+    // let the compiler vectorize the inner loop at every optimization level.
     constexpr std::size_t block = 32;
     std::uint16_t seen = 0;
     std::size_t done = 0;

@@ -7,9 +7,11 @@
 
 namespace quillmark {
 
-/// The integer at the front of a text, as the C library's `atoi` reads it: blanks are skipped, a
-/// sign may come, the first other character ends it, no digits give 0. A number that an `int`
-/// cannot hold becomes the nearest one that it can.
+/// Reads the integer at the start of a text as the C library's `atoi` does: it skips white space,
+/// accepts a sign, and stops at the first character that is not a digit. Without digits the result
+/// is 0. A number outside the range of `std::int32_t` becomes the nearest number inside it.
+///
+///     leadingInteger(" -12 pages");   // -12
 [[nodiscard]] inline std::int32_t leadingInteger(std::string_view text) noexcept {
     const std::size_t start = text.find_first_not_of(" \t\n\v\f\r");
     if (start == std::string_view::npos) {

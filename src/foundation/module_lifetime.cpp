@@ -4,7 +4,7 @@
 
 namespace quillmark {
 
-/// The module's entries, the latest first.
+/// The entries of this module, newest first.
 class ModuleLifetimeList {
 public:
     void add(ModuleLifetimeEntry& entry) noexcept {
@@ -29,8 +29,8 @@ namespace {
 
 constinit ModuleLifetimeList moduleLifetimeList;
 
-/// Functions of this kind run when the module is unloaded and, at the end of a process, after the
-/// destructors of static objects, whichever module those are from.
+/// The loader calls this when the module is unloaded or, at process exit, after the destructors of
+/// the static objects of all modules.
 [[gnu::destructor]] void destroyModuleObjects() noexcept {
     moduleLifetimeList.destroyAll();
 }

@@ -6,7 +6,8 @@
 
 namespace quillmark {
 
-/// Keeps what is to go with the module in a list; see `ModuleLifetime`.
+/// The part of `ModuleLifetime` that does not depend on the type of its object: an entry in the
+/// list of objects to destroy.
 class ModuleLifetimeEntry {
 public:
     ModuleLifetimeEntry() = default;
@@ -27,17 +28,21 @@ private:
     ModuleLifetimeEntry* next_ = nullptr;
 };
 
-/// Holds a static object of the driver in the place of the object itself. An ordinary static made
-/// during a call is destroyed before the globals of a host, and one of these may be a document that
-/// writes its last page in its destructor. This one goes with the module: when the library is
-/// unloaded, or after all that the process has left to its exit.
+/// Wraps a static object so that it lives as long as the module (library or program) it is in. It
+/// is destroyed when the library is unloaded or, at process exit, after the static objects of all
+/// modules.
+///
+/// An ordinary static that is created during a call is destroyed before the global objects of the
+/// host. One of those may be a document, whose destructor writes its last page and still needs the
+/// static.
 ///
 ///     Table& table() {
 ///         static ModuleLifetime<Table> instance;
 ///         return *instance;
 ///     }
 ///
-/// Those of a module go in the reverse order of their making. Use it for statics only.
+/// The objects of a module are destroyed in the reverse order of their creation. Use this for
+/// static objects only.
 template <typename T>
 class ModuleLifetime : private ModuleLifetimeEntry {
 public:

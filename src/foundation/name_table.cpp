@@ -8,14 +8,14 @@ namespace quillmark {
 
 namespace {
 
-/// Only the place in the table depends on it, never anything that is written.
+/// The hash decides the slot in the table and never affects the output.
 std::uint32_t hashOf(std::string_view name) noexcept {
     const std::size_t hash = std::hash<std::string_view>{}(name);
     return static_cast<std::uint32_t>(hash ^ (hash >> 31U));
 }
 
-/// Up to here names are looked through one by one, and no table is held for them: most indexes
-/// are those of pages with a link or two.
+/// Up to this many names are searched one by one, without a hash table. Most name tables belong to
+/// pages with one or two links.
 constexpr std::size_t fewNames = 8;
 constexpr std::size_t firstTableSize = 16;
 
@@ -78,11 +78,6 @@ void NameTable::grow() {
         }
         slots_[at] = slot;
     }
-}
-
-void NameTable::clear() noexcept {
-    names_.clear();
-    slots_.clear();
 }
 
 }  // namespace quillmark

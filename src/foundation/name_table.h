@@ -9,25 +9,23 @@
 
 namespace quillmark {
 
-/// Gives every distinct name a small number, in the order in which the names first come.
+/// Assigns an id to every distinct name: 0 to the first name added, 1 to the next, and so on.
 ///
-/// A flat table with open addressing, made when the names are more than a few: finding a name
-/// costs one probe or two however many there are. Names are compared byte by byte; nothing is ever
-/// removed but by `clear`.
+/// Names are compared byte by byte and are never removed. A hash table with open addressing keeps
+/// the cost of a search constant. It is built when there are more than a few names.
 class NameTable {
 public:
     using Id = std::uint32_t;
     static constexpr Id none = 0xFFFFFFFF;
 
-    /// The number of the name, or `none`.
+    /// The id of the name, or `none`.
     [[nodiscard]] Id find(std::string_view name) const noexcept;
-    /// The number of the name, given to it now when it is new.
+    /// The id of the name. A new name gets the next id.
     Id add(std::string_view name);
-    /// The name of a number; the view lives until the next `add`.
+    /// The name with this id. The view is valid until the next `add`.
     [[nodiscard]] std::string_view name(Id id) const noexcept { return names_[id]; }
     [[nodiscard]] std::size_t size() const noexcept { return names_.size(); }
-    void clear() noexcept;
-    /// Gives back memory held for growth.
+    /// Releases memory reserved for growth.
     void compact() { names_.compact(); }
 
 private:
@@ -41,7 +39,7 @@ private:
     void grow();
 
     PackedStrings names_;
-    std::vector<Slot> slots_;  // none, or a power of two and at most three quarters full
+    std::vector<Slot> slots_;  // empty, or a power of two in size and at most three quarters full
 };
 
 }  // namespace quillmark

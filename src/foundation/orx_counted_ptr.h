@@ -5,16 +5,14 @@
 
 namespace quillmark {
 
-/// A shared, counted pointer: the object lives until its last holder lets go.
-///
-/// Copies compare equal, and are ordered by address only so that they may be kept in containers;
-/// nothing may reach the output in that order.
+/// A shared, counted pointer: the object is destroyed with the last pointer to it. Two pointers are
+/// equal if they lead to the same object.
 template <typename T>
 class OrxCountedPtr {
 public:
     OrxCountedPtr() noexcept = default;
 
-    /// Makes a new object; there is no other way in, so nothing is ever owned twice.
+    /// Creates an object. A raw pointer cannot be adopted, so no object has two owners.
     template <typename... Args>
     [[nodiscard]] static OrxCountedPtr make(Args&&... args) {
         OrxCountedPtr pointer;
@@ -25,14 +23,10 @@ public:
     [[nodiscard]] T* get() const noexcept { return object_.get(); }
     [[nodiscard]] T& operator*() const noexcept { return *object_; }
     [[nodiscard]] T* operator->() const noexcept { return object_.get(); }
-    [[nodiscard]] bool isNull() const noexcept { return object_ == nullptr; }
     explicit operator bool() const noexcept { return object_ != nullptr; }
-    /// The number of holders, 0 for a null pointer.
-    [[nodiscard]] long useCount() const noexcept { return object_.use_count(); }
     void reset() noexcept { object_.reset(); }
 
     friend bool operator==(const OrxCountedPtr&, const OrxCountedPtr&) noexcept = default;
-    friend auto operator<=>(const OrxCountedPtr&, const OrxCountedPtr&) noexcept = default;
 
 private:
     std::shared_ptr<T> object_;

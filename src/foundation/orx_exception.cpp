@@ -20,7 +20,7 @@ SilentLog& silentLog() noexcept {
 
 constinit ProcessWide<OrxExceptionLog*> installedLog;
 
-void tell(const char* category, std::string_view opening, std::string_view reason) {
+void writeToLog(const char* category, std::string_view opening, std::string_view reason) {
     OrxExceptionLog* const log = OrxException::getLog();
     if (log->records(category)) {
         log->write((opening + OrxString(reason)).append('\n'));
@@ -39,13 +39,13 @@ OrxExceptionLog* OrxException::setLog(OrxExceptionLog* log) noexcept {
 }
 
 void OrxException::raise(const OrxString& reason) {
-    tell(OrxExceptionLog::throwCategory, "Exception throw: ", reason);
+    writeToLog(OrxExceptionLog::throwCategory, "Exception throw: ", reason);
     throw OrxException(reason);
 }
 
 void OrxException::logCatch(std::string_view reason) noexcept {
     try {
-        tell(OrxExceptionLog::catchCategory, "Exception catch: ", reason);
+        writeToLog(OrxExceptionLog::catchCategory, "Exception catch: ", reason);
     } catch (...) {
         // There is nowhere left to report a failure of the log itself. The document goes on.
     }

@@ -7,24 +7,26 @@
 
 namespace quillmark {
 
-/// Where exceptions are told: process-wide, asked before a throw and after a catch.
+/// The log of exceptions, one for the whole process. The driver uses it before a throw and after a
+/// catch.
 ///
-/// A host installs its own with `OrxException::setLog`. It may be called from several threads at
-/// once (one an apartment), so an implementation guards what it shares.
+/// A host installs its own with `OrxException::setLog`. Several threads may call it at once, so an
+/// implementation must guard what they share. The driver ignores exceptions that the log throws
+/// while a catch is logged.
 class OrxExceptionLog {
 public:
-    /// The two categories that the driver asks for.
+    /// The two categories that the driver uses.
     static constexpr const char* throwCategory = "Throw";
     static constexpr const char* catchCategory = "Catch";
 
     virtual ~OrxExceptionLog() = default;
-    /// Whether messages of this category are wanted.
+    /// Whether the log wants messages of this category.
     [[nodiscard]] virtual bool records(std::string_view category) const = 0;
-    /// Takes one message, its line end included.
+    /// Records one message, which ends in a line feed.
     virtual void write(std::string_view message) = 0;
 };
 
-/// The one exception type of the driver; it carries a reason in words.
+/// The only exception type that the driver throws. It carries a reason in words.
 ///
 /// Throw it with `raise`, which writes to the log first. Code that catches one and does not pass it
 /// on calls `logCaught`.
@@ -35,15 +37,15 @@ public:
     [[nodiscard]] const OrxString& reasonText() const noexcept { return reason_; }
     [[nodiscard]] const char* what() const noexcept override { return reason_.data(); }
 
-    /// The process-wide log; never null. The default records nothing.
+    /// The log of the process, never null. The default one records nothing.
     [[nodiscard]] static OrxExceptionLog* getLog() noexcept;
-    /// Installs a log, which stays the caller's and must outlive its use; null brings the default
-    /// back. Returns the log that was installed before, null for the default.
+    /// Installs a log and returns the one installed before. Null stands for the default. The log is
+    /// not owned and must stay alive while it is installed.
     static OrxExceptionLog* setLog(OrxExceptionLog* log) noexcept;
 
-    /// Writes "Exception throw: " + reason to the log when it records "Throw", then throws.
+    /// Writes "Exception throw: " and the reason to the log if it records "Throw", then throws.
     [[noreturn]] static void raise(const OrxString& reason);
-    /// Writes "Exception catch: " + reason to the log when it records "Catch".
+    /// Writes "Exception catch: " and the reason to the log if it records "Catch".
     static void logCatch(std::string_view reason) noexcept;
     /// Logs the exception being handled as `logCatch` does. Call it in a `catch` block that ends
     /// the exception. One without a reason is logged as "unknown exception".

@@ -2,7 +2,7 @@
 
 namespace quillmark {
 
-/// The root of the shared types: a virtual destructor and nothing else.
+/// The base class of the shared types. It has a virtual destructor and nothing else.
 class OrxObject {
 public:
     OrxObject() = default;

@@ -70,7 +70,7 @@ OrxString& OrxString::replaceStr(std::string_view from, std::string_view to) {
     if (hit == npos) {
         return *this;
     }
-    // One pass into a fresh string: replacing in place would move the tail once a hit.
+    // One pass into a new string. Replacing in place would move the rest of the text at each hit.
     std::string result;
     result.reserve(bytes_.size());
     std::size_t copied = 0;

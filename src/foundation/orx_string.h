@@ -9,18 +9,18 @@
 
 namespace quillmark {
 
-/// A byte string: the type of every text, name and path of the driver.
+/// A byte string. The driver uses it for every text, name and path.
 ///
-/// The bytes are in the system's 8-bit code page; wide text from a host is converted once, on
-/// entry (see platform/sys_text.h). Positions and lengths count bytes. The string may hold any
-/// byte, zero included. It owns its bytes; views handed out by `view` and `data` live until the
+/// The bytes are in the system's 8-bit code page. Wide text from a host is converted once, on
+/// entry (see platform/sys_text.h). Positions and lengths count bytes, and any byte may occur, zero
+/// included. The string owns its bytes. What `view`, `str` and `data` return is valid until the
 /// next change.
 ///
 ///     OrxString link("C:\\out\\pix\\a.gif");
 ///     link.replaceStr(":", "|").replaceStr("\\", "/");   // "C|/out/pix/a.gif"
 class OrxString {
 public:
-    /// The position that means "not found".
+    /// The position that stands for "not found".
     static constexpr std::size_t npos = std::string::npos;
 
     OrxString() = default;
@@ -37,30 +37,31 @@ public:
 
     OrxString& append(std::string_view text);
     OrxString& append(char character);
-    /// Inserts in front of the byte at `pos`; a position beyond the end appends.
+    /// Inserts before the byte at `pos`. A position beyond the end appends.
     OrxString& insert(std::size_t pos, std::string_view text);
-    /// Removes `count` bytes from `pos` on, to the end when fewer are there.
+    /// Removes `count` bytes, starting at `pos`, or all up to the end if there are fewer.
     OrxString& remove(std::size_t pos, std::size_t count = npos);
     void clear() noexcept { bytes_.clear(); }
 
-    /// Position of the first occurrence at or behind `from`, or `npos`.
+    /// The position of the first occurrence at or after `from`, or `npos`.
     [[nodiscard]] std::size_t find(std::string_view text, std::size_t from = 0) const noexcept;
+    /// The position of the first or last occurrence of a character, or `npos`.
     [[nodiscard]] std::size_t first(char character) const noexcept;
     [[nodiscard]] std::size_t last(char character) const noexcept;
     [[nodiscard]] bool contains(std::string_view text) const noexcept;
     [[nodiscard]] bool startsWith(std::string_view text) const noexcept;
-    /// The bytes from `pos` on, at most `count` of them; empty beyond the end.
+    /// At most `count` bytes, starting at `pos`. Empty if `pos` is beyond the end.
     [[nodiscard]] OrxString substr(std::size_t pos, std::size_t count = npos) const;
 
-    /// Replaces every `from` by `to`, left to right, going on behind what was inserted, so that
-    /// an inserted text is never looked at again. An empty `from` changes nothing.
+    /// Replaces every occurrence of `from` by `to`, left to right. Inserted text is not searched
+    /// again. An empty `from` changes nothing.
     OrxString& replaceStr(std::string_view from, std::string_view to);
 
-    /// Change ASCII letters only, whatever the locale.
+    /// Changes ASCII letters only, whatever the locale.
     OrxString& toLower() noexcept;
     OrxString& toUpper() noexcept;
 
-    /// The same for equal strings on every machine and in every run (FNV-1a, 64 bits).
+    /// FNV-1a with 64 bits. Equal strings have the same hash on every machine and in every run.
     [[nodiscard]] std::size_t hash() const noexcept;
 
     friend bool operator==(const OrxString& a, const OrxString& b) noexcept {

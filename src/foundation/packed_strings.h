@@ -8,22 +8,23 @@
 
 namespace quillmark {
 
-/// A growing list of texts in one block of memory: eight bytes a text besides its own, so that
-/// a document of hundreds of thousands of names stays small. A view lives until the next `add`.
+/// A list of strings that share one block of memory. Each string costs eight bytes besides its own,
+/// so that a document with hundreds of thousands of names stays small.
 class PackedStrings {
 public:
-    /// Returns the index of the text, counted from 0.
+    /// Appends a string and returns its index, counted from 0.
     std::uint32_t add(std::string_view text) {
         bytes_.append(text);
         ends_.push_back(bytes_.size());
         return static_cast<std::uint32_t>(ends_.size() - 1);
     }
+    /// The view is valid until the next `add` or `clear`.
     [[nodiscard]] std::string_view operator[](std::uint32_t index) const noexcept {
         const std::size_t start = index == 0 ? 0 : ends_[index - 1];
         return std::string_view(bytes_).substr(start, ends_[index] - start);
     }
     [[nodiscard]] std::size_t size() const noexcept { return ends_.size(); }
-    /// Gives back memory held for growth.
+    /// Releases memory reserved for growth.
     void compact() {
         bytes_.shrink_to_fit();
         ends_.shrink_to_fit();

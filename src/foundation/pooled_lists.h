@@ -6,9 +6,11 @@
 
 namespace quillmark {
 
-/// Any number of lists in one block of memory: an entry costs four bytes besides its value and
-/// nothing of its own from the heap, so that hundreds of thousands of lists of one value stay
-/// small. A list is held by its owner and means something to this pool alone.
+/// Any number of linked lists that share one block of memory. An entry costs four bytes besides its
+/// value and no allocation of its own, so that hundreds of thousands of one-entry lists stay small.
+///
+/// The pool owns the entries. A `List` only says where they are, and is of use to its own pool
+/// alone.
 ///
 ///     PooledLists<int> pool;
 ///     PooledLists<int>::List odd;
@@ -34,11 +36,11 @@ public:
         list.last_ = entry;
     }
 
-    /// The ends of a list that is not empty.
+    /// The first and last value of a list, which must not be empty.
     [[nodiscard]] const Value& first(const List& list) const { return entries_[list.first_].value; }
     [[nodiscard]] const Value& last(const List& list) const { return entries_[list.last_].value; }
 
-    /// Empties the list and hands each value over, the first one first. `each` may use the pool.
+    /// Empties the list and calls `each` with every value, first to last. `each` may use the pool.
     template <typename Each>
     void take(List& list, const Each& each) {
         std::uint32_t entry = std::exchange(list, {}).first_;
@@ -58,19 +60,14 @@ public:
         }
     }
 
-    /// Lets go of all values; lists that were not empty must not be used again.
-    void clear() noexcept {
-        entries_.clear();
-        firstFree_ = none;
-    }
-    /// Gives back memory held for growth.
+    /// Releases memory reserved for growth.
     void compact() { entries_.shrink_to_fit(); }
 
 private:
     static constexpr std::uint32_t none = 0xFFFFFFFF;
     struct Entry {
         Value value;
-        std::uint32_t next;  // in its list, or in that of the free ones
+        std::uint32_t next;  // in its list, or in the list of free entries
     };
 
     std::uint32_t newEntry(Value value) {

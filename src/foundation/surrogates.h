@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-/// The halves that UTF-16 writes a character beyond U+FFFF with: a high one, then a low one.
+/// UTF-16 writes a character beyond U+FFFF as a pair of surrogates: a high one, then a low one.
 namespace quillmark::surrogates {
 
 [[nodiscard]] constexpr bool isHigh(std::uint32_t unit) noexcept {
@@ -17,8 +17,8 @@ namespace quillmark::surrogates {
     return isHigh(unit) || isLow(unit);
 }
 
-/// How many units the first character of `text`, which is not empty, takes: 2 for a pair. A half
-/// that stands alone counts as a character.
+/// The number of units in the first character of `text`, which must not be empty: 2 for a pair,
+/// otherwise 1. A lone surrogate counts as a character.
 [[nodiscard]] constexpr std::size_t firstLength(std::u16string_view text) noexcept {
     return text.size() > 1 && isHigh(text[0]) && isLow(text[1]) ? 2 : 1;
 }

@@ -4,16 +4,17 @@
 
 namespace quillmark {
 
-/// The host's application profile; it tells where the ini file of the modelling tool lies.
+/// The host's application profile, which knows the ini file of the modelling tool.
 class AppProfileInterface {
 public:
     virtual ~AppProfileInterface() = default;
-    /// The path that takes the place of the name "Veltrano.ini".
+    /// The path to use instead of the name "Veltrano.ini".
     [[nodiscard]] virtual OrxString profilePath() const = 0;
 
-    /// The host's, or null when there is none.
+    /// The installed profile, or null.
     [[nodiscard]] static AppProfileInterface* getInterface() noexcept;
-    /// Hands one in (it stays the caller's); null takes it back. Returns the one before.
+    /// Installs a profile, or none if null, and returns the one before. It is not owned and must
+    /// stay alive while it is installed.
     static AppProfileInterface* setInterface(AppProfileInterface* profile) noexcept;
 };
 

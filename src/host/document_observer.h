@@ -6,24 +6,24 @@
 
 namespace quillmark {
 
-/// Hears what became of a document, for tools that count and tell. Every event does nothing unless
-/// overridden. Calls come on the thread that drives the document.
+/// Is notified of what the driver writes, for tools that show progress or counts. The events do
+/// nothing unless overridden. They come on the thread that drives the document.
 class DocumentObserver {
 public:
     virtual ~DocumentObserver() = default;
-    /// A page file was written whole.
+    /// A page file was written completely.
     virtual void pageWritten(const OrxString& /*fileName*/) {}
-    /// A file was copied next to the document.
+    /// A file was copied for the document.
     virtual void fileCopied(const OrxString& /*target*/) {}
-    /// An entry joined the contents.
+    /// An entry was added to the contents.
     virtual void contentsEntryAdded() {}
-    /// A page was finished with that many references still open.
+    /// A page was finished, and `count` of its references have no target.
     virtual void unresolvedReferences(const OrxString& /*fileName*/, std::size_t /*count*/) {}
 
-    /// The one in force; never null. The default hears nothing.
+    /// The installed observer, or one that does nothing.
     [[nodiscard]] static DocumentObserver& current() noexcept;
-    /// Puts one in force, process-wide (it stays the caller's); null brings the default back.
-    /// Returns the one installed before, null for the default.
+    /// Installs an observer for the whole process and returns the one before. Null stands for none.
+    /// The observer is not owned and must stay alive while it is installed.
     static DocumentObserver* install(DocumentObserver* observer) noexcept;
 };
 

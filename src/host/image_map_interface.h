@@ -6,17 +6,18 @@
 
 namespace quillmark {
 
-/// The host's image map service: which regions of a picture can be clicked.
+/// The host's image map service, which knows the clickable regions of a picture.
 class CImageMapInterface {
 public:
     virtual ~CImageMapInterface() = default;
-    /// Fills `regions` with triples: element name, target bookmark, polygon coordinates.
-    /// `picture` is the name exactly as the host gave it to `insertImage`.
+    /// Fills `regions` with three texts per region: element name, target bookmark, and coordinates
+    /// of the polygon. `picture` is the name exactly as the host passed it to `insertImage`.
     virtual void getRegions(const OrxString& picture, std::vector<OrxString>& regions) = 0;
 
-    /// The host's service, or null when there is none.
+    /// The installed service, or null.
     [[nodiscard]] static CImageMapInterface* getInterface() noexcept;
-    /// Hands one in (it stays the caller's); null takes it back. Returns the one before.
+    /// Installs a service, or none if null, and returns the one before. It is not owned and must
+    /// stay alive while it is installed.
     static CImageMapInterface* setInterface(CImageMapInterface* service) noexcept;
 };
 

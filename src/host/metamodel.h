@@ -7,10 +7,11 @@
 
 namespace quillmark {
 
-/// The host's metamodel library: only what the driver asks of it. Every pointer handed out
-/// belongs to the library and lives until its schema changes. Any operation may throw
-/// `OrxException`; the driver logs that and takes the answer as empty.
+/// The host's metamodel library, as far as the driver uses it. The library owns all objects that it
+/// returns, and they are valid until its schema changes. Any operation may throw `OrxException`.
+/// The driver logs the exception and treats the result as empty.
 
+/// The value of an attribute of a model element.
 class MMAttribute {
 public:
     virtual ~MMAttribute() = default;
@@ -20,6 +21,7 @@ public:
     [[nodiscard]] virtual double asDouble() const = 0;
 };
 
+/// A class of the metamodel.
 class MMClass {
 public:
     virtual ~MMClass() = default;
@@ -28,28 +30,31 @@ public:
     [[nodiscard]] virtual bool associationExists(const OrxString& association) const = 0;
 };
 
+/// A model element.
 class MMObject {
 public:
     virtual ~MMObject() = default;
     [[nodiscard]] virtual const MMClass* getClass() const = 0;
     /// The attribute of that name, or null.
     [[nodiscard]] virtual const MMAttribute* operator[](const OrxString& attribute) const = 0;
-    /// The objects at the end of an association, in the model's order.
+    /// The objects at the other end of an association, in the order of the model.
     [[nodiscard]] virtual std::vector<const MMObject*> objects(
         const OrxString& association) const = 0;
 };
 
+/// The model with its classes.
 class MMSchema {
 public:
     virtual ~MMSchema() = default;
-    /// The object behind a handle, or null when the model does not know it.
+    /// The object with this handle, or null if there is none.
     [[nodiscard]] virtual const MMObject* object(std::uint64_t handle) const = 0;
-    /// Whether the schema has a class of that name.
+    /// The class of that name, or null.
     [[nodiscard]] virtual const MMClass* findClass(const OrxString& name) const = 0;
 
-    /// The host's schema, or null when there is no model.
+    /// The installed schema, or null.
     [[nodiscard]] static const MMSchema* getSchema() noexcept;
-    /// Hands one in (it stays the caller's); null takes it back. Returns the one before.
+    /// Installs a schema, or none if null, and returns the one before. It is not owned and must
+    /// stay alive while it is installed.
     static const MMSchema* setSchema(const MMSchema* schema) noexcept;
 };
 

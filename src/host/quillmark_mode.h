@@ -2,14 +2,15 @@
 
 namespace quillmark {
 
-/// The mode that the host runs in.
+/// The mode in which the host runs.
 class CQuillmarkMode {
 public:
-    /// Schema type 2 selects the second rule set for entry icons, every other value the first.
+    /// This schema type selects the second set of rules for icons of contents entries. Every other
+    /// value selects the first.
     static constexpr int secondRuleSet = 2;
 
     [[nodiscard]] static int GetSchemaType() noexcept;
-    /// Handed in by the host; 0 until then.
+    /// Called by the host. The type is 0 until then.
     static void SetSchemaType(int schemaType) noexcept;
 };
 

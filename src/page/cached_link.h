@@ -4,8 +4,8 @@
 
 namespace quillmark {
 
-/// Caches the last relative link to a file. The pages of a report are in few directories, so they
-/// need the same link again and again.
+/// Caches the last link from a directory to a file. The pages of a report are in few directories,
+/// so most of them need the same link.
 class CachedLink {
 public:
     /// The same as `links::relativeFile`. The result is valid until the next call.

@@ -178,10 +178,6 @@ std::size_t DocHtmlPage::getMarkCount() const noexcept {
     return record_->marks.size();
 }
 
-bool DocHtmlPage::hasMark(std::string_view name) const {
-    return record_->marks.first(name) != SpliceText::none;
-}
-
 void DocHtmlPage::removeMarks(std::string_view name) {
     record_->marks.take(name, [this](SpliceText::MarkId mark) {
         if (record_->insertPoint == mark) {

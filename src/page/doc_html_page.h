@@ -13,17 +13,17 @@
 
 namespace quillmark {
 
-/// One HTML file in the making: filled in memory and written in one go when it is closed, so
-/// that its marks can be filled in late.
+/// An HTML page that is built in memory and written to its file when it is closed. Marks are named
+/// places in its text that can be filled until then.
 ///
 ///     DocHtmlPage page;
 ///     page.setFileName("C:\\out\\rep_cnt.htm");
 ///     page.setTitle("Report");
 ///     page.append("<BODY>\n");
-///     page.close();                       // written, and the page is empty again
+///     page.close();                       // writes the file and empties the page
 ///
-/// A page without a line of body text is empty and writes no file. Failures of the disk go to
-/// the exception log and end the writing of this page only.
+/// A page without body text is empty and writes no file. A failure to write goes to the exception
+/// log. The page is empty afterwards, and the rest of the document is not affected.
 class DocHtmlPage : public OrxObject {
 public:
     DocHtmlPage();
@@ -32,21 +32,21 @@ public:
     /// Closes the page first.
     ~DocHtmlPage() override;
 
-    /// Text right after the head, in front of the lines.
+    /// Appends text that goes after the head, before the body text.
     void appendTop(std::string_view text);
-    /// Text behind the last line.
+    /// Appends text that goes after the body text.
     void appendTail(std::string_view text);
-    /// Text at the end of the HEAD element.
+    /// Appends text that goes to the end of the HEAD element.
     void appendHead(std::string_view text);
-    /// Body text: at the insertion point when one is set, else at the end, where a text with a
-    /// line feed anywhere in it ends the line once.
+    /// Adds body text, at the insertion point if one is set, otherwise at the end. At the end, a
+    /// text with line feeds, however many and wherever they are, ends one line.
     void append(std::string_view text);
 
     void setFileName(const OrxString& name);
     [[nodiscard]] const OrxString& getFileName() const noexcept;
-    /// The title as it stands in the head; nothing in it is escaped.
+    /// Sets the text of the TITLE element. It is not escaped.
     void setTitle(const OrxString& title);
-    /// The HREF of the style-sheet link; empty for none.
+    /// Sets the HREF of the style-sheet link. Empty for no link.
     void setStyleSheet(const OrxString& href);
     void setTrace(const Trace& trace);
 
@@ -54,41 +54,44 @@ public:
     [[nodiscard]] std::int32_t getLineCount() const noexcept;
     [[nodiscard]] bool differs(const DocHtmlPage& other) const noexcept;
 
-    /// Link text from directory `base` to `target`; an empty base is the default base directory.
+    /// The link from directory `base` to `target`, see `links::relative`.
     [[nodiscard]] static OrxString relativeLink(const OrxString& target, const OrxString& base);
 
-    /// The page's own number of a mark's name. Told with the name again it spares the page a
-    /// search; a wrong number does no harm.
+    /// The page's id of a mark's name. Pass it back with the name to skip the lookup. A stale id is
+    /// ignored.
     using MarkNameId = std::uint32_t;
     static constexpr MarkNameId unknownName = 0xFFFFFFFF;
 
-    /// Marks: named places that can still be filled.
+    /// Places a mark at the end of the body text. Several marks may have the same name. `markup` is
+    /// what `resolveMarks` will insert, see there. Returns the id of the name.
     MarkNameId addMark(std::string_view name, std::string_view markup,
                        MarkNameId hint = unknownName);
+    /// Whether there are marks that are neither filled nor removed, and how many.
     [[nodiscard]] bool hasMarks() const noexcept;
     [[nodiscard]] std::size_t getMarkCount() const noexcept;
-    [[nodiscard]] bool hasMark(std::string_view name) const;
-    /// Drops every mark of that name without filling it.
+    /// Removes every mark of that name without filling it.
     void removeMarks(std::string_view name);
-    /// Fills every mark of that name, in the order of their making, and drops them: an empty
-    /// markup becomes HREF="reference"; in a markup that holds the name, the name's first
-    /// occurrence, wherever it stands, becomes that; any other markup is put as it is.
+    /// Fills every mark of that name, in the order of their creation, and removes them. An empty
+    /// markup becomes HREF="reference". In a markup that contains the name, HREF="reference"
+    /// replaces the first occurrence of the name, wherever it is. Any other markup is inserted as
+    /// it is.
     void resolveMarks(std::string_view name, std::string_view reference,
                       MarkNameId hint = unknownName);
-    /// Lets `append` write at the first mark of that name. False when there is none.
+    /// Makes `append` insert at the first mark of that name. False if there is none.
     bool setInsertPoint(std::string_view name);
     void clearInsertPoint() noexcept;
-    /// Makes room for that many bytes of body text at once, for who knows how much is coming.
+    /// Reserves memory for that many bytes of body text.
     void reserve(std::size_t bytes);
-    /// Bytes of the body written so far, what was put in at marks not counted.
+    /// The number of bytes of body text, without what was inserted at marks.
     [[nodiscard]] std::size_t bodySize() const noexcept;
-    /// Gives back memory held for growth; for a page that is held back until its marks are filled.
+    /// Releases memory reserved for growth. For a page that is held back until its marks are
+    /// filled.
     void compact();
-    /// The open marks in name order, equal names in the order of their making.
+    /// The open marks in the order of their names, equal names in the order of their creation.
     [[nodiscard]] std::vector<std::pair<OrxString, htmlMarkPosition>> marks() const;
 
-    /// Writes the file and tells the unresolved references in the trace, then empties the page.
-    /// The style-sheet link stays. An empty page is left as it is.
+    /// Writes the file, reports unresolved references to the trace, and empties the page except for
+    /// its style-sheet link. Does nothing for an empty page.
     void close();
 
 private:

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view pageToken = "<PAGE>";
 constexpr std::string_view fileToken = "<FILE>";
-static_assert(pageToken.size() == fileToken.size(), "filling in relies on one token length");
+static_assert(pageToken.size() == fileToken.size(), "replace() relies on a single token length");
 
 }  // namespace
 

@@ -8,10 +8,10 @@
 
 namespace quillmark {
 
-/// The header or the footer of a document: collected once, then stamped onto every page.
+/// The header or the footer of a document. It is collected once and then added to every page.
 ///
-/// What differs from page to page is kept as a token and filled in when a page is finished; date
-/// and time are filled in when the field is inserted, so they are the same on every page.
+/// Page number and file name are kept as tokens, which are replaced when a page is finished. Date
+/// and time are written when the field is inserted, so they are the same on every page.
 class DocHtmlSection {
 public:
     DocHtmlSection();
@@ -19,20 +19,20 @@ public:
     DocHtmlSection& operator=(const DocHtmlSection& other);
     virtual ~DocHtmlSection();
 
-    /// No text, the text state reset, test level 0.
+    /// Removes the text, resets the text state and sets the test level to 0.
     void clear();
-    /// Appends finished HTML.
+    /// Appends HTML, which is not escaped.
     void insertText(std::string_view html);
-    /// Appends a field. An unknown kind adds nothing.
+    /// Appends a field. An unknown kind appends nothing.
     void insertField(FieldKind kind);
     void setFont(const FontData& font);
-    /// The text state while the section is open; it lives as long as the section.
+    /// The text state while the section is open. It is valid as long as the section.
     [[nodiscard]] DocHtmlTextState* getState() const noexcept;
-    /// Non-zero writes date and time as fixed placeholders.
+    /// Any level but 0 replaces date and time by fixed placeholders.
     void setTestLevel(int level);
 
-    /// The section's text with its tokens filled in, only the first one of each kind: a second
-    /// page number in a footer stays the token that it is.
+    /// The text of the section for one page. Only the first token of each kind is replaced. A
+    /// second page number in a footer stays a token.
     [[nodiscard]] OrxString getDisplayString(long pageNumber, const OrxString& fileName) const;
 
 private:

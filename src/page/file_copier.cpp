@@ -25,7 +25,7 @@ OrxString FileCopier::copyToDir(const OrxString& source, const OrxString& target
         line.append(source).append(" to directory ").append(targetDir).append('\n');
         trace.write(Trace::errors, line);
     }
-    // An older copy that is already there is as good a target as any.
+    // A copy from an earlier run can still be used.
     return SysFile::exists(target) ? target : source;
 }
 

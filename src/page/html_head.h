@@ -5,10 +5,10 @@
 
 namespace quillmark {
 
-/// The fixed front of every page: document type, generator, title, style sheet.
+/// The head of a page: document type, generator, title and style sheet.
 ///
-/// `title` and `extra` stand in it as they are. `styleSheetLink` empty leaves the LINK element
-/// out, `extra` empty writes nothing.
+/// `title` and `extra`, the text at the end of the HEAD element, are not escaped. An empty
+/// `styleSheetLink` omits the LINK element.
 [[nodiscard]] std::string htmlHead(std::string_view title, std::string_view styleSheetLink,
                                    std::string_view extra);
 

@@ -2,10 +2,10 @@
 
 #include "foundation/orx_string.h"
 
-/// The way from paths to links. All of it is text work; nothing is looked up on the disk.
+/// Conversions from paths to links. They do not access the disk.
 namespace quillmark::links {
 
-/// Every ":" becomes "|" and every "\" becomes "/".
+/// Replaces every ":" by "|" and every "\" by "/".
 [[nodiscard]] OrxString fromPath(OrxString path);
 
 /// The link from directory `base` to `target`. An empty `base` stands for the default base
@@ -16,10 +16,10 @@ namespace quillmark::links {
 /// file part.
 [[nodiscard]] OrxString relativeFile(const OrxString& fileName, const OrxString& base);
 
-/// The directory that links count from when they are given none: the output directory of the
-/// document created last, in the whole process.
+/// The default base directory of the process: the output directory of the document that was created
+/// last.
 [[nodiscard]] OrxString defaultBase();
-/// `directory`, or the default base directory when that is empty.
+/// `directory`, or the default base directory if that is empty.
 [[nodiscard]] OrxString baseOrDefault(const OrxString& directory);
 void setDefaultBase(const OrxString& directory);
 

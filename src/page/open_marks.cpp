@@ -45,11 +45,4 @@ void OpenMarks::compact() {
     marks_.compact();
 }
 
-void OpenMarks::clear() noexcept {
-    names_.clear();
-    lists_.clear();
-    marks_.clear();
-    open_ = 0;
-}
-
 }  // namespace quillmark

@@ -12,28 +12,27 @@
 
 namespace quillmark {
 
-/// The names of a page's open marks: a multimap from a name to marks, equal names in the order
-/// of their making.
+/// The open marks of a page, by name. Marks with the same name are kept in the order of their
+/// creation.
 class OpenMarks {
 public:
     using MarkId = SpliceText::MarkId;
-    /// The table's own number of a name. Told with the name again it spares the search; one that
-    /// is another name's, or no name's, does no harm.
+    /// The id of a name. Pass it back with the name to skip the lookup. The id of another name, or
+    /// of none, is ignored.
     using NameId = NameTable::Id;
 
     NameId add(std::string_view name, MarkId mark, NameId hint = NameTable::none);
-    /// Number of open marks of all names.
+    /// The number of open marks of all names.
     [[nodiscard]] std::size_t size() const noexcept { return open_; }
     /// The first open mark of the name, or `SpliceText::none`.
     [[nodiscard]] MarkId first(std::string_view name) const noexcept;
-    /// Removes the marks of the name and hands each to `each(MarkId)`, in the order of their
-    /// making.
+    /// Removes the marks of the name and calls `each(MarkId)` for them, in the order of their
+    /// creation.
     template <typename Each>
     void take(std::string_view name, const Each& each, NameId hint = NameTable::none);
-    /// Every open mark, in name order.
+    /// Calls `each` for every open mark, in the order of their names.
     void forEach(const std::function<void(std::string_view name, MarkId)>& each) const;
-    void clear() noexcept;
-    /// Gives back memory held for growth.
+    /// Releases memory reserved for growth.
     void compact();
 
 private:
@@ -42,11 +41,11 @@ private:
     [[nodiscard]] bool isNameOf(NameId id, std::string_view name) const noexcept {
         return id < names_.size() && names_.name(id) == name;
     }
-    /// The number of the name, which gets one when it is new.
+    /// The id of the name. A new name gets the next id.
     NameId idOf(std::string_view name, NameId hint);
 
     NameTable names_;
-    std::vector<Marks::List> lists_;  // by the name's number
+    std::vector<Marks::List> lists_;  // by the id of the name
     Marks marks_;
     std::size_t open_ = 0;
 };

@@ -28,13 +28,13 @@ SpliceText::MarkId SpliceText::addMark(std::string_view markup, std::uint32_t se
     node.line = static_cast<std::uint32_t>(lineCount_);
     node.baseColumn = static_cast<std::uint32_t>(base_.size() - lineStart_);
     pool_.append(markup);
-    // Sequence numbers need not grow from mark to mark: they count the open ones.
+    // A later mark may have a smaller sequence number, because it counts the open marks.
     MarkId previous = tail_;
     while (previous != none && !nodes_[previous].isText && nodes_[previous].offset == node.offset &&
            nodes_[previous].sequence > sequence) {
         previous = nodes_[previous].previous;
     }
-    linkBehind(mark, previous);
+    linkAfter(mark, previous);
     return mark;
 }
 
@@ -50,7 +50,7 @@ void SpliceText::insertAt(MarkId mark, std::string_view text) {
         return;
     }
     if (last == none) {
-        moveBehindEquals(mark);
+        moveAfterEqualMarks(mark);
     }
     const MarkId inserted = newNode();
     Node& node = nodes_[inserted];
@@ -62,7 +62,7 @@ void SpliceText::insertAt(MarkId mark, std::string_view text) {
     node.poolStart = pool_.size();
     node.poolLength = static_cast<std::uint32_t>(text.size());
     pool_.append(text);
-    linkBehind(inserted, last == none ? mark : last);
+    linkAfter(inserted, last == none ? mark : last);
     nodes_[mark].lastText = inserted;
 }
 
@@ -72,14 +72,14 @@ void SpliceText::drop(MarkId mark) {
     firstFree_ = mark;
 }
 
-// The mark itself becomes the text: hundreds of thousands that are filled in any order then stay
-// in memory in the order in which they are read.
+// The node of the mark becomes the node of the text. Thus hundreds of thousands of marks, filled in
+// any order, are still in memory in the order in which they are read.
 void SpliceText::fill(MarkId mark) {
     if (nodes_[mark].poolLength == 0) {
         drop(mark);
         return;
     }
-    moveBehindEquals(mark);
+    moveAfterEqualMarks(mark);
     nodes_[mark].isText = true;
     insertedBytes_ += nodes_[mark].poolLength;
 }
@@ -140,7 +140,7 @@ SpliceText::MarkId SpliceText::newNode() {
     return static_cast<MarkId>(nodes_.size() - 1);
 }
 
-void SpliceText::linkBehind(MarkId node, MarkId previous) {
+void SpliceText::linkAfter(MarkId node, MarkId previous) {
     const MarkId next = previous == none ? head_ : nodes_[previous].next;
     nodes_[node].previous = previous;
     nodes_[node].next = next;
@@ -155,7 +155,7 @@ void SpliceText::unlink(MarkId node) {
     (next == none ? tail_ : nodes_[next].previous) = previous;
 }
 
-void SpliceText::moveBehindEquals(MarkId mark) {
+void SpliceText::moveAfterEqualMarks(MarkId mark) {
     const Node& moved = nodes_[mark];
     MarkId target = mark;
     for (MarkId at = moved.next;
@@ -166,7 +166,7 @@ void SpliceText::moveBehindEquals(MarkId mark) {
     }
     if (target != mark) {
         unlink(mark);
-        linkBehind(mark, target);
+        linkAfter(mark, target);
     }
 }
 

@@ -7,18 +7,18 @@
 
 namespace quillmark {
 
-/// A font as the host sets it, property by property.
+/// The font properties that a host sets one by one.
 class FontData : public OrxObject {
 public:
     OrxString name{"Arial"};
-    /// In points; 0 means that no size is set.
+    /// In points. 0 if no size is set.
     std::uint16_t size = 0;
     bool bold = false;
     bool italic = false;
     bool underline = false;
     bool strike = false;
 
-    /// Empty name, no size, no attribute: unlike a fresh font, which is named "Arial".
+    /// Removes name, size and attributes. A new font, in contrast, has the name "Arial".
     void clear();
     [[nodiscard]] bool hasAttribute() const noexcept {
         return bold || italic || underline || strike;
@@ -29,7 +29,7 @@ public:
 /// The codes of `setTextAlign`. Any other code is kept as it is and aligns to the left.
 enum class TextAlign : std::uint16_t { none = 0, left = 1, center = 2, right = 3 };
 
-/// The text state in force: one for the body, one for each section.
+/// The state of text output. The body has one, and so has each section.
 class DocHtmlTextState {
 public:
     DocHtmlTextState() = default;
@@ -39,11 +39,11 @@ public:
 
     TextAlign textAlign = TextAlign::none;
     OrxString styleName{"Normal"};
-    /// Tags for `font` may be open in the output and must be closed.
+    /// Whether tags for `font` may be open in the output and must be closed.
     bool fontOpen = false;
     FontData font;
 
-    /// Back to the start, but the font stays as it is.
+    /// Resets everything but the font.
     void reset();
 };
 

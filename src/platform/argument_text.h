@@ -6,8 +6,10 @@
 
 namespace quillmark {
 
-/// The arguments of a command line: split at blanks, double quotes hold what stands between them
-/// together and fall away. A quote that is never closed holds up to the end.
+/// Splits a command line into arguments at blanks and tabs. Double quotes keep blanks inside an
+/// argument and are removed. A quote that is never closed extends to the end. There are no escapes.
+///
+///     splitArguments("-o \"my file\"");   // {"-o", "my file"}
 [[nodiscard]] std::vector<std::string> splitArguments(std::string_view text);
 
 }  // namespace quillmark

@@ -5,17 +5,17 @@
 
 namespace quillmark {
 
-/// What a command line tool asks of its surroundings.
+/// What a command line tool needs to know about the process it runs in.
 class Console {
 public:
-    /// The arguments behind the program's name, in UTF-8 on every system. `argc` and `argv` are
-    /// those of `main`.
+    /// The arguments after the program's name, in UTF-8 on every system. Pass the `argc` and `argv`
+    /// of `main`.
     [[nodiscard]] static std::vector<std::string> arguments(int argc, const char* const* argv);
-    /// Where the running program lies: a name of the system's own (UTF-8), empty when unknown.
+    /// The path of the running program in the system's own form (UTF-8). Empty if it is unknown.
     [[nodiscard]] static std::string executablePath();
-    /// Whether somebody watches standard error.
+    /// Whether standard error is a terminal.
     [[nodiscard]] static bool errorsGoToTerminal() noexcept;
-    /// Makes standard input hand out bytes as they come, on systems that change line ends.
+    /// Turns off the conversion of line ends on standard input, on systems that have one.
     static void readInputAsBytes() noexcept;
 };
 

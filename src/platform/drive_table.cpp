@@ -21,7 +21,7 @@ constexpr std::size_t letterCount = 26;
 struct Table {
     std::shared_mutex mutex;
     std::array<std::string, letterCount> directories;
-    /// One bit a letter, so that asking an empty table takes no lock.
+    /// One bit per letter, so that a search in an empty table takes no lock.
     std::atomic<std::uint32_t> used{0};
 };
 
@@ -37,7 +37,7 @@ std::optional<std::size_t> indexOf(char letter) noexcept {
     return static_cast<std::size_t>(ascii::toUpper(letter) - 'A');
 }
 
-/// A name that begins with "/" without its components "." and "..".
+/// Resolves the components "." and ".." of a name that starts with "/".
 std::string withoutDots(const std::string& name) {
     const std::u8string plain = std::filesystem::path(std::u8string(name.begin(), name.end()))
                                     .lexically_normal()

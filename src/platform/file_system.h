@@ -11,88 +11,92 @@
 
 namespace quillmark {
 
-/// How an output file ended.
+/// The result of writing a file.
 enum class WriteResult { done, openFailed, writeFailed };
 
-/// What tells two states of a file apart without reading it.
+/// Tells whether a file has changed without reading it.
 struct FileStamp {
     std::uint64_t size = 0;
-    /// The time of the last change, in units of the system's own.
+    /// The time of the last change, in the system's own units.
     std::int64_t changed = 0;
-    /// Which file it is, so that one put in its place differs.
+    /// Identifies the file, so that a file that replaced it has another stamp.
     std::uint64_t identity = 0;
 
     friend bool operator==(const FileStamp&, const FileStamp&) noexcept = default;
 };
 
-/// A file open for reading, from the front to the end.
+/// A file that is open for reading, from start to end. The destructor closes it.
 class InputFile {
 public:
     virtual ~InputFile() = default;
-    /// Puts up to as many bytes as `buffer` holds into it and returns how many; 0 at the end only.
-    /// A read that fails ends the file too: ask `failed` where half a file is worse than none.
+    /// Fills `buffer` as far as bytes are available and returns their number. The result is 0 only
+    /// at the end of the file, or after a failed read. Call `failed` if half a file is worse than
+    /// none.
     virtual std::size_t read(std::span<char> buffer) = 0;
-    /// True when the file ended because a read failed. One that cannot fail need not say so.
+    /// True if a read has failed. An implementation that cannot fail need not override it.
     [[nodiscard]] virtual bool failed() const { return false; }
 };
 
-/// A file open for writing, from the front.
+/// A file that is open for writing.
 class OutputFile {
 public:
     virtual ~OutputFile() = default;
-    /// Writes the pieces one behind the other, all of them or (false) up to a failure.
+    /// Writes the pieces one after the other. False if a write fails, and then an unknown part of
+    /// them has been written.
     [[nodiscard]] virtual bool write(std::span<const std::string_view> pieces) = 0;
-    /// Hands the bytes to the system and closes. False when something of them was lost. After it
-    /// the file must not be used. Destroying an open file closes it and loses the answer.
+    /// Closes the file. False if some of the written bytes were lost. Do not use the file
+    /// afterwards. The destructor closes an open file, but does not report a failure.
     [[nodiscard]] virtual bool close() = 0;
 };
 
-/// The file system as the driver needs it. What each call promises is written here, once, for
-/// every implementation: the native ones, and those that tests put in their place.
+/// The file system as the driver needs it. This is the contract for all implementations: the native
+/// ones, and those that tests install.
 ///
-/// Names are in the driver's form: 8-bit code page, "\" between components; "/" is taken as "\".
-/// Relative names count from `currentDirectory`. Under an empty name, or one with a zero byte
-/// inside, nothing is there and nothing can be made. No call throws; a failure is an answer.
+/// Names are in the driver's form: 8-bit code page, "\" between components. "/" means the same as
+/// "\". A relative name is relative to `currentDirectory`. An empty name, or one with a zero byte,
+/// never exists and cannot be created. The results report failures, and no call throws for one.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;
 
-    /// True for a file (or what a link to one leads to), false for a directory.
+    /// True for a file or a link to a file, false for a directory.
     [[nodiscard]] virtual bool fileExists(const OrxString& name) const = 0;
     [[nodiscard]] virtual bool directoryExists(const OrxString& name) const = 0;
-    /// The file's stamp, for those who keep what they have read; nothing where no file is.
+    /// The stamp of a file, for callers that cache its content. Nothing if there is no such file.
     [[nodiscard]] virtual std::optional<FileStamp> stamp(const OrxString& name) const = 0;
 
-    /// Copies the bytes over `target`, which is made or replaced; a file copied onto itself is
-    /// left untouched and counts as done. A source that is a device or a pipe is not copied. Memory
-    /// use does not grow with the file. A failure leaves no target that was not there before.
+    /// Copies the content of a file. Creates `target` or overwrites it. Copying a file onto itself
+    /// changes nothing and succeeds. A device or a pipe is not copied. Memory use does not depend
+    /// on the size of the file. After a failure there is no target that did not exist before.
     [[nodiscard]] virtual bool copyFile(const OrxString& source, const OrxString& target) = 0;
-    /// True when a file of that name is gone afterwards because of this call.
+    /// Deletes a file, not a directory. True if this call deleted it.
     virtual bool deleteFile(const OrxString& name) = 0;
-    /// Makes the directory and those above it that are missing. True when it is there afterwards.
+    /// Creates a directory and its missing parents. True if the directory exists afterwards.
     virtual bool makeDirectories(const OrxString& name) = 0;
 
+    /// False if there is no such directory.
     [[nodiscard]] virtual bool setCurrentDirectory(const OrxString& name) = 0;
     [[nodiscard]] virtual OrxString currentDirectory() const = 0;
 
-    /// Opens for reading; null when that fails, and for a directory.
+    /// Opens a file for reading. Null on failure, and for a directory.
     [[nodiscard]] virtual std::unique_ptr<InputFile> openForReading(const OrxString& name) = 0;
-    /// Makes or empties the file; others may read and write it meanwhile. Null when that fails.
+    /// Creates or truncates a file and opens it for writing. Others may read and write it at the
+    /// same time. Null on failure.
     [[nodiscard]] virtual std::unique_ptr<OutputFile> openForWriting(const OrxString& name) = 0;
-    /// Opens at the end, making the file when missing. Null when that fails.
+    /// Opens a file for writing at its end. Creates it if it is missing. Null on failure.
     [[nodiscard]] virtual std::unique_ptr<OutputFile> openForAppending(const OrxString& name) = 0;
 
-    /// Makes `target` hold what `source` holds, in one step that nobody sees half done; `source`
-    /// is gone afterwards. A link stays a link, and who may read the file stays. On failure both
-    /// are as they were.
+    /// Replaces `target` by `source` in one atomic step. `source` no longer exists afterwards. If
+    /// `target` is a link, the file that it leads to is replaced. The permissions of `target` are
+    /// kept. On failure both files are unchanged.
     [[nodiscard]] virtual bool replaceFile(const OrxString& source, const OrxString& target) = 0;
 
-    /// The one in force; the native one unless `install` put another in its place.
+    /// The installed file system, or the native one if none is installed.
     [[nodiscard]] static FileSystem& current() noexcept;
-    /// The system's own.
+    /// The system's own file system.
     [[nodiscard]] static FileSystem& native() noexcept;
-    /// Puts `fileSystem` in force (it stays the caller's); null brings the native one back.
-    /// Returns the one that was installed before, null for the native one.
+    /// Installs a file system for the whole process and returns the one installed before. Null
+    /// stands for the native one. The file system is not owned.
     static FileSystem* install(FileSystem* fileSystem) noexcept;
 };
 

@@ -4,7 +4,7 @@
 
 namespace quillmark {
 
-/// What ends a line of a text file: "\n", on Windows "\r\n".
+/// The line end in the system's text files: "\r\n" on Windows, "\n" elsewhere.
 [[nodiscard]] std::string_view systemLineEnd() noexcept;
 
 }  // namespace quillmark

@@ -12,7 +12,7 @@ bool sameText(std::string_view a, std::string_view b, bool ignoreCase) noexcept 
     return ignoreCase ? ascii::equalIgnoringCase(a, b) : a == b;
 }
 
-/// A drive letter has no case on any system, whatever stands behind it.
+/// The case of a drive letter does not matter on any system.
 bool sameFirst(std::string_view a, std::string_view b, bool ignoreCase) noexcept {
     if (hasDrive(a) && hasDrive(b)) {
         return ascii::toLower(a[0]) == ascii::toLower(b[0]) &&
@@ -88,7 +88,7 @@ OrxString relativePath(const OrxString& base, const OrxString& target, bool igno
     const std::vector<std::string_view> from = components(base);
     const std::vector<std::string_view> to = components(target);
     const std::size_t common = commonCount(from, to, ignoreCase);
-    // Two relative names share a root that has no name: where they both start from.
+    // Two relative names start from the same directory, although it has no name here.
     if (common == 0 && (isAbsolute(base) || isAbsolute(target))) {
         return target;
     }

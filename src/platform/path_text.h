@@ -6,7 +6,7 @@
 
 #include "foundation/orx_string.h"
 
-/// Paths as texts, for the name questions of `SysFile` and `SysDirectory`. Nothing here looks at
+/// Operations on paths as texts, on which `SysFile` and `SysDirectory` build. They do not access
 /// the disk.
 namespace quillmark::path_text {
 
@@ -14,26 +14,26 @@ namespace quillmark::path_text {
     return c == '\\' || c == '/';
 }
 
-/// A letter and ":" at the front.
+/// True if the name starts with a letter and ":".
 [[nodiscard]] bool hasDrive(std::string_view name) noexcept;
-/// Drive-qualified, or beginning with a separator.
+/// True if the name starts with a drive or a separator.
 [[nodiscard]] bool isAbsolute(std::string_view name) noexcept;
 
-/// True for a name with a zero byte inside. The system's calls would take what stands in front of
-/// the zero, which is another name: nothing is there under this one, and nothing can be made.
+/// True for a name with a zero byte. System calls would cut it off at the zero and use another
+/// name, so such a name never exists and cannot be created.
 [[nodiscard]] bool hasZero(std::string_view name) noexcept;
 
 /// The same name with "\" wherever it had "/".
 [[nodiscard]] OrxString inDriverForm(std::string_view name);
 
-/// Where the file part begins: behind the last separator or the drive's colon.
+/// The position of the file part: after the last separator or after the drive's colon.
 [[nodiscard]] std::size_t fileStart(std::string_view name) noexcept;
 
-/// The components between the separators, empty ones dropped; a leading separator is the
-/// component "\".
+/// The components between the separators, without empty ones. A leading separator is a component of
+/// its own, "\".
 [[nodiscard]] std::vector<std::string_view> components(std::string_view path);
 
-/// `SysDirectory::getRelativePath` under a given rule for upper and lower case.
+/// `SysDirectory::getRelativePath` with or without regard to case.
 [[nodiscard]] OrxString relativePath(const OrxString& base, const OrxString& target,
                                      bool ignoreCase);
 

@@ -7,7 +7,8 @@
 
 namespace quillmark {
 
-/// The bytes of a small file, all of them, or nothing when it cannot be opened or read to its end.
+/// Reads a small file of the current `FileSystem`. Nothing if it cannot be opened or read to its
+/// end.
 [[nodiscard]] std::optional<std::string> readWhole(const OrxString& fileName);
 
 }  // namespace quillmark

@@ -4,13 +4,16 @@
 
 namespace quillmark {
 
-/// Turns a processor signal (a wild address, a division by zero, an illegal instruction) that
-/// strikes while `body` runs into an `OrxException` that leaves `run`.
+/// Turns processor signals (invalid address, division by zero, illegal instruction) into
+/// exceptions.
 ///
-/// What the interrupted code held is not released; the guard is for work whose failure must not
-/// take the host's process down. Guards nest. Elsewhere in the process signals are as before.
+/// The interrupted code does not release what it holds. Use the guard for work whose failure must
+/// not end the host's process.
 class CSignal2Exception {
 public:
+    /// Runs `body`. A signal raised by it in this thread ends it, and `run` throws an
+    /// `OrxException`. Exceptions of `body` pass. Guards may be nested. Signals raised elsewhere
+    /// are handled as without a guard.
     static void run(const std::function<void()>& body);
 };
 

@@ -4,27 +4,31 @@
 
 namespace quillmark {
 
-/// Directories: questions about their names, and the few that the driver makes.
+/// Operations on directories and their names. Names may contain "/" or "\"; results contain "\",
+/// unless stated otherwise.
 class SysDirectory {
 public:
     [[nodiscard]] static bool exists(const OrxString& dir);
-    /// Makes the directory and those above it. True when it is there afterwards.
+    /// Creates the directory and its missing parents. True if it exists afterwards.
     static bool create(const OrxString& dir);
-    /// `create` when it does not exist.
+    /// Creates the directory if it does not exist. True if it exists afterwards.
     static bool checkDirectoryAndCreate(const OrxString& dir);
 
-    /// `name` below `dir`; an absolute name (drive-qualified, or beginning with a separator) is
-    /// itself. Nothing is looked up on the disk.
+    /// `dir` joined with `name`, or `name` alone if it is absolute (starts with a drive or a
+    /// separator). Does not access the disk.
     [[nodiscard]] static OrxString getSpecificPath(const OrxString& dir, const OrxString& name);
-    /// The directory above, empty when there is none ("a" and "C:" have none).
+    /// The parent directory. Empty if there is none, as for "a" and "C:".
     [[nodiscard]] static OrxString getParentDirectory(const OrxString& dir);
-    /// How to get from directory `base` to `target`, by components and without looking at the
-    /// disk: equal paths give "", otherwise one ".." for each component of `base` behind the
-    /// common ones, then the rest of `target`. Two relative names share an unnamed root, so
-    /// from "s2" to "s1" is "..\s1". From an absolute name to a relative one, the other way round,
-    /// or to another drive the result is `target` unchanged. "." and ".." are names like others;
-    /// empty components are dropped; a leading separator is a component of its own. Components are
-    /// compared ignoring case on Windows only, a drive letter everywhere.
+    /// The path from directory `base` to `target`, worked out from the components alone, without
+    /// access to the disk. The result is empty for equal paths. Otherwise it has one ".." for each
+    /// component of `base` after the common ones, then the rest of `target`. Two relative paths
+    /// start from the same unnamed directory. If one path is absolute and the other relative, or
+    /// they are on different drives, the result is `target` unchanged. "." and ".." are ordinary
+    /// names, empty components are dropped, and a leading separator is a component of its own. The
+    /// case of names matters except on Windows. The case of drive letters never matters.
+    ///
+    ///     getRelativePath("C:\\out\\deep", "C:\\out\\pix\\a.gif");   // "..\\pix\\a.gif"
+    ///     getRelativePath("s2", "s1");                             // "..\\s1"
     [[nodiscard]] static OrxString getRelativePath(const OrxString& base, const OrxString& target);
 
     [[nodiscard]] static bool setCurrentDir(const OrxString& dir);

@@ -41,7 +41,7 @@ OrxString SysFile::stripDir(const OrxString& name) {
 
 OrxString SysFile::getDir(const OrxString& name) {
     std::string_view dir = name.view().substr(0, path_text::fileStart(name));
-    // A lone separator is the root directory; without it the name would become a relative one.
+    // A single separator is the root directory. Without it the name would become relative.
     if (dir.size() > 1 && path_text::isSeparator(dir.back())) {
         dir.remove_suffix(1);
     }
@@ -76,7 +76,7 @@ WriteResult SysFile::writeWhole(const OrxString& name, std::span<const std::stri
         return WriteResult::openFailed;
     }
     const bool written = file->write(pieces);
-    // Closing comes first: a file that failed half-way is closed all the same.
+    // `close` comes first, so that the file is also closed after a failed write.
     return file->close() && written ? WriteResult::done : WriteResult::writeFailed;
 }
 

@@ -4,17 +4,17 @@
 
 namespace quillmark {
 
-/// What the driver asks of the system's shell.
+/// Starts programs and opens files as the system's shell does.
 class SysShell {
 public:
-    /// An instance result of this or more means that the program was started.
+    /// `start` returns this or more if the program was started.
     static constexpr int started = 33;
 
-    /// Opens a file with its default action. Nobody looks at the result.
+    /// Opens a file or a hyperlink with the program that the user has for it. Failures are ignored.
     static void open(const OrxString& fileName);
-    /// Starts a program with a hidden window and does not wait for it to finish. `arguments` is
-    /// one text; double quotes hold an argument with blanks together. Returns the instance
-    /// result, below `started` when the program is missing or cannot be started.
+    /// Starts a program with a hidden window and does not wait for it. `arguments` is a single
+    /// text; use double quotes around arguments with blanks. The result is less than `started` if
+    /// the program is missing or cannot be started.
     [[nodiscard]] static int start(const OrxString& program, const OrxString& arguments);
 };
 

@@ -15,8 +15,8 @@ namespace quillmark {
 
 namespace {
 
-/// The second that the environment fixes the clock to; nothing when it does not, or not with a
-/// number that a clock can show.
+/// The second that the environment sets the clock to. Nothing if it sets none, or one that the
+/// clock cannot show.
 std::optional<std::time_t> fixedMoment() {
     const char* const text = std::getenv("SOURCE_DATE_EPOCH");
     if (text == nullptr) {
@@ -58,7 +58,7 @@ void appendTwoDigits(OrxString& text, int number) {
     text.append(static_cast<char>('0' + number % 10));
 }
 
-/// Three two-digit numbers: no formatting call, so that no locale has a say.
+/// Three numbers with two digits each. Formatting functions would depend on the locale.
 OrxString triple(int first, int second, int third, char between) {
     OrxString text;
     appendTwoDigits(text, first);
@@ -86,7 +86,7 @@ OrxString SysTime::currentTime() {
 }
 
 OrxString SysTime::currentDateTime() {
-    // One look at the clock, so that date and time belong together at midnight too.
+    // The clock is read once, so that date and time match at midnight too.
     const std::tm moment = now();
     return dateOf(moment).append(' ').append(timeOf(moment));
 }

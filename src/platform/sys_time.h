@@ -4,13 +4,13 @@
 
 namespace quillmark {
 
-/// The clock as documents show it: local time, or, when `SOURCE_DATE_EPOCH` is set in the
-/// environment, that second in UTC.
+/// The time shown in documents: local time or, if the environment sets `SOURCE_DATE_EPOCH`, that
+/// second in UTC.
 class SysTime {
 public:
-    /// "%m/%d/%y", for example "11/21/26".
+    /// Month, day, year, for example "11/21/26".
     [[nodiscard]] static OrxString currentDate();
-    /// "%H:%M:%S".
+    /// Hours, minutes, seconds, for example "09:05:00".
     [[nodiscard]] static OrxString currentTime();
     /// Date, a blank, time.
     [[nodiscard]] static OrxString currentDateTime();

@@ -4,26 +4,27 @@
 
 #include "foundation/orx_string.h"
 
-/// What differs from system to system and is a plain fact: asked here, never by a macro.
+/// Properties of the system. Portable code asks here and does not test macros.
 namespace quillmark::system_facts {
 
-/// Whether two file names that differ in case only are the same file.
+/// Whether file names that differ only in case denote the same file.
 [[nodiscard]] bool namesIgnoreCase() noexcept;
 
 /// Whether the system's own file names have drive letters.
 [[nodiscard]] bool hasDrives() noexcept;
 
-/// The system's directory for temporary files, in the driver's form, no separator at its end.
+/// The system's directory for temporary files, in the driver's form, without a separator at the
+/// end.
 [[nodiscard]] OrxString temporaryDirectory();
 
-/// The directory that keeps the user's own configuration, in the driver's form, no separator at
-/// its end. It need not exist.
+/// The directory for the user's configuration, in the driver's form, without a separator at the
+/// end. It may not exist.
 [[nodiscard]] OrxString userConfigurationDirectory();
 
-/// A moment in the system's local time.
+/// Converts a time to local time.
 [[nodiscard]] std::tm localTime(std::time_t moment);
 
-/// Tells this process from every other that runs on the system.
+/// A number that no other running process has.
 [[nodiscard]] unsigned long processId() noexcept;
 
 }  // namespace quillmark::system_facts

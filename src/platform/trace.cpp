@@ -19,17 +19,17 @@ namespace quillmark {
 
 constinit ProcessWide<TraceListener*> Trace::listener_;
 
-/// One log file of the process, shared by every trace that has it open.
+/// A log file, shared by every trace of the process that has it open.
 class Trace::Log {
 public:
     explicit Log(OrxString name) : name_(std::move(name)) {}
 
     [[nodiscard]] bool failed() const noexcept { return failed_.load(std::memory_order_relaxed); }
-    /// A new `open` gives a log that could not be opened another chance.
+    /// After a new `open` a log that has failed is tried again.
     void forgiveFailure() noexcept { failed_.store(false, std::memory_order_relaxed); }
 
-    /// A log that the disk does not take lines for goes silent, which the exception log is told
-    /// once; the document goes on.
+    /// If the disk does not take a line, the log becomes silent and the failure goes to the
+    /// exception log, once. The document goes on.
     void write(std::string_view text) {
         if (failsNow(text)) {
             OrxException::logCatch("Error writing to file: " + name_);
@@ -69,8 +69,8 @@ private:
     std::atomic<bool> failed_{false};
 };
 
-/// What copies of a trace share for good: the log that any of them opened last. Two documents that
-/// trace into one log have a stream each.
+/// What a trace and its copies share: the log that any of them opened last. Two documents that
+/// trace into the same log have one stream each.
 class Trace::Stream {
 public:
     [[nodiscard]] bool isOpen() const noexcept { return log_ != nullptr && !log_->failed(); }
@@ -84,7 +84,7 @@ private:
 
 namespace {
 
-/// A log is known by its absolute name, whatever the current directory is later.
+/// The absolute name of a log. It stays the same when the current directory changes.
 OrxString logFileName(const OrxString& name) {
     const OrxString dir =
         name.isEmpty() ? system_facts::temporaryDirectory() : SysDirectory::getCurrentDir();
@@ -95,14 +95,14 @@ OrxString logKey(OrxString fileName) {
     return system_facts::namesIgnoreCase() ? fileName.toLower() : fileName;
 }
 
-/// Every log of the process by its key. `T` is the private log class of `Trace`.
+/// All logs of the process, by key. `T` is the private log class of `Trace`.
 template <typename T>
 class Registry {
 public:
     std::shared_ptr<T> take(const OrxString& fileName) {
         const std::lock_guard lock(mutex_);
         const OrxString key = logKey(fileName);
-        begun_.insert(key);
+        usedKeys_.insert(key);
         std::weak_ptr<T>& slot = logs_[key];
         std::shared_ptr<T> log = slot.lock();
         if (log == nullptr) {
@@ -115,8 +115,8 @@ public:
     void purgeOnce(const OrxString& fileName) {
         const std::lock_guard lock(mutex_);
         FileSystem& files = FileSystem::current();
-        if (begun_.insert(logKey(fileName)).second && files.fileExists(fileName)) {
-            // Emptied and not deleted: another process may be writing to it at this moment.
+        if (usedKeys_.insert(logKey(fileName)).second && files.fileExists(fileName)) {
+            // Truncated and not deleted, because another process may be writing to it.
             static_cast<void>(files.openForWriting(fileName));
         }
     }
@@ -124,8 +124,8 @@ public:
 private:
     std::mutex mutex_;
     std::map<OrxString, std::weak_ptr<T>> logs_;
-    /// The logs that this process has purged or opened; what is in them is its own.
-    std::set<OrxString> begun_;
+    /// The keys of the logs that this process has truncated or opened. Their content is its own.
+    std::set<OrxString> usedKeys_;
 };
 
 template <typename T>

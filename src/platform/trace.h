@@ -8,26 +8,29 @@
 
 namespace quillmark {
 
-/// Hears the lines of every trace of the process, besides the log. The replay tool is one. It is
-/// called on the thread that writes the line.
+/// Receives the lines of every trace of the process, in addition to the log files. The calls come
+/// on the thread that writes the line.
 class TraceListener {
 public:
     virtual ~TraceListener() = default;
-    /// The deepest level that it wants.
+    /// The highest level of lines that the listener wants.
     [[nodiscard]] virtual int level() const = 0;
-    /// One line (or several, as the driver writes them), line end included.
+    /// One or more lines, as the driver writes them at once. Each ends in a line feed.
     virtual void line(int level, std::string_view text) = 0;
 };
 
-/// A leveled log in a file. Copies share its stream: what one of them opens or closes is opened or
-/// closed for all. But each keeps its own level: a copy taken before a change of level still has
-/// the old one.
+/// A log file whose lines have levels. A line is written if its level is not above the level of the
+/// trace, which is 0 at first.
+///
+/// Copies of a trace share its log: what one of them opens or closes is opened or closed for all.
+/// But each has its own level, so `setLevel` does not affect the others.
 ///
 ///     if (trace.isTrace(Trace::calls)) {
 ///         trace.write(Trace::calls, "dochtml->insertEndl();\n");
 ///     }
 class Trace {
 public:
+    /// The levels that the driver uses.
     static constexpr int errors = 1;
     static constexpr int calls = 10;
     static constexpr int reports = 11;
@@ -37,27 +40,27 @@ public:
     Trace& operator=(const Trace&);
     ~Trace();
 
-    /// Takes up the log of that name, for appending, for the copies that share the stream too; an
-    /// empty name means "dochtml.log" in the system's temporary directory. The file is made by the
-    /// first line written to it; one that cannot be opened leaves the trace silent until the next
-    /// `open`.
+    /// Selects the log file to append to, also for the copies. An empty name stands for
+    /// "dochtml.log" in the system's temporary directory. The first line written creates the file.
+    /// If it cannot be opened, the trace is silent until the next `open`.
     void open(const OrxString& name);
-    /// Closes the stream, for the copies that share it too.
+    /// Closes the log, also for the copies that share it.
     void close();
     void setLevel(int level) noexcept { level_ = level; }
-    /// Drops what an earlier process left in the log of that name, once a process and name. A
-    /// log that this process has written to already is left as it is.
+    /// Truncates the log on this process's first use of that name. A log that this process has
+    /// already opened is left as it is.
     void purgeBefore(const OrxString& name);
 
-    /// Whether a line of that level would be seen by anybody.
+    /// Whether anyone would see a line of that level: the log or the listener.
     [[nodiscard]] bool isTrace(int level) const noexcept {
         return (level <= level_ && hasLog()) || listenerHears(level);
     }
-    /// Writes a text, line ends included, for those that want its level. A line feed becomes the
-    /// system's line end in the log. The log is up to date with every call.
+    /// Writes one or more lines, each with its line feed, to the log and the listener if they want
+    /// the level. In the log a line feed becomes the system's line end. Nothing is buffered.
     void write(int level, std::string_view text) const;
 
-    /// Installs the listener (it stays the caller's), null for none; returns the one before.
+    /// Installs the listener of the process, null for none, and returns the one before. It is not
+    /// owned.
     static TraceListener* setListener(TraceListener* listener) noexcept;
 
 private:

@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// A name next to the file that no other process or thread writes to.
+/// The name of a file in the same directory that no other process or thread uses.
 OrxString temporaryNameFor(const OrxString& fileName) {
     static std::atomic<unsigned> counter{0};
     return fileName + ("." + std::to_string(system_facts::processId()) + "-" +
@@ -45,7 +45,7 @@ public:
         const std::lock_guard lock(mutex_);
         refresh();
         IniText changed = ini_;
-        // What could not be read must not be replaced by the little that is known of it.
+        // A file that could not be read must not be replaced, since its content would be lost.
         const bool kept =
             state_ != State::unreadable &&
             changed.set(SysText::toUtf8(group), SysText::toUtf8(name), SysText::toUtf8(value)) &&
@@ -73,7 +73,7 @@ public:
 private:
     enum class State { unknown, missing, read, unreadable };
 
-    /// Reads the file when it is not the one that was read last.
+    /// Reads the file again if it has changed.
     void refresh() const {
         FileSystem& files = FileSystem::current();
         const std::optional<FileStamp> stamp = files.stamp(fileName_);

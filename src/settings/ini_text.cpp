@@ -18,7 +18,7 @@ std::string_view trimmed(std::string_view text) noexcept {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/// The name between the brackets of a section's line, or nothing for any other line.
+/// The name in a section line such as "[name]". Nothing for any other line.
 std::optional<std::string_view> sectionName(std::string_view line) noexcept {
     const std::string_view text = trimmed(line);
     const std::size_t closing = text.rfind(']');
@@ -32,7 +32,7 @@ bool isComment(std::string_view line) noexcept {
     return trimmed(line).starts_with(';');
 }
 
-/// The key of a "key=value" line, or nothing for any other line.
+/// The key in a "key=value" line. Nothing for any other line.
 std::optional<std::string_view> keyOf(std::string_view line) noexcept {
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos || isComment(line) || sectionName(line)) {
@@ -51,7 +51,7 @@ std::string_view valueOf(std::string_view line) noexcept {
     return isQuoted(value) ? value.substr(1, value.size() - 2) : value;
 }
 
-/// A value that would lose blanks or quotes when it is read goes into quotes.
+/// Puts a value into quotes if it would otherwise lose blanks or quotes when it is read.
 std::string lineFor(std::string_view key, std::string_view value) {
     const bool needsQuotes = isQuoted(value) || trimmed(value) != value;
     const std::string_view quote = needsQuotes ? "\"" : "";
@@ -111,7 +111,7 @@ bool IniText::set(std::string_view section, std::string_view key, std::string_vi
         lines_[*old] = line;
         return true;
     }
-    // Blank lines in front of the next section stay in front of it.
+    // Blank lines before the next section stay before it.
     std::size_t place = range->end;
     while (place > range->first && trimmed(lines_[place - 1]).empty()) {
         --place;

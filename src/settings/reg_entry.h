@@ -4,23 +4,28 @@
 
 namespace quillmark {
 
-/// One settings value with its address. It is kept as text and read as what the caller asks for:
-/// "true" in any case or a non-zero number is true, a number is read as `atoi` reads it.
+/// A settings value with its group and name. The value is kept as text and converted on reading.
+///
+///     RegEntry("Html", "Navig", "3").asInt();   // 3
 class RegEntry {
 public:
-    /// How the settings library marks a value; the text alone decides how it is read.
+    /// The type that the settings library records for a value. It does not affect how the text is
+    /// read.
     enum class Type : int { text = 0, boolean = 1, number = 2 };
 
     RegEntry() = default;
     RegEntry(OrxString group, OrxString name, OrxString value, Type type = Type::text);
 
+    /// Entries without a group and a name, for use as fallbacks.
     [[nodiscard]] static RegEntry ofBool(bool value);
     [[nodiscard]] static RegEntry ofShort(short value);
     [[nodiscard]] static RegEntry ofInt(int value);
     [[nodiscard]] static RegEntry ofLong(long value);
     [[nodiscard]] static RegEntry ofString(OrxString value);
 
+    /// True for "true" in any case and for any number except 0.
     [[nodiscard]] bool asBool() const;
+    /// The number at the start of the text, see `leadingInteger`. `asShort` keeps its low 16 bits.
     [[nodiscard]] short asShort() const;
     [[nodiscard]] int asInt() const;
     [[nodiscard]] long asLong() const;

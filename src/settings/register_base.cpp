@@ -10,7 +10,7 @@ namespace quillmark {
 
 namespace {
 
-ProcessWide<std::shared_ptr<SettingsStore>>& storeInForce() {
+ProcessWide<std::shared_ptr<SettingsStore>>& currentStore() {
     static ModuleLifetime<ProcessWide<std::shared_ptr<SettingsStore>>> store;
     return *store;
 }
@@ -18,11 +18,11 @@ ProcessWide<std::shared_ptr<SettingsStore>>& storeInForce() {
 }  // namespace
 
 std::shared_ptr<SettingsStore> RegisterBase::store() {
-    return storeInForce().getOrMake(makeUserSettingsStore);
+    return currentStore().getOrMake(makeUserSettingsStore);
 }
 
 void RegisterBase::setStore(std::shared_ptr<SettingsStore> store) {
-    storeInForce().exchange(std::move(store));
+    currentStore().exchange(std::move(store));
 }
 
 RegEntry RegisterBase::readStored(const OrxString& group, const OrxString& name,

@@ -7,16 +7,17 @@
 
 namespace quillmark {
 
-/// The settings library's common part: the store that all readers and writers use.
+/// The common base of the settings library: the store that all readers and writers use.
 class RegisterBase {
 public:
-    /// The store in force: the user's own unless the host handed another in.
+    /// The current store: the one that the host has installed, or else the user's own.
     [[nodiscard]] static std::shared_ptr<SettingsStore> store();
-    /// Puts a store in force; null brings the user's own back.
+    /// Installs a store for the whole process. Null stands for the user's own. Any thread may call
+    /// this; a store is destroyed when nobody uses it any more.
     static void setStore(std::shared_ptr<SettingsStore> store);
 
 protected:
-    /// The stored entry, or the fallback's value under that address.
+    /// The stored value of that group and name, or the value of `fallback`.
     [[nodiscard]] static RegEntry readStored(const OrxString& group, const OrxString& name,
                                              const RegEntry& fallback);
 };

@@ -4,7 +4,7 @@ namespace quillmark {
 
 namespace {
 
-/// Addresses are matched ignoring case, as in the store beneath.
+/// Groups and names are found in any case, as in the store.
 std::pair<OrxString, OrxString> addressOf(OrxString group, OrxString name) {
     return {group.toLower(), name.toLower()};
 }

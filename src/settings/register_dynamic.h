@@ -4,13 +4,14 @@
 
 namespace quillmark {
 
-/// Straight access to the settings store; overrides do not reach it.
+/// Direct access to the settings store, without overrides.
 class RegisterDynamic : public RegisterBase {
 public:
-    /// `flag` belongs to the host's settings library; every call of the driver passes false.
+    /// The stored value of that group and name, or else `fallback`. `flag` has a meaning in the
+    /// host's settings library only. The driver always passes false.
     [[nodiscard]] RegEntry read(const OrxString& group, const OrxString& name,
                                 const RegEntry& fallback, bool flag = false) const;
-    /// False when the store could not keep the value.
+    /// Stores a value at once. False if the store could not keep it.
     bool write(const OrxString& group, const OrxString& name, const RegEntry& entry,
                bool flag = false);
 };

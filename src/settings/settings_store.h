@@ -7,32 +7,33 @@
 
 namespace quillmark {
 
-/// Where settings are kept between runs: named texts in named groups.
+/// Keeps settings between runs, as texts with a group and a name.
 ///
-/// The host hands its own in with `RegisterBase::setStore`. Group and name are matched ignoring
-/// case. A store may be reached from several threads at once.
+/// A host installs its own store with `RegisterBase::setStore`. An implementation must find groups
+/// and names in any case, and must allow calls from several threads at once.
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;
-    /// The text kept, or nothing.
+    /// The stored text, or nothing.
     [[nodiscard]] virtual std::optional<OrxString> read(const OrxString& group,
                                                         const OrxString& name) const = 0;
-    /// Keeps the text at once. False when it could not be kept; what was kept before still is.
+    /// Stores a text at once. False on failure, and then the old text is kept.
     [[nodiscard]] virtual bool write(const OrxString& group, const OrxString& name,
                                      const OrxString& value) = 0;
-    /// What is wrong with the store in words (damaged, not readable), empty when nothing is.
+    /// Describes what is wrong with the store (damaged, not readable). Empty if nothing is.
     [[nodiscard]] virtual OrxString problem() const { return {}; }
 };
 
-/// A store in an INI file: a section a group, `Name=Value`, UTF-8. A write goes to a temporary
-/// file that then takes the place of the old one; comments and unknown lines are kept.
+/// A store in an INI file in UTF-8, with one section per group and one `Name=Value` line per
+/// setting. A write creates a temporary file that then replaces the old one. Comments and unknown
+/// lines are kept.
 [[nodiscard]] std::shared_ptr<SettingsStore> makeIniSettingsStore(const OrxString& fileName);
 
-/// The user's own store: the registry on Windows, elsewhere "quillmark/settings.ini" in the
-/// user's configuration directory.
+/// The user's own store: the registry on Windows, elsewhere the file "quillmark/settings.ini" in
+/// the user's configuration directory.
 [[nodiscard]] std::shared_ptr<SettingsStore> makeUserSettingsStore();
 
-/// Where `makeUserSettingsStore` keeps its values, for a person to read.
+/// The location of the user's own store, to be shown to the user.
 [[nodiscard]] OrxString userSettingsLocation();
 
 }  // namespace quillmark

@@ -20,7 +20,7 @@ Counted& counted() {
     return *instance;
 }
 
-TEST(ModuleLifetime, isMadeOnceWithItsContent) {
+TEST(ModuleLifetime, IsMadeOnceWithItsContent) {
     EXPECT_EQ(counted().name, "counted, in memory of its own");
     EXPECT_EQ(counted().uses, 0);
     ++counted().uses;
@@ -28,7 +28,7 @@ TEST(ModuleLifetime, isMadeOnceWithItsContent) {
     counted().uses = 0;
 }
 
-TEST(ModuleLifetime, leavesNothingForTheExitOfTheProcessToDestroy) {
+TEST(ModuleLifetime, LeavesNothingForTheExitOfTheProcessToDestroy) {
     static_assert(std::is_trivially_destructible_v<ModuleLifetime<Counted>>);
 }
 
@@ -51,7 +51,7 @@ Told& second() {
     return *instance;
 }
 
-TEST(ModuleLifetimeDeathTest, outlivesWhatTheProcessHasLeftToItsExitAndGoesInReverseOrder) {
+TEST(ModuleLifetimeDeathTest, OutlivesWhatTheProcessHasLeftToItsExitAndGoesInReverseOrder) {
     EXPECT_EXIT(
         {
             // Registered before they are made, so it runs after the end of an ordinary static.

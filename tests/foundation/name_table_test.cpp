@@ -71,15 +71,5 @@ TEST(NameTable, FindsEveryNameOfAHundredThousand) {
     EXPECT_EQ(index.find("name 100000"), NameTable::none);
 }
 
-TEST(NameTable, BeginsAgainOnceCleared) {
-    NameTable index;
-    index.add("a");
-    index.add("b");
-    index.clear();
-    EXPECT_EQ(index.size(), 0U);
-    EXPECT_EQ(index.find("a"), NameTable::none);
-    EXPECT_EQ(index.add("b"), 0U);
-}
-
 }  // namespace
 }  // namespace quillmark

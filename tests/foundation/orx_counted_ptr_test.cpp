@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <utility>
 
 #include "foundation/orx_object.h"
@@ -25,10 +24,8 @@ public:
 
 TEST(CountedPointer, IsNullAtFirst) {
     const OrxCountedPtr<Counted> pointer;
-    EXPECT_TRUE(pointer.isNull());
     EXPECT_FALSE(pointer);
     EXPECT_EQ(pointer.get(), nullptr);
-    EXPECT_EQ(pointer.useCount(), 0);
 }
 
 TEST(CountedPointer, KeepsItsObjectForTheLastHolder) {
@@ -37,10 +34,9 @@ TEST(CountedPointer, KeepsItsObjectForTheLastHolder) {
         auto first = OrxCountedPtr<Counted>::make(alive, 7);
         {
             const OrxCountedPtr<Counted> second = first;
-            EXPECT_EQ(first.useCount(), 2);
             EXPECT_EQ(second->number, 7);
             first.reset();
-            EXPECT_TRUE(first.isNull());
+            EXPECT_FALSE(first);
             EXPECT_EQ(alive, 1);
             EXPECT_EQ((*second).number, 7);
         }
@@ -51,9 +47,12 @@ TEST(CountedPointer, KeepsItsObjectForTheLastHolder) {
 TEST(CountedPointer, HandsItsObjectOnWhenMoved) {
     int alive = 0;
     auto first = OrxCountedPtr<Counted>::make(alive);
-    const OrxCountedPtr<Counted> second = std::move(first);
-    EXPECT_EQ(second.useCount(), 1);
-    EXPECT_EQ(alive, 1);
+    {
+        const OrxCountedPtr<Counted> second = std::move(first);
+        EXPECT_TRUE(second);
+        EXPECT_EQ(alive, 1);
+    }
+    EXPECT_EQ(alive, 0);
 }
 
 TEST(CountedPointer, IsEqualToItsCopiesAlone) {
@@ -63,7 +62,6 @@ TEST(CountedPointer, IsEqualToItsCopiesAlone) {
     const OrxCountedPtr<Counted> copy = one;
     EXPECT_EQ(one, copy);
     EXPECT_NE(one, other);
-    EXPECT_EQ((std::set<OrxCountedPtr<Counted>>{one, copy, other}).size(), 2U);
 }
 
 TEST(CountedPointer, AssignedToItselfKeepsItsObject) {
@@ -72,7 +70,8 @@ TEST(CountedPointer, AssignedToItselfKeepsItsObject) {
     auto& same = pointer;
     pointer = same;
     EXPECT_EQ(alive, 1);
-    EXPECT_EQ(pointer.useCount(), 1);
+    pointer.reset();
+    EXPECT_EQ(alive, 0);
 }
 
 }  // namespace

@@ -6,10 +6,11 @@
 
 namespace quillmark {
 
-/// An open file of the system; closed when its holder goes.
+/// Owns a file descriptor. The destructor closes it.
 class Descriptor {
 public:
     Descriptor() noexcept = default;
+    /// Takes ownership of a descriptor. A negative number means that none is open.
     explicit Descriptor(int number) noexcept : number_(number) {}
     Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
     Descriptor& operator=(Descriptor&& other) noexcept {
@@ -23,7 +24,8 @@ public:
     [[nodiscard]] int number() const noexcept { return number_; }
     [[nodiscard]] bool isOpen() const noexcept { return number_ >= 0; }
 
-    /// False when the system reports that something written was lost. A second close is true.
+    /// False if the system reports that written bytes were lost. Closing again has no effect and
+    /// returns true.
     [[nodiscard]] bool close() noexcept {
         const int number = std::exchange(number_, -1);
         return number < 0 || ::close(number) == 0;

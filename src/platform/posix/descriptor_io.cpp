@@ -13,8 +13,8 @@ namespace quillmark::descriptor_io {
 
 namespace {
 
-/// Moves `vectors` behind the `written` bytes that are done.
-std::span<iovec> behind(std::span<iovec> vectors, std::size_t written) noexcept {
+/// The part of `vectors` after the first `written` bytes.
+std::span<iovec> rest(std::span<iovec> vectors, std::size_t written) noexcept {
     while (!vectors.empty() && written >= vectors.front().iov_len) {
         written -= vectors.front().iov_len;
         vectors = vectors.subspan(1);
@@ -27,25 +27,25 @@ std::span<iovec> behind(std::span<iovec> vectors, std::size_t written) noexcept 
 }
 
 bool writeVectors(int number, std::span<iovec> vectors) noexcept {
-    vectors = behind(vectors, 0);
+    vectors = rest(vectors, 0);
     while (!vectors.empty()) {
         const ssize_t written = uninterrupted(
             [&] { return writev(number, vectors.data(), static_cast<int>(vectors.size())); });
         if (written <= 0) {
             return false;
         }
-        vectors = behind(vectors, static_cast<std::size_t>(written));
+        vectors = rest(vectors, static_cast<std::size_t>(written));
     }
     return true;
 }
 
 enum class Copied { whole, nothing, part };
 
-/// How much one system call is asked to move at once.
+/// The largest number of bytes to move with one system call.
 constexpr std::size_t portion = std::size_t{1} << 30U;
 
-/// Lets a system call move the bytes until it reports the end. A call that moves nothing at all
-/// says nothing: some file systems answer 0 where they do not know how.
+/// Repeats a system call that moves bytes until it reports the end. If it moves nothing at all, the
+/// file may still have content: some file systems return 0 when they do not support the call.
 template <typename Call>
 Copied copyWith(Call call) noexcept {
     Copied result = Copied::nothing;
@@ -78,9 +78,9 @@ bool copyThroughBuffer(const Descriptor& source, const Descriptor& target) noexc
 }  // namespace
 
 Descriptor openFile(const char* path, int flags) noexcept {
-    constexpr mode_t everybodyAsFarAsTheMaskAllows = 0666;
-    return Descriptor(uninterrupted(
-        [&] { return open(path, flags | O_CLOEXEC, everybodyAsFarAsTheMaskAllows); }));
+    constexpr mode_t readableAndWritable = 0666;
+    return Descriptor(
+        uninterrupted([&] { return open(path, flags | O_CLOEXEC, readableAndWritable); }));
 }
 
 bool writeAll(const Descriptor& file, std::span<const std::string_view> pieces) noexcept {
@@ -89,7 +89,7 @@ bool writeAll(const Descriptor& file, std::span<const std::string_view> pieces) 
     while (!pieces.empty()) {
         const std::size_t count = std::min(batch, pieces.size());
         for (std::size_t i = 0; i < count; ++i) {
-            // The system's structure serves reading too and so has no const.
+            // The system uses this structure for reading too, so its pointer is not const.
             // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
             vectors[i] = {const_cast<char*>(pieces[i].data()), pieces[i].size()};
         }
@@ -108,7 +108,7 @@ long readSome(const Descriptor& file, std::span<char> buffer) noexcept {
 bool copyAll(const Descriptor& source, const Descriptor& target) noexcept {
     const int from = source.number();
     const int to = target.number();
-    // Each way goes on where the one before it stopped: both files keep their own places.
+    // Each method continues where the one before stopped, because both files keep their positions.
     const bool done =
         copyWith([&] { return copy_file_range(from, nullptr, to, nullptr, portion, 0); }) ==
             Copied::whole ||

@@ -6,21 +6,23 @@
 
 #include "platform/posix/descriptor.h"
 
+/// File operations on descriptors. Interrupted system calls are repeated.
 namespace quillmark::descriptor_io {
 
-/// `open`, not cut short by a signal, and not handed on to programs that are started.
+/// Opens a file as the system's `open` does. Programs that are started do not inherit the
+/// descriptor. On failure it is not open, and `errno` says why.
 [[nodiscard]] Descriptor openFile(const char* path, int flags) noexcept;
 
-/// Writes all pieces behind each other, with one system call where the system takes them whole.
-/// False on the first failure.
+/// Writes the pieces one after the other, in a single system call if possible. False on the first
+/// failure.
 [[nodiscard]] bool writeAll(const Descriptor& file,
                             std::span<const std::string_view> pieces) noexcept;
 
-/// One read of the system, not cut short by a signal: up to as many bytes as `buffer` holds, fewer
-/// at the end or where a pipe holds no more for now; 0 at the end only, -1 on a failure.
+/// Reads once. The result is the number of bytes, which may be smaller than the buffer, 0 only at
+/// the end of the file, or -1 on failure.
 [[nodiscard]] long readSome(const Descriptor& file, std::span<char> buffer) noexcept;
 
-/// Copies from one file to the other up to the end, inside the system where it can.
+/// Copies the rest of `source` to `target`, inside the kernel if possible. False on failure.
 [[nodiscard]] bool copyAll(const Descriptor& source, const Descriptor& target) noexcept;
 
 }  // namespace quillmark::descriptor_io

@@ -4,9 +4,9 @@
 
 namespace quillmark {
 
-/// A directory that the environment names; empty unless it is an absolute one.
+/// The directory in an environment variable. Empty unless it is an absolute path.
 [[nodiscard]] std::string environmentDirectory(const char* name);
-/// The user's home: what the environment says, or else the system's account of the user.
+/// The user's home directory, from the environment or else from the user database.
 [[nodiscard]] std::string homeDirectory();
 
 }  // namespace quillmark

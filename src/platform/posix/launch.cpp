@@ -15,23 +15,25 @@ namespace quillmark {
 
 namespace {
 
-/// What runs between `fork` and the new program may only make calls that are safe in a signal
-/// handler: other threads of the host may hold any lock. So everything is laid out before.
+/// Everything that the code between `fork` and the new program needs, prepared in advance. That
+/// code may only make calls that are safe in signal handlers, since other threads of the host may
+/// hold any lock.
 struct Launch {
     const char* program;
     char* const* arguments;
-    /// Closed by the system when the program starts; a byte in it tells that it did not.
+    /// The system closes it when the program starts. A byte in it means that the start failed.
     int failurePipe;
 };
 
-/// The same file under a number that is none of the standard streams', closed when a program
-/// starts; -1 where there is none. The old number is left to the caller.
+/// Duplicates a descriptor under a number above those of the standard streams. Started programs do
+/// not inherit it. Returns -1 on failure. The caller still owns the old number.
 int aboveStreams(int number) noexcept {
     return fcntl(number, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
 }
 
 void silenceStreams() noexcept {
-    // Where the host has closed its streams the first free descriptor is one of theirs.
+    // If the host has closed its standard streams, the first free descriptor is one of their
+    // numbers.
     const int nowhere = aboveStreams(open("/dev/null", O_RDWR | O_CLOEXEC));
     if (nowhere >= 0) {
         for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
@@ -46,7 +48,7 @@ void unblockSignals() noexcept {
     sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
-[[noreturn]] void tellFailure(const Launch& launch) noexcept {
+[[noreturn]] void reportFailure(const Launch& launch) noexcept {
     const char sign = 1;
     static_cast<void>(!write(launch.failurePipe, &sign, 1));
     _exit(127);
@@ -57,16 +59,16 @@ void unblockSignals() noexcept {
     silenceStreams();
     unblockSignals();
     if (strchr(launch.program, '/') != nullptr) {
-        // Not execvp: it hands a file that is no program to a shell, which then counts as started.
+        // Not execvp: it would give a file that is not a program to a shell, and report success.
         execv(launch.program, launch.arguments);
     } else {
         execvp(launch.program, launch.arguments);
     }
-    tellFailure(launch);
+    reportFailure(launch);
 }
 
-/// Forks twice: the program's parent ends at once, so that the system looks after the program and
-/// the host never finds a finished child that it does not know.
+/// Forks twice. The parent of the program ends at once, so that the system adopts the program and
+/// the host never sees a terminated child that it does not know.
 bool forkTwice(const Launch& launch) noexcept {
     const pid_t middle = fork();
     if (middle == 0) {
@@ -75,7 +77,7 @@ bool forkTwice(const Launch& launch) noexcept {
             becomeProgram(launch);
         }
         if (program < 0) {
-            tellFailure(launch);
+            reportFailure(launch);
         }
         _exit(0);
     }
@@ -104,7 +106,7 @@ bool launchDetached(const std::string& program, const std::vector<std::string>& 
     }
     const Descriptor failures(ends[0]);
     Descriptor sender(ends[1]);
-    // The program's streams are laid over the first three descriptors before it starts.
+    // The standard streams take over the first three descriptors before the program starts.
     sender = Descriptor(aboveStreams(sender.number()));
     if (!sender.isOpen() || !forkTwice({program.c_str(), pointers.data(), sender.number()})) {
         return false;

@@ -5,8 +5,9 @@
 
 namespace quillmark {
 
-/// Starts a program and lets go of it: it is nobody's child, reads nothing and writes nowhere.
-/// A name without "/" is looked for on the search path. False when it could not be started.
+/// Starts a program that is independent of this process: not its child, and with standard streams
+/// that lead nowhere. A name without "/" is searched for in PATH. False if the program could not be
+/// started.
 [[nodiscard]] bool launchDetached(const std::string& program,
                                   const std::vector<std::string>& arguments);
 

@@ -39,7 +39,7 @@ bool isFile(const std::optional<struct stat>& status) noexcept {
     return status && !S_ISDIR(status->st_mode);
 }
 
-/// What a device or a pipe hands out may have no end, or never come.
+/// Reading from a device or a pipe may never end, or wait forever.
 bool hasAnEnd(const std::optional<struct stat>& status) noexcept {
     return status && S_ISREG(status->st_mode);
 }
@@ -78,10 +78,10 @@ std::unique_ptr<OutputFile> outputFile(const OrxString& name, int flags) {
     return file.isOpen() ? std::make_unique<NativeOutputFile>(std::move(file)) : nullptr;
 }
 
-/// The target of a copy, opened but not emptied yet.
+/// The target of a copy, opened but not yet truncated.
 struct CopyTarget {
     Descriptor file;
-    bool made = false;
+    bool created = false;
 };
 
 CopyTarget openCopyTarget(const std::string& path) {
@@ -89,21 +89,21 @@ CopyTarget openCopyTarget(const std::string& path) {
     if (fresh.isOpen() || errno != EEXIST) {
         return {std::move(fresh), true};
     }
-    // Here already, or a link that leads nowhere yet.
+    // The file exists, or the name is a link to a file that does not.
     return {openFile(path.c_str(), O_WRONLY | O_CREAT), false};
 }
 
 bool fillCopy(const Descriptor& source, CopyTarget& target) noexcept {
     const std::optional<struct stat> status = statusOf(target.file);
-    const bool emptied = target.made || !status || !S_ISREG(status->st_mode) ||
-                         ftruncate(target.file.number(), 0) == 0;
-    const bool copied = emptied && descriptor_io::copyAll(source, target.file);
+    const bool truncated = target.created || !status || !S_ISREG(status->st_mode) ||
+                           ftruncate(target.file.number(), 0) == 0;
+    const bool copied = truncated && descriptor_io::copyAll(source, target.file);
     return target.file.close() && copied;
 }
 
 bool makeDirectoryChain(const std::string& path) {
-    constexpr mode_t everybodyAsFarAsTheMaskAllows = 0777;
-    if (mkdir(path.c_str(), everybodyAsFarAsTheMaskAllows) == 0) {
+    constexpr mode_t fullAccess = 0777;
+    if (mkdir(path.c_str(), fullAccess) == 0) {
         return true;
     }
     if (errno != ENOENT) {
@@ -112,14 +112,13 @@ bool makeDirectoryChain(const std::string& path) {
     const std::size_t lastOfParent = path.find_last_not_of('/', path.find_last_of('/'));
     return lastOfParent != std::string::npos && lastOfParent + 1 < path.size() &&
            makeDirectoryChain(path.substr(0, lastOfParent + 1)) &&
-           (mkdir(path.c_str(), everybodyAsFarAsTheMaskAllows) == 0 || isDirectory(statusOf(path)));
+           (mkdir(path.c_str(), fullAccess) == 0 || isDirectory(statusOf(path)));
 }
 
 constexpr mode_t allPermissions = 07777;
 
-/// The file that a name leads to, so that a link to it stays a link. A link that leads nowhere is
-/// a name like any other.
-std::string behindLinks(const std::string& path) {
+/// The file that a link leads to. Any other name stays as it is, also a link to a missing file.
+std::string linkTarget(const std::string& path) {
     std::error_code failure;
     const std::filesystem::path found = std::filesystem::canonical(path, failure);
     return failure ? path : found.string();
@@ -148,7 +147,7 @@ public:
 
     bool copyFile(const OrxString& source, const OrxString& target) override {
         const std::string sourcePath = nativePath(source);
-        // Asked before opening too: opening a device or a pipe is felt at its other end.
+        // Also checked before opening, since opening a device or a pipe has side effects.
         if (!hasAnEnd(statusOf(sourcePath))) {
             return false;
         }
@@ -167,7 +166,7 @@ public:
             return false;
         }
         const bool done = fillCopy(from, to);
-        if (!done && to.made) {
+        if (!done && to.created) {
             unlink(path.c_str());
         }
         return done;
@@ -212,12 +211,12 @@ public:
 
     bool replaceFile(const OrxString& source, const OrxString& target) override {
         const std::string from = nativePath(source);
-        const std::string to = behindLinks(nativePath(target));
+        const std::string to = linkTarget(nativePath(target));
         if (!isFile(statusOf(from))) {
             return false;
         }
         if (const std::optional<struct stat> there = statusOf(to)) {
-            // Who may read the file stays as the user has set it, as far as this user may.
+            // Keeps the permissions, as far as this user may set them.
             static_cast<void>(chmod(from.c_str(), there->st_mode & allPermissions));
         }
         return rename(from.c_str(), to.c_str()) == 0;

@@ -22,7 +22,7 @@ struct GuardedSignal {
     const char* reason;
 };
 
-/// The one that is looked at to see whether the handlers are in place comes last.
+/// The last one is used to check whether the handlers are installed.
 constexpr std::array<GuardedSignal, 4> guardedSignals = {{
     {SIGBUS, "Processor signal SIGBUS (invalid memory access)"},
     {SIGFPE, "Processor signal SIGFPE (arithmetic error)"},
@@ -30,18 +30,18 @@ constexpr std::array<GuardedSignal, 4> guardedSignals = {{
     {SIGSEGV, "Processor signal SIGSEGV (invalid memory access)"},
 }};
 
-/// Where a signal goes on in the thread that it struck.
+/// Where execution continues after a signal in this thread.
 struct Landing {
     sigjmp_buf place;
     Landing* outer;
 };
 
-/// The handler reads this; with this model it is there in every thread from its start, so that
-/// reading it never allocates.
+/// The signal handler reads this. With this TLS model the variable exists from the start of every
+/// thread, so that reading it never allocates.
 [[gnu::tls_model("initial-exec")]] thread_local Landing* innermost = nullptr;
 
-/// What the host had in place. Written before it is published, never changed afterwards but for
-/// the marks of handlers that are good for one signal only.
+/// The host's own signal handling. It does not change after publication, except for the flags of
+/// handlers that are valid for one signal only.
 struct HostActions {
     std::array<struct sigaction, guardedSignals.size()> actions{};
     std::array<std::atomic<bool>, guardedSignals.size()> spent{};
@@ -49,17 +49,17 @@ struct HostActions {
 
 std::atomic<HostActions*> hostActions{nullptr};
 
-/// The flags are an integer with a sign in the structure, and one of them is its highest bit.
+/// The system declares the flags as a signed integer, although one of them is its highest bit.
 bool hasFlag(const struct sigaction& action, unsigned flag) noexcept {
     return (static_cast<unsigned>(action.sa_flags) & flag) != 0;
 }
 
-void takeSystemsAnswer(int signal, const siginfo_t& info) noexcept {
+void applyDefaultAction(int signal, const siginfo_t& info) noexcept {
     struct sigaction systems {};
     systems.sa_handler = SIG_DFL;
     sigaction(signal, &systems, nullptr);
-    // What the processor raised strikes again on return, at the very place; what a program sent
-    // has to be sent again.
+    // A signal of the processor occurs again when the handler returns. One that a program sent must
+    // be sent again.
     if (info.si_code <= 0) {
         raise(signal);
     }
@@ -81,7 +81,7 @@ void callHostHandler(const struct sigaction& action, int signal, siginfo_t* info
     pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
 
-/// A signal in a thread without a guard: what the host had in place answers it.
+/// Handles a signal in a thread without a guard as the host would.
 void passOn(int signal, siginfo_t* info, void* context) noexcept {
     HostActions& host = *hostActions.load(std::memory_order_acquire);
     std::size_t i = 0;
@@ -95,7 +95,7 @@ void passOn(int signal, siginfo_t* info, void* context) noexcept {
         host.spent[i].store(hasFlag(action, SA_RESETHAND));
         callHostHandler(action, signal, info, context);
     } else if (isHandler || action.sa_handler == SIG_DFL || info->si_code > 0) {
-        takeSystemsAnswer(signal, *info);
+        applyDefaultAction(signal, *info);
     }
 }
 
@@ -117,14 +117,14 @@ struct sigaction currentAction(int signal) noexcept {
     return action;
 }
 
-/// The handlers stay in place from the first guard on: putting them there and taking them away
-/// again would cost eight system calls a page. Outside a guard they pass every signal on.
+/// Installs the handlers with the first guard and leaves them installed, since installing and
+/// removing them would cost eight system calls per page. Without a guard they pass every signal on.
 class Installation {
 public:
     Installation() = default;
     Installation(const Installation&) = delete;
     Installation& operator=(const Installation&) = delete;
-    /// A library that is unloaded must leave no handler behind.
+    /// An unloaded library must not leave a handler installed.
     ~Installation() {
         const HostActions* const host = hostActions.load(std::memory_order_acquire);
         for (std::size_t i = 0; host != nullptr && i < guardedSignals.size(); ++i) {
@@ -134,8 +134,8 @@ public:
         }
     }
 
-    /// Makes sure that they are in place. A host that brings its own later does so for wild
-    /// addresses above all, so this is the signal looked at.
+    /// Makes sure that the handlers are installed. A host that later installs its own most likely
+    /// does so for invalid addresses, so that signal is checked.
     void check() {
         if (!isOurs(currentAction(SIGSEGV))) {
             install();
@@ -146,7 +146,7 @@ private:
     void install() {
         const std::lock_guard lock(mutex_);
         if (isOurs(currentAction(SIGSEGV))) {
-            return;  // Another thread was quicker.
+            return;  // Another thread was faster.
         }
         auto next = std::make_unique<HostActions>();
         const HostActions* const last = hostActions.load(std::memory_order_acquire);
@@ -156,12 +156,12 @@ private:
             next->actions[i] = known ? last->actions[i] : current;
             next->spent[i] = known && last->spent[i];
         }
-        // Published first, so that no handler ever finds nothing to pass a signal on to.
+        // Published first, so that a handler always has something to pass a signal on to.
         hostActions.store(next.get(), std::memory_order_release);
         published_.push_back(std::move(next));
         struct sigaction ours {};
         ours.sa_sigaction = onSignal;
-        // Not deferred: the handler is left by a jump, and the signal must strike again later.
+        // Not deferred: the handler exits by a jump, and later signals must still arrive.
         ours.sa_flags = SA_SIGINFO | SA_NODEFER | SA_ONSTACK;
         for (const GuardedSignal& guarded : guardedSignals) {
             if (!isOurs(currentAction(guarded.number))) {
@@ -171,7 +171,7 @@ private:
     }
 
     std::mutex mutex_;
-    /// A handler in another thread may still read an older one.
+    /// Never freed, since a handler in another thread may still read an older one.
     std::vector<std::unique_ptr<HostActions>> published_;
 };
 
@@ -180,7 +180,7 @@ Installation& installation() {
     return *instance;
 }
 
-/// A guard of the thread. Nested ones find the handlers in place.
+/// Registers a landing for this thread. Only the outermost guard checks the handlers.
 class Guard {
 public:
     explicit Guard(Landing& landing) : landing_(landing) {
@@ -206,8 +206,8 @@ const char* reasonFor(int signal) noexcept {
     return "Processor signal";
 }
 
-/// The signal that struck while the body ran, or 0. Nothing with a destructor lives here: a jump
-/// into this function must have nothing to skip.
+/// Runs `body` and returns the signal that interrupted it, or 0. The function has no objects with
+/// destructors, which the jump would skip.
 int signalDuring(const std::function<void()>& body, Landing& landing) {
     const int signal = sigsetjmp(landing.place, 0);
     if (signal == 0) {

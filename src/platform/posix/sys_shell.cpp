@@ -15,11 +15,11 @@ namespace quillmark {
 
 namespace {
 
-/// The instance results of the Windows shell that stand for the two failures told apart here.
+/// Results of the Windows shell for the two failures that are distinguished here.
 constexpr int fileNotFound = 2;
 constexpr int accessDenied = 5;
 
-/// A name that no program takes for an option or for a command of the search path.
+/// A name that cannot be mistaken for an option or for a command in PATH.
 std::string asPath(const std::string& name) {
     return name.find('/') != std::string::npos ? name : "./" + name;
 }
@@ -31,7 +31,7 @@ void SysShell::open(const OrxString& fileName) {
         static_cast<void>(launchDetached("xdg-open", {fileName.str()}));
         return;
     }
-    // No name at all would open the current directory.
+    // An empty name would open the current directory.
     const std::string path = nativePath(fileName);
     if (!path.empty()) {
         static_cast<void>(launchDetached("xdg-open", {asPath(path)}));
@@ -46,7 +46,7 @@ int SysShell::start(const OrxString& program, const OrxString& arguments) {
     if (access(path.c_str(), X_OK) != 0) {
         return accessDenied;
     }
-    // File names in the arguments are the driver's; the program knows the system's only.
+    // Arguments may be file names in the driver's form, but programs expect the system's.
     std::vector<std::string> list = splitArguments(arguments);
     for (std::string& argument : list) {
         argument = nativePath(argument);

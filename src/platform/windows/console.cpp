@@ -8,7 +8,7 @@
 
 #include "foundation/utf8.h"
 #include "platform/windows/this_module.h"
-// Needs the header above.
+// Needs the types of the header above.
 #include <shellapi.h>
 
 namespace quillmark {
@@ -22,7 +22,7 @@ std::string utf8From(const std::wstring& text) {
 }  // namespace
 
 std::vector<std::string> Console::arguments(int /*argc*/, const char* const* /*argv*/) {
-    // What `main` gets is in the code page and has lost what that cannot hold.
+    // The arguments of `main` are in the code page and have lost what it cannot hold.
     int count = 0;
     const std::unique_ptr<LPWSTR, decltype(&LocalFree)> words(
         CommandLineToArgvW(GetCommandLineW(), &count), &LocalFree);

@@ -6,7 +6,7 @@
 
 namespace quillmark {
 
-/// An open file of the system; closed when its holder goes.
+/// Owns the handle of an open file. The destructor closes it.
 class Handle {
 public:
     Handle() noexcept = default;
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] HANDLE get() const noexcept { return handle_; }
     [[nodiscard]] bool isOpen() const noexcept { return handle_ != INVALID_HANDLE_VALUE; }
 
-    /// False when the system reports a failure. A second close is true.
+    /// False if the system reports a failure. Closing again has no effect and returns true.
     [[nodiscard]] bool close() noexcept {
         const HANDLE handle = std::exchange(handle_, INVALID_HANDLE_VALUE);
         return handle == INVALID_HANDLE_VALUE || CloseHandle(handle) != FALSE;

@@ -10,7 +10,7 @@ namespace quillmark {
 
 namespace {
 
-/// What one system call is asked to move at most.
+/// The largest number of bytes to move with one system call.
 constexpr std::size_t portion = std::size_t{1} << 26U;
 
 class NativeInputFile final : public InputFile {
@@ -23,7 +23,7 @@ public:
         if (ReadFile(file_.get(), buffer.data(), size, &taken, nullptr) != FALSE) {
             return taken;
         }
-        // The end of a pipe comes as an error.
+        // The end of a pipe is reported as an error.
         failed_ = failed_ || GetLastError() != ERROR_BROKEN_PIPE;
         return 0;
     }
@@ -42,7 +42,7 @@ public:
         if (pieces.size() == 1) {
             return writeAll(pieces.front());
         }
-        // The system writes one buffer at a time, and a call costs more than the copying.
+        // The system writes one buffer at a time, and a call costs more than joining the pieces.
         std::size_t size = 0;
         for (const std::string_view piece : pieces) {
             size += piece.size();

@@ -7,7 +7,7 @@
 
 namespace quillmark {
 
-/// The stream over an open file, or null for a handle that is not open.
+/// A stream that reads or writes an open file. Null if the handle is not open.
 [[nodiscard]] std::unique_ptr<InputFile> makeInputFile(Handle file);
 [[nodiscard]] std::unique_ptr<OutputFile> makeOutputFile(Handle file);
 

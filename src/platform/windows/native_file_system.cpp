@@ -31,8 +31,8 @@ Handle openFile(const std::wstring& name, DWORD access, DWORD disposition) noexc
                               FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
-/// The system's own record of a file, which tells two names of one file; nothing where no file is,
-/// and for a device or a pipe.
+/// The system's description of a file, which identifies it under any name. Nothing if there is no
+/// file, and for a device or a pipe.
 std::optional<BY_HANDLE_FILE_INFORMATION> informationOf(const std::wstring& name) noexcept {
     constexpr DWORD noAccess = 0;
     const Handle file = openFile(name, noAccess, OPEN_EXISTING);
@@ -53,7 +53,7 @@ constexpr std::uint64_t joinHalves(DWORD high, DWORD low) noexcept {
     return (std::uint64_t{high} << 32U) | low;
 }
 
-/// A copy of a read-only file is read-only as well; it must give way to the next copy.
+/// A copy of a read-only file is read-only as well. The next copy must be able to replace it.
 void makeWritable(const std::wstring& name) noexcept {
     const DWORD attributes = attributesOf(name);
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
@@ -152,7 +152,7 @@ public:
     }
 
     std::unique_ptr<OutputFile> openForAppending(const OrxString& name) override {
-        // With this access alone every write goes to the end, wherever that is by then.
+        // With this access alone, every write goes to the current end of the file.
         return makeOutputFile(openFile(wideName(name), FILE_APPEND_DATA, OPEN_ALWAYS));
     }
 

@@ -4,7 +4,7 @@
 
 namespace quillmark {
 
-// The system has drives of its own: the drive table has no say here.
+// The system has drives of its own, so the drive table is not used.
 std::string nativePath(const OrxString& name) {
     return path_text::hasZero(name) ? std::string() : path_text::inDriverForm(name).str();
 }

@@ -11,7 +11,7 @@ namespace quillmark {
 
 namespace {
 
-/// The reasons are those of the other systems, so that logs read the same everywhere.
+/// The reasons have the same wording on all systems, so that logs do not differ.
 const char* reasonFor(DWORD code) noexcept {
     switch (code) {
         case EXCEPTION_ACCESS_VIOLATION:
@@ -37,10 +37,10 @@ const char* reasonFor(DWORD code) noexcept {
     }
 }
 
-/// Where a signal goes on in the thread that it struck.
+/// Where execution continues after a signal in this thread.
 struct Landing {
-    /// What the compiler's own jump needs; unlike `longjmp` it unwinds nothing and so does not
-    /// stumble over frames that the system made.
+    /// The buffer of the compiler's own jump. Unlike `longjmp` it does not unwind the stack, which
+    /// may contain frames of the system.
     std::array<void*, 5> place;
     const char* reason;
     Landing* outer;
@@ -48,13 +48,13 @@ struct Landing {
 
 thread_local Landing* innermost = nullptr;
 
-/// Runs on the stack of the code that was struck, as if that code had called it.
+/// Runs on the stack of the interrupted code, as if that code had called it.
 [[noreturn]] void jumpToLanding() {
     __builtin_longjmp(innermost->place.data(), 1);
 }
 
-/// Makes the thread go on at `jumpToLanding`, well below whatever the code that was struck has on
-/// its stack and aligned as behind a call.
+/// Makes the thread continue in `jumpToLanding`. The stack pointer is set well below everything
+/// that the interrupted code has on its stack, and aligned as after a call.
 void redirect(CONTEXT& context) noexcept {
     constexpr std::uintptr_t room = 512;
     constexpr std::uintptr_t alignment = 16;
@@ -81,7 +81,7 @@ LONG CALLBACK onException(EXCEPTION_POINTERS* exception) {
     return EXCEPTION_CONTINUE_EXECUTION;
 }
 
-/// The handler is there while any guard of the process is open.
+/// The handler is installed while any guard of the process exists.
 struct Installation {
     std::mutex mutex;
     int guards = 0;
@@ -110,7 +110,7 @@ void uninstall() noexcept {
     }
 }
 
-/// A guard of the thread. Nested ones find the handler in place.
+/// Registers a landing for this thread. Only the outermost guard installs the handler.
 class Guard {
 public:
     explicit Guard(Landing& landing) noexcept : landing_(landing) {
@@ -132,9 +132,9 @@ private:
     Landing& landing_;
 };
 
-/// Whether a signal struck while the body ran. A function of its own, never part of another: the
-/// jump comes back into its frame, where nothing with a destructor may live.
-[[gnu::noinline]] bool isStruck(const std::function<void()>& body, Landing& landing) {
+/// Runs `body`. True if a signal interrupted it. This must stay a function of its own, without
+/// objects that have destructors, because the jump returns into its frame.
+[[gnu::noinline]] bool isInterrupted(const std::function<void()>& body, Landing& landing) {
     if (__builtin_setjmp(landing.place.data()) != 0) {
         return true;
     }
@@ -150,7 +150,7 @@ void CSignal2Exception::run(const std::function<void()>& body) {
     {
         Landing landing{};
         const Guard guard(landing);
-        if (isStruck(body, landing)) {
+        if (isInterrupted(body, landing)) {
             reason = landing.reason;
         }
     }

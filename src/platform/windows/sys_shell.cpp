@@ -14,11 +14,11 @@ namespace quillmark {
 
 namespace {
 
-/// The flag that forbids the shell to go on in the background when it has returned.
+/// The shell must not continue in the background after it has returned.
 constexpr ULONG noAsync = 0x100;
 
-/// The instance result of the shell's execute service, with the default verb, no window owner and
-/// no working directory.
+/// Calls the shell's execute service with the default verb, without an owner window or a working
+/// directory, and returns its instance result.
 int execute(const char* file, const char* parameters, int show) {
     SHELLEXECUTEINFOA request{};
     request.cbSize = sizeof request;
@@ -35,14 +35,14 @@ int execute(const char* file, const char* parameters, int show) {
 void SysShell::open(const OrxString& fileName) {
     const std::string target =
         SysFile::isHyperLink(fileName) ? fileName.str() : nativePath(fileName);
-    // No name at all would open the current directory.
+    // An empty name would open the current directory.
     if (!target.empty()) {
         execute(target.c_str(), nullptr, SW_SHOWNORMAL);
     }
 }
 
 int SysShell::start(const OrxString& program, const OrxString& arguments) {
-    // Asked here, because the shell would tell a person about a missing program in a window.
+    // Checked first, because the shell would report a missing program in a window.
     if (!FileSystem::native().fileExists(program)) {
         return SE_ERR_FNF;
     }

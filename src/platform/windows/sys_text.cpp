@@ -8,7 +8,7 @@ namespace quillmark {
 
 namespace {
 
-/// Texts go to the system in pieces that a 32-bit length can hold and that no pair is cut by.
+/// Texts go to the system in pieces whose length fits into 32 bits and that do not split a pair.
 constexpr std::size_t largestPiece = std::size_t{1} << 20U;
 
 std::size_t pieceLength(std::u16string_view text) noexcept {
@@ -22,8 +22,8 @@ void appendThroughSystem(std::string& out, std::u16string_view piece) {
     static_assert(sizeof(wchar_t) == sizeof(char16_t));
     const auto* const wide = reinterpret_cast<const wchar_t*>(piece.data());
     const int length = static_cast<int>(piece.size());
-    // A letter that only looks like one of the code page is not taken for it. Where the code page
-    // is UTF-8 it holds every letter, and the system takes neither the flag nor the substitute.
+    // The flag prevents replacement by a similar letter. With UTF-8 as the code page, which holds
+    // every letter, the system accepts neither the flag nor the substitute.
     const bool utf8 = GetACP() == CP_UTF8;
     const DWORD flags = utf8 ? 0 : WC_NO_BEST_FIT_CHARS;
     const char* const substitute = utf8 ? nullptr : "?";

@@ -7,7 +7,7 @@
 
 namespace quillmark {
 
-// The system's wide character is a UTF-16 unit; only the language holds it for another type.
+// The system's wide character is a UTF-16 unit, although the language treats it as another type.
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
 std::wstring wideText(std::string_view text) {
@@ -21,7 +21,7 @@ std::wstring wideName(const OrxString& name) {
     }
     std::wstring wide = wideText(name);
     std::replace(wide.begin(), wide.end(), L'/', L'\\');
-    // Where a directory may get 12 characters less than a file.
+    // The limit for directories, which is 12 characters below that for files.
     constexpr std::size_t longestPlain = MAX_PATH - 12;
     const bool onDrive = path_text::hasDrive(name) && wide.size() > 2 && wide[2] == L'\\';
     if (wide.size() > longestPlain && onDrive) {

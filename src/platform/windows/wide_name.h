@@ -7,12 +7,13 @@
 
 namespace quillmark {
 
-/// A text of the code page as the system's wide calls take it.
+/// Converts a text from the code page to UTF-16, for the system's wide calls.
 [[nodiscard]] std::wstring wideText(std::string_view text);
-/// A file name likewise, with "\" throughout; a long absolute one gets the prefix that lifts the
-/// system's limit of 260 characters. Empty, which is no file's name, for one with a zero inside.
+/// Converts a file name in the same way, with "\" as the only separator. A long absolute name gets
+/// the prefix that lifts the system's limit of 260 characters. A name with a zero byte becomes
+/// empty, which is not the name of any file.
 [[nodiscard]] std::wstring wideName(const OrxString& name);
-/// A wide text of the system in the code page.
+/// Converts UTF-16 text of the system to the code page.
 [[nodiscard]] OrxString narrowText(std::wstring_view text);
 
 }  // namespace quillmark

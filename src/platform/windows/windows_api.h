@@ -1,7 +1,7 @@
 #pragma once
 
-/// The one way to the system's header: lean, and without the macros that fight the library's
-/// `min` and `max`.
+/// Includes the system's header without rarely used parts and without the macros `min` and `max`.
+/// No other file includes it directly.
 #ifndef WIN32_LEAN_AND_MEAN
 #define WIN32_LEAN_AND_MEAN
 #endif

@@ -4,7 +4,7 @@
 namespace quillmark {
 
 OrxString userSettingsLocation() {
-    // With the system's own separator: the name is for a person, and for the store it is the same.
+    // With the system's own separator, because the name is also shown to the user.
     return system_facts::userConfigurationDirectory()
         .append("/quillmark/settings.ini")
         .replaceStr("\\", "/");

@@ -31,7 +31,7 @@ std::optional<OrxString> textValue(const RegistryKey& key, const std::wstring& n
     DWORD size = 0;
     LSTATUS status =
         RegGetValueW(key.get(), nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, nullptr, &size);
-    // Another process may store a longer one between the two calls.
+    // Another process may store a longer text between the two calls.
     for (int i = 0; i < 3 && (status == ERROR_SUCCESS || status == ERROR_MORE_DATA); ++i) {
         text.resize(size / sizeof(wchar_t) + 1);
         size = static_cast<DWORD>(text.size() * sizeof(wchar_t));
@@ -44,8 +44,8 @@ std::optional<OrxString> textValue(const RegistryKey& key, const std::wstring& n
     return std::nullopt;
 }
 
-/// The user's branch of the registry: a key a group, a text a setting. Numbers that somebody put
-/// there as such are read too.
+/// The user's branch of the registry, with one key per group and one text value per setting.
+/// Numeric values that others have stored are read too.
 class RegistrySettingsStore final : public SettingsStore {
 public:
     [[nodiscard]] std::optional<OrxString> read(const OrxString& group,
@@ -61,7 +61,7 @@ public:
 
     [[nodiscard]] bool write(const OrxString& group, const OrxString& name,
                              const OrxString& value) override {
-        // A text of the registry ends at its first zero.
+        // A text in the registry ends at its first zero.
         if (value.contains(std::string_view("\0", 1))) {
             return false;
         }
