@@ -43,7 +43,7 @@ TEST(CodePage, HasACharacterForEachOfTheBytes) {
     EXPECT_EQ(narrowed(allBytesWidened()), allBytes());
 }
 
-TEST(CodePage, HoldsNoOtherUnit) {
+TEST(CodePage, ReplacesEveryOtherUnit) {
     const std::u16string held = allBytesWidened();
     for (unsigned unit = 0; unit <= 0xFFFF; ++unit) {
         const auto wide = static_cast<char16_t>(unit);
@@ -59,7 +59,7 @@ TEST(CodePage, GivesEachHalfOfASurrogatePairAQuestionMark) {
     EXPECT_EQ(narrowed(std::u16string_view(u"\xDC00x")), "?x");
 }
 
-TEST(CodePage, AppendsBehindWhatIsThere) {
+TEST(CodePage, AppendsAfterWhatIsThere) {
     std::string out = "\xE9";
     code_page::appendNarrowed(out, u"\u20AC");
     code_page::appendNarrowed(out, u"a");

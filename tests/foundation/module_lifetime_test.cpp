@@ -54,7 +54,8 @@ Told& second() {
 TEST(ModuleLifetimeDeathTest, OutlivesWhatTheProcessHasLeftToItsExitAndGoesInReverseOrder) {
     EXPECT_EXIT(
         {
-            // Registered before they are made, so it runs after the end of an ordinary static.
+            // Registered before the objects are created, so it runs after ordinary statics are
+            // destroyed.
             std::atexit([] {
                 first().text = "first";
                 second().text = "second";

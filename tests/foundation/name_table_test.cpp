@@ -37,7 +37,7 @@ TEST(NameTable, KnowsNoNameAtFirst) {
     EXPECT_EQ(index.find(""), NameTable::none);
 }
 
-TEST(NameTable, NumbersNamesAsTheyFirstCome) {
+TEST(NameTable, NumbersNamesInTheOrderOfTheirFirstUse) {
     NameTable index;
     EXPECT_EQ(index.add("b"), 0U);
     EXPECT_EQ(index.add("a"), 1U);
@@ -50,7 +50,7 @@ TEST(NameTable, NumbersNamesAsTheyFirstCome) {
     EXPECT_EQ(index.name(2), "");
 }
 
-TEST(NameTable, TellsNamesApartByEveryByte) {
+TEST(NameTable, DistinguishesNamesByEveryByte) {
     NameTable index;
     EXPECT_EQ(index.add("name"), 0U);
     EXPECT_EQ(index.add("Name"), 1U);

@@ -28,13 +28,13 @@ TEST(Exception, IsCaughtAsAStandardException) {
     }
 }
 
-TEST(ExceptionLog, IsToldBeforeTheThrow) {
+TEST(ExceptionLog, IsWrittenToBeforeTheThrow) {
     const CapturingExceptionLog log;
     EXPECT_THROW(OrxException::raise("Error opening file: a"), OrxException);
     EXPECT_EQ(log.messages(), Messages{"Exception throw: Error opening file: a\n"});
 }
 
-TEST(ExceptionLog, IsToldAfterTheCatch) {
+TEST(ExceptionLog, IsWrittenToAfterTheCatch) {
     const CapturingExceptionLog log;
     OrxException::logCatch("Error opening file: a");
     EXPECT_EQ(log.messages(), Messages{"Exception catch: Error opening file: a\n"});
@@ -96,7 +96,7 @@ TEST(ExceptionLog, RecordsNothingUnlessOneIsInstalled) {
     EXPECT_NO_THROW(standard->write("a"));
 }
 
-TEST(ExceptionLog, IsInstalledAndTakenBack) {
+TEST(ExceptionLog, IsInstalledAndRemoved) {
     {
         const CapturingExceptionLog log;
         EXPECT_EQ(OrxException::getLog(), &log);

@@ -108,7 +108,7 @@ TEST(String, GivesAPartOfItself) {
     EXPECT_EQ(text.substr(99, 1), "");
 }
 
-TEST(StringReplace, TakesEveryOccurrenceFromLeftToRight) {
+TEST(StringReplace, ReplacesEveryOccurrenceFromLeftToRight) {
     EXPECT_EQ(replaced("a:b:c", ":", "|"), "a|b|c");
     EXPECT_EQ(replaced("aaaa", "aa", "b"), "bb");
     EXPECT_EQ(replaced("aaa", "aa", "b"), "ba");
@@ -116,10 +116,10 @@ TEST(StringReplace, TakesEveryOccurrenceFromLeftToRight) {
     EXPECT_EQ(replaced("xaxbx", "x", ""), "ab");
 }
 
-TEST(StringReplace, NeverLooksAtWhatItInserted) {
+TEST(StringReplace, NeverSearchesInsertedText) {
     EXPECT_EQ(replaced("a\\b", "\\", "\\\\"), "a\\\\b");
     EXPECT_EQ(replaced("ab", "b", "ab"), "aab");
-    // What is left and what was put in join to the text looked for; it is left alone.
+    // Remaining and inserted text together form the searched text, which is not replaced.
     EXPECT_EQ(replaced("aabb", "ab", ""), "ab");
 }
 
@@ -192,7 +192,7 @@ std::string someText(std::mt19937& random, std::size_t longest) {
     return text;
 }
 
-/// The rule word by word, one occurrence after the other in place.
+/// A straightforward implementation: one occurrence after the other, in place.
 std::string naiveReplace(std::string text, const std::string& from, const std::string& to) {
     for (std::size_t at = 0; !from.empty() && (at = text.find(from, at)) != std::string::npos;) {
         text.replace(at, from.size(), to);
@@ -201,7 +201,7 @@ std::string naiveReplace(std::string text, const std::string& from, const std::s
     return text;
 }
 
-TEST(StringReplaceProperty, AgreesWithTheRuleWordByWord) {
+TEST(StringReplaceProperty, AgreesWithAStraightforwardImplementation) {
     std::mt19937 random(1);
     for (int i = 0; i < 20000; ++i) {
         const std::string text = someText(random, 12);

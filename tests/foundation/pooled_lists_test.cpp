@@ -41,7 +41,7 @@ TEST(PooledLists, KeepTheirValuesInOrderAndApart) {
     EXPECT_EQ(taken(pool, even), (std::vector<int>{2, 4, 6}));
 }
 
-TEST(PooledLists, CanBeFilledAnewWhileTheyAreTaken) {
+TEST(PooledLists, CanBeRefilledWhileTheyAreTaken) {
     Numbers pool;
     Numbers::List list;
     pool.append(list, 1);
@@ -55,7 +55,7 @@ TEST(PooledLists, CanBeFilledAnewWhileTheyAreTaken) {
     EXPECT_EQ(taken(pool, others), (std::vector<int>{100, 200}));
 }
 
-TEST(PooledLists, LetGoOfWhatWasTaken) {
+TEST(PooledLists, ReleaseWhatWasTaken) {
     PooledLists<std::shared_ptr<int>> pool;
     PooledLists<std::shared_ptr<int>>::List list;
     const auto value = std::make_shared<int>(7);

@@ -30,7 +30,7 @@ TEST(ProcessWide, HandsBackWhatItReplaces) {
     EXPECT_EQ(text.exchange("b"), "a");
 }
 
-TEST(ProcessWide, MakesAMissingValueOnce) {
+TEST(ProcessWide, CreatesAMissingValueOnce) {
     ProcessWide<std::shared_ptr<int>> value;
     int made = 0;
     const auto make = [&made] { return std::make_shared<int>(++made); };

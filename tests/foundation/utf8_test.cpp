@@ -24,7 +24,7 @@ std::optional<std::u16string> strictlyDecoded(std::string_view text,
     return units;
 }
 
-TEST(Utf8, HasOneToFourBytesACharacter) {
+TEST(Utf8, HasOneToFourBytesPerCharacter) {
     EXPECT_EQ(utf8::fromUtf16(u"a\u00E9\u20AC\U0001F600"), "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80");
     EXPECT_EQ(utf8::toUtf16("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80"), u"a\u00E9\u20AC\U0001F600");
 }
@@ -37,7 +37,7 @@ TEST(Utf8, HoldsTheEdgesOfEveryLength) {
     EXPECT_EQ(utf8::toUtf16(std::string_view("\0", 1)), std::u16string(1, u'\0'));
 }
 
-TEST(Utf8, GetsAReplacementForALoneSurrogate) {
+TEST(Utf8, ReplacesALoneSurrogate) {
     constexpr std::string_view replacement = "\xEF\xBF\xBD";
     EXPECT_EQ(utf8::fromUtf16(std::u16string_view(u"\xD800")), replacement);
     EXPECT_EQ(utf8::fromUtf16(std::u16string_view(u"\xDC00")), replacement);
@@ -46,7 +46,7 @@ TEST(Utf8, GetsAReplacementForALoneSurrogate) {
               std::string(replacement) + std::string(replacement));
 }
 
-TEST(Utf8, GetsAReplacementForEachMalformedByte) {
+TEST(Utf8, ReplacesEachMalformedByte) {
     const std::u16string one = u"\uFFFD";
     EXPECT_EQ(utf8::toUtf16("\x80"), one);
     EXPECT_EQ(utf8::toUtf16("\xFF"), one);
@@ -57,7 +57,7 @@ TEST(Utf8, GetsAReplacementForEachMalformedByte) {
     EXPECT_EQ(utf8::toUtf16("\xF0\x9F\x98x"), one + one + one + u"x");
 }
 
-TEST(Utf8, DoesNotTakeAnOverlongFormASurrogateOrWhatLiesBeyond) {
+TEST(Utf8, RejectsOverlongFormsSurrogatesAndCodePointsOutOfRange) {
     const std::u16string one = u"\uFFFD";
     EXPECT_EQ(utf8::toUtf16("\xC0\x80"), one + one);
     EXPECT_EQ(utf8::toUtf16("\xC1\xBF"), one + one);
@@ -68,7 +68,7 @@ TEST(Utf8, DoesNotTakeAnOverlongFormASurrogateOrWhatLiesBeyond) {
     EXPECT_EQ(utf8::toUtf16("\xF5\x80\x80\x80"), one + one + one + one);
 }
 
-TEST(Utf8Property, GivesAnyWellFormedTextBack) {
+TEST(Utf8Property, ReturnsAnyWellFormedTextUnchanged) {
     std::mt19937 random(3);
     for (int i = 0; i < 5000; ++i) {
         std::u16string text;

@@ -26,14 +26,14 @@ class Schema : public MMSchema {
     const MMClass* findClass(const OrxString& /*name*/) const override { return nullptr; }
 };
 
-TEST(HostServices, AreNotThereUntilTheHostHandsThemIn) {
+TEST(HostServices, AreNullUntilTheHostInstallsThem) {
     EXPECT_EQ(AppProfileInterface::getInterface(), nullptr);
     EXPECT_EQ(CImageMapInterface::getInterface(), nullptr);
     EXPECT_EQ(MMSchema::getSchema(), nullptr);
     EXPECT_EQ(CQuillmarkMode::GetSchemaType(), 0);
 }
 
-TEST(HostServices, ComeAndGoAndGiveTheOneBefore) {
+TEST(HostServices, AreReplacedAndReturnTheOneBefore) {
     Profile profile;
     ImageMaps maps;
     Schema schema;
@@ -49,14 +49,14 @@ TEST(HostServices, ComeAndGoAndGiveTheOneBefore) {
     EXPECT_EQ(AppProfileInterface::getInterface(), nullptr);
 }
 
-TEST(HostMode, IsWhatTheHostSaid) {
+TEST(HostMode, IsSetByTheHost) {
     CQuillmarkMode::SetSchemaType(CQuillmarkMode::secondRuleSet);
     EXPECT_EQ(CQuillmarkMode::GetSchemaType(), 2);
     CQuillmarkMode::SetSchemaType(0);
     EXPECT_EQ(CQuillmarkMode::GetSchemaType(), 0);
 }
 
-TEST(Observers, AreDeafUnlessOneIsInstalled) {
+TEST(Observers, DoNothingUnlessOneIsInstalled) {
     class Counter : public DocumentObserver {
     public:
         void pageWritten(const OrxString& /*fileName*/) override { ++pages; }

@@ -89,7 +89,7 @@ TEST_F(Page, CountsALineForEveryTextWithALineFeed) {
     EXPECT_EQ(closed(), head + "ab\ncd\n\n\n" + end);
 }
 
-TEST_F(Page, HasALineOnceAnEmptyTextCame) {
+TEST_F(Page, HasALineAfterAnEmptyText) {
     page.append("");
     EXPECT_FALSE(page.isEmpty());
     EXPECT_EQ(page.getLineCount(), 1);
@@ -136,7 +136,7 @@ TEST_F(Page, IsCopiedWhole) {
     EXPECT_EQ(closed(), head + "ab" + end);
 }
 
-TEST_F(Page, TakesAnAssignedPageOver) {
+TEST_F(Page, IsReplacedByAnAssignedPage) {
     DocHtmlPage other;
     other.append("old");
     other = page;
@@ -170,7 +170,7 @@ TEST_F(Page, LinksFromTheDefaultDirectoryWithoutABase) {
 
 class Marks : public Page {};
 
-TEST_F(Marks, StandBehindTheLineAsItIs) {
+TEST_F(Marks, ArePlacedAtTheEndOfTheLine) {
     page.append("abc\n");
     page.append("de");
     page.addMark("b", "<A b>");
@@ -181,7 +181,7 @@ TEST_F(Marks, StandBehindTheLineAsItIs) {
     EXPECT_EQ(page.getMarkCount(), 3U);
 }
 
-TEST_F(Marks, MakeAnEmptyPageOneOfOneLine) {
+TEST_F(Marks, GiveAnEmptyPageOneLine) {
     page.addMark("a", "");
     EXPECT_FALSE(page.isEmpty());
     EXPECT_EQ(page.getLineCount(), 1);
@@ -199,14 +199,14 @@ TEST_F(Marks, AreFilledByTheKindOfTheirMarkup) {
     EXPECT_EQ(closed(), head + "HREF=\"p.htm#n\" <A HREF=\"p.htm#n\">text</A>" + end);
 }
 
-TEST_F(Marks, AreFilledAtTheNamesFirstPlaceInTheirMarkup) {
+TEST_F(Marks, AreFilledAtTheFirstOccurrenceOfTheirNameInTheMarkup) {
     page.addMark("A", "<A A>");
     page.addMark("A", "</A>");
     page.resolveMarks("A", "r");
     EXPECT_EQ(closed(), head + "<HREF=\"r\" A></HREF=\"r\">" + end);
 }
 
-TEST_F(Marks, MoveWithWhatIsPutInBeforeThem) {
+TEST_F(Marks, MoveWithTextInsertedBeforeThem) {
     page.addMark("a", "");
     page.append("x");
     page.addMark("b", "");
@@ -216,7 +216,7 @@ TEST_F(Marks, MoveWithWhatIsPutInBeforeThem) {
     EXPECT_EQ(marks(), "b 1:11 2 \nc 2:1 3 \n");
 }
 
-TEST_F(Marks, OfOnePlaceAreFilledInTheOrderOfTheirMaking) {
+TEST_F(Marks, AtOnePositionAreFilledInTheOrderOfTheirCreation) {
     page.addMark("one", "1");
     page.addMark("two", "2");
     page.addMark("three", "3");
@@ -226,7 +226,7 @@ TEST_F(Marks, OfOnePlaceAreFilledInTheOrderOfTheirMaking) {
     EXPECT_EQ(closed(), head + "123" + end);
 }
 
-TEST_F(Marks, WithEqualSequencesStayInFrontOfWhatIsPutIn) {
+TEST_F(Marks, WithEqualSequencesStayBeforeInsertedText) {
     page.addMark("one", "1");
     page.addMark("two", "2");
     page.removeMarks("one");
@@ -237,7 +237,7 @@ TEST_F(Marks, WithEqualSequencesStayInFrontOfWhatIsPutIn) {
     EXPECT_EQ(closed(), head + "32" + end);
 }
 
-TEST_F(Marks, WithASmallerSequenceStayInFrontToo) {
+TEST_F(Marks, WithASmallerSequenceStayBeforeItToo) {
     page.addMark("one", "1");
     page.addMark("two", "2");
     page.addMark("three", "3");
@@ -250,7 +250,7 @@ TEST_F(Marks, WithASmallerSequenceStayInFrontToo) {
     EXPECT_EQ(closed(), head + "43" + end);
 }
 
-TEST_F(Marks, LetTextBeWrittenAtThem) {
+TEST_F(Marks, AcceptTextAtThem) {
     page.append("a");
     page.addMark("m", "");
     page.append("b");
@@ -265,7 +265,7 @@ TEST_F(Marks, LetTextBeWrittenAtThem) {
     EXPECT_EQ(closed(), head + "a12\nbc" + end);
 }
 
-TEST_F(Marks, LetTextBeWrittenAtTheFirstOfTheirName) {
+TEST_F(Marks, AcceptTextAtTheFirstOfTheirName) {
     page.addMark("m", "");
     page.append("a");
     page.addMark("m", "");
@@ -276,13 +276,13 @@ TEST_F(Marks, LetTextBeWrittenAtTheFirstOfTheirName) {
     EXPECT_EQ(closed(), head + "xa" + end);
 }
 
-TEST_F(Marks, LetNoTextBeWrittenWhereThereIsNone) {
+TEST_F(Marks, AcceptNoTextIfThereIsNone) {
     EXPECT_FALSE(page.setInsertPoint("m"));
     page.append("a");
     EXPECT_EQ(closed(), head + "a" + end);
 }
 
-TEST_F(Marks, ThatGoTakeTheInsertionPointAlong) {
+TEST_F(Marks, ThatAreRemovedEndTheInsertionPoint) {
     page.addMark("m", "");
     page.append("a");
     ASSERT_TRUE(page.setInsertPoint("m"));

@@ -16,7 +16,7 @@ protected:
     DocHtmlSection section;
 };
 
-TEST_F(Section, CollectsTextAsItStands) {
+TEST_F(Section, CollectsTextUnchanged) {
     EXPECT_EQ(shown(), "");
     section.insertText("<B>a");
     section.insertText(" & b");
@@ -63,7 +63,7 @@ TEST_F(Section, FillsTheNumberFirst) {
     EXPECT_EQ(shown(), "<PA7GE>");
 }
 
-TEST_F(Section, TellsTokensByTheirCase) {
+TEST_F(Section, RecognizesTokensByTheirCase) {
     section.insertText("<page><PAGE");
     EXPECT_EQ(shown(), "<page><PAGE");
 }

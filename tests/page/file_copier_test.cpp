@@ -33,13 +33,13 @@ protected:
     FileCopier copier;
 };
 
-TEST_F(Copies, LieInTheDirectoryUnderTheirName) {
+TEST_F(Copies, AreInTheDirectoryUnderTheirOwnName) {
     EXPECT_EQ(copied("C:\\src\\a.doc"), "C:\\out\\docs\\a.doc");
     EXPECT_EQ(bytes("C:\\out\\docs\\a.doc"), "doc");
     EXPECT_EQ(heard.text(), "");
 }
 
-TEST_F(Copies, LieThereUnderANewName) {
+TEST_F(Copies, AreInTheDirectoryUnderANewName) {
     EXPECT_EQ(copied("C:\\src\\a.doc", "b.txt"), "C:\\out\\docs\\b.txt");
     EXPECT_EQ(bytes("C:\\out\\docs\\b.txt"), "doc");
     EXPECT_EQ(bytes("C:\\out\\docs\\a.doc"), "(none)");
@@ -82,7 +82,7 @@ TEST_F(Copies, ThatFailLeaveAnOlderCopyInUse) {
     EXPECT_EQ(heard.text(), "ERR Could not copy file C:\\src\\a.doc to directory C:\\out\\docs\n");
 }
 
-TEST_F(Copies, ThatFailAreToldAtTheLevelOfErrors) {
+TEST_F(Copies, ThatFailAreTracedAsErrors) {
     failing.failAll(Operation::copyFile);
     {
         const CapturingTrace nobody(0);
@@ -100,14 +100,14 @@ TEST_F(Copies, FailWithoutTheirDirectory) {
     EXPECT_EQ(heard.text(), "ERR Could not copy file C:\\src\\a.doc to directory C:\\out\\docs\n");
 }
 
-TEST_F(Copies, OntoThemselvesAreDone) {
+TEST_F(Copies, OntoThemselvesSucceed) {
     files.put("C:\\out\\docs\\a.doc", "same");
     EXPECT_EQ(copied("C:\\out\\docs\\a.doc"), "C:\\out\\docs\\a.doc");
     EXPECT_EQ(bytes("C:\\out\\docs\\a.doc"), "same");
     EXPECT_EQ(heard.text(), "");
 }
 
-/// Counts the copies that it hears of.
+/// Counts the copies that are reported to it.
 class CopyObserver : public DocumentObserver {
 public:
     CopyObserver() : before_(install(this)) {}
@@ -122,7 +122,7 @@ private:
     DocumentObserver* before_;
 };
 
-TEST_F(Copies, AreHeardOfWhenTheySucceed) {
+TEST_F(Copies, AreReportedToTheObserverWhenTheySucceed) {
     const CopyObserver observer;
     copied("C:\\src\\gone.doc");
     copied("C:\\src\\a.doc");

@@ -16,7 +16,7 @@ TEST(HtmlHead, HasATitleAndNothingElseByItself) {
     EXPECT_EQ(htmlHead("", "", ""), front + "  <TITLE></TITLE>\n</HEAD>\n\n");
 }
 
-TEST(HtmlHead, ShowsTheTitleAsItStands) {
+TEST(HtmlHead, ShowsTheTitleUnchanged) {
     EXPECT_EQ(htmlHead("a < b & \"c\"", "", ""),
               front + "  <TITLE>a < b & \"c\"</TITLE>\n</HEAD>\n\n");
 }
@@ -29,7 +29,7 @@ TEST(HtmlHead, LinksAStyleSheet) {
                   "</HEAD>\n\n");
 }
 
-TEST(HtmlHead, EndsWithTheExtraTextAsItStands) {
+TEST(HtmlHead, EndsWithTheExtraTextUnchanged) {
     EXPECT_EQ(htmlHead("T", "a.css", "<SCRIPT>"),
               front +
                   "  <TITLE>T</TITLE>\n"

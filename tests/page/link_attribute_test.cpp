@@ -5,7 +5,7 @@
 namespace quillmark {
 namespace {
 
-TEST(LinkAttribute, StandsWhereTheNameComesFirst) {
+TEST(LinkAttribute, ReplacesTheFirstOccurrenceOfTheName) {
     const auto place = LinkAttribute::placeIn("<A GUID-1>", "GUID-1");
     EXPECT_TRUE(place.isFound());
     EXPECT_EQ(place.start, 3U);
@@ -13,13 +13,13 @@ TEST(LinkAttribute, StandsWhereTheNameComesFirst) {
     EXPECT_EQ(LinkAttribute::placeIn("<A x x>", "x").start, 3U);
 }
 
-TEST(LinkAttribute, IsFoundInTheTagsOwnLettersToo) {
+TEST(LinkAttribute, MayReplaceLettersOfTheTagItself) {
     const auto place = LinkAttribute::placeIn("<A A>", "A");
     EXPECT_EQ(place.start, 1U);
     EXPECT_EQ(place.length, 1U);
 }
 
-TEST(LinkAttribute, IsAllThatAnEmptyMarkupHolds) {
+TEST(LinkAttribute, ReplacesAnEmptyMarkupAsAWhole) {
     const auto place = LinkAttribute::placeIn("", "GUID-1");
     EXPECT_TRUE(place.isFound());
     EXPECT_EQ(place.start, 0U);

@@ -7,8 +7,8 @@
 
 namespace quillmark::testing {
 
-/// A page as plainly as it can be told: a map of lines, a multimap of marks, and an insertion
-/// point whose columns are moved one by one. The driver's page must agree with it.
+/// The simplest implementation of a page: a map of lines, a multimap of marks, and an insertion
+/// point. It moves the columns of marks one by one. DocHtmlPage must behave in the same way.
 struct NaivePage {
     struct Mark {
         std::uint32_t line = 0;

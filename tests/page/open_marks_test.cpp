@@ -32,7 +32,7 @@ TEST(OpenMarks, IsEmptyAtFirst) {
     EXPECT_EQ(listed(table), "");
 }
 
-TEST(OpenMarks, HandsOutTheMarksOfANameInTheOrderOfTheirMaking) {
+TEST(OpenMarks, ReturnsTheMarksOfANameInTheOrderOfTheirCreation) {
     OpenMarks table;
     table.add("a", 5);
     table.add("b", 4);
@@ -46,7 +46,7 @@ TEST(OpenMarks, HandsOutTheMarksOfANameInTheOrderOfTheirMaking) {
     EXPECT_EQ(taken(table, "a"), MarkIds{});
 }
 
-TEST(OpenMarks, FindsANameByItsNumberAndByAWrongOneToo) {
+TEST(OpenMarks, FindsANameByItsIdAndIgnoresAWrongOne) {
     OpenMarks table;
     const auto a = table.add("a", 1);
     const auto b = table.add("b", 2);
@@ -78,7 +78,7 @@ TEST(OpenMarks, ListsNamesInTheOrderOfTheirBytes) {
     EXPECT_EQ(listed(table), "=4 B=3 b=1 b=5 ba=6 \xe4=2 ");
 }
 
-TEST(OpenMarks, TakesANameUpAgain) {
+TEST(OpenMarks, ReusesAName) {
     OpenMarks table;
     table.add("a", 1);
     table.add("b", 2);
@@ -88,7 +88,7 @@ TEST(OpenMarks, TakesANameUpAgain) {
     EXPECT_EQ(listed(table), "a=4 b=2 b=3 ");
 }
 
-TEST(OpenMarks, CountsWhileItHandsOut) {
+TEST(OpenMarks, CountsWhileMarksAreTaken) {
     OpenMarks table;
     table.add("a", 1);
     table.add("a", 2);

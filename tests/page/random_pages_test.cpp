@@ -1,6 +1,6 @@
-// Random pages, made by the page and by the naive page: lines, marks and the written text must be
-// the same after every step. Marks are dropped as well as filled, so that several marks with one
-// sequence number meet at one place, which whole documents hardly ever bring about.
+// Builds random pages with DocHtmlPage and with NaivePage. Lines, marks and the written text must
+// be the same after every step. Marks are removed as well as filled, so that several marks with the
+// same sequence number meet at one position, which is very rare in whole documents.
 
 #include <gtest/gtest.h>
 
@@ -74,7 +74,7 @@ public:
     }
     [[nodiscard]] const std::string& log() const { return log_; }
 
-    /// Closes the page; what is to be in its file, empty when there is none.
+    /// Closes the page. Returns what its file must contain, or an empty text if there must be none.
     std::string expectedFile() {
         page_.close();
         return naive_.lineCount == 0 ? "" : htmlHead("", "", "") + naive_.text() + "\n</HTML>\n";
@@ -131,7 +131,7 @@ private:
     std::string log_;
 };
 
-TEST(RandomPages, AreTheSameByBothMakings) {
+TEST(RandomPages, AreTheSameInBothImplementations) {
     MemoryFileSystem files;
     const InstalledFileSystem installed(files);
     const char* const given = std::getenv("DOCHTML_TEST_SEED");

@@ -16,7 +16,7 @@ TEST(SpliceText, IsPlainWhileItOnlyGrows) {
     EXPECT_EQ(text.merged(), "ab");
 }
 
-TEST(SpliceText, IsPlainWithMarksThatNothingWasPutInAt) {
+TEST(SpliceText, IsPlainWithMarksWithoutInsertedText) {
     SpliceText text;
     const auto mark = text.addMark("m", 1);
     text.append("a");
@@ -26,7 +26,7 @@ TEST(SpliceText, IsPlainWithMarksThatNothingWasPutInAt) {
     EXPECT_FALSE(text.isPlain());
 }
 
-TEST(SpliceText, EndsALineBehindAPieceWithALineFeedAnywhereInIt) {
+TEST(SpliceText, EndsALineAfterAPieceWithALineFeedAnywhereInIt) {
     SpliceText text;
     text.append("a");
     EXPECT_EQ(text.lineCount(), 1);
@@ -59,7 +59,7 @@ TEST(SpliceText, KnowsLineColumnMarkupAndSequenceOfAMark) {
     EXPECT_EQ(text.sequence(mark), 7U);
 }
 
-TEST(SpliceText, PutsTextInWhereTheMarkStood) {
+TEST(SpliceText, InsertsTextAtTheMark) {
     SpliceText text;
     text.append("a");
     const auto mark = text.addMark("", 1);
@@ -69,7 +69,7 @@ TEST(SpliceText, PutsTextInWhereTheMarkStood) {
     EXPECT_EQ(text.merged(), "a12b");
 }
 
-TEST(SpliceText, PutsTextInFrontOfEarlierTextsAfterARewind) {
+TEST(SpliceText, InsertsTextBeforeEarlierTextsAfterARewind) {
     SpliceText text;
     const auto mark = text.addMark("", 1);
     text.append("b");
@@ -80,7 +80,7 @@ TEST(SpliceText, PutsTextInFrontOfEarlierTextsAfterARewind) {
     EXPECT_EQ(text.merged(), "231b");
 }
 
-TEST(SpliceText, PutsTextInAtTwoMarksByTurns) {
+TEST(SpliceText, InsertsTextAtTwoMarksAlternately) {
     SpliceText text;
     const auto one = text.addMark("", 1);
     text.append("-");
@@ -92,7 +92,7 @@ TEST(SpliceText, PutsTextInAtTwoMarksByTurns) {
     EXPECT_EQ(text.merged(), "ab-xy");
 }
 
-TEST(SpliceText, PutsTextInAtTheVeryEnd) {
+TEST(SpliceText, InsertsTextAtTheVeryEnd) {
     SpliceText text;
     text.append("a");
     const auto mark = text.addMark("", 1);
@@ -114,7 +114,7 @@ TEST(SpliceText, MovesMarksOfTheSamePlaceByTheirSequence) {
     }
 }
 
-TEST(SpliceText, LeavesAnEqualMarkInFrontForGood) {
+TEST(SpliceText, LeavesAnEqualMarkInFront) {
     SpliceText text;
     const auto one = text.addMark("", 3);
     const auto two = text.addMark("", 3);
@@ -139,7 +139,7 @@ TEST(SpliceText, MovesMarksFurtherOnInTheLine) {
     EXPECT_EQ(text.column(one), 2U);
 }
 
-TEST(SpliceText, EndsNoLineWithATextPutIn) {
+TEST(SpliceText, DoesNotEndALineWithInsertedText) {
     SpliceText text;
     const auto one = text.addMark("", 1);
     text.append("a");
@@ -179,7 +179,7 @@ TEST(SpliceText, FillsAMarkWithoutMarkup) {
     EXPECT_EQ(text.merged(), "xyb");
 }
 
-TEST(SpliceText, FillsAMarkInFrontOfWhatWasPutInThere) {
+TEST(SpliceText, FillsAMarkBeforeTheTextInsertedThere) {
     SpliceText text;
     const auto mark = text.addMark("m", 1);
     text.append("b");
@@ -200,7 +200,7 @@ TEST(SpliceText, FillsMarksOfTheSamePlaceByTheirSequence) {
     }
 }
 
-TEST(SpliceText, KeepsWhatWasPutInAtADroppedMark) {
+TEST(SpliceText, KeepsTheTextInsertedAtADroppedMark) {
     SpliceText text;
     const auto one = text.addMark("", 1);
     text.insertAt(one, "x");
@@ -211,7 +211,7 @@ TEST(SpliceText, KeepsWhatWasPutInAtADroppedMark) {
     EXPECT_EQ(text.merged(), "xy");
 }
 
-TEST(SpliceText, IsTheSameAfterItGaveMemoryBack) {
+TEST(SpliceText, IsTheSameAfterReleasingMemory) {
     SpliceText text;
     const auto mark = text.addMark("m", 1);
     text.append("a");

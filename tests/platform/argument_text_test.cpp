@@ -17,7 +17,7 @@ TEST(ArgumentText, IsSplitAtBlanks) {
     EXPECT_EQ(splitArguments("  "), List{});
 }
 
-TEST(ArgumentText, IsHeldTogetherByDoubleQuotes) {
+TEST(ArgumentText, KeepsBlanksInsideDoubleQuotes) {
     EXPECT_EQ(splitArguments("-j \"C:\\my out\\a.zip\" \"b c\""),
               (List{"-j", "C:\\my out\\a.zip", "b c"}));
     EXPECT_EQ(splitArguments("a\" \"b"), List{"a b"});

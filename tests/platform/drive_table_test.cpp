@@ -13,7 +13,7 @@ protected:
     ~Drives() override { DriveTable::clear(); }
 };
 
-TEST_F(Drives, AreNotThereUnlessSet) {
+TEST_F(Drives, AreMissingUnlessSet) {
     EXPECT_EQ(DriveTable::find('C'), std::nullopt);
 }
 
@@ -32,7 +32,7 @@ TEST_F(Drives, AreRemovedByAnEmptyDirectory) {
     EXPECT_EQ(DriveTable::find('C'), std::nullopt);
 }
 
-TEST_F(Drives, AreGoneAfterAClear) {
+TEST_F(Drives, AreRemovedByAClear) {
     DriveTable::set('C', "/data/c");
     DriveTable::clear();
     EXPECT_EQ(DriveTable::find('C'), std::nullopt);
@@ -44,7 +44,7 @@ TEST_F(Drives, HaveLettersOnly) {
     EXPECT_EQ(DriveTable::find(':'), std::nullopt);
 }
 
-TEST(NameOnADrive, LiesUnderItsDirectory) {
+TEST(NameOnADrive, IsInTheDirectoryOfTheDrive) {
     EXPECT_EQ(DriveTable::nameUnder("/data/c", "\\out\\caf\xC3\xA9.htm"),
               "/data/c/out/caf\xC3\xA9.htm");
     EXPECT_EQ(DriveTable::nameUnder("/data/c", "a.htm"), "/data/c/a.htm");
@@ -54,7 +54,7 @@ TEST(NameOnADrive, LiesUnderItsDirectory) {
     EXPECT_EQ(DriveTable::nameUnder("/", ""), "/");
 }
 
-TEST(NameOnADrive, NeverLeadsAboveIt) {
+TEST(NameOnADrive, NeverLeadsAboveTheDrive) {
     EXPECT_EQ(DriveTable::nameUnder("/data/c", "\\..\\a.htm"), "/data/c/a.htm");
     EXPECT_EQ(DriveTable::nameUnder("/data/c", "..\\a.htm"), "/data/c/a.htm");
     EXPECT_EQ(DriveTable::nameUnder("/data/c", "/out/../../../side/a.htm"), "/data/c/side/a.htm");

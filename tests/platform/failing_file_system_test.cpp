@@ -30,7 +30,7 @@ private:
     InstalledFileSystem installed_{files};
 };
 
-TEST_F(FailingFiles, FailTheWriteThatTheTestNamed) {
+TEST_F(FailingFiles, FailTheWriteThatTheTestChose) {
     files.failAt(Operation::write, 2);
     EXPECT_EQ(write("a", "1"), WriteResult::done);
     EXPECT_EQ(write("b", "2"), WriteResult::writeFailed);
@@ -46,7 +46,7 @@ TEST_F(FailingFiles, CanRefuseToOpenOrToClose) {
     EXPECT_EQ(memory.openFiles(), 0);
 }
 
-TEST_F(FailingFiles, EndAFileWhereAReadFailsAndSaySo) {
+TEST_F(FailingFiles, EndAFileAtAFailedReadAndReportIt) {
     memory.put("a", "123");
     files.failAt(Operation::read, 2);
     const auto file = files.openForReading("a");
@@ -58,7 +58,7 @@ TEST_F(FailingFiles, EndAFileWhereAReadFailsAndSaySo) {
     EXPECT_EQ(file->read(two), 0U);
 }
 
-TEST_F(FailingFiles, AreNotReadByHalf) {
+TEST_F(FailingFiles, AreReadCompletelyOrNotAtAll) {
     memory.put("a", std::string(10000, 'x'));
     files.failAt(Operation::read, 2);
     EXPECT_EQ(readWhole("a"), std::nullopt);
@@ -73,7 +73,7 @@ TEST_F(FailingFiles, FailEveryTimeUntilHealed) {
     EXPECT_TRUE(files.makeDirectories("\\a"));
 }
 
-TEST_F(FailingFiles, KeepWhatAFullDiskStillTook) {
+TEST_F(FailingFiles, KeepWhatWasWrittenBeforeTheDiskWasFull) {
     files.fillDiskAfter(4);
     EXPECT_EQ(write("a", "123"), WriteResult::done);
     EXPECT_EQ(write("b", "456"), WriteResult::writeFailed);

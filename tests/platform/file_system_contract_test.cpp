@@ -18,7 +18,7 @@
 namespace quillmark {
 namespace {
 
-/// A file system under test, with a directory in it that is the test's own.
+/// A file system under test, with a directory for the test.
 class Subject {
 public:
     virtual ~Subject() = default;
@@ -45,7 +45,7 @@ private:
     MemoryFileSystem files_;
 };
 
-/// Never told to fail, it has to keep the contract as well.
+/// As long as it is not told to fail, it must fulfil the contract as well.
 class FailingSubject : public MemorySubject {
 public:
     FileSystem& files() override { return failing_; }
@@ -97,7 +97,7 @@ TEST_P(FileSystemContract, AFileThatWasWrittenCanBeReadByteForByte) {
     EXPECT_EQ(content("a.txt"), bytes);
 }
 
-TEST_P(FileSystemContract, PiecesAreWrittenBehindEachOther) {
+TEST_P(FileSystemContract, PiecesAreWrittenOneAfterTheOther) {
     const std::array<std::string_view, 4> pieces = {"one", "", "two", "three"};
     EXPECT_EQ(SysFile::writeWhole(at("a.txt"), pieces), WriteResult::done);
     EXPECT_EQ(content("a.txt"), "onetwothree");
@@ -115,7 +115,7 @@ TEST_P(FileSystemContract, ThousandsOfPiecesAreWrittenInOrder) {
     EXPECT_EQ(content("a.txt"), all);
 }
 
-TEST_P(FileSystemContract, NothingToWriteMakesAnEmptyFile) {
+TEST_P(FileSystemContract, WritingNothingCreatesAnEmptyFile) {
     EXPECT_EQ(SysFile::writeWhole(at("a.txt"), {}), WriteResult::done);
     EXPECT_TRUE(files.fileExists(at("a.txt")));
     EXPECT_EQ(content("a.txt"), "");
@@ -136,7 +136,7 @@ TEST_P(FileSystemContract, OpeningForAppendingKeepsTheFile) {
     EXPECT_EQ(content("a.txt"), "old,new");
 }
 
-TEST_P(FileSystemContract, OpeningForAppendingMakesAMissingFile) {
+TEST_P(FileSystemContract, OpeningForAppendingCreatesAMissingFile) {
     EXPECT_NE(files.openForAppending(at("a.txt")), nullptr);
     EXPECT_EQ(content("a.txt"), "");
 }
@@ -171,7 +171,7 @@ TEST_P(FileSystemContract, ADirectoryIsNotOpenedAsAFile) {
     EXPECT_EQ(files.openForAppending(at("dir")), nullptr);
 }
 
-TEST_P(FileSystemContract, AnEmptyNameIsNothing) {
+TEST_P(FileSystemContract, AnEmptyNameNeverExists) {
     EXPECT_FALSE(files.fileExists(""));
     EXPECT_FALSE(files.directoryExists(""));
     EXPECT_FALSE(files.makeDirectories(""));
@@ -183,7 +183,7 @@ TEST_P(FileSystemContract, AnEmptyNameIsNothing) {
     EXPECT_FALSE(files.copyFile("", at("a.txt")));
 }
 
-TEST_P(FileSystemContract, ANameWithAZeroIsNotTheNameInFrontOfIt) {
+TEST_P(FileSystemContract, ANameWithAZeroIsNotTheNameBeforeIt) {
     put("a.txt", "x");
     const OrxString cut = at(std::string("a.txt\0y", 7));
     EXPECT_FALSE(files.fileExists(cut));
@@ -198,7 +198,7 @@ TEST_P(FileSystemContract, ANameWithAZeroIsNotTheNameInFrontOfIt) {
     EXPECT_EQ(content("a.txt"), "x");
 }
 
-TEST_P(FileSystemContract, NothingIsMadeUnderANameWithAZero) {
+TEST_P(FileSystemContract, NothingIsCreatedUnderANameWithAZero) {
     put("a.txt", "x");
     const OrxString cut = at(std::string("b.txt\0y", 7));
     EXPECT_EQ(files.openForWriting(cut), nullptr);
@@ -211,7 +211,7 @@ TEST_P(FileSystemContract, NothingIsMadeUnderANameWithAZero) {
     EXPECT_EQ(content("a.txt"), "x");
 }
 
-TEST_P(FileSystemContract, ReadingGoesOnWhereItStopped) {
+TEST_P(FileSystemContract, ReadingContinuesWhereItStopped) {
     put("a.txt", "abcde");
     const auto file = files.openForReading(at("a.txt"));
     std::array<char, 2> two{};
@@ -224,7 +224,7 @@ TEST_P(FileSystemContract, ReadingGoesOnWhereItStopped) {
     EXPECT_FALSE(file->failed());
 }
 
-TEST_P(FileSystemContract, FilesAndDirectoriesAreToldApart) {
+TEST_P(FileSystemContract, FilesAndDirectoriesAreDistinguished) {
     put("a.txt", "");
     files.makeDirectories(at("dir"));
     EXPECT_TRUE(files.fileExists(at("a.txt")));
@@ -248,19 +248,19 @@ TEST_P(FileSystemContract, NamesHoldLettersOfTheCodePage) {
     EXPECT_FALSE(files.fileExists(at("cafe \x80.txt")));
 }
 
-TEST_P(FileSystemContract, DirectoriesAreMadeWithThoseAbove) {
+TEST_P(FileSystemContract, DirectoriesAreCreatedWithTheirParents) {
     EXPECT_TRUE(files.makeDirectories(at("a\\b\\c")));
     EXPECT_TRUE(files.directoryExists(at("a")));
     EXPECT_TRUE(files.directoryExists(at("a\\b\\c")));
 }
 
-TEST_P(FileSystemContract, MakingADirectoryThatIsThereIsDone) {
+TEST_P(FileSystemContract, CreatingAnExistingDirectorySucceeds) {
     EXPECT_TRUE(files.makeDirectories(at("a\\b")));
     EXPECT_TRUE(files.makeDirectories(at("a\\b")));
     EXPECT_TRUE(files.makeDirectories(at("a\\b\\")));
 }
 
-TEST_P(FileSystemContract, ADirectoryIsNotMadeOverOrBelowAFile) {
+TEST_P(FileSystemContract, ADirectoryIsNotCreatedOverOrBelowAFile) {
     put("a", "x");
     EXPECT_FALSE(files.makeDirectories(at("a")));
     EXPECT_FALSE(files.makeDirectories(at("a\\b\\c")));
@@ -365,7 +365,7 @@ TEST_P(FileSystemContract, AMissingDirectoryOrAFileDoesNotBecomeTheCurrentOne) {
     EXPECT_EQ(files.currentDirectory(), before);
 }
 
-TEST_P(FileSystemContract, AStampStaysWhileTheFileStays) {
+TEST_P(FileSystemContract, AStampIsStableWhileTheFileIsUnchanged) {
     put("a.ini", "one");
     const auto first = files.stamp(at("a.ini"));
     ASSERT_TRUE(first);
@@ -374,7 +374,7 @@ TEST_P(FileSystemContract, AStampStaysWhileTheFileStays) {
     EXPECT_EQ(files.stamp(at("a.ini")), first);
 }
 
-TEST_P(FileSystemContract, AStampTellsAReplacedFile) {
+TEST_P(FileSystemContract, AStampRevealsAReplacedFile) {
     put("a.ini", "one");
     const auto first = files.stamp(at("a.ini"));
     put("new.tmp", "two");
@@ -382,7 +382,7 @@ TEST_P(FileSystemContract, AStampTellsAReplacedFile) {
     EXPECT_NE(files.stamp(at("a.ini")), first);
 }
 
-TEST_P(FileSystemContract, WhatIsNoFileHasNoStamp) {
+TEST_P(FileSystemContract, OnlyAFileHasAStamp) {
     files.makeDirectories(at("dir"));
     EXPECT_EQ(files.stamp(at("dir")), std::nullopt);
     EXPECT_EQ(files.stamp(at("none")), std::nullopt);

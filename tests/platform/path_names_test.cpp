@@ -25,7 +25,7 @@ TEST(FileExtension, IsNotTakenFromADirectory) {
     EXPECT_EQ(SysFile::getExtension(""), "");
 }
 
-TEST(FilePart, StandsBehindTheLastSeparatorOrTheDrive) {
+TEST(FilePart, FollowsTheLastSeparatorOrTheDrive) {
     EXPECT_EQ(SysFile::stripDir("C:\\out\\rep.htm"), "rep.htm");
     EXPECT_EQ(SysFile::stripDir("out/rep.htm"), "rep.htm");
     EXPECT_EQ(SysFile::stripDir("out\\sub/rep.htm"), "rep.htm");
@@ -173,12 +173,12 @@ TEST(RelativePath, TakesDotsAsNamesAndDropsEmptyComponents) {
     EXPECT_EQ(SysDirectory::getRelativePath("C:\\\\out", "C:\\out\\\\a"), "a");
 }
 
-TEST(RelativePath, NeverMindsTheCaseOfADriveLetter) {
+TEST(RelativePath, IgnoresTheCaseOfADriveLetter) {
     EXPECT_EQ(SysDirectory::getRelativePath("c:\\out", "C:\\out\\a"), "a");
     EXPECT_EQ(path_text::relativePath("c:\\out", "C:\\out\\a", false), "a");
 }
 
-TEST(RelativePath, MindsTheCaseOfNamesWhereTheSystemDoes) {
+TEST(RelativePath, ComparesNamesAsTheSystemDoes) {
     EXPECT_EQ(path_text::relativePath("C:\\Out", "C:\\out\\a", false), "..\\out\\a");
     EXPECT_EQ(path_text::relativePath("C:\\Out", "C:\\out\\a", true), "a");
     EXPECT_EQ(path_text::relativePath("OUT", "out\\a", false), "..\\out\\a");
@@ -199,7 +199,7 @@ TEST(RelativeFileName, IsTheRelativeDirectoryJoinedWithTheFilePart) {
     EXPECT_EQ(SysFile::getRelativeFileName("", "s1\\a.gif"), "s1\\a.gif");
 }
 
-TEST(RelativeFileName, TellsAFileFromADirectoryOfTheSameName) {
+TEST(RelativeFileName, DistinguishesAFileFromADirectoryOfTheSameName) {
     EXPECT_EQ(SysFile::getRelativeFileName("C:\\out", "C:\\out"), "..\\out");
 }
 
@@ -214,7 +214,7 @@ TEST(HyperLink, BeginsWithASchemeOfTwoOrMoreCharacters) {
     EXPECT_TRUE(SysFile::isHyperLink("news:comp.x"));
 }
 
-TEST(HyperLink, IsNoPathAndNoOrdinaryText) {
+TEST(HyperLink, IsNotAPathOrOrdinaryText) {
     EXPECT_FALSE(SysFile::isHyperLink("C:\\x"));
     EXPECT_FALSE(SysFile::isHyperLink("C://x"));
     EXPECT_FALSE(SysFile::isHyperLink("pkg::Class"));
@@ -227,7 +227,7 @@ TEST(HyperLink, IsNoPathAndNoOrdinaryText) {
     EXPECT_FALSE(SysFile::isHyperLink(""));
 }
 
-/// The components of a path with one separator between two, the way a person would join them.
+/// Joins the components of a path, with one separator between them.
 std::string joined(const std::vector<std::string>& components) {
     std::string path;
     for (const std::string& component : components) {
@@ -245,7 +245,8 @@ std::vector<std::string> somePath(std::mt19937& random) {
     return path;
 }
 
-/// The rule word by word: strip what is common, go up for the rest of the one, down the other.
+/// A straightforward implementation: remove the common components, go up from the rest of the base,
+/// then down to the target.
 std::string naiveRelativePath(std::vector<std::string> base, std::vector<std::string> target) {
     const auto isRelative = [](const std::vector<std::string>& path) {
         return path.front() != "\\" && !path.front().ends_with(':');
@@ -262,7 +263,7 @@ std::string naiveRelativePath(std::vector<std::string> base, std::vector<std::st
     return joined(way);
 }
 
-TEST(RelativePathProperty, AgreesWithTheRuleWordByWord) {
+TEST(RelativePathProperty, AgreesWithAStraightforwardImplementation) {
     std::mt19937 random(20260101);
     for (int i = 0; i < 20000; ++i) {
         const std::vector<std::string> base = somePath(random);

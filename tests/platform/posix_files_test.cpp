@@ -1,4 +1,4 @@
-// What files and their names promise on POSIX alone.
+// The behaviour of files and file names on POSIX systems.
 #ifndef _WIN32
 
 #include <gtest/gtest.h>
@@ -20,10 +20,10 @@
 namespace quillmark {
 namespace {
 
-/// The memory of the process is a file whose first bytes are there to nobody.
+/// The memory of the process is a file whose first bytes cannot be read.
 constexpr const char* unreadable = "/proc/self/mem";
 
-TEST(FileOnPosix, TellsAReadThatFailedFromTheEnd) {
+TEST(FileOnPosix, DistinguishesAFailedReadFromTheEnd) {
     const auto file = FileSystem::native().openForReading(unreadable);
     ASSERT_NE(file, nullptr);
     std::array<char, 4> buffer{};
@@ -42,7 +42,7 @@ TEST(FileOnPosix, IsNotCopiedFromADevice) {
 TEST(FileOnPosix, IsNotCopiedFromAPipeThatNobodyWritesTo) {
     const TempDir dir;
     ASSERT_EQ(mkfifo(dir.nativeFile("pipe").c_str(), 0600), 0);
-    // In a process of its own, which a copy that waits for the pipe cannot outlive.
+    // In a separate process, which ends even if the copy waits for the pipe.
     const pid_t child = fork();
     if (child == 0) {
         constexpr unsigned seconds = 10;

@@ -1,4 +1,4 @@
-// What the system's own services promise on POSIX alone.
+// The behaviour of the native services on POSIX systems.
 #ifndef _WIN32
 
 #include <gtest/gtest.h>
@@ -44,7 +44,7 @@ TEST(NativeName, KeepsADriveThatTheTableDoesNotKnow) {
     EXPECT_EQ(nativePath("C:\\out\\a.htm"), "C:/out/a.htm");
 }
 
-TEST(NativeName, LiesUnderTheDirectoryOfItsDrive) {
+TEST(NativeName, IsInTheDirectoryOfItsDrive) {
     DriveTable::set('C', "/data/caf\xC3\xA9");
     EXPECT_EQ(nativePath("C:\\out\\a.htm"), "/data/caf\xC3\xA9/out/a.htm");
     EXPECT_EQ(nativePath("c:/out"), "/data/caf\xC3\xA9/out");
@@ -112,7 +112,7 @@ TEST(NativeFile, CopiedToADiskWithoutRoomIsReported) {
 TEST(NativeFile, ThatIsCutShortByALimitIsReportedAndLeavesNoCopy) {
     const TempDir dir;
     dir.put("a.gif", std::string(100000, 'x'));
-    // In a process of its own: a limit on the size of files would hit the test's report too.
+    // In a separate process, because the limit on file sizes would also affect the test report.
     const pid_t child = fork();
     if (child == 0) {
         const rlimit limit{4096, 4096};
@@ -186,7 +186,7 @@ TEST(NativeFile, LeavesNoDescriptorOpen) {
     EXPECT_EQ(openDescriptors(), before);
 }
 
-TEST(UserConfiguration, LiesWhereTheEnvironmentSays) {
+TEST(UserConfiguration, IsWhereTheEnvironmentSays) {
     const EnvironmentVariable home("HOME", "/home/me");
     {
         const EnvironmentVariable config("XDG_CONFIG_HOME", "/conf/");
@@ -213,7 +213,7 @@ TEST(TemporaryDirectory, IsTheOneOfTheEnvironmentOrTheSystems) {
     EXPECT_EQ(system_facts::temporaryDirectory(), "\\tmp");
 }
 
-TEST(IniFileOnPosix, LiesInTheConfigurationDirectoryWhenItsNameIsBare) {
+TEST(IniFileOnPosix, IsInTheConfigurationDirectoryIfItsNameHasNoDirectory) {
     const TempDir dir;
     dir.put("Veltrano.ini", "[Quillmark]\nUseJavaPre7=TRUE\n");
     const EnvironmentVariable config("XDG_CONFIG_HOME", dir.native());

@@ -1,4 +1,4 @@
-// What the system's shell promises on POSIX alone.
+// The behaviour of SysShell on POSIX systems.
 #ifndef _WIN32
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@
 namespace quillmark {
 namespace {
 
-/// Waits until a file has its text, for what another process does in its own time.
+/// Waits until another process has written a text to a file.
 std::string eventually(const TempDir& dir, const OrxString& name) {
     for (int i = 0; i < 500; ++i) {
         std::string text = dir.content(name).value_or("");
@@ -61,7 +61,7 @@ TEST(Shell, DoesNotWaitForTheProgramAndLeavesNoChild) {
     EXPECT_EQ(eventually(dir, "slow.txt"), "go on\n");
 }
 
-TEST(Shell, DoesNotStartWhatIsNoProgram) {
+TEST(Shell, DoesNotStartAFileThatIsNotAProgram) {
     const TempDir dir;
     dir.put("data", "text");
     SysDirectory::create(dir.file("dir"));
@@ -89,7 +89,7 @@ TEST(Shell, OpensAFileWithTheDesktopsTool) {
     EXPECT_EQ(eventually(dir, "opened"), "/out/rep.htm\n");
 }
 
-TEST(Shell, OpensNothingUnderANameThatIsNone) {
+TEST(Shell, OpensNothingForAnEmptyName) {
     const TempDir dir;
     putProgram(dir, "xdg-open",
                "#!/bin/sh\ncd \"${0%/*}\"; printf '%s\\n' \"$1\" >> list\n"
@@ -101,12 +101,12 @@ TEST(Shell, OpensNothingUnderANameThatIsNone) {
     EXPECT_EQ(eventually(dir, "opened"), "/last\n");
 }
 
-TEST(Shell, DoesNotMindAMissingDesktop) {
+TEST(Shell, ToleratesAMissingDesktop) {
     const EnvironmentVariable path("PATH", "/none");
     EXPECT_NO_THROW(SysShell::open("\\out\\rep.htm"));
 }
 
-/// The instance result in a process that has closed its streams and everything else.
+/// The result of `start` in a process that has closed all its descriptors.
 int startWithoutStreams(const OrxString& program) {
     const pid_t child = fork();
     if (child == 0) {
@@ -122,16 +122,16 @@ int startWithoutStreams(const OrxString& program) {
     return WEXITSTATUS(status);
 }
 
-TEST(Shell, TellsAFailedStartWhereTheHostHasClosedItsStreams) {
+TEST(Shell, ReportsAFailedStartIfTheHostHasClosedItsStreams) {
     const TempDir dir;
     putProgram(dir, "broken", "#!/none/interpreter\n");
     EXPECT_LT(startWithoutStreams(dir.file("broken")), SysShell::started);
 }
 
-TEST(Shell, GivesAProgramStreamsThatLeadNowhereAndNothingElse) {
+TEST(Shell, GivesAProgramNullStreamsAndNoOtherDescriptors) {
     const TempDir dir;
     putProgram(dir, "listing",
-               // Not through a pipe, which the shell would have open for a moment itself.
+               // Not through a pipe, since the shell itself would have that open for a moment.
                "#!/bin/sh\n(readlink /proc/$$/fd/* > \"$0.all\")\n"
                "grep -v listing \"$0.all\" > \"$0.tmp\"\n"
                "echo >> \"$0.tmp\"; mv \"$0.tmp\" \"$0.txt\"\n");

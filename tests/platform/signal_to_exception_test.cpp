@@ -13,14 +13,14 @@
 namespace quillmark {
 namespace {
 
-// The strikes are meant: the sanitizers must not catch them first.
+// The faults are intended. The sanitizers must not catch them first.
 #if defined(__clang__)
 #define NO_SIGNAL_CHECKS __attribute__((noinline, no_sanitize("undefined")))
 #else
 #define NO_SIGNAL_CHECKS __attribute__((noinline, no_sanitize_undefined))
 #endif
 
-/// Writes where nothing is. The address is hidden from the compiler, which would warn.
+/// Writes to an invalid address, which is hidden from the compiler to avoid a warning.
 NO_SIGNAL_CHECKS void strikeWildAddress() {
     int* volatile nowhere = nullptr;
     *static_cast<volatile int*>(nowhere) = 1;
@@ -68,7 +68,7 @@ TEST(SignalGuard, TurnsAnIllegalInstructionIntoAnException) {
     EXPECT_EQ(reasonOf(strikeIllegalInstruction), "Processor signal SIGILL (illegal instruction)");
 }
 
-TEST(SignalGuard, TellsTheExceptionLog) {
+TEST(SignalGuard, WritesToTheExceptionLog) {
     const CapturingExceptionLog log;
     EXPECT_EQ(reasonOf(strikeWildAddress), wildAddress);
     EXPECT_EQ(log.messages(),
@@ -87,7 +87,7 @@ TEST(SignalGuard, LetsExceptionsOfTheBodyPass) {
     EXPECT_EQ(reasonOf(strikeWildAddress), wildAddress);
 }
 
-TEST(SignalGuard, OfTheInnermostKindAnswers) {
+TEST(SignalGuard, CatchesInTheInnermostGuard) {
     std::string inner;
     const std::string outer = reasonOf([&] {
         inner = reasonOf(strikeWildAddress);

@@ -20,7 +20,7 @@ TEST(SystemText, KeepsAsciiByteForByte) {
     EXPECT_EQ(SysText::fromUtf8(narrow), narrow);
 }
 
-TEST(SystemText, AppendsBehindWhatIsThere) {
+TEST(SystemText, AppendsAfterWhatIsThere) {
     std::string out = "a";
     SysText::appendNarrow(out, u"bc");
     SysText::appendNarrow(out, u"");
@@ -79,7 +79,7 @@ TEST(SystemText, NamesTheCodePage) {
     EXPECT_EQ(SysText::codePageName(), "Windows-1252");
 }
 
-TEST(SystemText, FindsTheOddUnitWhereverItStandsInALongText) {
+TEST(SystemText, FindsAUnitOutsideAsciiAnywhereInALongText) {
     for (const std::size_t length : {1U, 15U, 16U, 17U, 63U, 64U, 1000U}) {
         for (std::size_t odd = 0; odd < length; ++odd) {
             std::u16string wide(length, u'x');

@@ -33,7 +33,7 @@ TEST(Clock, KnowsTheEdgesOfTheCalendar) {
     EXPECT_EQ(at("1709251199"), "02/29/24 23:59:59");
 }
 
-TEST(Clock, IsNotFixedByWhatIsNoSecond) {
+TEST(Clock, IgnoresAFixedTimeThatIsNotASecond) {
     for (const char* const text : {"", "now", "12x", "-5", " 5", "99999999999999999999"}) {
         const EnvironmentVariable fixed(clockVariable, text);
         EXPECT_NE(SysTime::currentDate().substr(6), "70") << text;
@@ -47,7 +47,7 @@ TEST(Clock, ShowsLocalTimeOtherwise) {
         char text[32];
         return std::string(text, std::strftime(text, sizeof text, "%m/%d/%y %H:%M:%S", &moment));
     };
-    // The second may change between two looks; one of the two must agree.
+    // The second may change between two calls. One of the two must match.
     const std::string before = texts();
     const std::string shown = SysTime::currentDateTime().str();
     const std::string after = texts();

@@ -28,7 +28,7 @@ namespace {
 constexpr int threadCount = 4;
 constexpr int rounds = 200;
 
-/// Runs the work in several threads that start together.
+/// Runs the work in several threads that start at the same time.
 void together(const std::function<void(int thread)>& work) {
     std::atomic<int> ready{0};
     std::vector<std::thread> threads;

@@ -17,14 +17,14 @@
 namespace quillmark {
 namespace {
 
-/// A text as a log has it.
+/// A text with the line ends of a log.
 std::string lines(std::string_view text) {
     return OrxString(text).replaceStr("\n", systemLineEnd()).str();
 }
 
 class TraceLog : public testing::Test {
 protected:
-    /// A name that no other test of the process has used, for what happens once a process.
+    /// A name that no other test of the process has used, for effects that happen once per process.
     static OrxString freshName() {
         static int counter = 0;
         return "C:\\logs\\" + std::to_string(++counter) + ".log";
@@ -69,7 +69,7 @@ TEST_F(TraceLog, IsSilentFromTheStart) {
     EXPECT_TRUE(memory.fileNames().empty());
 }
 
-TEST_F(TraceLog, IsMadeByItsFirstLine) {
+TEST_F(TraceLog, IsCreatedByItsFirstLine) {
     Trace trace = openTrace(name, Trace::calls);
     EXPECT_EQ(logged(), std::nullopt);
     trace.write(Trace::calls, "a\n");
@@ -90,7 +90,7 @@ TEST_F(TraceLog, KeepsWhatWasInIt) {
     EXPECT_EQ(logged(), lines("before,after\n"));
 }
 
-TEST_F(TraceLog, IsSharedByCopiesThatEachHaveTheirLevel) {
+TEST_F(TraceLog, IsSharedByCopiesWithTheirOwnLevels) {
     Trace document = openTrace(name, Trace::errors);
     Trace page = document;
     document.setLevel(Trace::calls);
@@ -173,7 +173,7 @@ TEST_F(TraceLog, StaysTheSameFileWhenTheCurrentDirectoryChanges) {
     EXPECT_EQ(memory.content("C:\\logs\\relative.log"), lines("a\n"));
 }
 
-TEST_F(TraceLog, LiesInTheTemporaryDirectoryWhenItHasNoName) {
+TEST_F(TraceLog, IsInTheTemporaryDirectoryIfItHasNoName) {
     const OrxString directory = system_facts::temporaryDirectory();
     memory.makeDirectories(directory);
     openTrace("", Trace::calls).write(Trace::calls, "a\n");
@@ -202,7 +202,7 @@ TEST_F(TraceLog, GoesSilentWhenTheDiskIsFull) {
     EXPECT_EQ(memory.openFiles(), 0);
 }
 
-TEST_F(TraceLog, LosesWithAPurgeWhatAnEarlierProcessLeft) {
+TEST_F(TraceLog, LosesTheLinesOfAnEarlierProcessWithAPurge) {
     memory.put(name, "of an earlier process\n");
     Trace trace;
     trace.purgeBefore(name);
@@ -214,12 +214,12 @@ TEST_F(TraceLog, LosesWithAPurgeWhatAnEarlierProcessLeft) {
     EXPECT_EQ(logged(), lines("mine\n"));
 }
 
-TEST_F(TraceLog, IsNotMadeByAPurge) {
+TEST_F(TraceLog, IsNotCreatedByAPurge) {
     Trace().purgeBefore(name);
     EXPECT_EQ(logged(), std::nullopt);
 }
 
-TEST_F(TraceLog, KeepsWithAPurgeWhatThisProcessHasWritten) {
+TEST_F(TraceLog, KeepsTheLinesOfThisProcessDespiteAPurge) {
     openTrace(name, Trace::calls).write(Trace::calls, "mine\n");
     Trace().purgeBefore(name);
     EXPECT_EQ(logged(), lines("mine\n"));
@@ -236,7 +236,7 @@ TEST_F(TraceLog, CanBeListenedToWithoutAFile) {
     EXPECT_TRUE(memory.fileNames().empty());
 }
 
-TEST_F(TraceLog, AndItsListenerEachHaveTheirLevel) {
+TEST_F(TraceLog, AndItsListenerHaveTheirOwnLevels) {
     CapturingTrace listener(Trace::errors);
     Trace trace = openTrace(name, Trace::calls);
     trace.write(Trace::errors, "ERR\n");
@@ -245,7 +245,7 @@ TEST_F(TraceLog, AndItsListenerEachHaveTheirLevel) {
     EXPECT_EQ(logged(), lines("ERR\ncall\n"));
 }
 
-TEST_F(TraceLog, ListenersComeAndGo) {
+TEST_F(TraceLog, ListenersAreReplaced) {
     CapturingTrace outer;
     {
         CapturingTrace inner;

@@ -1,4 +1,4 @@
-// What the system's own services promise on Windows alone.
+// The behaviour of the native services on Windows.
 #ifdef _WIN32
 
 #include <gtest/gtest.h>
@@ -59,7 +59,7 @@ TEST(NativeFile, IsNotCopiedFromADevice) {
     EXPECT_FALSE(dir.content("copy"));
 }
 
-TEST(NativeFile, TellsAReadThatFailedFromTheEnd) {
+TEST(NativeFile, DistinguishesAFailedReadFromTheEnd) {
     const TempDir dir;
     dir.put("a.txt", "text");
     const auto file =
@@ -108,7 +108,7 @@ TEST_F(UserStore, ReadsANumberThatSomebodyStored) {
     EXPECT_EQ(store->read(group, "Navig"), "3");
 }
 
-TEST_F(UserStore, RefusesATextWithAZero) {
+TEST_F(UserStore, RejectsATextWithAZero) {
     EXPECT_FALSE(store->write(group, "Name", std::string("a\0b", 3)));
 }
 

@@ -27,7 +27,7 @@ TEST_F(IniFileOnDisk, GivesTheValueOfAKey) {
     EXPECT_EQ(read("Empty"), "");
 }
 
-TEST_F(IniFileOnDisk, GivesTheDefaultForWhatIsNotThere) {
+TEST_F(IniFileOnDisk, GivesTheDefaultForWhatIsMissing) {
     EXPECT_EQ(read("UseJavaPre7"), "default");
     put("[Quillmark]\r\n");
     EXPECT_EQ(read("UseJavaPre7"), "default");
@@ -35,7 +35,7 @@ TEST_F(IniFileOnDisk, GivesTheDefaultForWhatIsNotThere) {
     EXPECT_EQ(read("UseJavaPre7"), "default");
 }
 
-TEST_F(IniFileOnDisk, TrimsBlanksRemovesQuotesAndPassesOverComments) {
+TEST_F(IniFileOnDisk, TrimsBlanksRemovesQuotesAndSkipsComments) {
     put("[quillmark]\r\n;UseJavaPre7=1\r\n  UseJavaPre7 = \" TRUE \" \r\n");
     EXPECT_EQ(read("UseJavaPre7"), " TRUE ");
 }

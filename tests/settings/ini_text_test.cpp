@@ -25,7 +25,7 @@ TEST(IniValue, IsFoundByItsSectionAndKeyInAnyCase) {
     EXPECT_EQ(value("[R]\nK=0\n[S]\nX=2\nK=1\n"), "1");
 }
 
-TEST(IniValue, IsNothingWhereItIsNot) {
+TEST(IniValue, IsNothingIfItIsMissing) {
     EXPECT_EQ(value(""), std::nullopt);
     EXPECT_EQ(value("K=1\n"), std::nullopt);
     EXPECT_EQ(value("[S]\n[T]\nK=1\n"), std::nullopt);
@@ -48,7 +48,7 @@ TEST(IniValue, LosesOnePairOfQuotes) {
     EXPECT_EQ(value("[S]\nK=\"\n"), "\"");
 }
 
-TEST(IniValue, MayHoldEqualsSignsAndSemicolons) {
+TEST(IniValue, MayContainEqualsSignsAndSemicolons) {
     EXPECT_EQ(value("[S]\nK=a=b;c\n"), "a=b;c");
 }
 
@@ -67,7 +67,7 @@ TEST(IniChange, ReplacesTheValueInItsPlace) {
               "; mine\n[S]\nA=1\nK=new\nB=2\n[T]\nK=3\n");
 }
 
-TEST(IniChange, AddsAKeyBehindTheLastLineOfItsSection) {
+TEST(IniChange, AddsAKeyAfterTheLastLineOfItsSection) {
     EXPECT_EQ(changed("[S]\nA=1\n\n[T]\n", "new"), "[S]\nA=1\nK=new\n\n[T]\n");
     EXPECT_EQ(changed("[S]\n", "new"), "[S]\nK=new\n");
 }
@@ -100,7 +100,7 @@ TEST(IniChange, EndsAllLinesAsTheFirst) {
     EXPECT_EQ(changed("[S]\nA=1\r\n", "2"), "[S]\nA=1\nK=2\n");
 }
 
-TEST(IniChange, WritesWhatIsReadAgain) {
+TEST(IniChange, WritesWhatItReadsBack) {
     for (const char* const text : {"", " ", "a", " a", "a ", "\"", "\"\"", "\"a\"", "'a'", "a=b",
                                    ";a", "[x]", "BGCOLOR=\"#FFFFFF\"", "\"a\" b=\"c\"", "\t"}) {
         IniText ini;
@@ -109,7 +109,7 @@ TEST(IniChange, WritesWhatIsReadAgain) {
     }
 }
 
-TEST(IniChange, RefusesWhatAnIniFileCannotHold) {
+TEST(IniChange, RejectsWhatAnIniFileCannotHold) {
     IniText ini("[S]\nK=1\n");
     EXPECT_FALSE(ini.set("S", "K", "a\nb"));
     EXPECT_FALSE(ini.set("S", "K", "a\rb"));
@@ -123,7 +123,7 @@ TEST(IniChange, RefusesWhatAnIniFileCannotHold) {
     EXPECT_EQ(ini.text(), "[S]\nK=1\n");
 }
 
-TEST(IniOddLine, IsTheFirstThatIsNothingKnown) {
+TEST(IniUnknownLine, IsTheFirstThatIsNotRecognized) {
     EXPECT_EQ(IniText("; c\n# c\n\n[S]\nK=1\n").firstUnknownLine(), std::nullopt);
     EXPECT_EQ(IniText("[S]\nK=1\nwhat\n").firstUnknownLine(), 3U);
     EXPECT_EQ(IniText("[S\n").firstUnknownLine(), 1U);

@@ -90,7 +90,7 @@ TEST_F(Registers, GiveAnEmptyTextThatIsStored) {
     EXPECT_EQ(cached("Html", "StyleSheet"), "");
 }
 
-TEST_F(Registers, AnswerAnOverrideInItsOwnCacheAlone) {
+TEST_F(Registers, ReturnAnOverrideFromItsOwnCacheOnly) {
     store.set("Html", "Navig", "1");
     cache.override(RegEntry("Html", "Navig", "3"));
     EXPECT_EQ(cached("Html", "Navig"), "3");
@@ -100,7 +100,7 @@ TEST_F(Registers, AnswerAnOverrideInItsOwnCacheAlone) {
     EXPECT_EQ(store.get("Html", "Navig"), "1");
 }
 
-TEST_F(Registers, TakeTheLastOverride) {
+TEST_F(Registers, ReturnTheLastOverride) {
     cache.override(RegEntry("Html", "Navig", "3"));
     cache.override(RegEntry("Html", "Navig", "2"));
     EXPECT_EQ(cached("Html", "Navig"), "2");

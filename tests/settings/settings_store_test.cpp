@@ -35,13 +35,13 @@ TEST_F(IniStore, KnowsNothingWhileItsFileIsMissing) {
     EXPECT_EQ(store->problem(), "");
 }
 
-TEST_F(IniStore, MakesItsFileAndDirectoryWithTheFirstValue) {
+TEST_F(IniStore, CreatesItsFileAndDirectoryWithTheFirstValue) {
     EXPECT_TRUE(store->write("Html", "Navig", "3"));
     EXPECT_EQ(text(), "[Html]\nNavig=3\n");
     EXPECT_EQ(store->read("html", "NAVIG"), "3");
 }
 
-TEST_F(IniStore, LeavesNoFileBesides) {
+TEST_F(IniStore, LeavesNoOtherFile) {
     EXPECT_TRUE(store->write("Html", "Navig", "3"));
     EXPECT_TRUE(store->write("Html", "Navig", "2"));
     EXPECT_EQ(memory.fileNames(), std::vector<std::string>{place.str()});
@@ -54,14 +54,14 @@ TEST_F(IniStore, KeepsEverythingElseInTheFile) {
     EXPECT_EQ(text(), "; by hand\n[Settings]\nInstallDir=C:\\q\n\n[Html]\nodd\nNavig=3\n");
 }
 
-TEST_F(IniStore, IsUtf8OutsideAndCodePageInside) {
+TEST_F(IniStore, ConvertsBetweenUtf8AndTheCodePage) {
     put("[Html]\nHtmlPixDir=f\xC3\xBCr \xE2\x82\xAC\n");
     EXPECT_EQ(store->read("Html", "HtmlPixDir"), "f\xFCr \x80");
     EXPECT_TRUE(store->write("Html", "IconFile", "caf\xE9"));
     EXPECT_EQ(text(), "[Html]\nHtmlPixDir=f\xC3\xBCr \xE2\x82\xAC\nIconFile=caf\xC3\xA9\n");
 }
 
-TEST_F(IniStore, PassesOverAByteOrderMarkAndKeepsIt) {
+TEST_F(IniStore, SkipsAByteOrderMarkAndKeepsIt) {
     put("\xEF\xBB\xBF[Html]\nNavig=2\n");
     EXPECT_EQ(store->read("Html", "Navig"), "2");
     EXPECT_TRUE(store->write("Html", "Navig", "3"));
@@ -97,18 +97,18 @@ TEST_F(IniStore, KeepsTheOldValueWhenTheNewOneCannotBeWritten) {
     }
 }
 
-TEST_F(IniStore, TellsThatItsDirectoryCannotBeMade) {
+TEST_F(IniStore, ReportsThatItsDirectoryCannotBeCreated) {
     files.failAll(Operation::makeDirectories);
     EXPECT_FALSE(store->write("Html", "Navig", "3"));
 }
 
-TEST_F(IniStore, RefusesAValueThatAnIniFileCannotHold) {
+TEST_F(IniStore, RejectsAValueThatAnIniFileCannotHold) {
     put("[Html]\nNavig=1\n");
     EXPECT_FALSE(store->write("Html", "BodyTags", "a\nb"));
     EXPECT_EQ(text(), "[Html]\nNavig=1\n");
 }
 
-TEST_F(IniStore, TellsWhichLineIsDamaged) {
+TEST_F(IniStore, ReportsTheDamagedLine) {
     put("[Html]\nNavig=1\n\x01\x02garbage\n");
     EXPECT_EQ(store->problem(),
               "Line 3 of the settings file C:\\conf\\quillmark\\settings.ini is "
@@ -116,7 +116,7 @@ TEST_F(IniStore, TellsWhichLineIsDamaged) {
     EXPECT_EQ(store->read("Html", "Navig"), "1");
 }
 
-TEST_F(IniStore, TellsThatItsFileCannotBeReadAndDoesNotOverwriteIt) {
+TEST_F(IniStore, ReportsThatItsFileCannotBeReadAndDoesNotOverwriteIt) {
     put("[Html]\nNavig=1\n");
     files.failAll(Operation::openForReading);
     EXPECT_EQ(store->problem(), "Cannot read the settings file C:\\conf\\quillmark\\settings.ini");
@@ -128,7 +128,7 @@ TEST_F(IniStore, TellsThatItsFileCannotBeReadAndDoesNotOverwriteIt) {
     EXPECT_EQ(store->problem(), "");
 }
 
-TEST_F(IniStore, DoesNotTakeHalfAFileForTheWhole) {
+TEST_F(IniStore, DoesNotMistakeHalfAFileForAllOfIt) {
     const std::string whole = "[Html]\nNavig=1\n; " + std::string(5000, 'x') + "\nTOCLevel=4\n";
     put(whole);
     files.failAt(Operation::read, 2);
@@ -141,7 +141,7 @@ TEST_F(IniStore, DoesNotTakeHalfAFileForTheWhole) {
     EXPECT_EQ(store->problem(), "");
 }
 
-TEST_F(IniStore, TellsThatADirectoryLiesInItsPlace) {
+TEST_F(IniStore, ReportsADirectoryInItsPlace) {
     memory.makeDirectories(place);
     EXPECT_EQ(store->problem(), "Cannot read the settings file C:\\conf\\quillmark\\settings.ini");
     EXPECT_FALSE(store->write("Html", "Navig", "3"));

@@ -9,7 +9,7 @@
 
 namespace quillmark {
 
-/// Is the process's exception log for as long as it lives and keeps what it is told.
+/// The exception log of the process during its lifetime. It collects the messages.
 class CapturingExceptionLog : public OrxExceptionLog {
 public:
     enum class Records { everything, throwsOnly, catchesOnly, nothing };

@@ -8,7 +8,7 @@
 
 namespace quillmark {
 
-/// Listens to every trace of the process for as long as it lives and keeps the texts.
+/// Collects the lines of all traces of the process during its lifetime.
 class CapturingTrace : public TraceListener {
 public:
     explicit CapturingTrace(int level = Trace::reports)
@@ -23,7 +23,7 @@ public:
         text_.append(text);
     }
 
-    /// All lines behind each other.
+    /// All lines, one after the other.
     [[nodiscard]] std::string text() const {
         const std::lock_guard lock(mutex_);
         return text_;

@@ -6,7 +6,7 @@
 
 namespace quillmark {
 
-/// Sets (or, with nothing, removes) a variable of the environment for as long as it lives.
+/// Sets an environment variable, or removes it if the value is empty. The destructor restores it.
 class EnvironmentVariable {
 public:
     EnvironmentVariable(std::string name, const std::optional<std::string>& value)

@@ -44,7 +44,7 @@ public:
 
     bool close() override {
         const bool failed = owner_.fails(Operation::close);
-        // The system's file is closed all the same, as a real one is.
+        // The inner file is closed nevertheless, as a real one is.
         return file_->close() && !failed;
     }
 

@@ -9,8 +9,7 @@
 
 namespace quillmark {
 
-/// Passes everything on to another file system and fails where the test says. Until it is told to
-/// fail it is the other one's equal.
+/// Passes all calls on to another file system, but fails where a test wants it to.
 ///
 ///     FailingFileSystem files(memory);
 ///     files.failAt(FailingFileSystem::Operation::write, 2);   // the second write from now on
@@ -33,15 +32,16 @@ public:
 
     explicit FailingFileSystem(FileSystem& inner) : inner_(inner) {}
 
-    /// The `number`-th operation of that kind from now on fails, once.
+    /// Makes one operation fail: the `number`-th of that kind from now on, counted from 1.
     void failAt(Operation operation, std::size_t number);
-    /// Every operation of that kind fails from now on.
+    /// Makes every operation of that kind fail from now on.
     void failAll(Operation operation);
-    /// The disk takes that many bytes more; a write that needs more takes what it can and fails.
+    /// Limits the space on the disk. A write that needs more than is left writes what fits and
+    /// fails.
     void fillDiskAfter(std::uint64_t bytes) { space_ = bytes; }
-    /// Nothing fails any more.
+    /// Makes nothing fail any more.
     void heal();
-    /// How many operations of that kind were asked for, failed ones included.
+    /// The number of operations of that kind so far, including failed ones.
     [[nodiscard]] std::size_t count(Operation operation) const { return plan(operation).asked; }
 
     bool fileExists(const OrxString& name) const override;
@@ -72,9 +72,9 @@ private:
     [[nodiscard]] Plan& plan(Operation operation) {
         return plans_.at(static_cast<std::size_t>(operation));
     }
-    /// Counts an operation; true when it is to fail.
+    /// Counts an operation. True if it must fail.
     [[nodiscard]] bool fails(Operation operation);
-    /// Takes room for up to `bytes` off the disk and returns how many there is room for.
+    /// Uses up to `bytes` of the space on the disk. Returns how many are available.
     [[nodiscard]] std::uint64_t take(std::uint64_t bytes);
     std::unique_ptr<OutputFile> watched(std::unique_ptr<OutputFile> file);
 

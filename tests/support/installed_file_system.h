@@ -4,7 +4,7 @@
 
 namespace quillmark {
 
-/// Puts a file system in force for as long as it lives.
+/// Installs a file system during its lifetime.
 class InstalledFileSystem {
 public:
     explicit InstalledFileSystem(FileSystem& files) : before_(FileSystem::install(&files)) {}

@@ -16,7 +16,7 @@ struct MemoryFileSystem::File {
 
 namespace {
 
-/// The directory above an absolute path; empty above the root and above a drive.
+/// The parent of an absolute path. Empty for the root and for a drive.
 std::string parentOf(const std::string& path) {
     return SysDirectory::getParentDirectory(path).str();
 }
@@ -220,7 +220,7 @@ int MemoryFileSystem::openFiles() const {
     return openFiles_;
 }
 
-/// The absolute path, "." and ".." taken out; empty for a name that is none.
+/// The absolute path without "." and "..". Empty for a name that cannot exist.
 std::string MemoryFileSystem::resolve(const OrxString& name) const {
     if (name.isEmpty() || path_text::hasZero(name)) {
         return {};

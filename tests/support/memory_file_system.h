@@ -12,8 +12,8 @@
 
 namespace quillmark {
 
-/// A file system that lives and dies with the test. The root "\" and every drive are there from
-/// the start; the current directory is the root. Names are told apart by case.
+/// A file system in memory. The root "\" and all drives exist from the start. The current directory
+/// is the root. Case matters in names.
 class MemoryFileSystem : public FileSystem {
 public:
     MemoryFileSystem();
@@ -31,13 +31,13 @@ public:
     std::unique_ptr<OutputFile> openForAppending(const OrxString& name) override;
     bool replaceFile(const OrxString& source, const OrxString& target) override;
 
-    /// Puts a file there, with the directories above it.
+    /// Creates a file with its parent directories.
     void put(const OrxString& name, std::string bytes);
-    /// The bytes of a file, or nothing when it is not there.
+    /// The content of a file, or nothing if there is none.
     [[nodiscard]] std::optional<std::string> content(const OrxString& name) const;
     /// The absolute names of all files, in the order of their bytes.
     [[nodiscard]] std::vector<std::string> fileNames() const;
-    /// How many files are open now.
+    /// The number of files that are open now.
     [[nodiscard]] int openFiles() const;
 
 private:
@@ -54,7 +54,7 @@ private:
     std::unique_ptr<OutputFile> openWriter(const OrxString& name, bool keepBytes);
 
     mutable std::mutex mutex_;
-    /// By absolute path; a null file is a directory.
+    /// Files by absolute path. A null pointer is a directory.
     std::map<std::string, FilePtr> entries_;
     std::string currentDirectory_ = "\\";
     std::uint64_t lastIdentity_ = 0;

@@ -11,7 +11,7 @@
 
 namespace quillmark {
 
-/// Settings that live and die with the test.
+/// A settings store in memory.
 class MemorySettingsStore : public SettingsStore {
 public:
     std::optional<OrxString> read(const OrxString& group, const OrxString& name) const override {
@@ -35,7 +35,7 @@ private:
     std::map<Address, OrxString> values_;
 };
 
-/// Puts a fresh store in force for as long as it lives, and the user's own back afterwards.
+/// Installs an empty store during its lifetime, and the user's own afterwards.
 class InstalledSettingsStore {
 public:
     InstalledSettingsStore() { RegisterBase::setStore(store_); }

@@ -8,8 +8,8 @@
 
 namespace quillmark::testing {
 
-/// A document that only writes down what it is called with, such as `insertText("Hello")` or
-/// `insertMark(5,true)`, texts in UTF-8.
+/// A document that only records the calls made to it, such as `insertText("Hello")` or
+/// `insertMark(5,true)`. Texts are in UTF-8.
 class RecordingDocument : public IDocument {
 public:
     std::vector<std::string> calls;

@@ -11,18 +11,19 @@
 
 namespace quillmark {
 
-/// How a program ended and what it said.
+/// The exit status and the output of a program.
 struct ToolResult {
     int status = -1;
     std::string output;
     std::string errors;
 };
 
-/// Runs a program of the project as a user would: through the system's command interpreter, in a
-/// directory of its own, with settings that nobody else has.
+/// Runs a program of the project as a user would, through the system's command interpreter, in a
+/// given directory and with settings of its own.
 class ToolRunner {
 public:
-    /// `program` is its path. `dir` is where it is started; it stays the caller's.
+    /// `program` is the path of the program, `dir` the directory to start it in, which is not
+    /// owned.
     ToolRunner(std::string program, const TempDir& dir) : program_(std::move(program)), dir_(dir) {
         setEnvironment("XDG_CONFIG_HOME", dir.nativeFile("config"));
         setEnvironment("XDG_DATA_HOME", dir.nativeFile("data"));
@@ -54,7 +55,7 @@ public:
         return result;
     }
 
-    /// A text file's lines, each ended by a line feed whatever the system ends them with.
+    /// The content of a text file, with a line feed as the line end on every system.
     [[nodiscard]] static std::string asLines(const std::string& text) {
         return OrxString(text).replaceStr(systemLineEnd(), "\n").str();
     }
@@ -71,7 +72,7 @@ private:
     static int exitStatus(int status) {
         return status;
     }
-    /// The interpreter is given its command in the code page.
+    /// The interpreter expects its command in the code page.
     static std::string inSystemForm(const std::string& utf8) {
         return SysText::fromUtf8(utf8).str();
     }
@@ -90,7 +91,7 @@ private:
     static std::string inSystemForm(const std::string& utf8) {
         return utf8;
     }
-    /// What the interpreter answers with, or -1 when a signal ended the program.
+    /// The exit status, or -1 if a signal ended the program.
     static int exitStatus(int status) {
         return (status & 0x7F) == 0 ? (status >> 8) & 0xFF : -1;
     }

@@ -16,7 +16,7 @@
 
 namespace quillmark {
 
-/// A fresh directory on the disk, gone with all that is in it when the test ends.
+/// A new directory on the disk. The destructor removes it with its content.
 class TempDir {
 public:
     TempDir() {
@@ -31,12 +31,12 @@ public:
     TempDir(const TempDir&) = delete;
     TempDir& operator=(const TempDir&) = delete;
 
-    /// In the driver's form.
+    /// The path in the driver's form.
     [[nodiscard]] const OrxString& path() const noexcept { return path_; }
     [[nodiscard]] OrxString file(const OrxString& name) const {
         return SysFile::appendToDir(path_, name);
     }
-    /// The same as the system has it.
+    /// The path in the system's own form.
     [[nodiscard]] std::string native() const { return nativePath(path_); }
     [[nodiscard]] std::string nativeFile(const OrxString& name) const {
         return nativePath(file(name));
@@ -46,7 +46,7 @@ public:
         std::ofstream stream(nativeFile(name), std::ios::binary | std::ios::trunc);
         stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     }
-    /// The bytes of a file, or nothing when it is not there.
+    /// The content of a file, or nothing if there is none.
     [[nodiscard]] std::optional<std::string> content(const OrxString& name) const {
         std::ifstream stream(nativeFile(name), std::ios::binary);
         if (!stream) {
