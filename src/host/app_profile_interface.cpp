@@ -6,16 +6,16 @@ namespace quillmark {
 
 namespace {
 
-constinit ProcessWide<AppProfileInterface*> installed;
+constinit ProcessWide<AppProfileInterface*> installedProfile;
 
 }  // namespace
 
 AppProfileInterface* AppProfileInterface::getInterface() noexcept {
-    return installed.get();
+    return installedProfile.get();
 }
 
 AppProfileInterface* AppProfileInterface::setInterface(AppProfileInterface* profile) noexcept {
-    return installed.exchange(profile);
+    return installedProfile.exchange(profile);
 }
 
 }  // namespace quillmark

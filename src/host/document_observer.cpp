@@ -7,18 +7,18 @@ namespace quillmark {
 
 namespace {
 
-constinit ProcessWide<DocumentObserver*> installed;
+constinit ProcessWide<DocumentObserver*> installedObserver;
 
 }  // namespace
 
 DocumentObserver& DocumentObserver::current() noexcept {
     static ModuleLifetime<DocumentObserver> silent;
-    DocumentObserver* const observer = installed.get();
+    DocumentObserver* const observer = installedObserver.get();
     return observer != nullptr ? *observer : *silent;
 }
 
 DocumentObserver* DocumentObserver::install(DocumentObserver* observer) noexcept {
-    return installed.exchange(observer);
+    return installedObserver.exchange(observer);
 }
 
 }  // namespace quillmark

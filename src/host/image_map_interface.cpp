@@ -6,16 +6,16 @@ namespace quillmark {
 
 namespace {
 
-constinit ProcessWide<CImageMapInterface*> installed;
+constinit ProcessWide<CImageMapInterface*> installedImageMaps;
 
 }  // namespace
 
 CImageMapInterface* CImageMapInterface::getInterface() noexcept {
-    return installed.get();
+    return installedImageMaps.get();
 }
 
 CImageMapInterface* CImageMapInterface::setInterface(CImageMapInterface* service) noexcept {
-    return installed.exchange(service);
+    return installedImageMaps.exchange(service);
 }
 
 }  // namespace quillmark

@@ -6,16 +6,16 @@ namespace quillmark {
 
 namespace {
 
-constinit ProcessWide<const MMSchema*> installed;
+constinit ProcessWide<const MMSchema*> installedSchema;
 
 }  // namespace
 
 const MMSchema* MMSchema::getSchema() noexcept {
-    return installed.get();
+    return installedSchema.get();
 }
 
 const MMSchema* MMSchema::setSchema(const MMSchema* schema) noexcept {
-    return installed.exchange(schema);
+    return installedSchema.exchange(schema);
 }
 
 }  // namespace quillmark

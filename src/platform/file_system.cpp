@@ -6,17 +6,17 @@ namespace quillmark {
 
 namespace {
 
-constinit ProcessWide<FileSystem*> installed;
+constinit ProcessWide<FileSystem*> installedFileSystem;
 
 }  // namespace
 
 FileSystem& FileSystem::current() noexcept {
-    FileSystem* const fileSystem = installed.get();
+    FileSystem* const fileSystem = installedFileSystem.get();
     return fileSystem != nullptr ? *fileSystem : native();
 }
 
 FileSystem* FileSystem::install(FileSystem* fileSystem) noexcept {
-    return installed.exchange(fileSystem);
+    return installedFileSystem.exchange(fileSystem);
 }
 
 }  // namespace quillmark
