@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 need build
 mkdir -p build
 say "Building"
-cmake -S . -B build/demo -G Ninja -D CMAKE_BUILD_TYPE=Release -D DOCHTML_BUILD_TESTS=OFF \
+cmake -S . -B build/demo -G Ninja -D CMAKE_BUILD_TYPE=Release -D DOCHTML_BUILD_TESTS=OFF -D DOCHTML_BUILD_PYTHON=OFF \
     >build/demo.configure.log 2>&1 || { cat build/demo.configure.log; exit 1; }
 cmake --build build/demo --target dochtml-replay manual_generator
 

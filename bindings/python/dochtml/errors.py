@@ -1,5 +1,7 @@
 """What can go wrong."""
 
+from typing import Sequence
+
 
 class DochtmlError(Exception):
     """The base of this package's own errors."""
@@ -10,7 +12,11 @@ class ComponentError(DochtmlError):
 
 
 class DocumentError(DochtmlError):
-    """The driver could not open or write something. The message is the driver's own."""
+    """The driver could not open or write something. The reasons are the driver's own words."""
+
+    def __init__(self, reasons: Sequence[str]) -> None:
+        super().__init__("\n".join(reasons))
+        self.reasons = tuple(reasons)
 
 
 class SettingError(DochtmlError, ValueError):

@@ -80,7 +80,7 @@ class Mailbox:
             finally:
                 # Its trace leads here and from here to it: a circle that keeps the document.
                 del raised
-        raise DocumentError("\n".join(failures))
+        raise DocumentError(failures)
 
 
 # The mailbox of the document that a thread is working on.

@@ -130,7 +130,7 @@ def test_the_operations_write_the_bytes_that_the_replay_tool_writes(work: Path) 
     for directory in ("python", "replay"):
         (work / directory).mkdir()
     play(first, work / "python" / "rep.htm")
-    tool = [os.environ["DOCHTML_TEST_REPLAY"], "--quiet", "--output", "replay/rep.htm", first]
+    tool = [os.environ["DOCHTML_TEST_REPLAY"], "--quiet", "--output", "replay/rep.htm", str(first)]
     subprocess.run(tool, check=True)
     names = sorted(path.name for path in (work / "replay").iterdir() if path.is_file())
     assert names == sorted(path.name for path in (work / "python").iterdir() if path.is_file())

@@ -1,0 +1,1 @@
+"""A report generator: the reference of an object model, from GObject introspection files."""
