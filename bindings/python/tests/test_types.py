@@ -13,16 +13,15 @@ STAGE = Path(dochtml.__file__).parents[1]
 
 
 @pytest.mark.parametrize("platform", ["linux", "win32"])
-@pytest.mark.parametrize(
-    "place", [STAGE / "dochtml", SOURCE / "bindings/python", SOURCE / "examples/object_model"],
-    ids=lambda place: str(place.name),
-)
-def test_mypy_has_nothing_to_say(place: Path, platform: str, work: Path) -> None:
-    files = [place] if place.parent == STAGE else sorted(place.rglob("*.py"))
+def test_mypy_has_nothing_to_say(platform: str, work: Path) -> None:
+    files = [STAGE / "dochtml"]
+    for place in ("bindings/python", "examples/object_model"):
+        files += (SOURCE / place).rglob("*.py")
+    # The package is checked where it is whole.
     files = [file for file in files if file.parent != SOURCE / "bindings/python/dochtml"]
     run = subprocess.run(
         [os.environ["DOCHTML_TEST_MYPY"], "--strict", "--platform", platform,
-         "--cache-dir", work / "cache", *files],
+         "--cache-dir", work / "cache", *sorted(files)],
         env={**os.environ, "MYPYPATH": str(STAGE)},
         capture_output=True, text=True, check=False,
     )  # fmt: skip
