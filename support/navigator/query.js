@@ -1,0 +1,78 @@
+// Finding the entries and pages that match all words of a query by prefix.
+(function (nav) {
+  'use strict';
+
+  const mostWords = 8;
+  const mostFiles = 8;
+
+  // Counts, for each number, how many words of the query it matches, and how many of them whole.
+  class Tally {
+    constructor(size) {
+      this.words = new Uint8Array(size);
+      this.whole = new Uint8Array(size);
+    }
+
+    // `word` counts from 0. A number that did not match all words before stays out.
+    add(word, list, whole) {
+      nav.numberList.each(list, (number) => {
+        if (this.words[number] === word) this.words[number] = word + 1;
+        if (whole) this.whole[number] += 1;
+      });
+    }
+
+    // The numbers that match all words, those with more whole words first.
+    result(words) {
+      const groups = Array.from({ length: words + 1 }, () => []);
+      this.words.forEach((count, number) => {
+        if (count === words) groups[words - this.whole[number]].push(number);
+      });
+      return groups.flat();
+    }
+  }
+
+  class Query {
+    constructor(files, set) {
+      this.files = files;
+      this.set = set;
+    }
+
+    // { words, entries, pages, partial }: numbers of entries and of pages. Partial means that a
+    // prefix has more words than are read for it.
+    async run(text) {
+      const words = nav.searchWords.queryWords(text).slice(0, mostWords);
+      if (words.length === 0) return { words, entries: [], pages: [], partial: false };
+      const perWord = Math.max(1, Math.floor(mostFiles / words.length));
+      const matches = await Promise.all(words.map((word) => this.matchesOf(word, perWord)));
+      return { words, partial: matches.some(({ partial }) => partial), ...this.combine(words, matches) };
+    }
+
+    async matchesOf(word, most) {
+      const firstWords = await this.files.get('index');
+      const [first, end] = nav.wordFile.filesOf(firstWords, word);
+      const numbers = Array.from({ length: Math.min(end - first, most) }, (_, at) => first + at);
+      const texts = await Promise.all(numbers.map((number) => this.files.get(`word${number}`)));
+      return {
+        records: texts.flatMap((text) => nav.wordFile.recordsOf(text, word)),
+        partial: end - first > most,
+      };
+    }
+
+    combine(words, matches) {
+      const entries = new Tally(this.set.entries);
+      const pages = new Tally(this.set.pages);
+      matches.forEach(({ records }, index) => {
+        for (const record of records) {
+          const whole = record.word === words[index];
+          entries.add(index, record.entries, whole);
+          pages.add(index, record.pages, whole);
+        }
+      });
+      return {
+        entries: entries.result(words.length),
+        pages: pages.result(words.length).map((index) => index + 1),
+      };
+    }
+  }
+
+  nav.Query = Query;
+})((globalThis.repNavigator ??= {}));
