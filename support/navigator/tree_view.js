@@ -113,11 +113,11 @@
       if (results.some(({ status }) => status === 'fulfilled')) this.render();
     }
 
-    // Opens the way to an entry, marks it and brings it into view.
+    // Opens an entry and the way to it, marks it and brings it into view.
     showCurrent(entry, path) {
       this.current = entry.id;
       this.active = entry.id;
-      this.rows.expand(...path);
+      this.rows.expand(...path, entry);
       this.reveal(this.rows.indexOf(entry.id));
     }
 
