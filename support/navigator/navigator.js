@@ -63,6 +63,7 @@
     startSearch() {
       const query = new nav.Query(this.files, this.set);
       this.searchBox = new nav.SearchBox(this.layout.search, {
+        prepare: () => query.prepare(),
         search: async (text) => new nav.SearchResults(this.entries, await query.run(text)),
         addressOf: ({ entry, page }, text) => this.resultAddress(entry, page, text),
         title: this.set.title,

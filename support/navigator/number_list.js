@@ -33,7 +33,7 @@
 
   nav.numberList = {
     alphabet,
-    valueOf: (character) => values[character.charCodeAt(0)],
+    valueOf: (text, at) => values[text.charCodeAt(at)],
     each: (text, take) => (text.startsWith('.') ? eachBit(text, take) : eachGap(text, take)),
   };
 })((globalThis.repNavigator ??= {}));

@@ -23,9 +23,9 @@
     // The numbers that match all words, those with more whole words first.
     result(words) {
       const groups = Array.from({ length: words + 1 }, () => []);
-      this.words.forEach((count, number) => {
-        if (count === words) groups[words - this.whole[number]].push(number);
-      });
+      for (let number = 0; number < this.words.length; number += 1) {
+        if (this.words[number] === words) groups[words - this.whole[number]].push(number);
+      }
       return groups.flat();
     }
   }
@@ -34,6 +34,11 @@
     constructor(files, set) {
       this.files = files;
       this.set = set;
+    }
+
+    // Reads ahead what every query needs.
+    prepare() {
+      this.files.get('index').catch(() => {});
     }
 
     // { words, entries, pages, partial }: numbers of entries and of pages. Partial means that a
@@ -52,7 +57,7 @@
       const numbers = Array.from({ length: Math.min(end - first, most) }, (_, at) => first + at);
       const texts = await Promise.all(numbers.map((number) => this.files.get(`word${number}`)));
       return {
-        records: texts.flatMap((text) => nav.wordFile.recordsOf(text, word)),
+        texts,
         partial: end - first > most,
       };
     }
@@ -60,11 +65,12 @@
     combine(words, matches) {
       const entries = new Tally(this.set.entries);
       const pages = new Tally(this.set.pages);
-      matches.forEach(({ records }, index) => {
-        for (const record of records) {
-          const whole = record.word === words[index];
-          entries.add(index, record.entries, whole);
-          pages.add(index, record.pages, whole);
+      words.forEach((wanted, index) => {
+        for (const text of matches[index].texts) {
+          nav.wordFile.each(text, wanted, (word, entryList, pageList) => {
+            entries.add(index, entryList, word === wanted);
+            pages.add(index, pageList, word === wanted);
+          });
         }
       });
       return {

@@ -5,10 +5,10 @@
   const { element, interfaceWords: words } = nav;
 
   class SearchBox {
-    // `search(text)` gives a promise for SearchResults; `addressOf(result, text)` a link. The title
-    // is the path of what has no other.
-    constructor(container, { search, addressOf, title }) {
-      Object.assign(this, { container, search, addressOf, title });
+    // `prepare()` is called when a search is to be expected; `search(text)` gives a promise for
+    // SearchResults; `addressOf(result, text)` a link. The title is the path of what has no other.
+    constructor(container, { prepare, search, addressOf, title }) {
+      Object.assign(this, { container, prepare, search, addressOf, title });
       this.turn = 0;
       this.build();
       this.box.addEventListener('input', () => this.run());
@@ -184,6 +184,7 @@
     }
 
     reopen() {
+      this.prepare();
       if (this.list.hidden && this.box.value !== '') this.run();
     }
 

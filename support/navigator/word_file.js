@@ -15,31 +15,22 @@
     return left.length - right.length;
   }
 
-  // The records of a file in order: { word, entries, pages }, the lists still as texts.
-  function* records(text) {
+  // Calls `take(word, entries, pages)` for the words of a file that begin with a prefix, the lists
+  // still as texts.
+  function each(text, prefix, take) {
     let word = '';
-    let at = 0;
-    while (at < text.length) {
-      const end = text.indexOf(';', at);
+    for (let at = 0; at < text.length; ) {
       const comma = text.indexOf(',', at);
       const second = text.indexOf(',', comma + 1);
-      word = word.slice(0, nav.numberList.valueOf(text[at])) + text.slice(at + 1, comma);
-      yield { word, entries: text.slice(comma + 1, second), pages: text.slice(second + 1, end) };
+      const end = text.indexOf(';', second);
+      word = word.slice(0, nav.numberList.valueOf(text, at)) + text.slice(at + 1, comma);
+      if (word.startsWith(prefix)) {
+        take(word, text.slice(comma + 1, second), text.slice(second + 1, end));
+      } else if (compareWords(word, prefix) > 0) {
+        return;
+      }
       at = end + 1;
     }
-  }
-
-  // The records of the words that begin with a prefix.
-  function recordsOf(text, prefix) {
-    const found = [];
-    for (const record of records(text)) {
-      if (record.word.startsWith(prefix)) {
-        found.push(record);
-      } else if (compareWords(record.word, prefix) > 0) {
-        break;
-      }
-    }
-    return found;
   }
 
   // The numbers of the files that may hold words with a prefix: [first, behind the last].
@@ -51,5 +42,5 @@
     return [Math.max(0, first - 1), end];
   }
 
-  nav.wordFile = { compareWords, records, recordsOf, filesOf };
+  nav.wordFile = { compareWords, each, filesOf };
 })((globalThis.repNavigator ??= {}));
