@@ -1,4 +1,4 @@
-"""Draws the pictures of contents entries and packs them into ../icons.zip.
+"""Draws the pictures of contents entries: packed in ../icons.zip, loose in ../navigator/icons.
 
 The names follow the driver's icon rules: the metaclass, then "_" and the kind or visibility,
 or the name of a user-defined metaclass. The archive carries a fixed date, so that drawing it
@@ -112,12 +112,15 @@ def icons():
 
 
 def main():
-    target = Path(__file__).resolve().parent.parent / "icons.zip"
-    with zipfile.ZipFile(target, "w", zipfile.ZIP_STORED) as archive:
+    support = Path(__file__).resolve().parent.parent
+    loose = support / "navigator" / "icons"
+    loose.mkdir(exist_ok=True)
+    with zipfile.ZipFile(support / "icons.zip", "w", zipfile.ZIP_STORED) as archive:
         for name, canvas in sorted(icons().items()):
             entry = zipfile.ZipInfo(f"{name}.gif", (2000, 1, 1, 0, 0, 0))
             entry.external_attr = 0o644 << 16
             archive.writestr(entry, canvas.to_gif())
+            (loose / f"{name}.gif").write_bytes(canvas.to_gif())
 
 
 if __name__ == "__main__":

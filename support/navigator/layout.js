@@ -31,6 +31,7 @@
       document.addEventListener('keydown', (event) => this.onKey(event));
       document.addEventListener('focusin', (event) => this.onLeave(event));
       document.addEventListener('pointerdown', (event) => this.onLeave(event));
+      addEventListener('pagehide', () => this.rest());
       this.rest();
     }
 

@@ -38,7 +38,10 @@
       await this.follow(false);
       this.tree.watch();
       performance.mark('rep_nav:tree', { detail: { bytes: this.files.bytesRead } });
-      addEventListener('hashchange', () => this.follow(true));
+      addEventListener('hashchange', () => {
+        this.drawer.rest();
+        this.follow(true);
+      });
       await this.showNeighbours();
     }
 

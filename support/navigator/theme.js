@@ -39,6 +39,11 @@
       show();
     });
     dark.addEventListener('change', show);
+    // A page that the browser has kept may be of before the reader's choice.
+    addEventListener('pageshow', () => {
+      apply(nav.lasting.get('theme'));
+      show();
+    });
     show();
   }
 

@@ -14,6 +14,7 @@ foreach(wanted
         "include/dochtml/client.h"
         "include/dochtml/driver/doc_html.h"
         "share/dochtml/default.css"
+        "share/dochtml/navigator/order.txt"
         "share/doc/dochtml/README.md")
     if(NOT ";${installed};" MATCHES ";${wanted};")
         message(SEND_ERROR "not installed: ${wanted}")

@@ -62,6 +62,19 @@ function detailPage({ path, headings }, number, nextAnchor) {
   return { entries, html: page(path, body) };
 }
 
+// The frame set of the static contents, and a page with a style sheet that knows no themes.
+function writeOddPages(directory) {
+  writeFileSync(
+    join(directory, 'rep_sfrm.htm'),
+    '<HTML><HEAD></HEAD>\n<FRAMESET COLS="30%,*"><FRAME SRC="rep_scnt.htm" NAME="contents">' +
+      '<FRAME SRC="rep_dtl.htm" NAME="main"></FRAMESET>\n</HTML>\n',
+  );
+  writeFileSync(join(directory, 'rep_scnt.htm'), '<HTML><BODY>Static</BODY></HTML>');
+  writeFileSync(join(directory, 'own.css'), 'BODY { color: #222; background: #fff; }');
+  const foreign = page('foreign.htm', '<BODY>Foreign</BODY>').replace('default.css', 'own.css');
+  writeFileSync(join(directory, 'foreign.htm'), foreign);
+}
+
 // Writes the set; gives { entries, paths }.
 export function writeFixture(directory) {
   let anchors = 0;
@@ -70,6 +83,7 @@ export function writeFixture(directory) {
     mkdirSync(dirname(join(directory, path)), { recursive: true });
     writeFileSync(join(directory, path), made[index].html, 'latin1');
   });
+  writeOddPages(directory);
   for (const name of ['default.css', 'pixs']) {
     cpSync(join(support, name), join(directory, name), { recursive: true });
   }

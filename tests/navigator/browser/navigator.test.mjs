@@ -254,6 +254,51 @@ for (const browserName of browsers) {
         assert.equal(await ground(), 'rgb(255, 255, 255)');
       });
 
+      test('a page with a foreign style sheet keeps its own colours', async () => {
+        await to('foreign.htm');
+        await page.click('button[aria-label=Theme]');
+        const grounds = await page.evaluate(() =>
+          ['body', '.rn-bar'].map((one) => getComputedStyle(document.querySelector(one)).backgroundColor));
+        assert.deepEqual(grounds, ['rgb(255, 255, 255)', 'rgb(25, 30, 38)']);
+        await page.click('button[aria-label=Theme]');
+      });
+
+      test('a browser that denies storage loses the memory, not the navigator', async () => {
+        await page.evaluateOnNewDocument(() => {
+          for (const name of ['localStorage', 'sessionStorage']) {
+            Object.defineProperty(window, name, { get: () => { throw new Error('denied'); } });
+          }
+        });
+        await to('parts/rep_dtl3.htm');
+        await page.click('button[aria-label=Theme]');
+        await follow(page, () => page.click('a[rel=next]'));
+        assert.equal((await current(page)).text, 'Wheel');
+      });
+
+      test('in the frame set of the static contents the navigator keeps quiet', async () => {
+        await page.goto(`${set.address}/rep_sfrm.htm`, { waitUntil: 'load' });
+        const frame = page.frames().find((one) => one.url().endsWith('/rep_dtl.htm'));
+        assert.equal(await frame.$('.rn-bar'), null);
+      });
+
+      test('paper has the page alone', { skip: browserName === 'firefox' && 'no print media over BiDi' }, async () => {
+        await to('rep_dtl.htm');
+        await page.emulateMediaType('print');
+        const shown = await page.$$eval('.rn-bar, .rn-contents, .rn-skip, .rn-path, .rn-neighbours', (all) =>
+          all.filter((one) => getComputedStyle(one).display !== 'none').length);
+        assert.equal(shown, 0);
+        assert.equal(await page.$eval('main', (main) => getComputedStyle(main).marginLeft), '0px');
+      });
+
+      test('without scripts a page is as it always was', { skip: browserName === 'firefox' && 'scripts stay on over BiDi' }, async () => {
+        await page.setJavaScriptEnabled(false);
+        await page.goto(`${set.address}/rep.htm`, { waitUntil: 'load' });
+        assert.equal(await page.$('.rn-bar'), null);
+        await Promise.all([page.waitForNavigation(), page.click('li:nth-child(3) a')]);
+        assert.equal(at(), 'parts/rep_dtl3.htm#toc5');
+        assert.match(await page.$eval('body', (body) => body.innerText), /Parts/);
+      });
+
       test('icons are shown', async () => {
         await to('rep_dtl.htm');
         await page.waitForFunction(() => document.querySelector('[role=treeitem] img')?.naturalWidth === 1);
@@ -299,6 +344,20 @@ for (const browserName of browsers) {
       }
     });
   }
+}
+
+for (const browserName of browsers) {
+  test(`${browserName} in a dark system shows dark pages`, async () => {
+    const browser = await launch(browserName, 'dark');
+    const page = await browser.newPage();
+    if (browserName === 'chrome') {
+      await page.emulateMediaFeatures([{ name: 'prefers-color-scheme', value: 'dark' }]);
+    }
+    await open(page, `${(await ways.disk(directory)).address}/rep_dtl.htm`);
+    assert.equal(await page.evaluate(() => getComputedStyle(document.body).backgroundColor), 'rgb(20, 24, 30)');
+    assert.deepEqual(await violations(page), []);
+    await browser.close();
+  });
 }
 
 async function violations(page) {
