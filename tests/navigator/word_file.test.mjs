@@ -61,6 +61,14 @@ test('words are in the order of their code points', () => {
   assert.deepEqual([...ascending].reverse().sort(compareWords), ascending);
 });
 
+test('surrogate pairs are not parted', () => {
+  const index = new WordIndex();
+  index.addPage(0, ['\u{20000}', '\u{20001}']);
+  const { files } = index.files();
+  assert.deepEqual(files, ['A\u{20000},,A;A\u{20001},,A;']);
+  assert.deepEqual(recordsOf(files[0]).map(({ word }) => word), ['\u{20000}', '\u{20001}']);
+});
+
 test('a file ends before it gets too long', () => {
   const index = new WordIndex();
   for (let number = 0; number < 9000; number += 1) index.addPage(number, [`word${number}`]);

@@ -16,14 +16,17 @@ const flags = ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-ru
 
 export const browsers = process.env.NAVIGATOR_BROWSERS?.split(',') ?? Object.keys(executables);
 
-// `scheme`: the colours that the system prefers.
-export function launch(browser, scheme = 'light') {
+// `scheme`: the colours that the system prefers. `prefs`: further preferences of Firefox.
+export function launch(browser, scheme = 'light', prefs = {}) {
   return puppeteer.launch({
     browser,
     executablePath: executables[browser],
     headless: true,
     args: browser === 'chrome' ? flags : [],
-    extraPrefsFirefox: { 'layout.css.prefers-color-scheme.content-override': scheme === 'dark' ? 0 : 1 },
+    extraPrefsFirefox: {
+      'layout.css.prefers-color-scheme.content-override': scheme === 'dark' ? 0 : 1,
+      ...prefs,
+    },
   });
 }
 
@@ -73,7 +76,7 @@ export async function follow(page, action) {
 
 // What the pages themselves give rise to: their buttons' handlers, which the server's policy
 // forbids, and their lack of a character set.
-const ofThePages = /inline event handler|script-src-attr|character encoding of the/;
+const ofThePages = /inline event handler|script-src-attr|character encoding/;
 
 export function collectComplaints(page) {
   const complaints = [];

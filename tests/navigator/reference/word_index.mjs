@@ -50,6 +50,7 @@ export class WordIndex {
   #record(word, last) {
     let shared = 0;
     while (shared < longestShared && shared < last.length && word[shared] === last[shared]) shared += 1;
+    if (shared > 0 && /[\ud800-\udbff]/.test(word[shared - 1])) shared -= 1;
     const { entries, pages } = this.#words.get(word);
     const lists = [entries, pages].map((numbers) => numberListText(ascending(numbers)));
     return `${nav.numberList.alphabet[shared]}${word.slice(shared)},${lists.join(',')};`;
