@@ -8,7 +8,7 @@
     try {
       name = decodeURIComponent(name);
     } catch {
-      // The fragment is a name as it stands.
+      // The fragment is not percent-encoded: it is the name itself.
     }
     if (name === '') return null;
     return document.getElementById(name) ?? document.getElementsByName(name)[0] ?? null;

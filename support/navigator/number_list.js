@@ -1,4 +1,4 @@
-// Lists of ascending numbers as the search index writes them: gaps, or bits behind a dot.
+// Lists of ascending numbers as the search index writes them: gaps, or bits after a dot.
 (function (nav) {
   'use strict';
 

@@ -39,7 +39,7 @@
       return nav.place.pageNumber(new URL(href, 'file:///').href, this.entries.set);
     }
 
-    // The next results: [{ entry, path, page }]; empty at the end. A page stands for its text.
+    // The next results: [{ entry, path, page }]; empty at the end. `page` marks a match in the page's text.
     async more() {
       const results = [];
       const { entries, pages } = this.found;

@@ -51,7 +51,7 @@
       return this.ids.length;
     }
 
-    // What assistive technology is told about a row.
+    // A row's level and its position among its siblings, for assistive technology.
     at(index) {
       const id = this.ids[index];
       const parent = this.parents[index];

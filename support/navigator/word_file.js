@@ -33,7 +33,7 @@
     }
   }
 
-  // The numbers of the files that may hold words with a prefix: [first, behind the last].
+  // The numbers of the files that may hold words with a prefix: [first, one past the last].
   function filesOf(firstWords, prefix) {
     let first = firstWords.findIndex((word) => compareWords(word, prefix) > 0);
     if (first < 0) first = firstWords.length;

@@ -25,14 +25,14 @@ test('the set lies above the script', () => {
   assert.equal(rootOf('file:///a/b/rep_nav/navigator.js'), 'file:///a/b/');
 });
 
-test('a query stands in front of the fragment', () => {
+test('a query goes in front of the fragment', () => {
   assert.equal(withQuery('d/rep_dtl2.htm#toc5', 'a & b'), 'd/rep_dtl2.htm?find=a%20%26%20b#toc5');
   assert.equal(withQuery('rep_dtl2.htm', '#1'), 'rep_dtl2.htm?find=%231');
   assert.equal(findOf('file:///d/rep_dtl2.htm?find=a%20%26%20b#toc5'), 'a & b');
   assert.equal(findOf('file:///d/rep_dtl2.htm'), '');
 });
 
-test('an anchor of the contents is told by its name', () => {
+test('an anchor of the contents is recognised by its name', () => {
   assert.equal(contentsAnchor('#toc12'), 12);
   assert.equal(contentsAnchor('toc12'), 12);
   for (const other of ['', '#', '#toc', '#toc0', '#toc1x', '#Page 7', '#atoc1']) {

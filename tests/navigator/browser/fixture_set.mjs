@@ -97,7 +97,7 @@ export function writeFixture(directory) {
   return { entries, paths: headingPages.map(({ path }) => path) };
 }
 
-// A picture of one dot stands for every icon.
+// Every icon is a picture of one dot.
 function iconDirectoryIn(directory) {
   const icons = join(directory, 'loose');
   mkdirSync(icons, { recursive: true });

@@ -232,6 +232,15 @@ for (const browserName of browsers) {
         assert.deepEqual(await focused(page), { role: 'treeitem', text: 'Piston' });
       });
 
+      test('on a phone a locate button opens the drawer', async () => {
+        await page.setViewport(narrow);
+        await to('parts/rep_dtl3.htm');
+        await page.click('input.locatebtn:nth-of-type(2)');
+        await page.waitForFunction(() => document.activeElement.getAttribute('role') === 'treeitem');
+        assert.equal((await current(page)).text, (await focused(page)).text);
+        assert.equal(await page.$eval('#rn-contents', (panel) => panel.inert), false);
+      });
+
       test('the window.contents of old pages answers', async () => {
         await to('parts/rep_dtl3.htm');
         await page.evaluate(() => {

@@ -8,7 +8,7 @@ import { buildNavigator, headLines } from './builder.mjs';
 
 const isBridge = (html) => html.includes('HTTP-EQUIV="Refresh"');
 
-// The entries of the tree file; its indentation tells their levels.
+// The entries of the tree file; its indentation gives their levels.
 function treeEntries(text) {
   const field = '"((?:[^"\\\\]|\\\\.)*)"';
   const node = new RegExp(`^( *)\\(NODE ${field} "([^"]*)"(?: "([^"]*)")?(?: "([^"]*)")?`, 'gm');

@@ -5,7 +5,7 @@ import { join } from 'node:path';
 
 const escaped = (unit) => `\\\\u${unit.charCodeAt(0).toString(16).padStart(4, '0')}`;
 
-// A string as it stands in the file, in its quotes.
+// A string as the file has it, with its quotes.
 export const stringText = (text) => `"${text.replace(/[^ -~]|["'\\<]/g, escaped)}"`;
 
 export function jsonText(value) {

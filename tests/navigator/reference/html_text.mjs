@@ -26,7 +26,7 @@ export function entryText(html) {
 const tags =
   /<!--[^]*?(?:-->|$)|<(script|style)\b[^]*?(?:<\/\1\b[^>]*(?:>|$)|$)|<[!/][^>]*(?:>|$)|<[a-z?](?:[^>"']|"[^"]*(?:"|$)|'[^']*(?:'|$))*(?:>|$)/gi;
 
-// The texts between the tags behind <BODY>, separated by line feeds.
+// The texts between the tags after <BODY>, separated by line feeds.
 export function pageText(html) {
   const body = /<body(?:[^>"']|"[^"]*"|'[^']*')*>/i.exec(html);
   const text = body === null ? '' : html.slice(body.index + body[0].length);
