@@ -14,6 +14,13 @@ bool isTrue(VARIANT_BOOL value) noexcept {
     return value != VARIANT_FALSE;
 }
 
+/// The address of an identifier as the host passed it. It is a reference in C++ only: a host may
+/// have passed null, which the compiler must not rule out.
+const IID* passedIdentifier(const IID* identifier) noexcept {
+    const IID* const volatile passed = identifier;
+    return passed;
+}
+
 /// An operation with an out text. Without a place for the text the operation runs all the same.
 template <typename Body>
 HRESULT runOutOperation(BSTR* out, Body&& body) noexcept {
@@ -61,14 +68,16 @@ HRESULT DocumentObject::GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) {
 
 HRESULT DocumentObject::GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID /*locale*/,
                                       DISPID* ids) {
-    return runGuarded([&] { return findDispatchIds(reserved, names, count, ids); });
+    const IID* const reservedId = passedIdentifier(&reserved);
+    return runGuarded([&] { return findDispatchIds(reservedId, names, count, ids); });
 }
 
 HRESULT DocumentObject::Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags,
                                DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* /*exception*/,
                                UINT* badArgument) {
+    const IID* const reservedId = passedIdentifier(&reserved);
     return runGuarded([&] {
-        const LateCall call{id, reserved, locale, flags, parameters, result, badArgument};
+        const LateCall call{id, reservedId, locale, flags, parameters, result, badArgument};
         return invokeLateBound(*document_, call);
     });
 }

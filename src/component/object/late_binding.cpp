@@ -39,13 +39,22 @@ DISPID findParameter(const Operation& operation, const OLECHAR* name) noexcept {
                                      : static_cast<DISPID>(found - parameters.begin());
 }
 
+bool isNone(const IID* reserved) noexcept {
+    return reserved == nullptr || IsEqualIID(*reserved, IID_NULL);
+}
+
+bool areNames(const LPOLESTR* names, UINT count) noexcept {
+    return names != nullptr && count != 0 &&
+           std::find(names, names + count, nullptr) == names + count;
+}
+
 }  // namespace
 
-HRESULT findDispatchIds(REFIID reserved, LPOLESTR* names, UINT count, DISPID* ids) {
-    if (!IsEqualIID(reserved, IID_NULL)) {
+HRESULT findDispatchIds(const IID* reserved, LPOLESTR* names, UINT count, DISPID* ids) {
+    if (!isNone(reserved)) {
         return DISP_E_UNKNOWNINTERFACE;
     }
-    if (names == nullptr || ids == nullptr || count == 0) {
+    if (ids == nullptr || !areNames(names, count)) {
         return E_INVALIDARG;
     }
     const Operation* operation = findByName(names[0]);
@@ -58,7 +67,7 @@ HRESULT findDispatchIds(REFIID reserved, LPOLESTR* names, UINT count, DISPID* id
 }
 
 HRESULT invokeLateBound(IDocument& document, const LateCall& call) {
-    if (!IsEqualIID(call.reserved, IID_NULL)) {
+    if (!isNone(call.reserved)) {
         return DISP_E_UNKNOWNINTERFACE;
     }
     // Hosts that look a value up ask for a method and a property at once.

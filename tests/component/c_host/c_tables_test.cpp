@@ -47,6 +47,18 @@ TEST_F(CTables, leadToNamesAndIdentifiers) {
               S_OK);
 }
 
+TEST_F(CTables, takeANullReservedIdentifierForNone) {
+    Text name(u"popDirectory");
+    LPOLESTR names[] = {name.get()};
+    DISPID id = 0;
+    EXPECT_EQ(document_->table->GetIDsOfNames(document_, nullptr, names, 1, 0, &id), S_OK);
+    EXPECT_EQ(id, 42);
+    DISPPARAMS none{};
+    EXPECT_EQ(document_->table->Invoke(document_, id, nullptr, 0, DISPATCH_METHOD, &none, nullptr,
+                                       nullptr, nullptr),
+              S_OK);
+}
+
 TEST_F(CTables, leadFromInterfaceToInterface) {
     void* same = nullptr;
     EXPECT_EQ(document_->table->QueryInterface(document_, &IID_IDocument, &same), S_OK);

@@ -95,6 +95,18 @@ TEST_F(LateBinding, answersNamesOfAnUnknownOperationWithNothing) {
     EXPECT_THAT(ids, ElementsAre(DISPID_UNKNOWN, DISPID_UNKNOWN));
 }
 
+TEST_F(LateBinding, refusesANullPointerAmongTheNames) {
+    Text operation(u"insertDiagram");
+    Text parameter(u"width");
+    LPOLESTR lists[][3] = {{nullptr, parameter.get(), parameter.get()},
+                           {operation.get(), parameter.get(), nullptr}};
+    for (auto& names : lists) {
+        DISPID ids[] = {77, 78, 79};
+        EXPECT_EQ(document().GetIDsOfNames(IID_NULL, names, 3, 0, ids), E_INVALIDARG);
+        EXPECT_THAT(ids, ElementsAre(77, 78, 79));
+    }
+}
+
 TEST_F(LateBinding, keepsTheReservedIdentifierReserved) {
     Text name(u"close");
     LPOLESTR names[] = {name.get()};
@@ -300,6 +312,14 @@ TEST_F(LateBinding, followsReferencesToValues) {
     EXPECT_EQ(callWith(insertText, variantReference), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre("insertField(3)", "insertText(\"by reference\")",
                                              "insertText(\"by reference\")"));
+}
+
+TEST_F(LateBinding, doesNotCallWithAReferenceThatLeadsNowhere) {
+    for (const int type : {VT_I2, VT_BSTR, VT_VARIANT}) {
+        EXPECT_EQ(callWith(insertField, variant(static_cast<VARTYPE>(VT_BYREF | type))),
+                  DISP_E_TYPEMISMATCH);
+    }
+    EXPECT_THAT(object_.calls(), IsEmpty());
 }
 
 TEST_F(LateBinding, handsATextOutThroughAReferenceToAText) {
