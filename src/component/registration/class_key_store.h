@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -7,6 +8,7 @@
 #include <string>
 
 #include "dochtml/automation.h"
+#include "foundation/ascii.h"
 
 namespace quillmark {
 
@@ -20,10 +22,19 @@ struct KeyValue {
     friend bool operator==(const KeyValue&, const KeyValue&) = default;
 };
 
-/// A key with all that lies below it. The default value has the empty name.
+/// Orders names that are the same in any case of their ASCII letters.
+struct KeyNameOrder {
+    [[nodiscard]] bool operator()(const std::string& a, const std::string& b) const noexcept {
+        return std::ranges::lexicographical_compare(a, b, {}, ascii::toLower<char>,
+                                                    ascii::toLower<char>);
+    }
+};
+
+/// A key with all that lies below it. The default value has the empty name. Keys and values are
+/// found by their names in any case; they keep the case that they were made with.
 struct KeyTree {
-    std::map<std::string, KeyValue> values;
-    std::map<std::string, KeyTree> children;
+    std::map<std::string, KeyValue, KeyNameOrder> values;
+    std::map<std::string, KeyTree, KeyNameOrder> children;
 
     friend bool operator==(const KeyTree&, const KeyTree&) = default;
 };

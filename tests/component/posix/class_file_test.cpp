@@ -63,6 +63,18 @@ TEST_F(ClassFile, passesOverWhatIsNothing) {
     EXPECT_EQ(tree(), expected);
 }
 
+TEST_F(ClassFile, holdsAKeyOnceInAnyCase) {
+    KeyTree root;
+    makeKey(root, "clsid\\A").values["Name"] = {KeyValue::textType, "kept"};
+    makeKey(root, "CLSID\\a\\Below");
+    ASSERT_TRUE(writeClassFile(file(), root));
+    EXPECT_THAT(content(), ::testing::EndsWith("[clsid]\n[clsid\\A]\nName=kept\n"
+                                               "[clsid\\A\\Below]\n"));
+    const KeyTree* const found = findKey(root, "Clsid\\a");
+    ASSERT_NE(found, nullptr);
+    EXPECT_EQ(found->values.count("NAME"), 1U);
+}
+
 TEST_F(ClassFile, cannotBeWrittenWhereAFileStandsForItsDirectory) {
     dir_.put("quillmark", "in the way");
     EXPECT_FALSE(writeClassFile(file(), KeyTree()));
@@ -201,8 +213,8 @@ TEST_F(ClassFile, losesNothingOfThoseWhoRegisterAtOnce) {
 TEST_F(ClassFile, leadsFromEveryNameToTheClass) {
     ASSERT_EQ(registerServer(), S_OK);
     for (const char* name :
-         {"DocHtml.DocHtml.2.1.0", "DocHtml.DocHtml", "{474BDD91-0170-11D3-A6BF-00104B2AEFE1}",
-          "{474bdd91-0170-11d3-a6bf-00104b2aefe1}"}) {
+         {"DocHtml.DocHtml.2.1.0", "DocHtml.DocHtml", "dochtml.dochtml.2.1.0", "DOCHTML.DOCHTML",
+          "{474BDD91-0170-11D3-A6BF-00104B2AEFE1}", "{474bdd91-0170-11d3-a6bf-00104b2aefe1}"}) {
         EXPECT_EQ(findRegisteredClass(name).classId, CLSID_DocHtml) << name;
         EXPECT_THAT(findRegisteredClass(name).library, StartsWith("/")) << name;
     }
