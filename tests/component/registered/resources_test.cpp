@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,23 +37,37 @@ TEST_F(Resources, holdScriptsDialogAndTypeLibrary) {
     EXPECT_NE(FindResourceA(library_, MAKEINTRESOURCEA(1), "TYPELIB"), nullptr);
 }
 
-TEST(VersionInformation, namesTheModule) {
-    DWORD ignored = 0;
-    const DWORD size = GetFileVersionInfoSizeA(DOCHTML_TEST_LIBRARY, &ignored);
-    ASSERT_GT(size, 0U);
-    std::vector<char> block(size);
-    ASSERT_TRUE(GetFileVersionInfoA(DOCHTML_TEST_LIBRARY, 0, size, block.data()));
-    const auto value = [&](const std::string& name) -> std::string {
+class VersionInformation : public ::testing::Test {
+protected:
+    void SetUp() override {
+        DWORD ignored = 0;
+        block_.resize(GetFileVersionInfoSizeA(DOCHTML_TEST_LIBRARY, &ignored));
+        ASSERT_FALSE(block_.empty());
+        ASSERT_TRUE(GetFileVersionInfoA(DOCHTML_TEST_LIBRARY, 0, static_cast<DWORD>(block_.size()),
+                                        block_.data()));
+    }
+    [[nodiscard]] std::optional<std::string> value(const std::string& name) const {
         void* text = nullptr;
         UINT length = 0;
-        VerQueryValueA(block.data(), ("\\StringFileInfo\\040904B0\\" + name).c_str(), &text,
-                       &length);
-        return text == nullptr ? "" : static_cast<const char*>(text);
-    };
+        const std::string place = "\\StringFileInfo\\040904B0\\" + name;
+        if (VerQueryValueA(block_.data(), place.c_str(), &text, &length) == FALSE) {
+            return std::nullopt;
+        }
+        return std::string(static_cast<const char*>(text));
+    }
+
+    std::vector<char> block_;
+};
+
+TEST_F(VersionInformation, namesTheModule) {
     EXPECT_EQ(value("FileDescription"), "dochtmlcom Module");
     EXPECT_EQ(value("InternalName"), "DOCHTMLCOM");
     EXPECT_EQ(value("OriginalFilename"), "dochtmlcom.dll");
     EXPECT_EQ(value("FileVersion"), "2.1.0");
+}
+
+TEST_F(VersionInformation, saysThatTheLibraryRegistersItself) {
+    EXPECT_EQ(value("OLESelfRegister"), "");
 }
 
 }  // namespace
