@@ -38,7 +38,7 @@ std::string textOf(float real) {
 
 TEST(RealNumber, isShownWithFifteenDigits) {
     EXPECT_EQ(textOf(0.0), "0");
-    EXPECT_EQ(textOf(-0.0), "-0");
+    EXPECT_EQ(textOf(-0.0), "0");
     EXPECT_EQ(textOf(1.0), "1");
     EXPECT_EQ(textOf(-2.5), "-2.5");
     EXPECT_EQ(textOf(0.1 + 0.2), "0.3");

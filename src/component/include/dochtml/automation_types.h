@@ -102,6 +102,8 @@ DOCHTML_IDENTIFIER IID IID_IDispatch = {0x00020400, 0x0000, 0x0000, {0xC0, 0, 0,
 #define VARIANT_TRUE ((VARIANT_BOOL)-1)
 #define VARIANT_FALSE ((VARIANT_BOOL)0)
 
+/* The default property of an object. */
+#define DISPID_VALUE 0
 #define DISPID_UNKNOWN (-1)
 #define DISPID_PROPERTYPUT (-3)
 #define DISPATCH_METHOD 0x1
@@ -117,12 +119,15 @@ enum VARENUM {
     VT_I4 = 3,
     VT_R4 = 4,
     VT_R8 = 5,
+    VT_CY = 6,
+    VT_DATE = 7,
     VT_BSTR = 8,
     VT_DISPATCH = 9,
     VT_ERROR = 10,
     VT_BOOL = 11,
     VT_VARIANT = 12,
     VT_UNKNOWN = 13,
+    VT_DECIMAL = 14,
     VT_I1 = 16,
     VT_UI1 = 17,
     VT_UI2 = 18,
@@ -131,14 +136,35 @@ enum VARENUM {
     VT_UI8 = 21,
     VT_INT = 22,
     VT_UINT = 23,
+    VT_RECORD = 36,
+    VT_VECTOR = 0x1000,
     VT_ARRAY = 0x2000,
     VT_BYREF = 0x4000,
+    VT_RESERVED = 0x8000,
     VT_TYPEMASK = 0x0FFF
 };
 
 struct IUnknown;
 struct IDispatch;
 struct ITypeInfo;
+
+/* Days since 30 December 1899; behind the point stands the time of the day. */
+typedef double DATE;
+
+/* An amount of money, in ten-thousandths. */
+typedef struct CY {
+    int64_t int64;
+} CY;
+
+/* A number of 96 bits, divided by ten to the power `scale` (0 to 28). `sign` is 0, or 0x80 for a
+ * negative one. A variant that holds one is a copy of it, with `VT_DECIMAL` as its `vt`. */
+typedef struct DECIMAL {
+    WORD wReserved;
+    uint8_t scale;
+    uint8_t sign;
+    ULONG Hi32;
+    uint64_t Lo64;
+} DECIMAL;
 
 /* A variant has room for two pointers: hosts know its size. */
 typedef struct VariantRoom {
@@ -164,6 +190,8 @@ typedef struct VARIANT {
         uint8_t bVal;
         float fltVal;
         double dblVal;
+        DATE date;
+        CY cyVal;
         VARIANT_BOOL boolVal;
         SCODE scode;
         BSTR bstrVal;

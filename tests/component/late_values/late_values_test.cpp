@@ -1,0 +1,59 @@
+// What becomes of every kind of value that a host can pass: on Windows by the system's conversion,
+// elsewhere by ours, held against one table.
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <set>
+
+#include "component/late_values/answers.h"
+
+namespace quillmark::testing {
+namespace {
+
+std::vector<ValueRow> table() {
+    std::ifstream in(DOCHTML_LATE_VALUES);
+    return readValueTable(in);
+}
+
+/// The system that the tests run on may be the one that a row says differs, or the right one.
+bool isExpected(const ExpectedAnswer& expected, const std::string& answer) {
+#ifdef _WIN32
+    return answer == expected.right || answer == expected.systemAnswer();
+#else
+    return answer == expected.right;
+#endif
+}
+
+TEST(LateValues, becomeWhatTheTableSays) {
+    for (const ValueRow& row : table()) {
+        const auto answers = answersTo(row.type, row.value);
+        for (std::size_t i = 0; i < answers.size(); ++i) {
+            EXPECT_TRUE(isExpected(row.answers[i], answers[i]))
+                << row << "\n  parameter " << i + 1 << " gets " << answers[i];
+        }
+    }
+}
+
+TEST(LateValues, comeInManyKinds) {
+    std::set<std::string> values;
+    for (const ValueRow& row : table()) {
+        values.insert(row.type + ' ' + row.value);
+    }
+    EXPECT_EQ(values.size(), table().size()) << "a row stands twice";
+    EXPECT_GE(values.size() * ValueRow::parameterCount, 1500U);
+}
+
+TEST(LateValues, haveAReasonWhereWineIsNotWindows) {
+    for (const ValueRow& row : table()) {
+        bool differs = false;
+        for (const ExpectedAnswer& answer : row.answers) {
+            differs = differs || !answer.underWine.empty();
+            EXPECT_NE(answer.right, answer.underWine) << row;
+        }
+        EXPECT_EQ(differs, !row.reason.empty()) << row;
+    }
+}
+
+}  // namespace
+}  // namespace quillmark::testing
