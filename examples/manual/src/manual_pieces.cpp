@@ -114,7 +114,7 @@ void Manual::gallery() {
                                    "as nothing of a bulleted list is indented but its "
                                    "first lines"});
     composer_.list("List Bullet 2", {"an item of the second level"});
-    composer_.line("A bulleted list is never closed, but the text behind it looks as usual.");
+    composer_.line("A bulleted list is never closed, but the text after it looks as usual.");
     calls_.add("insertEndl");
     composer_.entryHeading(2, "Tables in tables", {});
     composer_.startTable({"Outer", "Inner"});

@@ -16,14 +16,14 @@ constexpr const char* preface =
     "\n"
     "<!-- Made by `manual_generator --operations-md`. Edit examples/manual/data/operations. -->\n"
     "\n"
-    "A host drives the driver through the 42 operations of `IDocument`. This page tells of each\n"
-    "what its arguments mean, what it does, what it belongs together with and what it writes.\n"
-    "Every operation answers 0.\n"
+    "A host calls the driver through the 42 operations of `IDocument`. This page describes the\n"
+    "arguments of each operation, its effect, its counterpart and what it writes. Every operation\n"
+    "returns 0.\n"
     "\n"
     "The examples are call streams as `dochtml-replay` plays them. They run inside a document\n"
     "`rep.htm`, between `create` and `close`, unless they show these calls themselves, and with\n"
-    "the settings at their defaults. Below an example stands what the named file then holds,\n"
-    "among other things; a test plays every one of them and looks.\n";
+    "the settings at their defaults. After each example comes a part of the file that it writes. A\n"
+    "test plays all of them and compares.\n";
 
 std::string lowered(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(),

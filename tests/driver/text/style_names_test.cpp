@@ -20,7 +20,8 @@ TEST(StyleNames, HaveLevelOneWithoutANumber) {
 }
 
 TEST(StyleNames, AreSkippedWhateverTheirBeginningIs) {
-    EXPECT_EQ(style_names::levelAfter(style_names::heading, "Appendix7"), 1);
+    EXPECT_EQ(style_names::levelAfter(style_names::heading, "Appendix7"), 7);
+    EXPECT_EQ(style_names::levelAfter(style_names::heading, "Normal 7"), 1);
     EXPECT_EQ(style_names::levelAfter(style_names::heading, "MyStyle 7"), 7);
 }
 
