@@ -7,12 +7,11 @@
 #include "driver/boundary/operation_table.h"
 #include "driver/doc_html.h"
 #include "measure.h"
+#include "short_calls.h"
 
 namespace quillmark::bench {
 
 namespace {
-
-constexpr int calls = 1'000'000;
 
 /// The calls of an ordinary report, roughly as often as they come.
 constexpr std::array<std::string_view, 10> commonCalls = {
@@ -36,14 +35,6 @@ std::vector<std::string_view> allNames() {
         names.emplace_back(row.name);
     }
     return names;
-}
-
-Seconds secondsOfTexts(IDocument& document) {
-    return secondsOf([&] {
-        for (int i = 0; i < calls; ++i) {
-            benchmark::DoNotOptimize(document.insertText(u"ten chars."));
-        }
-    });
 }
 
 void namesOfOperations(benchmark::State& state) {

@@ -4,25 +4,16 @@
 #include "bench_settings.h"
 #include "driver/doc_html.h"
 #include "measure.h"
+#include "short_calls.h"
 
 namespace quillmark::bench {
 
 namespace {
 
-constexpr int calls = 1'000'000;
-
 Seconds secondsOfBareCalls(IDocument& document) {
     return secondsOf([&] {
         for (int i = 0; i < calls; ++i) {
             benchmark::DoNotOptimize(document.start());
-        }
-    });
-}
-
-Seconds secondsOfTexts(IDocument& document) {
-    return secondsOf([&] {
-        for (int i = 0; i < calls; ++i) {
-            benchmark::DoNotOptimize(document.insertText(u"ten chars."));
         }
     });
 }

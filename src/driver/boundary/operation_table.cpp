@@ -172,7 +172,7 @@ std::span<const Operation> operations() noexcept {
 }
 
 const Operation* findOperation(std::string_view name) noexcept {
-    const auto found = std::ranges::find(names, name);
+    const auto* const found = std::ranges::find(names, name);
     return found != names.end() ? &table[static_cast<std::size_t>(found - names.begin())] : nullptr;
 }
 
