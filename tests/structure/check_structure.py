@@ -4,6 +4,7 @@
 - An include points to the same module or to a layer below, never upwards or sideways.
 - Within a module, an include points to the same folder or to one before it.
 - System headers and system macros stay in the folders that are there for them.
+- A source includes its own header first, which proves that the header compiles by itself.
 - No file of code grows beyond 400 lines.
 - No two classes that a program may contain have the same name.
 
@@ -138,6 +139,17 @@ def source_faults(name, lines):
                 yield number, "system conditional outside the platform folders"
 
 
+def own_header_fault(root, name, lines):
+    """The rule for a source that has a header of the same name."""
+    header = pathlib.PurePath(name).with_suffix(".h")
+    if header.suffix == pathlib.PurePath(name).suffix or not (root / header).exists():
+        return []
+    includes = [match[2] for match in map(INCLUDE.match, lines) if match]
+    if includes[:1] == [header.relative_to("src").as_posix()]:
+        return []
+    return [f"{name}:1: the first include must be {header.relative_to('src')}"]
+
+
 def text_faults(name, lines):
     """The rules for every file of text."""
     if pathlib.PurePath(name).suffix in CODE and len(lines) > MAX_LINES:
@@ -158,6 +170,8 @@ def check(root):
         rules = [text_faults] + ([source_faults] if is_source else [])
         for rule in rules:
             faults += [f"{name}:{line}: {what}" for line, what in rule(name, lines)]
+        if is_source:
+            faults += own_header_fault(root, name, lines)
         if name.startswith(("src/", "tests/")) and path.suffix in {".cpp", ".h"}:
             faults += [f"{name}:{line}: {what}" for line, what in class_names.faults(name, text)]
     return checked, faults

@@ -58,6 +58,26 @@ class CheckStructure(unittest.TestCase):
         self.assertEqual(1, len(self.faults_of("src/page/a.h", "#ifdef _WIN32\n")))
         self.assertEqual(1, len(self.faults_of("src/page/a.h", "#if defined(_WIN32)\n")))
 
+    def test_a_source_includes_its_own_header_first(self):
+        with tempfile.TemporaryDirectory() as folder:
+            page = pathlib.Path(folder, "src", "page")
+            page.mkdir(parents=True)
+            (page / "a.h").touch()
+            (page / "a.cpp").write_text('#include <string>\n#include "page/a.h"\n')
+            (page / "b.cpp").write_text("#include <string>\n")
+            self.assertEqual(
+                ["src/page/a.cpp:1: the first include must be page/a.h"],
+                check_structure.check(pathlib.Path(folder))[1],
+            )
+            (page / "a.cpp").write_text('// A comment.\n#include "page/a.h"\n\n#include <string>\n')
+            self.assertEqual([], check_structure.check(pathlib.Path(folder))[1])
+
+    def test_a_class_is_defined_once(self):
+        self.assertEqual(
+            ["src/page/a.h:2: q::A is defined in src/page/a.h:1 too"],
+            self.faults_of("src/page/a.h", "namespace q { class A {}; }\nnamespace q { struct A {}; }\n"),
+        )
+
     def test_a_file_of_400_lines_is_fine_and_one_more_is_not(self):
         self.assertEqual([], self.faults_of("src/page/a.h", "\n" * 400))
         self.assertEqual(1, len(self.faults_of("src/page/a.h", "\n" * 401)))
