@@ -1,5 +1,5 @@
 #!/bin/bash
-# Builds the driver and its tools and makes the example document set, the reference manual of the
+# Builds the driver and its tools, and makes the example document set, the reference manual of the
 # document interface, in out/.
 set -euo pipefail
 cd "$(dirname "$0")/.."

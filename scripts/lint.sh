@@ -1,8 +1,8 @@
 #!/bin/bash
-# Holds the sources against .clang-format and .clang-tidy.
+# Checks the sources with clang-format and clang-tidy.
 #   scripts/lint.sh [format|tidy] [--changed]
-# Without a name both are done; --changed looks only at what differs from the last commit.
-# clang-tidy reads the compile commands of BUILD_DIR (default build/tidy, configured if needed).
+# Runs both checks unless one is named. With --changed, checks only the files that differ from the
+# last commit. clang-tidy reads the compile commands of build/tidy, which is configured if needed.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -15,9 +15,8 @@ for argument in "$@"; do
     esac
 done
 [ ${#checks[@]} -eq 0 ] && checks=(format tidy)
-build_dir=${BUILD_DIR:-build/tidy}
 
-# files PATTERN...: the files to look at, of those that are there.
+# files PATTERN...: prints the existing files to check.
 files() {
     if $changed; then
         { git diff --name-only HEAD -- "$@"; git ls-files --others --exclude-standard -- "$@"; }
@@ -30,14 +29,19 @@ format() {
     files '*.cpp' '*.h' | xargs -r clang-format --dry-run --Werror
 }
 
-# Every source of src/ that this build compiles.
+# All sources: the tests of tests/lint. Changed sources: one by one, those of src/ that this system
+# compiles.
 tidy() {
-    [ -f "$build_dir/compile_commands.json" ] || cmake --preset tidy -B "$build_dir" >/dev/null
+    cmake --preset tidy >/dev/null
+    if ! $changed; then
+        ctest --preset tidy -j "$(nproc)" -R 'lint_(tidy|alone)'
+        return
+    fi
     files 'src/*.cpp' |
         while read -r file; do
-            grep -q "\"file\": \".*/$file\"" "$build_dir/compile_commands.json" && echo "$file"
+            grep -q "\"file\": \".*/$file\"" build/tidy/compile_commands.json && echo "$file"
         done |
-        xargs -r -n 1 -P "$(nproc)" clang-tidy --quiet -p "$build_dir"
+        xargs -r -n 1 -P "$(nproc)" clang-tidy --quiet --checks='clang-diagnostic-*' -p build/tidy
 }
 
 for check in "${checks[@]}"; do

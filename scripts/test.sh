@@ -1,15 +1,10 @@
 #!/bin/bash
-# Builds everything and passes every test: native, sanitizers, lint, Windows under Wine, browser.
-#   scripts/test.sh           all of it; installs what is missing when run as root
-#   scripts/test.sh --quick   the native build and its tests, for the inner loop
+# Builds everything and runs every test: native, with sanitizers, lint, Windows under Wine, browser.
+#   scripts/test.sh           everything; as root, it installs missing packages
+#   scripts/test.sh --quick   only the native build and its tests, for the inner loop
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
-
-# configure PRESET [CMAKE_OPTION...]
-configure() {
-    cmake --preset "$@" >"build/$1.configure.log" 2>&1 || { cat "build/$1.configure.log"; exit 1; }
-}
 
 # build PRESET [CMAKE_OPTION...]
 build() {
@@ -18,14 +13,7 @@ build() {
     cmake --build --preset "$1"
 }
 
-# The browser tests' own tool, in the version that package-lock.json names.
-need_node_modules() {
-    [ node_modules/.package-lock.json -nt package-lock.json ] && return
-    say "Installing the tool of the browser tests"
-    npm ci --no-audit --no-fund || npm ci --no-audit --no-fund
-}
-
-# One run over the tests of several builds, so that one total speaks for all of them.
+# Runs the tests of several build directories together, so that ctest prints one total.
 test_builds() {
     local build
     say "Testing: $*"
@@ -33,10 +21,11 @@ test_builds() {
     for build in "$@"; do
         echo "subdirs(\"$PWD/build/$build\")"
     done >build/all/CTestTestfile.cmake
-    ctest --test-dir build/all --output-on-failure --no-tests=error
+    # The Windows replay tool is compared with the native one, which is built already.
+    DOCHTML_NATIVE_BUILD=$PWD/build/gcc \
+        ctest --test-dir build/all --output-on-failure --no-tests=error
 }
 
-mkdir -p build
 case ${1-} in
     --quick)
         need build quick
@@ -46,14 +35,15 @@ case ${1-} in
     '')
         need build quick full
         need_node_modules
-        build debug -D DOCHTML_BROWSER_TESTS=ON
+        build gcc -D DOCHTML_BROWSER_TESTS=ON
         build asan
+        build tsan
         build mingw64
-        # Debian's Wine for 64 bits runs no 32-bit program; what is checked is the binaries.
+        # Debian's 64-bit Wine cannot run 32-bit programs, so the tests only look at the binaries.
         build mingw32 -D DOCHTML_TEST_PROGRAMS=OFF
-        build release
+        # This build compiles nothing; its native tests are those of the other builds.
         configure tidy
-        test_builds debug asan mingw64 mingw32 release tidy
+        test_builds gcc asan tsan mingw64 mingw32 tidy/tests/lint
         ;;
     *)
         echo "usage: scripts/test.sh [--quick]" >&2

@@ -1,0 +1,39 @@
+#!/bin/bash
+# Makes the pictures of the documentation in docs/images: the example document set in Chromium, and
+# the settings page under Wine. Look at them before you commit them.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/common.sh
+
+# save_picture SOURCE NAME: saves a screenshot as an opaque PNG file in full colour.
+save_picture() {
+    convert "$1" -alpha off -strip -define png:color-type=2 -define png:bit-depth=8 \
+        "docs/images/$2.png"
+    echo "    docs/images/$2.png"
+}
+
+need build quick full
+need_node_modules
+mkdir -p build/pictures
+
+say "Building"
+configure release
+cmake --build --preset release --target dochtml-replay manual_generator
+configure mingw64
+cmake --build --preset mingw64 --target settings_page_tests
+
+say "Taking the pictures"
+rm -rf build/pictures/set
+examples/manual/make.sh build/release build/pictures/set
+MANUAL_SET=$PWD/build/pictures/set MANUAL_PICTURES=$PWD/build/pictures \
+    node --test --test-name-pattern '/static frame set/' tests/browser/manual.test.mjs >/dev/null
+save_picture build/pictures/frames-disk.png manual
+
+windows=$PWD/build/mingw64
+(cd build/pictures &&
+    ../../tests/settings_ui/windows/with-display.sh \
+        ../../cmake/run-wine.sh "$windows/wine-settings" \
+        "$windows/tests/settings_ui/settings_page_tests.exe" \
+        --gtest_brief=1 --gtest_filter='*.IsSavedAsAPicture' "$windows/bin/dochtmlcom.dll" \
+        "$windows/bin/dochtml-replay.exe" "$windows/bin/dochtml-settings.exe")
+save_picture build/pictures/settings-page.bmp settings-page
