@@ -228,7 +228,7 @@ TEST_F(FullDisk, HoldsTheBeginningOfTheDocumentAndTheLogNamesEveryFileThatIsCut)
     const Contents whole = output();
     const std::uint64_t copies = std::string("P { }\ngifone\ntwo\n").size();
     ASSERT_GT(sizeOf(whole), 4000U);
-    for (std::uint64_t room = copies; room < sizeOf(whole); room += 7) {
+    for (std::uint64_t room = copies; room < sizeOf(whole); room += 23) {
         const CapturingExceptionLog log;
         const Contents written = outputWith(room);
         EXPECT_EQ(sizeOf(written), room);
