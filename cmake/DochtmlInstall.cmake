@@ -19,7 +19,7 @@ target_link_libraries(dochtml INTERFACE ${DOCHTML_SYSTEM_LIBRARIES})
 add_library(dochtml::dochtml ALIAS dochtml)
 
 install(TARGETS dochtml EXPORT dochtmlTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-foreach(module foundation platform settings host page contents diagram driver)
+foreach(module foundation platform settings host page contents diagram navigator driver)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${module} DESTINATION ${DOCHTML_HEADER_DIR}
             FILES_MATCHING PATTERN "*.h" PATTERN posix EXCLUDE PATTERN windows EXCLUDE)
 endforeach()

@@ -28,6 +28,8 @@ struct ContentsContext {
     OrxString iconFile;
     /// Also write the frame sets for old browsers.
     bool supportOld = false;
+    /// Write the start page; false when the document has one of its own kind.
+    bool ownStartPage = true;
     /// Write the functions that the locate buttons call.
     bool locateInBrowser = true;
 

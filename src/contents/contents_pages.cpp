@@ -4,6 +4,7 @@
 
 #include "contents/applet_contents.h"
 #include "contents/contents_names.h"
+#include "contents/frame_sets.h"
 #include "contents/start_page.h"
 #include "contents/support_files.h"
 #include "contents/tree/archiver.h"
@@ -30,7 +31,12 @@ void writeContentsPages(const ContentsContext& context) {
     std::ignore = SysDirectory::setCurrentDir(context.outputDir);
     const OrxString treeFile = writeTreeData(context);
     writeAppletContents(context, archives, treeFile);
-    writeStartPage(context);
+    if (context.ownStartPage) {
+        writeStartPage(context);
+    } else if (context.supportOld) {
+        writeFixedFrameSet(context);
+        writeStaticFrameSet(context);
+    }
 }
 
 }  // namespace quillmark

@@ -3,6 +3,7 @@
 #include "driver/doc_html.h"
 
 #include "contents/contents_pages.h"
+#include "contents/support_files.h"
 #include "driver/doc_html_impl.h"
 #include "driver/pages/arrow_bar.h"
 #include "foundation/orx_exception.h"
@@ -77,8 +78,24 @@ DocResult DocHtml::create(WideText fileName) {
     if (!settings.readIniFile()) {
         useJnlp_ = false;
     }
+    startNavigator();
     impl_->pages.startPage();
     return resultOk;
+}
+
+void DocHtml::startNavigator() {
+    const DocumentContext& context = impl_->context;
+    const DocumentSettings& settings = context.settings;
+    impl_->navigator.reset();
+    if (settings.hasNavigator()) {
+        impl_->navigator = Navigator::create(
+            {.baseName = context.names.baseName(),
+             .extension = context.names.extension(),
+             .supportDir = installedName(settings.installDir, "navigator"),
+             .iconDir = SysFile::getDir(settings.iconFile)},
+            std::make_unique<CodePageDecoder>(), context.trace);
+    }
+    impl_->pages.setNavigator(impl_->navigator);
 }
 
 DocResult DocHtml::close() {
@@ -106,17 +123,20 @@ void DocHtml::writeContents() {
     appletArchive_ = useJnlp_ ? "" : "toc2.jar";
     const DocumentContext& context = impl_->context;
     const DocumentSettings& settings = context.settings;
+    const OrxString styleSheetLink =
+        settings.styleSheet.isEmpty()
+            ? OrxString()
+            : links::relativeFile(settings.styleSheet, context.names.outputDir());
     writeContentsPages({
         .baseName = context.names.baseName(),
         .extension = context.names.extension(),
         .title = impl_->pages.title(),
         .bodyTags = settings.bodyTags,
-        .styleSheetLink = settings.styleSheet.isEmpty()
-                              ? OrxString()
-                              : links::relativeFile(settings.styleSheet, context.names.outputDir()),
+        .styleSheetLink = styleSheetLink,
         .showIcons = settings.showIcons,
         .iconFile = settings.iconFile,
         .supportOld = settings.supportOld,
+        .ownStartPage = impl_->navigator == nullptr,
         .locateInBrowser = settings.locateInBrowser,
         .useJnlp = useJnlp_,
         .appletJar = appletJar_,
@@ -130,6 +150,12 @@ void DocHtml::writeContents() {
         .trace = context.trace,
         .entries = impl_->contents.entries(),
     });
+    if (impl_->navigator != nullptr) {
+        impl_->navigator->write({.title = impl_->pages.title(),
+                                 .bodyTags = settings.bodyTags,
+                                 .styleSheetLink = styleSheetLink},
+                                impl_->contents.entries(), context.trace);
+    }
 }
 
 DocResult DocHtml::insertPageBreak() {

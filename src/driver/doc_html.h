@@ -79,6 +79,7 @@ private:
     void insertTextCall(std::string_view text);
     void insertXrefCall(std::string_view text, std::string_view tagName);
     void endPage(bool last);
+    void startNavigator();
     void writeContents();
 
     /// Start the contents applet from its launch file. False for a Java before version 7.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "driver/boundary/call_trace.h"
@@ -16,6 +17,7 @@
 #include "driver/text/paragraph_style.h"
 #include "driver/text/table_writer.h"
 #include "driver/text/text_writer.h"
+#include "navigator/navigator.h"
 #include "settings/register_cache.h"
 
 namespace quillmark {
@@ -38,6 +40,9 @@ struct DocHtmlImpl {
     FileInserter files{context, links, images, text};
     LocateButton locate{context, text};
     PageTurner pages{context, heldPages, bookmarks, contents, font, style};
+
+    /// Null for a document without one.
+    std::shared_ptr<Navigator> navigator;
 
     /// `pushDirectory` has just ended a page, so an immediate page break does not end another one.
     bool breakJustMade = false;

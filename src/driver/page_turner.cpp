@@ -60,8 +60,16 @@ void PageTurner::endPage(bool last, const std::function<void()>& closeTables) {
                            ? OrxString()
                            : styleSheetLink_.relativeFile(styleSheet, context_.linkBase()));
     page.setTitle(title_);
+    if (navigator_ != nullptr) {
+        addNavigator(page);
+    }
     contents_.finishPage();
     dispatchPage(last);
+}
+
+void PageTurner::addNavigator(DocHtmlPage& page) {
+    page.appendHead(navigator_->headLines(context_.linkBase()));
+    page.setReader(navigator_, context_.out.pageNumber());
 }
 
 void PageTurner::writeTop(bool last) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include "driver/links/bookmark_writer.h"
 #include "driver/pages/arrow_bar.h"
@@ -9,6 +10,7 @@
 #include "driver/text/contents_collector.h"
 #include "driver/text/font_writer.h"
 #include "driver/text/paragraph_style.h"
+#include "navigator/navigator.h"
 
 namespace quillmark {
 
@@ -40,6 +42,9 @@ public:
     /// Writes the pages that an earlier document left held back.
     void releaseHeldPages();
 
+    /// Gives the pages that end from now on a navigator; null for none.
+    void setNavigator(std::shared_ptr<Navigator> navigator) { navigator_ = std::move(navigator); }
+
     void setTitle(const OrxString& title) { title_ = title; }
     [[nodiscard]] const OrxString& title() const noexcept { return title_; }
 
@@ -55,6 +60,7 @@ private:
     /// The section's text for this page. A font that the section left open becomes the body's font.
     [[nodiscard]] OrxString stamp(const DocHtmlSection& section);
     void finishBody(const std::function<void()>& closeTables);
+    void addNavigator(DocHtmlPage& page);
     void dispatchPage(bool last);
     void reopenTextState();
 
@@ -69,6 +75,7 @@ private:
     DocHtmlTextState savedState_;
     ArrowBar arrows_;
     CachedLink styleSheetLink_;
+    std::shared_ptr<Navigator> navigator_;
     /// The size in bytes of the previous page's body.
     std::size_t expectedSize_ = 0;
 };

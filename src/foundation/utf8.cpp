@@ -100,25 +100,6 @@ char16_t* decode(std::string_view utf8, char16_t* out, LoneSurrogates loneSurrog
     return out;
 }
 
-void encode(std::string& out, char32_t point) {
-    const auto put = [&out](char32_t byte) { out.push_back(static_cast<char>(byte)); };
-    if (point < 0x80) {
-        put(point);
-    } else if (point < 0x800) {
-        put(0xC0U | (point >> 6U));
-        put(0x80U | (point & 0x3FU));
-    } else if (point < 0x10000) {
-        put(0xE0U | (point >> 12U));
-        put(0x80U | ((point >> 6U) & 0x3FU));
-        put(0x80U | (point & 0x3FU));
-    } else {
-        put(0xF0U | (point >> 18U));
-        put(0x80U | ((point >> 12U) & 0x3FU));
-        put(0x80U | ((point >> 6U) & 0x3FU));
-        put(0x80U | (point & 0x3FU));
-    }
-}
-
 }  // namespace
 
 std::u16string toUtf16(std::string_view utf8) {
@@ -138,6 +119,25 @@ char16_t* decodeStrictly(std::string_view utf8, char16_t* out,
                   [](char16_t* /*out*/) noexcept -> char16_t* { return nullptr; });
 }
 
+void append(std::string& out, char32_t point) {
+    const auto put = [&out](char32_t byte) { out.push_back(static_cast<char>(byte)); };
+    if (point < 0x80) {
+        put(point);
+    } else if (point < 0x800) {
+        put(0xC0U | (point >> 6U));
+        put(0x80U | (point & 0x3FU));
+    } else if (point < 0x10000) {
+        put(0xE0U | (point >> 12U));
+        put(0x80U | ((point >> 6U) & 0x3FU));
+        put(0x80U | (point & 0x3FU));
+    } else {
+        put(0xF0U | (point >> 18U));
+        put(0x80U | ((point >> 12U) & 0x3FU));
+        put(0x80U | ((point >> 6U) & 0x3FU));
+        put(0x80U | (point & 0x3FU));
+    }
+}
+
 std::string fromUtf16(std::u16string_view text) {
     std::string utf8;
     utf8.reserve(text.size());
@@ -148,7 +148,7 @@ std::string fromUtf16(std::u16string_view text) {
         } else if (surrogates::isAny(point)) {
             point = replacement;
         }
-        encode(utf8, point);
+        append(utf8, point);
     }
     return utf8;
 }

@@ -21,6 +21,9 @@ enum class LoneSurrogates { malformed, accepted };
 [[nodiscard]] char16_t* decodeStrictly(std::string_view utf8, char16_t* out,
                                        LoneSurrogates loneSurrogates) noexcept;
 
+/// Appends the UTF-8 form of a code point, which is not a surrogate.
+void append(std::string& out, char32_t point);
+
 /// Encodes UTF-16 text. A lone surrogate becomes U+FFFD.
 [[nodiscard]] std::string fromUtf16(std::u16string_view text);
 

@@ -1,6 +1,8 @@
 #include "page/doc_html_page.h"
 
 #include <array>
+#include <span>
+#include <utility>
 
 #include "foundation/orx_exception.h"
 #include "host/document_observer.h"
@@ -31,6 +33,8 @@ struct DocHtmlPage::Record {
     OpenMarks marks;
     SpliceText::MarkId insertPoint = SpliceText::none;
     Trace trace;
+    std::shared_ptr<PageReader> reader;
+    std::uint32_t number = 0;
 
     void fillMark(SpliceText::MarkId mark, std::string_view name, std::string_view reference);
     void writeFile() const;
@@ -57,6 +61,9 @@ void DocHtmlPage::Record::writeFile() const {
     switch (SysFile::writeWhole(fileName, pieces)) {
         case WriteResult::done:
             DocumentObserver::current().pageWritten(fileName);
+            if (reader != nullptr) {
+                reader->read(number, std::span(pieces).subspan(1));
+            }
             return;
         case WriteResult::openFailed:
             OrxException::raise("Error opening file: " + fileName);
@@ -148,6 +155,11 @@ void DocHtmlPage::setStyleSheet(const OrxString& href) {
 }
 void DocHtmlPage::setTrace(const Trace& trace) {
     record_->trace = trace;
+}
+
+void DocHtmlPage::setReader(std::shared_ptr<PageReader> reader, std::uint32_t number) {
+    record_->reader = std::move(reader);
+    record_->number = number;
 }
 
 bool DocHtmlPage::isEmpty() const noexcept {

@@ -9,6 +9,7 @@
 #include "foundation/orx_object.h"
 #include "foundation/orx_string.h"
 #include "page/html_mark_position.h"
+#include "page/page_reader.h"
 #include "platform/trace.h"
 
 namespace quillmark {
@@ -49,6 +50,8 @@ public:
     /// Sets the HREF of the style-sheet link. Empty for no link.
     void setStyleSheet(const OrxString& href);
     void setTrace(const Trace& trace);
+    /// Lets `reader` read the page, under that number, once it is written.
+    void setReader(std::shared_ptr<PageReader> reader, std::uint32_t number);
 
     [[nodiscard]] bool isEmpty() const noexcept;
     [[nodiscard]] std::int32_t getLineCount() const noexcept;

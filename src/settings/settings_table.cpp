@@ -25,7 +25,8 @@ constexpr std::array settingRows{
     SettingDescription{htmlGroup, "IconFile", SettingType::text, "",
                        "Archive (zip) with icons of your own for the contents"},
     SettingDescription{htmlGroup, "SupportOld", SettingType::boolean, "false",
-                       "Contents pages that old browsers can show"},
+                       "Also a static listing of the contents beside the pages, for browsers "
+                       "without Java"},
     SettingDescription{htmlGroup, "BodyTags", SettingType::text, "",
                        "Attributes written into every BODY tag"},
     SettingDescription{htmlGroup, "SuppressImageMaps", SettingType::boolean, "false",
@@ -47,6 +48,9 @@ constexpr std::array settingRows{
     SettingDescription{
         htmlGroup, "LocateInBrowser", SettingType::boolean, "true",
         "Locate buttons in the pages, which show a model element in the model browser"},
+    SettingDescription{htmlGroup, "ScriptNavigator", SettingType::boolean, "false",
+                       "Contents tree and full-text search on every page, for today's browsers; "
+                       "needs 1 in \"Navig\""},
     SettingDescription{htmlGroup, "DiagramType", SettingType::shortInteger, "0",
                        "Picture type that the host draws diagrams in (0 JPEG, 1 GIF)"},
     SettingDescription{settingsGroup, "InstallDir", SettingType::text, "",

@@ -28,7 +28,10 @@ ALLOWED = {
     "page": {"foundation", "platform", "host"},
     "contents": {"foundation", "platform", "host", "page"},
     "diagram": {"foundation", "host"},
-    "driver": {"foundation", "platform", "settings", "host", "page", "contents", "diagram"},
+    "navigator": {"foundation", "platform", "page", "contents"},
+    "driver": {
+        "foundation", "platform", "settings", "host", "page", "contents", "diagram", "navigator",
+    },
     "settings_ui": {"foundation", "platform", "settings"},
     "component": {"foundation", "platform", "settings", "host", "driver", "settings_ui"},
     "replay": {"foundation", "platform", "settings", "host", "driver"},
@@ -38,6 +41,7 @@ ALLOWED = {
 # The empty name is the module's own folder.
 FOLDERS_IN_ORDER = {
     "contents": ("entries", "tree", ""),
+    "navigator": ("text", "data", "index", "entries", ""),
     "driver": ("boundary", "pages", "links", "text", "files", ""),
 }
 

@@ -48,6 +48,7 @@ void DocumentSettings::readPlaces(const RegisterCache& settings, const OrxString
 void DocumentSettings::readTexts(const RegisterCache& settings) {
     passThrough = readHtml(settings, "PassThrough").asBool();
     locateInBrowser = readHtml(settings, "LocateInBrowser").asBool();
+    scriptNavigator = readHtml(settings, "ScriptNavigator").asBool();
     testLevel = readDirectly("TestLevel").asInt();
     // The value is not used, because the host draws the diagrams. It is read all the same,
     // because a store may rely on being asked.

@@ -26,11 +26,15 @@ struct DocumentSettings {
     OrxString styleSheet;
     bool passThrough = false;
     bool locateInBrowser = true;
+    bool scriptNavigator = false;
     int testLevel = 0;
     bool expandRelativeNames = true;
 
     [[nodiscard]] bool hasContentsPages() const noexcept {
         return (navigation & navigateByContents) != 0;
+    }
+    [[nodiscard]] bool hasNavigator() const noexcept {
+        return scriptNavigator && hasContentsPages();
     }
     [[nodiscard]] bool hasArrows() const noexcept { return (navigation & navigateByArrows) != 0; }
 

@@ -1,0 +1,52 @@
+#include "navigator/index/word_index.h"
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+#include "navigator/index/word_files.h"
+
+namespace quillmark {
+
+void WordIndex::startPage(std::uint32_t page) {
+    pages_.startPlace(page);
+    onPage_ = true;
+    inEntry_ = false;
+}
+
+void WordIndex::startEntry(std::uint32_t entry) {
+    entries_.startPlace(entry);
+    onPage_ = false;
+    inEntry_ = true;
+}
+
+void WordIndex::startEntry(std::uint32_t entry, std::uint32_t page) {
+    startPage(page);
+    entries_.startPlace(entry);
+    inEntry_ = true;
+}
+
+void WordIndex::word(std::string_view word) {
+    const std::uint32_t number = words_.add(word);
+    if (onPage_) {
+        pages_.add(number);
+    }
+    if (inEntry_) {
+        entries_.add(number);
+    }
+}
+
+void WordIndex::write(const DataFiles& files) const {
+    std::vector<NameTable::Id> order(words_.size());
+    std::iota(order.begin(), order.end(), NameTable::Id{0});
+    std::ranges::sort(order, {}, [this](NameTable::Id id) { return words_.name(id); });
+    const Postings::Sorted pages = pages_.sorted(words_.size());
+    const Postings::Sorted entries = entries_.sorted(words_.size());
+    WordFiles wordFiles(files);
+    for (const NameTable::Id id : order) {
+        wordFiles.add(words_.name(id), entries.of(id), pages.of(id));
+    }
+    wordFiles.finish();
+}
+
+}  // namespace quillmark

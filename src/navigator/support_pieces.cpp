@@ -1,0 +1,84 @@
+#include "navigator/support_pieces.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/read_whole.h"
+#include "platform/sys_directory.h"
+#include "platform/sys_file.h"
+
+namespace quillmark {
+
+namespace {
+
+constexpr const char* orderFile = "order.txt";
+
+/// Reads pieces. The first one that is missing ends it.
+class PieceReader {
+public:
+    PieceReader(const OrxString& source, const Trace& trace) : source_(source), trace_(trace) {}
+
+    [[nodiscard]] std::optional<std::string> read(std::string_view name) const {
+        const OrxString file = SysFile::appendToDir(source_, name);
+        std::optional<std::string> bytes = readWhole(file);
+        if (!bytes.has_value() && trace_.isTrace(Trace::errors)) {
+            trace_.write(Trace::errors, "ERR Could not read file " + file + "\n");
+        }
+        return bytes;
+    }
+
+private:
+    const OrxString& source_;
+    const Trace& trace_;
+};
+
+struct Scripts {
+    std::string script;
+    std::string styleSheet;
+
+    void add(std::string_view name, std::string_view piece) {
+        if (name.ends_with(".js")) {
+            script.append(piece).append(1, '\n');
+        } else if (name.ends_with(".css")) {
+            styleSheet.append(piece).append(1, '\n');
+        }
+    }
+};
+
+std::optional<Scripts> putTogether(const PieceReader& reader) {
+    const std::optional<std::string> order = reader.read(orderFile);
+    if (!order.has_value()) {
+        return std::nullopt;
+    }
+    Scripts scripts;
+    for (std::string_view rest = *order; !rest.empty();) {
+        const std::string_view name = rest.substr(0, rest.find('\n'));
+        rest.remove_prefix(std::min(rest.size(), name.size() + 1));
+        if (name.empty()) {
+            continue;
+        }
+        const std::optional<std::string> piece = reader.read(name);
+        if (!piece.has_value()) {
+            return std::nullopt;
+        }
+        scripts.add(name, *piece);
+    }
+    return scripts;
+}
+
+}  // namespace
+
+bool writeNavigatorScripts(const OrxString& source, const DataFiles& files, const Trace& trace) {
+    const std::optional<Scripts> scripts = putTogether(PieceReader(source, trace));
+    if (!scripts.has_value()) {
+        return false;
+    }
+    SysDirectory::checkDirectoryAndCreate(files.directory());
+    return files.writePlain("navigator.js", std::array<std::string_view, 1>{scripts->script}) &&
+           files.writePlain("navigator.css", std::array<std::string_view, 1>{scripts->styleSheet});
+}
+
+}  // namespace quillmark
