@@ -1,5 +1,7 @@
 #include "navigator/data/number_list_text.h"
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 
 namespace quillmark::number_list_text {
@@ -9,37 +11,37 @@ namespace {
 constexpr std::uint32_t gapBase = 32;
 constexpr std::uint32_t bitsEach = 6;
 
-void appendGap(std::string& out, std::uint32_t gap) {
-    std::uint32_t shift = 0;
-    while (shift + 5 < 32 && (gap >> (shift + 5)) != 0) {
-        shift += 5;
-    }
-    for (; shift != 0; shift -= 5) {
-        out.push_back(alphabet[gapBase + ((gap >> shift) % gapBase)]);
-    }
-    out.push_back(alphabet[gap % gapBase]);
+/// How many characters a gap takes.
+std::size_t gapLength(std::uint32_t gap) noexcept {
+    return gap < gapBase ? 1 : (static_cast<std::size_t>(std::bit_width(gap)) + 4) / 5;
 }
 
-void appendGaps(std::string& out, std::span<const std::uint32_t> numbers) {
+template <typename Each>
+void forEachGap(std::span<const std::uint32_t> numbers, const Each& each) {
     std::uint32_t expected = 0;
     for (const std::uint32_t number : numbers) {
-        appendGap(out, number - expected);
+        each(number - expected);
         expected = number + 1;
     }
 }
 
-void appendBits(std::string& out, std::span<const std::uint32_t> numbers) {
-    out.push_back('.');
-    std::uint32_t place = 0;
-    std::uint32_t value = 0;
-    for (const std::uint32_t number : numbers) {
-        for (; place < number / bitsEach; ++place) {
-            out.push_back(alphabet[value]);
-            value = 0;
-        }
-        value |= 1U << (number % bitsEach);
+char* writeGap(char* to, std::uint32_t gap) noexcept {
+    for (std::size_t rest = gapLength(gap) - 1; rest != 0; --rest) {
+        *to++ = alphabet[gapBase + ((gap >> (5 * rest)) % gapBase)];
     }
-    out.push_back(alphabet[value]);
+    *to++ = alphabet[gap % gapBase];
+    return to;
+}
+
+void writeBits(std::span<char> to, std::span<const std::uint32_t> numbers) {
+    std::ranges::fill(to, '\0');
+    for (const std::uint32_t number : numbers) {
+        char& value = to[number / bitsEach];
+        value = static_cast<char>(static_cast<unsigned>(value) | (1U << (number % bitsEach)));
+    }
+    std::ranges::transform(to, to.begin(), [](char value) {
+        return alphabet[static_cast<unsigned char>(value)];
+    });
 }
 
 }  // namespace
@@ -48,12 +50,18 @@ void append(std::string& out, std::span<const std::uint32_t> numbers) {
     if (numbers.empty()) {
         return;
     }
-    const std::size_t start = out.size();
-    appendGaps(out, numbers);
+    std::size_t gapsLength = 0;
+    forEachGap(numbers, [&](std::uint32_t gap) { gapsLength += gapLength(gap); });
     const std::size_t bitsLength = std::size_t{numbers.back() / bitsEach} + 2;
-    if (out.size() - start > bitsLength) {
-        out.resize(start);
-        appendBits(out, numbers);
+    const std::size_t start = out.size();
+    if (gapsLength <= bitsLength) {
+        out.resize(start + gapsLength);
+        char* to = out.data() + start;
+        forEachGap(numbers, [&](std::uint32_t gap) { to = writeGap(to, gap); });
+    } else {
+        out.resize(start + bitsLength);
+        out[start] = '.';
+        writeBits(std::span(out).subspan(start + 1), numbers);
     }
 }
 

@@ -26,7 +26,7 @@ void WordIndex::startEntry(std::uint32_t entry, std::uint32_t page) {
     inEntry_ = true;
 }
 
-void WordIndex::word(std::string_view word) {
+void WordIndex::word(const FoldedWord& word) {
     const std::uint32_t number = words_.add(word);
     if (onPage_) {
         pages_.add(number);
@@ -37,14 +37,14 @@ void WordIndex::word(std::string_view word) {
 }
 
 void WordIndex::write(const DataFiles& files) const {
-    std::vector<NameTable::Id> order(words_.size());
-    std::iota(order.begin(), order.end(), NameTable::Id{0});
-    std::ranges::sort(order, {}, [this](NameTable::Id id) { return words_.name(id); });
+    std::vector<WordTable::Id> order(words_.size());
+    std::iota(order.begin(), order.end(), WordTable::Id{0});
+    std::ranges::sort(order, {}, [this](WordTable::Id id) { return words_.word(id); });
     const Postings::Sorted pages = pages_.sorted(words_.size());
     const Postings::Sorted entries = entries_.sorted(words_.size());
     WordFiles wordFiles(files);
-    for (const NameTable::Id id : order) {
-        wordFiles.add(words_.name(id), entries.of(id), pages.of(id));
+    for (const WordTable::Id id : order) {
+        wordFiles.add(words_.word(id), entries.of(id), pages.of(id));
     }
     wordFiles.finish();
 }

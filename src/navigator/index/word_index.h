@@ -2,11 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
 
-#include "foundation/name_table.h"
 #include "navigator/data/data_files.h"
 #include "navigator/index/postings.h"
+#include "navigator/index/word_table.h"
 #include "navigator/text/word_sink.h"
 
 namespace quillmark {
@@ -24,7 +23,7 @@ public:
     void startEntry(std::uint32_t entry);
     /// The following words are in the text of an entry, and on the page that it leads to.
     void startEntry(std::uint32_t entry, std::uint32_t page);
-    void word(std::string_view word) override;
+    void word(const FoldedWord& word) override;
     /// Forgets the entries, but not the pages of their words.
     void clearEntries() noexcept { entries_.clear(); }
 
@@ -36,7 +35,7 @@ public:
     [[nodiscard]] std::size_t pairs() const noexcept { return pages_.pairs() + entries_.pairs(); }
 
 private:
-    NameTable words_;
+    WordTable words_;
     Postings pages_;
     Postings entries_;
     bool onPage_ = false;

@@ -9,9 +9,9 @@
 namespace quillmark::ascii_words {
 
 struct Block {
-    /// The bytes, capitals as small letters.
-    std::uint64_t lower;
-    /// How many bytes at the front are letters or digits, 0 to 8.
+    /// The letters and digits at the front, capitals as small letters; zeros behind them.
+    std::uint64_t letters;
+    /// How many they are, 0 to 8.
     std::size_t length;
 };
 
@@ -55,8 +55,13 @@ inline void store(char* to, std::uint64_t bytes) noexcept {
     const std::uint64_t capitals = between(low, 'A', 'Z');
     const std::uint64_t letters = capitals | between(low, 'a', 'z') | between(low, '0', '9');
     const std::uint64_t others = (~letters | bytes) & everyByte(0x80);
-    return {bytes | (capitals >> 2U),
-            others == 0 ? 8U : static_cast<std::size_t>(std::countr_zero(others)) / 8U};
+    const std::uint64_t lower = bytes | (capitals >> 2U);
+    if (others == 0) {
+        return {lower, 8};
+    }
+    // All bits below the first other byte: `others` has only top bits of bytes.
+    const std::uint64_t front = ((others & (~others + 1)) >> 7U) - 1;
+    return {lower & front, static_cast<std::size_t>(std::countr_zero(others)) / 8U};
 }
 
 }  // namespace quillmark::ascii_words

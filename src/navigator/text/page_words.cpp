@@ -12,7 +12,7 @@ namespace quillmark {
 
 namespace {
 
-constexpr std::size_t blockSize = 8;
+constexpr std::size_t blockSize = FoldedWord::blockSize;
 
 enum class Byte : unsigned char { separator, letter, tag, reference, other };
 
@@ -74,39 +74,41 @@ void PageWords::readBody() {
 }
 
 void PageWords::readWord() {
-    std::array<char, WordSplitter::longestWord + blockSize> word;
-    const std::size_t start = at_;
+    static_assert(WordSplitter::longestWord % blockSize == 0);
+    std::array<char, WordSplitter::longestWord> word;
+    const char* const html = html_.data();
+    std::size_t at = at_;
     std::size_t length = 0;
     ascii_words::Block block{};
     do {
-        block = ascii_words::classify(ascii_words::load(html_.data() + at_));
-        if (length < WordSplitter::longestWord) {
-            ascii_words::store(word.data() + length, block.lower);
+        block = ascii_words::classify(ascii_words::load(html + at));
+        if (length < word.size()) {
+            ascii_words::store(word.data() + length, block.letters);
             length += block.length;
         }
-        at_ += block.length;
+        at += block.length;
     } while (block.length == blockSize);
-    if (at_ < html_.size()) {
-        const Byte next = kindOf(html_[at_]);
-        const bool goesOn =
-            next == Byte::other ||
-            (next == Byte::reference && html_.substr(at_).starts_with("&#") &&
-             html_reference::at(html_.substr(at_)).length != 0);
-        if (goesOn) {
-            readSlowly(start);
-            return;
-        }
+    // Behind the page are zeros, which are separators.
+    const Byte next = kindOf(html[at]);
+    if (next == Byte::other || (next == Byte::reference && isLetterReference(at))) {
+        readSlowly(at_);
+        return;
     }
-    sink_.word({word.data(), std::min(length, WordSplitter::longestWord)});
+    at_ = at;
+    sink_.word({word.data(), length});
 }
 
-// Named references are separators.
+/// Named references are separators.
+bool PageWords::isLetterReference(std::size_t at) const noexcept {
+    return html_.substr(at).starts_with("&#") &&
+           html_reference::at(html_.substr(at)).length != 0;
+}
+
 void PageWords::readReference() {
-    const HtmlReference reference = html_reference::at(html_.substr(at_));
-    if (reference.length != 0 && html_[at_ + 1] == '#') {
+    if (isLetterReference(at_)) {
         readSlowly(at_);
     } else {
-        at_ += std::max<std::size_t>(reference.length, 1);
+        at_ += std::max<std::size_t>(html_reference::at(html_.substr(at_)).length, 1);
     }
 }
 

@@ -26,6 +26,7 @@ private:
     void readBody();
     void readWord();
     void readReference();
+    [[nodiscard]] bool isLetterReference(std::size_t at) const noexcept;
     /// Reads from `start` up to the next separator the long way.
     void readSlowly(std::size_t start);
     [[nodiscard]] std::size_t slowEnd(std::size_t start) const noexcept;

@@ -1,15 +1,38 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace quillmark {
+
+/// A word in its folded form, in UTF-8. Its bytes are followed by zeros up to a multiple of eight,
+/// so that it can be read in blocks. It is a view.
+class FoldedWord {
+public:
+    static constexpr std::size_t blockSize = 8;
+
+    constexpr FoldedWord(const char* padded, std::size_t length) noexcept
+        : padded_(padded), length_(length) {}
+
+    [[nodiscard]] constexpr std::string_view text() const noexcept { return {padded_, length_}; }
+    [[nodiscard]] constexpr std::size_t blocks() const noexcept {
+        return (length_ + blockSize - 1) / blockSize;
+    }
+    [[nodiscard]] constexpr const char* block(std::size_t index) const noexcept {
+        return padded_ + index * blockSize;
+    }
+
+private:
+    const char* padded_;
+    std::size_t length_;
+};
 
 /// Takes the words of a text.
 class WordSink {
 public:
     virtual ~WordSink() = default;
-    /// A word in its folded form, in UTF-8. The view is valid during the call.
-    virtual void word(std::string_view word) = 0;
+    /// The word is valid during the call.
+    virtual void word(const FoldedWord& word) = 0;
 };
 
 }  // namespace quillmark

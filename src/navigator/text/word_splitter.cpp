@@ -82,7 +82,9 @@ void WordSplitter::putWord(std::size_t start) {
     for (const char32_t point : std::u32string_view(run_).substr(start, longestWord)) {
         utf8::append(word_, point);
     }
-    sink_.word(word_);
+    const std::size_t length = word_.size();
+    word_.append(FoldedWord::blockSize, '\0');
+    sink_.word({word_.data(), length});
 }
 
 bool WordSplitter::beginsWithin(std::size_t letter) const noexcept {
