@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/code_page.h"
+#include "foundation/utf8.h"
 #include "navigator/text/text_decoder.h"
 
 namespace quillmark::testing {
@@ -9,7 +9,7 @@ namespace quillmark::testing {
 class Utf8Decoder final : public TextDecoder {
 public:
     void append(std::u16string& out, std::string_view bytes) const override {
-        out.append(code_page::fromUtf8(bytes));
+        out.append(utf8::toUtf16(bytes));
     }
 };
 

@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "foundation/code_page.h"
+#include "foundation/utf8.h"
 #include "navigator/data/number_list_text.h"
 #include "navigator/text/word_splitter.h"
 #include "support/capturing_exception_log.h"
@@ -171,7 +171,7 @@ TEST_F(WordIndexTest, randomWordsAreWhereANaiveModelHasThem) {
                 std::string word = std::to_string(below(10 + 800 * seed));
                 word.append(below(40), 'x');
                 word.resize(std::min<std::size_t>(word.size(), 32));
-                WordSplitter(words).split(code_page::fromUtf8(word));
+                WordSplitter(words).split(utf8::toUtf16(word));
                 model[word].pages.insert(page);
                 if (isEntry) {
                     model[word].entries.insert(place);

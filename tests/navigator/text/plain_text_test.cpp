@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "foundation/code_page.h"
+#include "foundation/utf8.h"
 #include "navigator/utf8_decoder.h"
 
 namespace quillmark {
@@ -10,7 +10,7 @@ namespace quillmark {
 namespace {
 
 std::string plain(std::string_view html) {
-    return code_page::toUtf8(plain_text::ofHtml(html, testing::Utf8Decoder()));
+    return utf8::fromUtf16(plain_text::ofHtml(html, testing::Utf8Decoder()));
 }
 
 std::string repeated(std::string_view text, int times) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "foundation/code_page.h"
+#include "foundation/utf8.h"
 #include "navigator/collected_words.h"
 #include "navigator/text/page_words.h"
 #include "navigator/text/plain_text.h"
@@ -57,7 +57,7 @@ void forEachCase(const char* kind, const Check& check) {
 
 Words split(const std::string& text, WordSplitter::Within within) {
     CollectedWords collected;
-    WordSplitter(collected, within).split(code_page::fromUtf8(text));
+    WordSplitter(collected, within).split(utf8::toUtf16(text));
     return collected.words;
 }
 
@@ -89,7 +89,7 @@ TEST(WordCases, pagesAreReadWithoutTheirTags) {
 
 TEST(WordCases, entriesTextsBecomePlain) {
     forEachCase("text", [](const std::string& html, const rapidjson::Value& expected) {
-        EXPECT_EQ(code_page::toUtf8(plain_text::ofHtml(html, Utf8Decoder())), textOf(expected));
+        EXPECT_EQ(utf8::fromUtf16(plain_text::ofHtml(html, Utf8Decoder())), textOf(expected));
     });
 }
 
