@@ -132,7 +132,8 @@ TEST(CallStreamReader, asksForTheRightNumberOfArguments) {
               "1: insertText takes 1 argument, not 5");
     EXPECT_EQ(problemOf("[\"close\",1]"), "1: close takes no argument, not 1");
     EXPECT_EQ(problemOf("[\"setOption\",\"title\"]"), "1: setOption takes 2 arguments, not 1");
-    EXPECT_EQ(problemOf("[\"close\",[]]"), "1: argument 1 is no string, integer or boolean");
+    EXPECT_EQ(problemOf("[\"close\",[]]"),
+              "1: argument 1 must be a string, an integer or a boolean");
 }
 
 TEST(CallStreamReader, leavesAnswersOut) {
@@ -149,9 +150,10 @@ TEST(CallStreamReader, readsTheRequestForAFreshObject) {
 TEST(CallStreamReader, knowsOperationsExactly) {
     EXPECT_EQ(problemOf("[\"InsertText\",\"a\"]"), "1: unknown operation \"InsertText\"");
     EXPECT_EQ(problemOf("[\"\"]"), "1: unknown operation \"\"");
-    EXPECT_EQ(problemOf("[]"), "1: not a call: the first value is an operation's name");
-    EXPECT_EQ(problemOf("[5]"), "1: not a call: the first value is an operation's name");
-    EXPECT_EQ(problemOf("[[\"close\"]]"), "1: not a call: the first value is an operation's name");
+    EXPECT_EQ(problemOf("[]"), "1: not a call: the first value must be the name of an operation");
+    EXPECT_EQ(problemOf("[5]"), "1: not a call: the first value must be the name of an operation");
+    EXPECT_EQ(problemOf("[[\"close\"]]"),
+              "1: not a call: the first value must be the name of an operation");
 }
 
 TEST(CallStreamReader, tellsTheLineOfMalformedJson) {
@@ -167,7 +169,7 @@ TEST(CallStreamReader, tellsTheLineOfMalformedJson) {
 
 TEST(CallStreamReader, takesNothingButArrays) {
     const std::string wanted =
-        "2: not a call: a line holds one array, an operation's name and its arguments";
+        "2: not a call: each line must be an array of the operation's name and its arguments";
     EXPECT_EQ(problemOf("[\"start\"]\n{\"start\":1}\n"), wanted);
     EXPECT_EQ(problemOf("[\"start\"]\n\"start\"\n"), wanted);
     EXPECT_EQ(problemOf("[\"start\"]\n17\n"), wanted);
@@ -189,7 +191,7 @@ TEST(CallStreamReader, refusesAZeroByte) {
 
 TEST(CallStreamReader, surfacesFromDeepNesting) {
     EXPECT_EQ(problemOf(std::string(1000000, '[')),
-              "1: not a call: the first value is an operation's name");
+              "1: not a call: the first value must be the name of an operation");
 }
 
 TEST(CallStreamReader, readsCallsHoweverTheirBytesArrive) {

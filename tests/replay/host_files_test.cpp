@@ -1,10 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "command_line/utf8_path.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/image_map_file.h"
 #include "replay/input/model_file.h"
-#include "replay/tool/option_files.h"
 #include "support/temp_dir.h"
 
 namespace quillmark::replay {
@@ -48,11 +48,11 @@ TEST_F(HostFiles, giveNoRegionsOfAPictureThatIsNotThere) {
 }
 
 TEST_F(HostFiles, refuseImageMapsThatAreNoLists) {
-    EXPECT_EQ(refusal<ImageMapFile>("[]"), "file.json:1: the file holds no JSON object");
+    EXPECT_EQ(refusal<ImageMapFile>("[]"), "file.json:1: the file must contain a JSON object");
     EXPECT_EQ(refusal<ImageMapFile>(R"({"a.gif": "A"})"),
-              "file.json: a.gif: the regions are no list of strings");
+              "file.json: a.gif: the regions must be a list of strings");
     EXPECT_EQ(refusal<ImageMapFile>(R"({"a.gif": ["A", 1]})"),
-              "file.json: a.gif: the regions are no list of strings");
+              "file.json: a.gif: the regions must be a list of strings");
 }
 
 TEST_F(HostFiles, tellTheLineOfMalformedJson) {
@@ -114,20 +114,20 @@ TEST_F(HostFiles, takeTheFirstRuleSetWhenAModelNamesNone) {
 TEST_F(HostFiles, refuseModelsOfAnotherShape) {
     EXPECT_EQ(refusal<ModelFile>("{}"), "file.json: the model has no \"elements\" object");
     EXPECT_EQ(refusal<ModelFile>(R"({"schemaType": "1", "elements": {}})"),
-              "file.json: \"schemaType\" is no integer");
+              "file.json: \"schemaType\" must be an integer");
     EXPECT_EQ(refusal<ModelFile>(R"({"elements": {"x": {"class": "A"}}})"),
-              "file.json: x: the key is no 64-bit handle");
+              "file.json: x: the key is not a 64-bit handle");
     EXPECT_EQ(refusal<ModelFile>(R"({"elements": {"0x10000000000000000": {"class": "A"}}})"),
-              "file.json: 0x10000000000000000: the key is no 64-bit handle");
+              "file.json: 0x10000000000000000: the key is not a 64-bit handle");
     EXPECT_EQ(refusal<ModelFile>(R"({"elements": {"": {"class": "A"}}})"),
-              "file.json: : the key is no 64-bit handle");
+              "file.json: : the key is not a 64-bit handle");
     EXPECT_EQ(refusal<ModelFile>(R"({"elements": {"1": {}}})"),
-              "file.json: 1: the element has no \"class\" text");
+              "file.json: 1: the element has no \"class\" string");
     EXPECT_EQ(refusal<ModelFile>(R"({"elements": {"1": {"class": "A", "attributes": 1}}})"),
-              "file.json: 1: \"attributes\" is no object");
+              "file.json: 1: \"attributes\" must be an object");
     EXPECT_EQ(
         refusal<ModelFile>(R"({"elements": {"1": {"class": "A", "attributes": {"a": null}}}})"),
-        "file.json: 1: the attribute is no text, number or truth value");
+        "file.json: 1: the attribute must be a string, a number or a boolean");
 }
 
 }  // namespace

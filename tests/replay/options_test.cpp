@@ -5,7 +5,7 @@
 
 #include <sstream>
 
-#include "replay/input/bad_input.h"
+#include "command_line/bad_usage.h"
 
 namespace quillmark::replay {
 namespace {
@@ -20,7 +20,7 @@ Options parsed(std::vector<std::string> arguments) {
 std::string refusal(std::vector<std::string> arguments) {
     try {
         static_cast<void>(parseOptions(arguments));
-    } catch (const BadInput& problem) {
+    } catch (const BadUsage& problem) {
         return problem.what();
     }
     return "accepted";
@@ -112,7 +112,7 @@ TEST(Options, areRefusedWhenUnknown) {
 
 TEST(Options, areRefusedWithoutTheirValueOrWithOneTooMany) {
     EXPECT_EQ(refusal({"a", "--output"}), "option --output needs a value: FILE");
-    EXPECT_EQ(refusal({"a", "-o"}), "option -o needs a value: FILE");
+    EXPECT_EQ(refusal({"a", "-o"}), "option --output needs a value: FILE");
     EXPECT_EQ(refusal({"--quiet=yes", "a"}), "option --quiet takes no value");
 }
 

@@ -8,9 +8,9 @@
 
 #include "foundation/orx_exception.h"
 #include "platform/trace.h"
+#include "replay/in_process_document.h"
 #include "replay/input/call_stream_reader.h"
 #include "replay/input/recording_reader.h"
-#include "replay/play/in_process_document.h"
 #include "support/recording_document.h"
 
 namespace quillmark::replay {
@@ -132,9 +132,9 @@ protected:
     }
 
     Stage stage_;
-    std::optional<HeardTrace> trace_;
+    std::optional<TraceMonitor> trace_;
     std::vector<std::string> failures_;
-    HeardExceptions exceptions_;
+    ExceptionMonitor exceptions_;
     std::optional<OrxString> outputName_;
     std::optional<std::int16_t> traceLevel_;
     std::vector<std::u16string> answers_;
@@ -217,8 +217,8 @@ TEST_F(PlayerTest, refusesADocumentNameThatTheCodePageCannotHold) {
                    "[\"create\",\"b.htm\"]\n[\"close\"]\n"));
     EXPECT_THAT(refusals_,
                 ElementsAre("3: create: the driver's 8-bit code page (Windows-1252) cannot hold "
-                            "the name \"C:\\\u4e2d\\a.htm\"; the calls up to the next create or "
-                            "new are passed over"));
+                            "the name \"C:\\\u4e2d\\a.htm\"; all calls up to the next create or "
+                            "new are skipped"));
     EXPECT_THAT(stage_.calls, ElementsAre("create(\"\\start\\a.htm\")", "close()",
                                           "create(\"\\start\\b.htm\")", "close()", "gone"));
     EXPECT_THAT(answers_, IsEmpty());
@@ -329,8 +329,8 @@ TEST_F(PlayerTest, leavesAMalformedLineToItself) {
 }
 
 TEST_F(PlayerTest, asksForCallLinesOnlyWhenItComparesThem) {
-    EXPECT_EQ(HeardTrace(false).level(), 1);
-    EXPECT_EQ(HeardTrace(true).level(), 10);
+    EXPECT_EQ(TraceMonitor(false).level(), 1);
+    EXPECT_EQ(TraceMonitor(true).level(), 10);
 }
 
 /// A component that lacks an operation.
@@ -341,7 +341,7 @@ public:
 };
 
 TEST_F(PlayerTest, refusesADocumentThatLacksAnOperation) {
-    HeardTrace trace(false);
+    TraceMonitor trace(false);
     Player::Settings settings;
     settings.makeDocument = [] { return std::make_unique<PoorDocument>(); };
     Player player(std::move(settings), {}, trace, exceptions_);
@@ -349,7 +349,7 @@ TEST_F(PlayerTest, refusesADocumentThatLacksAnOperation) {
         static_cast<void>(playInto<CallStreamReader>(player, "[\"close\"]\n"));
         FAIL() << "nothing was thrown";
     } catch (const std::exception& failure) {
-        EXPECT_THAT(failure.what(), HasSubstr("the document does not know addRow"));
+        EXPECT_THAT(failure.what(), HasSubstr("the component does not have the operation addRow"));
     }
 }
 

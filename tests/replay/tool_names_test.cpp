@@ -24,9 +24,9 @@ TEST_F(ReplayTool, refusesDocumentNamesThatTheCodePageCannotHold) {
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors,
               "calls:1: create: the driver's 8-bit code page (Windows-1252) cannot hold the name "
-              "\"\u4e2d\u6587.htm\"; the calls up to the next create or new are passed over\n"
+              "\"\u4e2d\u6587.htm\"; all calls up to the next create or new are skipped\n"
               "calls:4: create: the driver's 8-bit code page (Windows-1252) cannot hold the name "
-              "\"\u65e5/a.htm\"; the calls up to the next create or new are passed over\n"
+              "\"\u65e5/a.htm\"; all calls up to the next create or new are skipped\n"
               "dochtml-replay: 0 pages written, 0 contents entries, 0 files copied, "
               "0 unresolved references, 2 errors\n");
     EXPECT_THAT(filesIn("."), ElementsAre(Pair("calls", _)));

@@ -123,7 +123,7 @@ TEST_F(SettingsToolTest, SetRefusesAValueOfSeveralLines) {
     keep("[Html]\nBodyTags=old\n");
     for (const char* const lineEnd : {"\n", "\r", "\r\n"}) {
         EXPECT_EQ(run({"set", "TOCLevel=4", std::string("BodyTags=a") + lineEnd + "b"}), 2);
-        EXPECT_THAT(errors, StartsWith("dochtml-settings: Html.BodyTags is one line\n"));
+        EXPECT_THAT(errors, StartsWith("dochtml-settings: Html.BodyTags must be a single line\n"));
     }
     EXPECT_EQ(kept(), "[Html]\nBodyTags=old\n");
 }

@@ -4,8 +4,7 @@
 
 namespace quillmark::replay {
 
-/// A command line or a file given on it that the tool cannot work with; the text says why. The
-/// run ends before anything is driven.
+/// An input that the tool cannot use; the text says why. It is thrown before anything is played.
 class BadInput : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;

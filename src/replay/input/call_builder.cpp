@@ -7,14 +7,15 @@ namespace quillmark::replay {
 
 namespace {
 
-constexpr std::string_view nameMissing = "not a call: the first value is an operation's name";
+constexpr std::string_view nameMissing =
+    "not a call: the first value must be the name of an operation";
 
 template <typename T>
 bool fits(std::int64_t value) noexcept {
     return value >= std::numeric_limits<T>::min() && value <= std::numeric_limits<T>::max();
 }
 
-/// A model handle's half may be written unsigned too: the same 32 bits.
+/// One half of a model handle may be written as an unsigned number with the same 32 bits.
 bool takesUnsigned(const Operation& operation, const Parameter& parameter) noexcept {
     static const Operation* const insertMark = findOperation("insertMark");
     return &operation == insertMark && parameter.kind == ParameterKind::longInteger;
@@ -149,7 +150,8 @@ bool CallBuilder::addOther(std::string& problem) {
     if (nextParameter() != nullptr) {
         return refuse(problem);
     }
-    problem = "argument " + std::to_string(seen_ + 1) + " is no string, integer or boolean";
+    problem =
+        "argument " + std::to_string(seen_ + 1) + " must be a string, an integer or a boolean";
     return false;
 }
 

@@ -8,14 +8,14 @@
 
 namespace quillmark::replay {
 
-/// Puts a call together piece by piece and checks each piece against the operation's row: every
-/// step answers false and says in `problem` what is wrong when a piece does not fit.
+/// Builds a call piece by piece and checks each piece against the parameters of the operation. If
+/// a piece does not fit, the function returns false and describes the mistake in `problem`.
 class CallBuilder {
 public:
-    /// The name that asks for a fresh object.
+    /// The name that asks for a new object.
     static constexpr std::string_view freshObject = "new";
 
-    /// `call` stays the caller's; it is whole after `finish`.
+    /// `call` stays the caller's; it is complete after `finish`.
     void start(Call& call) noexcept;
     [[nodiscard]] bool isNamed() const noexcept { return named_; }
 
@@ -28,8 +28,8 @@ public:
     bool finish(std::string& problem);
 
 private:
-    /// The parameter that the next argument is for; null when there are more than the operation
-    /// has, which `finish` tells.
+    /// The parameter of the next argument. Null if there are more arguments than parameters, which
+    /// `finish` reports.
     [[nodiscard]] const Parameter* nextParameter() const noexcept;
     bool take(const Argument& argument) noexcept;
     bool refuse(std::string& problem) const;

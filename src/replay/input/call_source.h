@@ -10,17 +10,16 @@
 
 namespace quillmark::replay {
 
-/// One call as an input holds it. Its texts belong to the source and live until the next call is
-/// read.
+/// One call of an input. Its texts belong to the source and are valid until the next call is read.
 struct Call {
     static constexpr std::size_t maxArguments = 4;
 
-    /// Null for the tool's own `new`: a fresh object.
+    /// Null for `new`, with which the input asks the tool for a new object.
     const Operation* operation = nullptr;
     std::array<Argument, maxArguments> arguments;
-    /// Arguments given; one that the operation answers with is not among them.
+    /// The number of arguments given, without an output argument.
     std::size_t argumentCount = 0;
-    /// Where it begins, counted from 1.
+    /// The line in which the call begins, counted from 1.
     std::size_t line = 0;
     /// In a recording, the call line without its line end.
     std::string_view recorded;
@@ -32,10 +31,10 @@ struct Call {
 
 enum class ReadResult { call, end, malformed };
 
-/// What `malformed` stands for when the input ended too early.
+/// The problem after `malformed` if the input could not be read to its end.
 inline constexpr const char* unreadable = "the input cannot be read to its end";
 
-/// Where calls come from, one after the other.
+/// A source of calls, read one after the other.
 class CallSource {
 public:
     CallSource() = default;
@@ -43,9 +42,9 @@ public:
     CallSource& operator=(const CallSource&) = delete;
     virtual ~CallSource() = default;
 
-    /// Reads the next call. After `end` and `malformed` nothing more may be asked for.
+    /// Reads the next call. Must not be called again after `end` or `malformed`.
     [[nodiscard]] virtual ReadResult next(Call& call) = 0;
-    /// What is wrong, in words, and in which line, after `malformed`.
+    /// After `malformed`, what is wrong and in which line.
     [[nodiscard]] virtual const std::string& problem() const noexcept = 0;
     [[nodiscard]] virtual std::size_t line() const noexcept = 0;
 };

@@ -22,8 +22,8 @@ bool isBlank(std::span<const char> line) noexcept {
 
 }  // namespace
 
-/// Turns the events of one line's array into a call. An event that does not belong to a call
-/// leaves its reason in `problem_` and ends the line.
+/// Turns the JSON events of one line into a call. An event that does not fit sets `problem_` and
+/// ends the line.
 class CallStreamReader::Parser : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Parser> {
 public:
     bool parse(std::span<char> line, Call& call) {
@@ -85,12 +85,13 @@ public:
     bool Int64(std::int64_t value) {
         return isOpen_ ? builder_.addInteger(value, problem_) : Default();
     }
-    /// Everything else: null, a number that is no integer or beyond all of them, an object.
+    /// Everything else: null, an object, a number that is not an integer or is too large.
     bool Default() {
         if (isOpen_) {
             return builder_.addOther(problem_);
         }
-        problem_ = "not a call: a line holds one array, an operation's name and its arguments";
+        problem_ =
+            "not a call: each line must be an array of the operation's name and its arguments";
         return false;
     }
 

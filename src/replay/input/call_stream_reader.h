@@ -7,9 +7,9 @@
 
 namespace quillmark::replay {
 
-/// Reads a call stream: JSON Lines, one array of an operation's name and its arguments a line,
-/// blank lines between them. A call is checked whole before it is handed out: its name, the
-/// number of its arguments, their kinds and ranges.
+/// Reads a call stream: JSON Lines with one array per call, which contains the name of the
+/// operation and its arguments. Blank lines are skipped. The name, the number of arguments, their
+/// types and ranges are all checked before a call is returned.
 class CallStreamReader final : public CallSource {
 public:
     /// `input` stays the caller's.

@@ -11,12 +11,12 @@ namespace {
 
 std::vector<OrxString> readTexts(const rapidjson::Value& list, const std::string& place) {
     if (!list.IsArray()) {
-        throw BadInput(place + ": the regions are no list of strings");
+        throw BadInput(place + ": the regions must be a list of strings");
     }
     std::vector<OrxString> texts;
     for (const rapidjson::Value& text : list.GetArray()) {
         if (!text.IsString()) {
-            throw BadInput(place + ": the regions are no list of strings");
+            throw BadInput(place + ": the regions must be a list of strings");
         }
         texts.push_back(narrowText(text));
     }

@@ -9,11 +9,12 @@
 
 namespace quillmark::replay {
 
-/// Regions of pictures from a JSON file: an object with a list of texts (name, target,
-/// coordinates, and again) for each picture's file name as the calls give it.
+/// Regions of pictures from a JSON file: an object with one member per picture. Its name is the
+/// file name that the calls use; its value is a list with three texts per region: name, target
+/// and coordinates.
 class ImageMapFile final : public CImageMapInterface {
 public:
-    /// Throws `BadInput` when the file cannot be read or holds something else.
+    /// Throws `BadInput` when the file cannot be read or has other contents.
     ImageMapFile(const std::filesystem::path& file, std::string_view shown);
 
     void getRegions(const OrxString& picture, std::vector<OrxString>& regions) override;

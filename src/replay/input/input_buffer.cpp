@@ -29,8 +29,8 @@ void InputBuffer::makeRoom() {
 
 bool InputBuffer::fill() {
     makeRoom();
-    // Waits for one byte and then takes what has come with it, so that a pipe is never waited
-    // for longer than needed.
+    // Waits for one byte only and then takes whatever has arrived with it, so that input from a
+    // pipe is not delayed.
     std::size_t count = 0;
     if (input_.peek() != std::istream::traits_type::eof()) {
         const auto room = static_cast<std::streamsize>(bytes_.size() - end_ - 1);

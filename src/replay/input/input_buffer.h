@@ -8,22 +8,22 @@
 
 namespace quillmark::replay {
 
-/// A window over an input that may be larger than memory: bytes are read as they are asked for
-/// and forgotten once dropped. What is typed or piped in arrives as it comes.
+/// A window over an input that may be larger than memory. Bytes are read on demand and released
+/// once dropped. Input from a terminal or a pipe is available as soon as it arrives.
 class InputBuffer {
 public:
     /// `input` stays the caller's.
     explicit InputBuffer(std::istream& input);
 
-    /// The bytes read and not yet dropped. A zero stands behind the last one; a reader may change
-    /// the bytes. They stay in place until the next `fill`.
+    /// The bytes read and not yet dropped, followed by a zero. A reader may change them. They stay
+    /// in place until the next `fill`.
     [[nodiscard]] std::span<char> unread() noexcept {
         return {bytes_.data() + begin_, end_ - begin_};
     }
     [[nodiscard]] std::string_view view() const noexcept {
         return {bytes_.data() + begin_, end_ - begin_};
     }
-    /// Reads more behind what is there; false at the end of the input.
+    /// Appends more bytes. False at the end of the input.
     bool fill();
     void drop(std::size_t count) noexcept { begin_ += count; }
     /// Whether the input ended because it could not be read.
@@ -38,11 +38,11 @@ private:
     std::size_t end_ = 0;
 };
 
-/// What an input holds.
+/// The kind of an input.
 enum class InputFormat { nothing, callStream, recording };
 
-/// Tells the format from the first character that is not white space, behind a byte order mark
-/// that is dropped: `[` begins a call stream, anything else a recorded trace.
+/// Determines the format from the first character that is not white space: `[` begins a call
+/// stream, anything else a recorded trace. Drops a byte order mark.
 [[nodiscard]] InputFormat detectFormat(InputBuffer& input);
 
 }  // namespace quillmark::replay

@@ -4,10 +4,10 @@
 #include <filesystem>
 #include <fstream>
 
+#include "command_line/utf8_path.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/call_stream_reader.h"
 #include "replay/input/recording_reader.h"
-#include "replay/tool/option_files.h"
 
 namespace quillmark::replay {
 
@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::streamsize bufferSize = std::streamsize{256} * 1024;
 
-/// A file stream that reads in large pieces.
+/// A file stream with a large buffer.
 class LargeFile final : public std::ifstream {
 public:
     explicit LargeFile(const std::filesystem::path& name)

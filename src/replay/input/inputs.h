@@ -11,8 +11,8 @@
 
 namespace quillmark::replay {
 
-/// The inputs of a run, opened before anything is played so that a name that is wrong costs
-/// nothing.
+/// The inputs of a run. All are opened before anything is played, so a wrong name is reported
+/// first.
 class Inputs {
 public:
     struct Input {
@@ -33,7 +33,7 @@ private:
     std::vector<Input> inputs_;
 };
 
-/// Reads the calls of an input; null when it holds nothing.
+/// A reader for the calls of an input; null if the input is empty.
 [[nodiscard]] std::unique_ptr<CallSource> makeSource(const Inputs::Input& input);
 
 }  // namespace quillmark::replay

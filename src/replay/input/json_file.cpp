@@ -35,7 +35,7 @@ std::string readBytes(const std::filesystem::path& file, std::string_view shown)
 rapidjson::Document readJsonObject(const std::filesystem::path& file, std::string_view shown) {
     const std::string text = readBytes(file, shown);
     rapidjson::Document document;
-    // Without recursion, so that nothing in a file exhausts the stack.
+    // Without recursion, so that a deeply nested file cannot exhaust the stack.
     document.Parse<rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag>(
         text.data(), text.size());
     if (document.HasParseError()) {
@@ -44,7 +44,7 @@ rapidjson::Document readJsonObject(const std::filesystem::path& file, std::strin
                    rapidjson::GetParseError_En(document.GetParseError()));
     }
     if (!document.IsObject()) {
-        refuse(shown, text, 0, "the file holds no JSON object");
+        refuse(shown, text, 0, "the file must contain a JSON object");
     }
     return document;
 }

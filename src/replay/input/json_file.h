@@ -9,8 +9,8 @@
 
 namespace quillmark::replay {
 
-/// Reads a file that holds one JSON object. `shown` is how messages name the file. Throws
-/// `BadInput` when it cannot be read or is malformed.
+/// Reads a file that contains one JSON object. `shown` is its name in messages. Throws `BadInput`
+/// when it cannot be read or is malformed.
 [[nodiscard]] rapidjson::Document readJsonObject(const std::filesystem::path& file,
                                                  std::string_view shown);
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t escapeSize = 6;
 
-/// The unit that an escape `\uXXXX` at `pos` names.
+/// The UTF-16 unit of an escape `\uXXXX` at `pos`.
 std::optional<std::uint32_t> escapeAt(std::string_view text, std::size_t pos) noexcept {
     std::uint32_t unit = 0;
     if (pos + escapeSize > text.size() || text[pos] != '\\' || text[pos + 1] != 'u') {
@@ -33,8 +33,8 @@ bool holdsSurrogateBytes(std::string_view text) noexcept {
     return false;
 }
 
-/// How much of the text at `pos`, where a backslash stands, is taken over as it is; 0 when it is
-/// the escape of a lone surrogate, which `unit` then holds.
+/// How many bytes from the backslash at `pos` are to be copied unchanged. 0 if it begins the escape
+/// of a lone surrogate, which is stored in `unit`.
 std::size_t wholeEscapeAt(std::string_view text, std::size_t pos, std::uint32_t& unit) noexcept {
     const std::optional<std::uint32_t> named = escapeAt(text, pos);
     if (!named || !surrogates::isAny(*named)) {

@@ -6,10 +6,10 @@
 
 namespace quillmark::replay {
 
-/// A JSON text may name half of a surrogate pair alone (`"\ud800"`), which a host's text may hold
-/// but JSON readers refuse. This puts the three bytes of that unit in the place of each such
-/// escape, which a reader lets through. Returns the new size; it differs from the old one exactly
-/// when there was such an escape. A line that holds such bytes already is left alone.
+/// Replaces each escape of a lone surrogate (`"\ud800"`) in a JSON line by the three bytes that
+/// encode it. A text of a host may contain one, but RapidJSON refuses the escape. Returns the new
+/// size, which is smaller than the old one if there was such an escape. A line that already
+/// contains such bytes is not changed.
 [[nodiscard]] std::size_t foldLoneSurrogates(std::span<char> line) noexcept;
 
 }  // namespace quillmark::replay

@@ -85,7 +85,7 @@ std::uint64_t readHandle(std::string_view text, const std::string& place) {
     std::uint64_t handle = 0;
     const auto [end, error] = std::from_chars(digits.data(), last, handle, hexadecimal ? 16 : 10);
     if (error != std::errc() || end != last) {
-        throw BadInput(place + ": the key is no 64-bit handle");
+        throw BadInput(place + ": the key is not a 64-bit handle");
     }
     return handle;
 }
@@ -101,7 +101,7 @@ OrxString readAttribute(const rapidjson::Value& value, const std::string& place)
         return std::to_string(value.GetInt64());
     }
     if (!value.IsDouble()) {
-        throw BadInput(place + ": the attribute is no text, number or truth value");
+        throw BadInput(place + ": the attribute must be a string, a number or a boolean");
     }
     std::array<char, 32> text{};
     const auto written = std::to_chars(text.data(), text.data() + text.size(), value.GetDouble());
@@ -119,7 +119,7 @@ const rapidjson::Value& elementsOf(const rapidjson::Document& document, std::str
 int readSchemaType(const rapidjson::Document& document, std::string_view shown, int fallback) {
     const rapidjson::Value* const type = memberOf(document, "schemaType");
     if (type != nullptr && !type->IsInt()) {
-        throw BadInput(std::string(shown) + ": \"schemaType\" is no integer");
+        throw BadInput(std::string(shown) + ": \"schemaType\" must be an integer");
     }
     return type != nullptr ? type->GetInt() : fallback;
 }
@@ -127,7 +127,7 @@ int readSchemaType(const rapidjson::Document& document, std::string_view shown, 
 OrxString readClassName(const rapidjson::Value& element, const std::string& place) {
     const rapidjson::Value* const name = element.IsObject() ? memberOf(element, "class") : nullptr;
     if (name == nullptr || !name->IsString()) {
-        throw BadInput(place + ": the element has no \"class\" text");
+        throw BadInput(place + ": the element has no \"class\" string");
     }
     return narrowText(*name);
 }
@@ -148,7 +148,7 @@ ModelFile::ModelFile(const std::filesystem::path& file, std::string_view shown) 
         auto element = std::make_unique<Element>(*known);
         const rapidjson::Value* const attributes = memberOf(member.value, "attributes");
         if (attributes != nullptr && !attributes->IsObject()) {
-            throw BadInput(place + ": \"attributes\" is no object");
+            throw BadInput(place + ": \"attributes\" must be an object");
         }
         if (attributes != nullptr) {
             for (const auto& attribute : attributes->GetObject()) {

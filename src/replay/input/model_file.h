@@ -10,11 +10,11 @@
 
 namespace quillmark::replay {
 
-/// Model metadata from a JSON file: the schema type, and for each element's handle its class and
-/// attributes. The model has no associations.
+/// Model metadata from a JSON file: the schema type, and the class and attributes of each element,
+/// by its handle. The model has no associations.
 class ModelFile final : public MMSchema {
 public:
-    /// Throws `BadInput` when the file cannot be read or holds something else.
+    /// Throws `BadInput` when the file cannot be read or has other contents.
     ModelFile(const std::filesystem::path& file, std::string_view shown);
     ~ModelFile() override;
     ModelFile(const ModelFile&) = delete;

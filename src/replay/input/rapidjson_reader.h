@@ -1,7 +1,6 @@
 #pragma once
 
-// The JSON reader as this tool takes it: everything from here, so that its settings are the same
-// in every file.
+// All files include RapidJSON through this header, so that its settings are the same everywhere.
 
 #include <rapidjson/document.h>
 #include <rapidjson/error/en.h>

@@ -16,7 +16,7 @@ constexpr std::string_view textEnd = "\");";
 constexpr std::string_view between = "\",\"";
 constexpr std::string_view digits = "0123456789";
 
-/// Operations of the boundary that a trace passes over in silence.
+/// Operations that write no call line.
 constexpr std::array<std::string_view, 15> silent = {
     "insertDiagram",     "trace",      "getPropPages",     "start",         "stop",
     "showLast",          "getDocType", "overrideRegistry", "insertMark",    "setOrientation",
@@ -29,13 +29,13 @@ constexpr std::array<std::string_view, 6> reportOpenings = {"ERR",
                                                             "Exception throw: ",
                                                             "Exception catch: "};
 
-/// The words that stand for the codes of font attributes.
+/// The words for the codes of font attributes.
 constexpr std::array<std::pair<std::string_view, std::int64_t>, 5> attributeWords = {{
     {"DocBold,", 1},
     {"DocItalic,", 2},
     {"DocUnderline,", 4},
     {"DocStrike,", 8},
-    // An unknown code leaves no word behind; to the driver they are all alike.
+    // An unknown code has no word. The driver treats all of them alike.
     {"", 0},
 }};
 
@@ -79,15 +79,15 @@ void readText(std::string_view text, RecordedTexts& texts, Call& call, std::size
     call.arguments.at(position) = WideText(texts.at(position));
 }
 
-/// Where the first of two texts ends. Texts may hold what stands between them, so the likelier
-/// place is taken: the text of a cross-reference is free and its tag a name, elsewhere the first
-/// one is a name.
+/// Finds the end of the first of two texts. A text may contain the separator, so this is a guess:
+/// the second text of a cross-reference and the first text of other operations are names, in which
+/// the separator is unlikely.
 std::size_t splitAt(std::string_view inner, const Operation& operation) noexcept {
     static const Operation* const insertXref = findOperation("insertXref");
     return &operation == insertXref ? inner.rfind(between) : inner.find(between);
 }
 
-/// The inner part of `"…",NUMBER`: where the quote in front of the number stands.
+/// The position of the closing quote in `"…",NUMBER`.
 std::size_t quoteBeforeNumber(std::string_view text) noexcept {
     std::size_t end = text.find_last_not_of(digits);
     if (end == std::string_view::npos || end + 1 == text.size()) {
@@ -122,8 +122,8 @@ bool isReportLine(std::string_view line) noexcept {
         reportOpenings, [line](std::string_view opening) { return line.starts_with(opening); });
 }
 
-/// Whether the two texts are apart from each other. The quote in front of the first one does not
-/// count, nor does the one behind the second.
+/// Whether the arguments contain the separator of two texts, without counting the first and the
+/// last quote.
 bool CallEnd::hasTwoTexts(std::string_view arguments) noexcept {
     const std::string_view searched = arguments.substr(0, arguments.size() - textEnd.size());
     const std::size_t found = searched.find(between, searched_);

@@ -13,13 +13,13 @@ namespace quillmark::replay {
 /// The shape of a call line in a recorded trace. It follows from the operation's parameters.
 enum class RecordedForm { plain, number, attribute, text, twoTexts, textAndNumber };
 
-/// Whether a call of that shape has a text among its arguments, which may hold line ends.
+/// Whether a call of that shape has a text argument, which may contain line ends.
 [[nodiscard]] constexpr bool hasText(RecordedForm form) noexcept {
     return form == RecordedForm::text || form == RecordedForm::twoTexts ||
            form == RecordedForm::textAndNumber;
 }
 
-/// An operation that writes a call line, told from the beginning of one.
+/// The operation of a call line, as recognized from the beginning of the line.
 struct RecordedOperation {
     const Operation* operation = nullptr;
     RecordedForm form = RecordedForm::plain;
@@ -29,24 +29,23 @@ struct RecordedOperation {
 
 /// What every call line begins with.
 inline constexpr std::string_view callOpening = "dochtml->";
-/// How much of a line tells what it is; no beginning that matters is longer.
+/// How many bytes of a line are needed to recognize it.
 inline constexpr std::size_t openingSize = 64;
 
-/// Reads the beginning of a line, of which at least `openingSize` bytes or all are there. Nothing
-/// when it is not that of a call line.
+/// Recognizes a call line by its beginning. `line` must have at least `openingSize` bytes or be
+/// complete. Nothing if it is not a call line.
 [[nodiscard]] std::optional<RecordedOperation> recordedOperation(std::string_view line) noexcept;
 
-/// Whether a line is of those that a trace holds besides its call lines: errors, warnings,
-/// reports.
+/// Whether a line is one of the other lines of a trace: errors, warnings and reports.
 [[nodiscard]] bool isReportLine(std::string_view line) noexcept;
 
-/// Finds where a call line could end: just in front of a line end, with its arguments complete.
+/// Finds where a call line can end: directly in front of a line end, with complete arguments.
 class CallEnd {
 public:
     explicit CallEnd(const RecordedOperation& what) noexcept : what_(what) {}
 
-    /// Whether that can be the whole call. `text` begins with the call and grows from question to
-    /// question, so that what has been searched is not searched again.
+    /// Whether `text` can be the whole call. It begins with the call and must be longer in each
+    /// call of this function, which does not search the same bytes twice.
     [[nodiscard]] bool isAtEndOf(std::string_view text) noexcept;
 
 private:
@@ -59,8 +58,8 @@ private:
 /// The texts of a recorded call as the operation takes them.
 using RecordedTexts = std::array<std::u16string, 2>;
 
-/// Takes a whole call line, without its line end and with line feeds alone between lines, apart.
-/// Returns what is wrong with it, empty when nothing is. `texts` keeps the texts of `call`.
+/// Parses a whole call line. It has no line end at its end, and only line feeds between lines.
+/// Returns what is wrong with it, or an empty string. `texts` stores the texts of `call`.
 [[nodiscard]] std::string parseRecorded(std::string_view line, const RecordedOperation& what,
                                         RecordedTexts& texts, Call& call);
 

@@ -7,11 +7,11 @@ namespace quillmark::replay {
 
 namespace {
 
-/// How far a text is followed behind a place where its call could end already.
+/// How far the search for the end of a call goes on after a possible end.
 constexpr std::size_t farEnough = std::size_t{1} << 20U;
 
-/// Log lines of some systems end in a carriage return and a line feed; every line end of such a
-/// log was a line feed once.
+/// Removes the carriage returns of line ends. Some systems write them into logs; the driver wrote
+/// line feeds only.
 void keepLineFeedsAlone(std::string& text) {
     std::size_t to = 0;
     for (std::size_t from = 0; from < text.size(); ++from) {
@@ -29,7 +29,7 @@ std::size_t countLines(std::string_view text) {
 
 }  // namespace
 
-/// Reads until that many bytes are there; false when the input has fewer.
+/// Reads until the buffer has that many bytes. False if the input has fewer.
 bool RecordingReader::have(std::size_t count) {
     while (input_.view().size() < count) {
         if (!input_.fill()) {
@@ -51,8 +51,8 @@ RecordingReader::LineKind RecordingReader::kindAt(std::size_t position) {
     return isReportLine(rest) ? LineKind::trace : LineKind::other;
 }
 
-/// The position of the line feed at or behind `position`, or of the end of the input when there
-/// is something in front of it.
+/// The position of the first line feed from `position` on. Without one, the end of the input, if
+/// that is after `position`.
 std::optional<std::size_t> RecordingReader::lineEndFrom(std::size_t position) {
     std::size_t searched = position;
     for (;;) {
@@ -114,8 +114,8 @@ void RecordingReader::dropLine() {
     }
 }
 
-/// Passes over blank lines and reports; false at the end. A report may name things that hold
-/// line ends, so what follows one belongs to it until a line of a trace begins.
+/// Skips blank lines and reports; false at the end of the input. A report may contain names with
+/// line ends, so the lines after it belong to it until a line of a trace begins.
 bool RecordingReader::skipToCall() {
     for (;;) {
         const LineKind kind = kindAt(0);

@@ -9,11 +9,11 @@
 
 namespace quillmark::replay {
 
-/// Reads the call lines of a recorded trace; what a trace reports between them is passed over.
+/// Reads the call lines of a recorded trace and skips all other lines.
 ///
-/// Texts stand in a recording as they came, with their quotes and line ends, so a call line ends
-/// where its arguments are complete at a line's end and what follows begins like a line of a
-/// trace. When nothing of the kind follows, the first place where they are complete is it.
+/// A recording contains texts unescaped, with their quotes and line ends. So a call ends at the
+/// first line end where its arguments are complete and the next line begins like one of a trace.
+/// If no such line follows, the call ends at the first line end where its arguments are complete.
 class RecordingReader final : public CallSource {
 public:
     /// `input` stays the caller's.
@@ -24,7 +24,7 @@ public:
     [[nodiscard]] std::size_t line() const noexcept override { return line_; }
 
 private:
-    /// A call line found in the input: its text and how many bytes it takes with its line end.
+    /// The size of a call line in the input, without and with its line end.
     struct Extent {
         std::size_t textSize = 0;
         std::size_t size = 0;

@@ -10,7 +10,7 @@ namespace quillmark::replay {
 
 namespace {
 
-/// The arguments of a call as variants, in the order that a dispatch interface wants.
+/// The arguments of a call as variants, in the reverse order that a dispatch interface expects.
 class VariantArguments {
 public:
     explicit VariantArguments(std::span<const Argument> arguments)
@@ -25,7 +25,7 @@ public:
 
     [[nodiscard]] DISPPARAMS* parameters() noexcept { return &parameters_; }
 
-    /// Hands on what the component put into the out texts.
+    /// Copies the texts that the component returned to the output arguments.
     void takeOutTexts(std::span<const Argument> arguments) const {
         for (std::size_t i = 0; i < arguments.size(); ++i) {
             if (auto* const* out = std::get_if<std::u16string*>(&arguments[i])) {

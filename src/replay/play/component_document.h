@@ -6,7 +6,7 @@
 
 namespace quillmark::replay {
 
-/// A document of a component, driven through its dispatch interface alone.
+/// A document of a component, called through its dispatch interface only.
 class ComponentDocument final : public LateBoundDocument {
 public:
     explicit ComponentDocument(ComPointer<IDispatch> document) : document_(std::move(document)) {}

@@ -9,9 +9,8 @@
 
 namespace quillmark::replay {
 
-/// A document as a host without the driver's headers reaches it: a name leads to a dispatch
-/// identifier, an identifier to the call. Letting go of it ends the document as a host's release
-/// does.
+/// A document as a host calls it that does not have the driver's headers: it looks up the dispatch
+/// identifier of a name and calls that. Destroying it has the same effect as a host's release.
 class LateBoundDocument {
 public:
     LateBoundDocument() = default;
@@ -19,14 +18,13 @@ public:
     LateBoundDocument& operator=(const LateBoundDocument&) = delete;
     virtual ~LateBoundDocument() = default;
 
-    /// The dispatch identifier of an operation, 0 when the document does not know it.
+    /// The dispatch identifier of an operation, or 0 if the document does not have it.
     [[nodiscard]] virtual int idOf(std::string_view name) = 0;
-    /// Makes the call. Nothing is thrown: what fails behind the boundary is told in the exception
-    /// log.
+    /// Makes the call. Does not throw: the document writes failures to the exception log.
     virtual InvokeStatus invoke(int id, std::span<const Argument> arguments) = 0;
 };
 
-/// Makes a fresh object.
+/// Creates a new object.
 using DocumentMaker = std::function<std::unique_ptr<LateBoundDocument>()>;
 
 }  // namespace quillmark::replay

@@ -1,10 +1,8 @@
 #include "replay/play/loaded_component.h"
 
-#include <filesystem>
-
+#include "command_line/installed_files.h"
 #include "replay/play/component_document.h"
-#include "replay/services/component_services.h"
-#include "replay/tool/option_files.h"
+#include "replay/services/service_registration.h"
 
 namespace quillmark::replay {
 
@@ -19,8 +17,8 @@ std::unique_ptr<LateBoundDocument> LoadedComponent::makeDocument() {
     return std::make_unique<ComponentDocument>(std::move(dispatch));
 }
 
-std::shared_ptr<void> LoadedComponent::lend(const HostServices& services) {
-    return std::make_shared<ComponentServices>(component().hostServices(), services);
+std::shared_ptr<void> LoadedComponent::provide(const HostServices& services) {
+    return std::make_shared<ServiceRegistration>(component().hostServices(), services);
 }
 
 const Component& LoadedComponent::component() {
@@ -37,24 +35,12 @@ Component LoadedComponent::open() const {
     try {
         return Component::byName(programIdentifier);
     } catch (const ComponentError& failure) {
-        const auto nearby = nearbyLibrary();
-        if (!failure.isNotRegistered() || !nearby) {
+        const auto installed = installedLibrary(executable_, componentLibraryName());
+        if (!failure.isNotRegistered() || !installed) {
             throw;
         }
-        return Component::fromLibrary(*nearby);
+        return Component::fromLibrary(*installed);
     }
-}
-
-std::optional<std::string> LoadedComponent::nearbyLibrary() const {
-    const std::filesystem::path here = pathFrom(executable_).parent_path();
-    for (const char* directory : {".", "../lib", "../" DOCHTML_LIBDIR}) {
-        const std::filesystem::path file =
-            (here / directory / componentLibraryName()).lexically_normal();
-        if (std::filesystem::is_regular_file(file)) {
-            return utf8Path(file);
-        }
-    }
-    return std::nullopt;
 }
 
 }  // namespace quillmark::replay

@@ -36,13 +36,13 @@ std::string quoted(std::string_view text) {
 std::string nameProblem(WideText name) {
     return "create: the driver's 8-bit code page (" + SysText::codePageName() +
            ") cannot hold the name \"" + utf8::fromUtf16(name) +
-           "\"; the calls up to the next create or new are passed over";
+           "\"; all calls up to the next create or new are skipped";
 }
 
 }  // namespace
 
-Player::Player(Settings settings, Listeners listeners, HeardTrace& trace,
-               const HeardExceptions& exceptions)
+Player::Player(Settings settings, Listeners listeners, TraceMonitor& trace,
+               const ExceptionMonitor& exceptions)
     : settings_(std::move(settings)),
       listeners_(std::move(listeners)),
       trace_(trace),
@@ -51,7 +51,7 @@ Player::Player(Settings settings, Listeners listeners, HeardTrace& trace,
 LateBoundDocument& Player::document() {
     if (document_ == nullptr) {
         document_ = settings_.makeDocument();
-        learnIdentifiers();
+        lookUpIdentifiers();
         if (settings_.traceLevel) {
             const Argument level = std::int64_t{*settings_.traceLevel};
             invoke(operationOf("trace"), {&level, 1});
@@ -60,11 +60,12 @@ LateBoundDocument& Player::document() {
     return *document_;
 }
 
-void Player::learnIdentifiers() {
+void Player::lookUpIdentifiers() {
     std::ranges::transform(operations(), ids_.begin(), [this](const Operation& operation) {
         const int id = document_->idOf(operation.name);
         if (id == 0) {
-            throw BadInput(std::string("the document does not know ") + operation.name);
+            throw BadInput(std::string("the component does not have the operation ") +
+                           operation.name);
         }
         return id;
     });
@@ -73,7 +74,7 @@ void Player::learnIdentifiers() {
 void Player::finish() {
     document_.reset();
     isOpen_ = false;
-    passesOver_ = false;
+    skipping_ = false;
 }
 
 void Player::invoke(const Operation& operation, std::span<const Argument> arguments) {
@@ -91,8 +92,8 @@ void Player::invoke(const Operation& operation, std::span<const Argument> argume
     }
 }
 
-/// Puts the name that the document is to have into a call of `create`, and into its line. A name
-/// that is absolute already is left exactly as the host gave it.
+/// Replaces the name in a call of `create`, and in its recorded line, by the one that the document
+/// will have. An absolute name stays exactly as it was given.
 void Player::adaptCreate(Call& call) {
     OrxString name = SysText::narrow(std::get<WideText>(call.arguments[0]));
     const bool replaced = settings_.outputName.has_value();
@@ -131,7 +132,7 @@ void Player::countLost(std::span<const Argument> arguments) {
     }
 }
 
-/// False for a call that is passed over.
+/// False for a call that is skipped.
 bool Player::playCall(Call& call) {
     if (call.operation == nullptr) {
         finish();
@@ -140,9 +141,9 @@ bool Player::playCall(Call& call) {
     }
     const bool opens = call.operation == &createOperation();
     if (opens) {
-        passesOver_ = refuses(call);
+        skipping_ = refuses(call);
     }
-    if (passesOver_) {
+    if (skipping_) {
         return false;
     }
     if (opens) {
@@ -159,38 +160,38 @@ bool Player::playCall(Call& call) {
     return true;
 }
 
-/// What the driver wrote there, for a message.
+/// Describes a line that the driver wrote, for a message.
 std::string Player::describe(std::size_t line) const {
     return line < trace_.calls().size()
                ? "the driver called " + quoted(trace_.calls()[static_cast<std::uint32_t>(line)])
                : std::string("the driver wrote no line");
 }
 
-/// Takes the lines that the driver wrote for `call` off the recording and reads the next call
-/// that the host made. A line that the recording does not have is passed over, so that the lines
-/// behind it still find their own.
+/// Skips the lines of the recording that the driver wrote for `call` and reads the next call that
+/// the host made. A line that is missing in the recording is ignored, so that the lines after it
+/// still match.
 ReadResult Player::consumeRecordedLines(CallSource& source, Call& call) {
     const PackedStrings& heard = trace_.calls();
-    const auto tell = [this](std::size_t line, const std::string& how) {
+    const auto report = [this](std::size_t line, const std::string& how) {
         if (listeners_.diverged) {
             listeners_.diverged(line, how);
         }
     };
     bool diverged = heard.size() == 0 || heard[0] != call.recorded;
     if (diverged) {
-        tell(call.line, describe(0) + " for " + quoted(call.recorded));
+        report(call.line, describe(0) + " for " + quoted(call.recorded));
     }
     const std::size_t servedLine = call.line;
     ReadResult result = source.next(call);
     for (std::uint32_t i = 1; i < heard.size(); ++i) {
         const bool same = result == ReadResult::call && heard[i] == call.recorded;
-        // A line that cannot be read is told when its turn comes.
+        // A malformed line is reported when it is the next call.
         if (!same && !diverged && result != ReadResult::malformed) {
             diverged = true;
             const bool more = result == ReadResult::call;
-            tell(more ? call.line : servedLine,
-                 describe(i) + (more ? ", the recording has " + quoted(call.recorded)
-                                     : std::string(", the recording ends")));
+            report(more ? call.line : servedLine,
+                   describe(i) + (more ? ", the recording has " + quoted(call.recorded)
+                                       : std::string(", the recording ends")));
         }
         if (same) {
             result = source.next(call);

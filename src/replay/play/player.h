@@ -11,19 +11,21 @@
 
 #include "foundation/orx_string.h"
 #include "replay/input/call_source.h"
+#include "replay/play/exception_monitor.h"
 #include "replay/play/late_bound_document.h"
-#include "replay/play/run_record.h"
+#include "replay/play/trace_monitor.h"
 
 namespace quillmark::replay {
 
 /// Plays calls into a document, input after input into the same object.
 ///
 /// A `create` whose name the driver's code page cannot hold is refused: its document would get
-/// another name, which may be that of another document. It and the calls behind it are passed
-/// over, up to the next `create` or fresh object.
+/// another name, possibly that of another document. It is skipped with the calls that follow, up
+/// to the next `create` or new object.
 ///
-/// While it plays a recording it takes the call lines that the driver writes while it serves a
-/// call off the recording, so that calls which the driver made on itself are not played twice.
+/// A recording also contains the calls that the driver made on itself. To play each call once, the
+/// player listens to the call lines that the driver writes during a call, and skips the same lines
+/// of the recording.
 class Player {
 public:
     struct Settings {
@@ -35,9 +37,9 @@ public:
         /// `trace` is called with it first, for each object.
         std::optional<std::int16_t> traceLevel;
     };
-    /// What the player tells while it plays; each may be empty.
+    /// What the player reports while it plays; each may be empty.
     struct Listeners {
-        /// A text that an operation answered with.
+        /// A text that an operation returned.
         std::function<void(WideText)> answer;
         /// Where a replay diverged from its recording, and how.
         std::function<void(std::size_t line, const std::string& how)> diverged;
@@ -47,21 +49,21 @@ public:
         std::function<void(std::size_t calls)> played;
     };
 
-    /// The records stay the caller's.
-    Player(Settings settings, Listeners listeners, HeardTrace& trace,
-           const HeardExceptions& exceptions);
+    /// The monitors stay the caller's.
+    Player(Settings settings, Listeners listeners, TraceMonitor& trace,
+           const ExceptionMonitor& exceptions);
 
     /// Plays everything of `source`. False when it is malformed: then the document, when one is
     /// open, is closed, and `source` says what is wrong.
     [[nodiscard]] bool play(CallSource& source);
-    /// Lets go of the object, which ends a document that is still open.
+    /// Releases the object, which ends a document that is still open.
     void finish();
     /// How many characters of the texts played the driver's code page could not hold.
     [[nodiscard]] std::size_t charactersLost() const noexcept { return charactersLost_; }
 
 private:
     LateBoundDocument& document();
-    void learnIdentifiers();
+    void lookUpIdentifiers();
     bool playCall(Call& call);
     bool refuses(const Call& create) const;
     void countLost(std::span<const Argument> arguments);
@@ -72,17 +74,17 @@ private:
 
     Settings settings_;
     Listeners listeners_;
-    HeardTrace& trace_;
-    const HeardExceptions& exceptions_;
+    TraceMonitor& trace_;
+    const ExceptionMonitor& exceptions_;
     std::unique_ptr<LateBoundDocument> document_;
-    /// Identifiers as the object told them, by the row of the table.
+    /// The identifiers that the object gave, by row of the table of operations.
     std::array<int, operationCount> ids_{};
     std::u16string fileName_;
     std::string createLine_;
     std::size_t calls_ = 0;
     std::size_t charactersLost_ = 0;
     bool isOpen_ = false;
-    bool passesOver_ = false;
+    bool skipping_ = false;
 };
 
 }  // namespace quillmark::replay

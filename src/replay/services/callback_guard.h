@@ -11,11 +11,11 @@ namespace quillmark::replay {
 }
 
 inline void answer(const DochtmlSink* sink, std::string_view text) {
-    const DochtmlText lent{text.data(), text.size()};
-    sink->put(sink->context, &lent);
+    const DochtmlText passed{text.data(), text.size()};
+    sink->put(sink->context, &passed);
 }
 
-/// Runs a callback's work; an exception ends here and gives `failed`.
+/// Runs the body of a callback. If it throws, the result is `failed`.
 template <typename Result, typename Body>
 Result guarded(Result failed, Body body) noexcept {
     try {

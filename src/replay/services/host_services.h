@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "command_line/drive.h"
 #include "foundation/orx_exception.h"
 #include "foundation/orx_string.h"
 #include "host/document_observer.h"
@@ -15,16 +16,9 @@
 
 namespace quillmark::replay {
 
-/// What a host lends the driver for a run. What is absent keeps its default. Everything pointed
-/// to stays the caller's and outlives the registration.
+/// The services that a host provides to the driver for a run. An absent one keeps its default. The
+/// caller owns what the pointers refer to and keeps it alive during the run.
 struct HostServices {
-    /// Where the names of a drive lie on a system without drive letters.
-    struct Drive {
-        char letter = 'C';
-        /// The system's own name, in UTF-8.
-        std::string directory;
-    };
-
     std::shared_ptr<SettingsStore> settings;
     std::optional<OrxString> profilePath;
     CImageMapInterface* imageMaps = nullptr;

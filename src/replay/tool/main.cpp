@@ -14,6 +14,6 @@ int main(int argc, char** argv) {
         {std::cin, std::cout, std::cerr, Console::errorsGoToTerminal(), Console::executablePath(),
          [&component] { return component.makeDocument(); },
          [&component](const quillmark::replay::HostServices& services) {
-             return component.lend(services);
+             return component.provide(services);
          }});
 }

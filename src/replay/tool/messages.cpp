@@ -14,7 +14,7 @@ constexpr std::chrono::milliseconds progressInterval{200};
 Messages::Messages(std::ostream& stream, bool progress)
     : stream_(stream), showsProgress_(progress), nextProgress_(Clock::now() + longRun) {}
 
-void Messages::tell(std::string_view line) {
+void Messages::write(std::string_view line) {
     clearProgress();
     std::string shown(line);
     std::ranges::replace(shown, '\n', ' ');

@@ -8,19 +8,18 @@
 
 namespace quillmark::replay {
 
-/// The tool's lines on standard error: what went wrong, and, on a terminal, how far a long run
-/// has come.
+/// Writes the tool's messages to standard error and, on a terminal, the progress of a long run.
 class Messages {
 public:
     /// `stream` stays the caller's. `progress` says whether progress is shown.
     Messages(std::ostream& stream, bool progress);
 
-    /// One line: a line end in it becomes a blank, other control characters (a name may hold
-    /// anything) become "?".
-    void tell(std::string_view line);
-    /// Shows how far the run is, once it has taken a while and not more often than eyes follow.
+    /// Writes one line. A line end in it becomes a blank; other control characters, which a file
+    /// name may contain, become "?".
+    void write(std::string_view line);
+    /// Shows the progress if the run has taken a while and the last update is not too recent.
     void progress(std::size_t calls, std::size_t pages);
-    /// Takes the progress line off the screen.
+    /// Removes the progress line from the screen.
     void clearProgress();
 
 private:
@@ -32,7 +31,7 @@ private:
     std::size_t shown_ = 0;
 };
 
-/// "1 page", "2 pages"; `plural` when it is not the word with an s.
+/// "1 page" or "2 pages". `plural` is for words that do not just take an "s".
 [[nodiscard]] std::string counted(std::size_t count, std::string_view word,
                                   std::string_view plural = {});
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "command_line/utf8_path.h"
 #include "foundation/ascii.h"
 #include "platform/drive_table.h"
 #include "platform/sys_text.h"
@@ -13,10 +14,11 @@ namespace quillmark::replay {
 
 namespace {
 
-/// What the driver's 8-bit code page cannot hold would come out as another file's name.
-const std::string& heldName(const std::string& utf8) {
+/// Refuses a name that the driver's 8-bit code page cannot hold: it would become the name of
+/// another file.
+const std::string& checkedName(const std::string& utf8) {
     if (!SysText::holdsUtf8(utf8)) {
-        throw BadInput("a file name that the driver's 8-bit code page cannot hold: " + utf8);
+        throw BadInput("the driver's 8-bit code page cannot hold the file name " + utf8);
     }
     return utf8;
 }
@@ -27,29 +29,20 @@ std::filesystem::path startDirectory() {
     std::error_code failure;
     std::filesystem::path directory = std::filesystem::current_path(failure);
     if (failure) {
-        throw BadInput("the working directory cannot be told: " + failure.message());
+        throw BadInput("cannot determine the current directory: " + failure.message());
     }
-    heldName(utf8Path(directory));
+    checkedName(utf8Path(directory));
     return directory;
 }
 
-std::string utf8Path(const std::filesystem::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
-
-std::filesystem::path pathFrom(const std::string& utf8) {
-    return std::u8string(utf8.begin(), utf8.end());
-}
-
-OptionFiles::OptionFiles(std::vector<HostServices::Drive> drives) : drives_(std::move(drives)) {
-    for (HostServices::Drive& drive : drives_) {
+OptionFiles::OptionFiles(std::vector<Drive> drives) : drives_(std::move(drives)) {
+    for (Drive& drive : drives_) {
         drive.directory = utf8Path(startDirectory() / pathFrom(drive.directory));
     }
 }
 
-std::vector<HostServices::Drive> OptionFiles::allDrives() const {
-    std::vector<HostServices::Drive> all;
+std::vector<Drive> OptionFiles::allDrives() const {
+    std::vector<Drive> all;
     for (char letter = 'A'; letter <= 'Z' && !system_facts::hasDrives(); ++letter) {
         const std::filesystem::path place = startDirectory() / std::string{letter, ':'};
         all.push_back({letter, utf8Path(place)});
@@ -58,12 +51,12 @@ std::vector<HostServices::Drive> OptionFiles::allDrives() const {
     return all;
 }
 
-const HostServices::Drive* OptionFiles::driveOf(const std::string& name) const {
-    // A system whose own names have drives needs no table of them.
+const Drive* OptionFiles::driveOf(const std::string& name) const {
+    // Names of a system with drives are used as they are.
     if (system_facts::hasDrives() || name.size() < 2 || name[1] != ':') {
         return nullptr;
     }
-    // As in the driver's own table, a letter given again has its last directory.
+    // As in the driver's own table, the last directory given for a letter wins.
     const auto hit = std::find_if(drives_.rbegin(), drives_.rend(), [&](const auto& drive) {
         return ascii::toUpper(drive.letter) == ascii::toUpper(name.front());
     });
@@ -71,7 +64,7 @@ const HostServices::Drive* OptionFiles::driveOf(const std::string& name) const {
 }
 
 std::filesystem::path OptionFiles::native(const std::string& name) const {
-    const HostServices::Drive* const drive = driveOf(name);
+    const Drive* const drive = driveOf(name);
     if (drive == nullptr) {
         return startDirectory() / pathFrom(name);
     }
@@ -80,9 +73,9 @@ std::filesystem::path OptionFiles::native(const std::string& name) const {
 
 OrxString OptionFiles::driver(const std::string& name) const {
     if (driveOf(name) != nullptr) {
-        return SysText::fromUtf8(heldName(name));
+        return SysText::fromUtf8(checkedName(name));
     }
-    return driverPath(heldName(utf8Path(native(name))));
+    return driverPath(checkedName(utf8Path(native(name))));
 }
 
 }  // namespace quillmark::replay

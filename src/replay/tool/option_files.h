@@ -4,39 +4,36 @@
 #include <string>
 #include <vector>
 
+#include "command_line/drive.h"
 #include "foundation/orx_string.h"
-#include "replay/services/host_services.h"
 
 namespace quillmark::replay {
 
-/// File names of the command line: one that begins with the letter of a drive lies where the
-/// drive does, every other is the system's own. They count from the directory where the tool was
-/// started, whatever becomes of it later.
+/// Resolves the file names of the command line. A name that begins with the letter of a drive is
+/// found on that drive; every other is the system's own. Relative names count from the directory
+/// where the tool was started, even if the current directory changes later.
 class OptionFiles {
 public:
-    explicit OptionFiles(std::vector<HostServices::Drive> drives);
+    /// Throws what `startDirectory` throws.
+    explicit OptionFiles(std::vector<Drive> drives);
 
-    /// The name as the tool opens it.
+    /// The name in the form in which the tool opens the file.
     [[nodiscard]] std::filesystem::path native(const std::string& name) const;
-    /// The name as the driver takes it; a name on a drive keeps its letter. Throws `BadInput` for
+    /// The name in the driver's form; a name on a drive keeps its letter. Throws `BadInput` for
     /// one that the driver's 8-bit code page cannot hold.
     [[nodiscard]] OrxString driver(const std::string& name) const;
-    /// The drives of the run, with directories that no change of the current directory moves. On
-    /// a system without drives a letter that was given no directory lies in one of its own name,
-    /// "C:", where the tool was started.
-    [[nodiscard]] std::vector<HostServices::Drive> allDrives() const;
+    /// The drives of the run, with absolute directories. On a system without drives, a letter
+    /// without a directory gets the one named after it ("C:") where the tool was started.
+    [[nodiscard]] std::vector<Drive> allDrives() const;
 
 private:
-    [[nodiscard]] const HostServices::Drive* driveOf(const std::string& name) const;
+    [[nodiscard]] const Drive* driveOf(const std::string& name) const;
 
-    std::vector<HostServices::Drive> drives_;
+    std::vector<Drive> drives_;
 };
 
-/// Where the tool was started. Throws `BadInput` when the system cannot tell, or the driver could
-/// not hold the name.
+/// The directory where the tool was started. Throws `BadInput` when the system cannot determine
+/// it or when the driver's 8-bit code page cannot hold its name.
 [[nodiscard]] std::filesystem::path startDirectory();
-/// A path as a UTF-8 text, and back.
-[[nodiscard]] std::string utf8Path(const std::filesystem::path& path);
-[[nodiscard]] std::filesystem::path pathFrom(const std::string& utf8);
 
 }  // namespace quillmark::replay

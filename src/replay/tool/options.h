@@ -5,20 +5,19 @@
 #include <ostream>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "replay/services/host_services.h"
+#include "command_line/drive.h"
 
 namespace quillmark::replay {
 
-/// A command line, taken apart and checked. Texts are UTF-8, as given.
+/// A command line, parsed and checked. Texts are UTF-8, as given.
 struct Options {
     struct Setting {
         std::string group;
         std::string name;
         std::string value;
-        /// The value is a file name and goes through the drives.
+        /// The value is a file name, so it may lie on one of the drives.
         bool isFileName = false;
     };
 
@@ -30,7 +29,7 @@ struct Options {
     std::optional<std::string> iniFile;
     std::optional<std::string> modelFile;
     std::optional<std::string> imageMapFile;
-    std::vector<HostServices::Drive> drives;
+    std::vector<Drive> drives;
     std::optional<std::int16_t> traceLevel;
     std::optional<std::string> logFile;
     std::optional<std::string> exceptionFile;
@@ -39,10 +38,10 @@ struct Options {
     bool version = false;
 };
 
-/// Takes the arguments behind the program's name apart. Throws `BadInput` on bad usage.
+/// Parses the arguments, without the program's name. Throws `BadUsage`.
 [[nodiscard]] Options parseOptions(std::span<const std::string> arguments);
 
-/// What `--help` shows.
+/// Writes the text that `--help` shows.
 void writeHelp(std::ostream& out);
 
 }  // namespace quillmark::replay

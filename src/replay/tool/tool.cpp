@@ -4,16 +4,18 @@
 #include <fstream>
 #include <system_error>
 
+#include "command_line/scoped_drives.h"
+#include "command_line/utf8_path.h"
 #include "foundation/utf8.h"
 #include "platform/drive_table.h"
 #include "platform/sys_text.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/inputs.h"
+#include "replay/play/document_counts.h"
 #include "replay/play/player.h"
-#include "replay/services/drives_in_force.h"
-#include "replay/services/registered_services.h"
-#include "replay/services/run_services.h"
+#include "replay/tool/lazy_file.h"
 #include "replay/tool/messages.h"
+#include "replay/tool/requested_services.h"
 #include "settings/settings_table.h"
 
 namespace quillmark::replay {
@@ -22,28 +24,26 @@ namespace {
 
 constexpr std::string_view toolName = "dochtml-replay";
 
-/// One run over all inputs.
+/// One run of the tool over all its inputs.
 class Run {
 public:
-    Run(const Options& options, const Surroundings& around)
+    Run(const Options& options, const ReplayEnvironment& environment)
         : options_(options),
-          around_(around),
+          environment_(environment),
           files_(options.drives),
           drives_(files_.allDrives()),
-          inputs_(options.inputs, around.input),
-          services_(options, files_, around.executable),
-          messages_(around.errors, around.errorsGoToTerminal && !options.quiet),
+          inputs_(options.inputs, environment.input),
+          services_(options, files_, environment.executable),
+          messages_(environment.errors, environment.errorsGoToTerminal && !options.quiet),
           trace_(inputs_.hasRecording()),
-          exceptions_([this](std::string_view reason) { tellError(SysText::toUtf8(reason)); },
+          exceptions_([this](std::string_view reason) { reportError(SysText::toUtf8(reason)); },
                       exceptionWriter()) {}
 
     int play() {
         makeLogDirectory();
         warnOfUnknownSettings();
         {
-            const RegisteredServices registered(hostServices());
-            const std::shared_ptr<void> lent =
-                around_.lendServices ? around_.lendServices(hostServices()) : nullptr;
+            const std::shared_ptr<void> provided = environment_.provideServices(hostServices());
             Player player(playerSettings(), listeners(), trace_, exceptions_);
             for (const Inputs::Input& input : inputs_.all()) {
                 if (!playInput(player, input)) {
@@ -57,7 +57,7 @@ public:
         messages_.clearProgress();
         checkOutput();
         if (!options_.quiet) {
-            tellSummary();
+            writeSummary();
         }
         return badInput_ ? exitBadInput : errors_ > 0 ? exitFailed : exitDone;
     }
@@ -69,7 +69,7 @@ private:
         if (source == nullptr || player.play(*source)) {
             return true;
         }
-        tellPlace(source->line(), source->problem());
+        reportAt(source->line(), source->problem());
         return false;
     }
 
@@ -83,7 +83,7 @@ private:
 
     Player::Settings playerSettings() {
         Player::Settings settings;
-        settings.makeDocument = around_.makeDocument;
+        settings.makeDocument = environment_.makeDocument;
         settings.startDirectory = driverPath(utf8Path(startDirectory()));
         settings.traceLevel = options_.traceLevel;
         if (options_.output) {
@@ -94,37 +94,37 @@ private:
 
     Player::Listeners listeners() {
         return {[this](WideText answer) {
-                    around_.output << utf8::fromUtf16(answer) << '\n' << std::flush;
+                    environment_.output << utf8::fromUtf16(answer) << '\n' << std::flush;
                 },
                 [this](std::size_t line, const std::string& how) {
                     ++errors_;
-                    tellPlace(line, "replay diverged: " + how);
+                    reportAt(line, "replay diverged: " + how);
                 },
                 [this](std::size_t line, const std::string& why) {
                     ++errors_;
-                    tellPlace(line, why);
+                    reportAt(line, why);
                 },
                 [this](std::size_t calls) {
-                    constexpr std::size_t oftenEnough = 1024;
-                    if (calls % oftenEnough == 0) {
+                    constexpr std::size_t interval = 1024;
+                    if (calls % interval == 0) {
                         messages_.progress(calls, counts_.pages);
                     }
                 }};
     }
 
-    HeardExceptions::Teller exceptionWriter() {
+    ExceptionMonitor::Handler exceptionWriter() {
         if (!options_.exceptionFile) {
             return {};
         }
         exceptionFile_.emplace(files_.native(*options_.exceptionFile));
         return [this](std::string_view message) {
             if (!exceptionFile_->write(message)) {
-                tellError("cannot write " + *options_.exceptionFile);
+                reportError("cannot write " + *options_.exceptionFile);
             }
         };
     }
 
-    /// The log itself is made when its first line comes; the driver tells when it cannot be.
+    /// The driver creates the log file itself, and reports it if that fails.
     void makeLogDirectory() {
         if (options_.logFile) {
             std::error_code failure;
@@ -133,33 +133,33 @@ private:
         }
     }
 
-    /// Most likely a name that is spelled wrong. It does no harm, so the run goes on.
+    /// An unknown setting is most likely misspelled. It does no harm, so the run goes on.
     void warnOfUnknownSettings() {
         for (const Options::Setting& setting : options_.settings) {
             if (!options_.quiet && findSetting(setting.group, setting.name) == nullptr) {
-                messages_.tell(std::string(toolName) + ": warning: there is no setting " +
-                               setting.group + "." + setting.name);
+                messages_.write(std::string(toolName) + ": warning: there is no setting " +
+                                setting.group + "." + setting.name);
             }
         }
     }
 
     void checkOutput() {
-        if (!around_.output.flush()) {
-            tellError("cannot write the output");
+        if (!environment_.output.flush()) {
+            reportError("cannot write the output");
         }
     }
 
-    /// A message about a line of the input that is played.
-    void tellPlace(std::size_t line, const std::string& what) {
-        messages_.tell(current_->name + ":" + std::to_string(line) + ": " + what);
+    /// Reports a problem in a line of the current input.
+    void reportAt(std::size_t line, const std::string& what) {
+        messages_.write(current_->name + ":" + std::to_string(line) + ": " + what);
     }
 
-    void tellError(const std::string& what) {
+    void reportError(const std::string& what) {
         ++errors_;
-        messages_.tell(std::string(toolName) + ": " + what);
+        messages_.write(std::string(toolName) + ": " + what);
     }
 
-    void tellSummary() {
+    void writeSummary() {
         std::string text = counted(counts_.pages, "page") + " written, " +
                            counted(counts_.contentsEntries, "contents entry", "contents entries") +
                            ", " + counted(counts_.files, "file") + " copied, " +
@@ -171,21 +171,21 @@ private:
         if (charactersLost_ > 0) {
             text += ", " + counted(charactersLost_, "character") + " lost";
         }
-        messages_.tell(std::string(toolName) + ": " + text);
+        messages_.write(std::string(toolName) + ": " + text);
     }
 
     const Options& options_;
-    const Surroundings& around_;
+    const ReplayEnvironment& environment_;
     OptionFiles files_;
-    /// In force before the settings store, which may lie on one of them, is read.
-    DrivesInForce drives_;
+    /// Declared before `services_`: the settings file may be on one of the drives.
+    ScopedDrives drives_;
     Inputs inputs_;
-    RunServices services_;
+    RequestedServices services_;
     Messages messages_;
-    std::optional<LateFile> exceptionFile_;
-    HeardTrace trace_;
-    HeardExceptions exceptions_;
-    RunCounts counts_;
+    std::optional<LazyFile> exceptionFile_;
+    TraceMonitor trace_;
+    ExceptionMonitor exceptions_;
+    DocumentCounts counts_;
     const Inputs::Input* current_ = nullptr;
     std::size_t errors_ = 0;
     std::size_t charactersLost_ = 0;
@@ -194,25 +194,25 @@ private:
 
 }  // namespace
 
-int runTool(std::span<const std::string> arguments, const Surroundings& around) {
+int runTool(std::span<const std::string> arguments, const ReplayEnvironment& environment) {
     try {
         const Options options = parseOptions(arguments);
         if (!options.help && !options.version) {
-            return Run(options, around).play();
+            return Run(options, environment).play();
         }
         if (options.help) {
-            writeHelp(around.output);
+            writeHelp(environment.output);
         } else {
-            around.output << toolName << ' ' << DOCHTML_VERSION << '\n';
+            environment.output << toolName << ' ' << DOCHTML_VERSION << '\n';
         }
-        if (!around.output.flush()) {
-            Messages(around.errors, false)
-                .tell(std::string(toolName) + ": cannot write the output");
+        if (!environment.output.flush()) {
+            Messages(environment.errors, false)
+                .write(std::string(toolName) + ": cannot write the output");
             return exitFailed;
         }
         return exitDone;
     } catch (const std::exception& failure) {
-        Messages(around.errors, false).tell(std::string(toolName) + ": " + failure.what());
+        Messages(environment.errors, false).write(std::string(toolName) + ": " + failure.what());
         return exitBadInput;
     }
 }

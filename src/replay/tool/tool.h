@@ -12,25 +12,25 @@
 
 namespace quillmark::replay {
 
-/// What the tool finds around itself.
-struct Surroundings {
+/// The environment of the tool: its streams and the component that it plays into.
+struct ReplayEnvironment {
     std::istream& input;
     std::ostream& output;
     std::ostream& errors;
     bool errorsGoToTerminal = false;
-    /// Where the program lies (UTF-8); the support files are found from there.
+    /// The path of the program (UTF-8), from which the support files are found.
     std::string executable;
     DocumentMaker makeDocument;
-    /// Lends the run's services to where the documents come from, for the life of what it returns.
-    /// Empty when they are documents of this process, which finds the services without it.
-    std::function<std::shared_ptr<void>(const HostServices&)> lendServices = {};
+    /// Provides the services to the documents for as long as the result lives.
+    std::function<std::shared_ptr<void>(const HostServices&)> provideServices;
 };
 
-/// How a run ended: the exit status of the tool.
+/// The exit status of the tool.
 enum ExitStatus { exitDone = 0, exitFailed = 1, exitBadInput = 2 };
 
-/// The tool: parses the arguments behind the program's name (UTF-8), lends the driver what they
-/// say, plays the calls and tells how it went. Returns the exit status.
-[[nodiscard]] int runTool(std::span<const std::string> arguments, const Surroundings& around);
+/// Runs the tool: parses the arguments (UTF-8, without the program's name), provides the host
+/// services that they ask for, plays the calls and reports the result. Returns the exit status.
+[[nodiscard]] int runTool(std::span<const std::string> arguments,
+                          const ReplayEnvironment& environment);
 
 }  // namespace quillmark::replay

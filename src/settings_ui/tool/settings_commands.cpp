@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "command_line/bad_usage.h"
 #include "platform/sys_text.h"
 #include "settings/register_dynamic.h"
 #include "settings/settings_table.h"
@@ -16,7 +17,7 @@ namespace quillmark {
 
 namespace {
 
-/// A setting by "NAME" or "GROUP.NAME". No name stands in two groups.
+/// The setting called "NAME" or "GROUP.NAME". No name occurs in two groups.
 const SettingDescription& settingNamed(const std::string& text) {
     const std::size_t dot = text.find('.');
     for (const SettingDescription& setting : allSettings()) {
@@ -55,7 +56,7 @@ Assignment assignmentOf(const std::string& text) {
         throw BadUsage("the driver's 8-bit code page cannot hold \"" + given + "\"");
     }
     if (given.find_first_of("\r\n") != std::string::npos) {
-        throw BadUsage(address(setting) + " is one line");
+        throw BadUsage(address(setting) + " must be a single line");
     }
     const OrxString value = SysText::fromUtf8(given);
     if (!accepts(setting, value)) {
@@ -65,7 +66,7 @@ Assignment assignmentOf(const std::string& text) {
     return {&setting, value};
 }
 
-/// The page without a window, loaded from the store in force.
+/// The page without a window, loaded from the current store.
 struct LoadedPage {
     explicit LoadedPage(std::ostream& errors) : host(errors), page(controls, host) {
         controls.listen([this](int id, ControlEvent event) { page.handle(id, event); });
@@ -80,7 +81,7 @@ struct LoadedPage {
     SettingsPage page;
 };
 
-/// What the page has no controls for has no rules either: it is written in the table's order.
+/// Writes the settings that are not on the page, in the order of the table. No rules apply to them.
 void writeOthers(const std::vector<Assignment>& assignments) {
     for (const SettingDescription& setting : allSettings()) {
         for (const Assignment& assignment : assignments) {
@@ -113,22 +114,22 @@ void SettingsCommands::list() const {
     for (const SettingDescription& setting : allSettings()) {
         OrxString fallback = defaultValue(setting).asString();
         if (&setting == findSetting(settingsGroup, "InstallDir")) {
-            fallback = store_.installDir();
+            fallback = installDir_;
         }
-        around_.out << address(setting) << "=" << SysText::toUtf8(valueOf(setting))
-                    << "\n    default \"" << SysText::toUtf8(fallback) << "\", "
-                    << typeName(setting.type) << "\n    " << setting.meaning << "\n";
+        environment_.out << address(setting) << "=" << SysText::toUtf8(valueOf(setting))
+                         << "\n    default \"" << SysText::toUtf8(fallback) << "\", "
+                         << typeName(setting.type) << "\n    " << setting.meaning << "\n";
     }
 }
 
 void SettingsCommands::get(const std::string& name) const {
-    around_.out << SysText::toUtf8(valueOf(settingNamed(name))) << "\n";
+    environment_.out << SysText::toUtf8(valueOf(settingNamed(name))) << "\n";
 }
 
 bool SettingsCommands::set(const std::vector<std::string>& assignments) const {
     std::vector<Assignment> wanted;
     std::ranges::transform(assignments, std::back_inserter(wanted), assignmentOf);
-    LoadedPage loaded(around_.errors);
+    LoadedPage loaded(environment_.errors);
     std::vector<std::string_view> onPage;
     for (const auto& [setting, value] : wanted) {
         if (isOnPage(*setting)) {
@@ -144,24 +145,24 @@ bool SettingsCommands::set(const std::vector<std::string>& assignments) const {
 }
 
 bool SettingsCommands::edit() const {
-    LoadedPage loaded(around_.errors);
-    TerminalForm form(loaded.controls, around_.in, around_.out);
-    around_.out
-        << "HTML Settings, kept in " << place_
+    LoadedPage loaded(environment_.errors);
+    TerminalForm form(loaded.controls, environment_.in, environment_.out);
+    environment_.out
+        << "HTML Settings, kept in " << location_
         << "\nEnter keeps a value, \"\" empties it, the end of the input keeps the rest.\n\n";
     if (!form.fillIn()) {
-        around_.out << "\nNothing changed.\n";
+        environment_.out << "\nNothing changed.\n";
         return true;
     }
     while (!loaded.page.apply()) {
         if (form.hasEnded()) {
             return false;
         }
-        around_.out << '\n';
+        environment_.out << '\n';
         form.fillIn();
     }
     if (store_.failures().empty()) {
-        around_.out << "Saved.\n";
+        environment_.out << "Saved.\n";
     }
     return true;
 }

@@ -2,20 +2,26 @@
 
 #include <string>
 
+#include "settings_ui/tool/failure_recording_store.h"
 #include "settings_ui/tool/settings_tool.h"
 #include "settings_ui/tool/tool_options.h"
-#include "settings_ui/tool/watched_store.h"
 
 namespace quillmark {
 
-/// The commands of the tool, on the store in force. They throw `BadUsage` before they change
-/// anything; false means that a value was refused, which has been told.
+/// Carries out the commands of the tool on the current settings store.
 class SettingsCommands {
 public:
-    /// `place` tells a person where the store lies (UTF-8).
-    SettingsCommands(const WatchedStore& store, std::string place, const ToolSurroundings& around)
-        : store_(store), place_(std::move(place)), around_(around) {}
+    /// `installDir` is the default of the setting "InstallDir". `location` describes the store to
+    /// the user (UTF-8).
+    SettingsCommands(const FailureRecordingStore& store, OrxString installDir, std::string location,
+                     const SettingsToolEnvironment& environment)
+        : store_(store),
+          installDir_(std::move(installDir)),
+          location_(std::move(location)),
+          environment_(environment) {}
 
+    /// False if a value was refused; the page has shown the reason. Throws `BadUsage` before
+    /// anything is changed.
     bool run(const ToolOptions& options);
 
 private:
@@ -24,9 +30,10 @@ private:
     bool set(const std::vector<std::string>& assignments) const;
     bool edit() const;
 
-    const WatchedStore& store_;
-    std::string place_;
-    const ToolSurroundings& around_;
+    const FailureRecordingStore& store_;
+    OrxString installDir_;
+    std::string location_;
+    const SettingsToolEnvironment& environment_;
 };
 
 }  // namespace quillmark

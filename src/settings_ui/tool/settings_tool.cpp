@@ -1,9 +1,11 @@
 #include "settings_ui/tool/settings_tool.h"
 
-#include <filesystem>
 #include <memory>
 #include <utility>
 
+#include "command_line/bad_usage.h"
+#include "command_line/default_install_dir.h"
+#include "command_line/scoped_drives.h"
 #include "platform/drive_table.h"
 #include "platform/sys_text.h"
 #include "settings/register_base.h"
@@ -13,90 +15,76 @@ namespace quillmark {
 
 namespace {
 
-/// Puts a store in force for as long as the tool runs.
-class StoreInForce {
+/// Makes a store the current one for as long as it lives.
+class ScopedSettingsStore {
 public:
-    explicit StoreInForce(std::shared_ptr<SettingsStore> store) : before_(RegisterBase::store()) {
+    explicit ScopedSettingsStore(std::shared_ptr<SettingsStore> store)
+        : before_(RegisterBase::store()) {
         RegisterBase::setStore(std::move(store));
     }
-    StoreInForce(const StoreInForce&) = delete;
-    StoreInForce& operator=(const StoreInForce&) = delete;
-    ~StoreInForce() { RegisterBase::setStore(before_); }
+    ScopedSettingsStore(const ScopedSettingsStore&) = delete;
+    ScopedSettingsStore& operator=(const ScopedSettingsStore&) = delete;
+    ~ScopedSettingsStore() { RegisterBase::setStore(before_); }
 
 private:
     std::shared_ptr<SettingsStore> before_;
 };
 
-std::filesystem::path pathOf(const std::string& utf8) {
-    return {std::u8string(utf8.begin(), utf8.end())};
-}
-
-/// The installed support files lie beside the program's directory, in a build tree too.
-OrxString supportFiles(const std::string& executable) {
-    const std::filesystem::path found =
-        (pathOf(executable).parent_path() / "../share/dochtml").lexically_normal();
-    std::error_code ignored;
-    if (!std::filesystem::is_directory(found, ignored)) {
-        return {};
-    }
-    const std::u8string name = found.u8string();
-    return driverPath(std::string(name.begin(), name.end()));
-}
-
-void tell(std::ostream& errors, const std::string& line) {
+void report(std::ostream& errors, const std::string& line) {
     errors << "dochtml-settings: " << line << "\n";
 }
 
-ToolStatus runCommand(const ToolOptions& options, const ToolSurroundings& around) {
-    const auto store = std::make_shared<WatchedStore>(
+ToolStatus runCommand(const ToolOptions& options, const SettingsToolEnvironment& environment) {
+    const auto defaults = std::make_shared<DefaultInstallDir>(
         options.settingsFile ? makeIniSettingsStore(driverPath(*options.settingsFile))
                              : makeUserSettingsStore(),
-        supportFiles(around.executable));
-    const StoreInForce inForce(store);
-    // A damaged store is left as it is: what it means is not known, and a write could lose it.
+        environment.executable);
+    const auto store = std::make_shared<FailureRecordingStore>(defaults);
+    const ScopedSettingsStore current(store);
+    // A damaged store is not touched: a write could lose what it contains.
     if (const OrxString problem = store->problem(); !problem.isEmpty()) {
-        tell(around.errors, SysText::toUtf8(problem));
+        report(environment.errors, SysText::toUtf8(problem));
         return ToolStatus::failed;
     }
     const std::string place =
         options.settingsFile ? *options.settingsFile : SysText::toUtf8(userSettingsLocation());
-    const bool accepted = SettingsCommands(*store, place, around).run(options);
+    const bool accepted =
+        SettingsCommands(*store, defaults->directory(), place, environment).run(options);
     for (const OrxString& name : store->failures()) {
-        tell(around.errors, "cannot write " + SysText::toUtf8(name) + " to " + place);
+        report(environment.errors, "cannot write " + SysText::toUtf8(name) + " to " + place);
     }
     const bool kept = store->failures().empty();
     return accepted && kept ? ToolStatus::done : ToolStatus::failed;
 }
 
-ToolStatus run(std::span<const std::string> arguments, const ToolSurroundings& around) {
+ToolStatus run(std::span<const std::string> arguments, const SettingsToolEnvironment& environment) {
     const ToolOptions options = parseToolOptions(arguments);
     if (options.help) {
-        writeToolHelp(around.out);
+        writeToolHelp(environment.out);
         return ToolStatus::done;
     }
     if (options.version) {
-        around.out << "dochtml-settings " DOCHTML_VERSION "\n";
+        environment.out << "dochtml-settings " DOCHTML_VERSION "\n";
         return ToolStatus::done;
     }
-    for (const auto& [letter, directory] : options.drives) {
-        DriveTable::set(letter, directory);
-    }
-    return runCommand(options, around);
+    const ScopedDrives drives(options.drives);
+    return runCommand(options, environment);
 }
 
 }  // namespace
 
-ToolStatus runSettingsTool(std::span<const std::string> arguments, const ToolSurroundings& around) {
+ToolStatus runSettingsTool(std::span<const std::string> arguments,
+                           const SettingsToolEnvironment& environment) {
     ToolStatus status = ToolStatus::badUsage;
     try {
-        status = run(arguments, around);
+        status = run(arguments, environment);
     } catch (const BadUsage& usage) {
-        tell(around.errors, usage.what());
-        around.errors << "Try dochtml-settings --help.\n";
+        report(environment.errors, usage.what());
+        environment.errors << "Try dochtml-settings --help.\n";
     }
-    around.out.flush();
-    if (!around.out) {
-        tell(around.errors, "cannot write the output");
+    environment.out.flush();
+    if (!environment.out) {
+        report(environment.errors, "cannot write the output");
         return ToolStatus::failed;
     }
     return status;

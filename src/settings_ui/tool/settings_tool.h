@@ -7,21 +7,21 @@
 
 namespace quillmark {
 
-/// What the tool finds around itself.
-struct ToolSurroundings {
+/// The streams and the path of the tool.
+struct SettingsToolEnvironment {
     std::istream& in;
     std::ostream& out;
     std::ostream& errors;
-    /// Where the program lies (UTF-8); the support files are found from there.
+    /// The path of the program (UTF-8), from which the support files are found.
     std::string executable;
 };
 
-/// How a run ended: the exit status of the tool.
+/// The exit status of the tool.
 enum class ToolStatus : int { done = 0, failed = 1, badUsage = 2 };
 
-/// `dochtml-settings`: the settings page for a command line. `arguments` are those behind the
-/// program's name, in UTF-8. The store in force afterwards is the one that was before.
+/// Runs `dochtml-settings`, the settings page for the command line. `arguments` are UTF-8, without
+/// the program's name. Leaves the process's settings store as it found it.
 [[nodiscard]] ToolStatus runSettingsTool(std::span<const std::string> arguments,
-                                         const ToolSurroundings& around);
+                                         const SettingsToolEnvironment& environment);
 
 }  // namespace quillmark

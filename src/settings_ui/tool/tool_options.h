@@ -3,34 +3,28 @@
 #include <optional>
 #include <ostream>
 #include <span>
-#include <stdexcept>
 #include <string>
-#include <utility>
 #include <vector>
+
+#include "command_line/drive.h"
 
 namespace quillmark {
 
-/// A command line that cannot be followed; the text says why.
-class BadUsage : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// A command line of the settings tool, taken apart. Texts are UTF-8, as given.
+/// A command line of the settings tool, parsed and checked. Texts are UTF-8, as given.
 struct ToolOptions {
     std::string command;
-    /// What stands behind the command.
+    /// The arguments of the command.
     std::vector<std::string> operands;
     std::optional<std::string> settingsFile;
-    std::vector<std::pair<char, std::string>> drives;
+    std::vector<Drive> drives;
     bool help = false;
     bool version = false;
 };
 
-/// Takes the arguments behind the program's name apart. Throws `BadUsage`.
+/// Parses the arguments, without the program's name. Throws `BadUsage`.
 [[nodiscard]] ToolOptions parseToolOptions(std::span<const std::string> arguments);
 
-/// What `--help` shows.
+/// Writes the text that `--help` shows.
 void writeToolHelp(std::ostream& out);
 
 }  // namespace quillmark

@@ -1,4 +1,4 @@
-#include "replay/play/run_record.h"
+#include "replay/play/exception_monitor.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,10 +6,9 @@
 #include <optional>
 #include <sstream>
 
-#include "platform/drive_table.h"
-#include "replay/services/drives_in_force.h"
-#include "replay/services/registered_services.h"
-#include "replay/services/run_settings.h"
+#include "replay/play/document_counts.h"
+#include "replay/play/trace_monitor.h"
+#include "replay/services/settings_overlay.h"
 #include "replay/tool/messages.h"
 #include "support/memory_settings_store.h"
 
@@ -18,8 +17,8 @@ namespace {
 
 using ::testing::ElementsAre;
 
-TEST(HeardTrace, countsErrorLinesAndKeepsCallLines) {
-    HeardTrace trace(true);
+TEST(TraceMonitor, countsErrorLinesAndKeepsCallLines) {
+    TraceMonitor trace(true);
     trace.line(1, "ERR File not found: a\n");
     trace.line(1, "ERR: running zip.exe\n");
     trace.line(10, "dochtml->insertPageBreak();\n\n");
@@ -32,9 +31,9 @@ TEST(HeardTrace, countsErrorLinesAndKeepsCallLines) {
     EXPECT_EQ(trace.calls().size(), 0U);
 }
 
-TEST(HeardExceptions, tellsEachFailureThatWasCaught) {
+TEST(ExceptionMonitor, tellsEachFailureThatWasCaught) {
     std::vector<std::string> told;
-    HeardExceptions log([&](std::string_view reason) { told.emplace_back(reason); }, {});
+    ExceptionMonitor log([&](std::string_view reason) { told.emplace_back(reason); }, {});
     EXPECT_TRUE(log.records("Catch"));
     EXPECT_FALSE(log.records("Throw"));
     log.write("Exception catch: no disk\n");
@@ -42,11 +41,11 @@ TEST(HeardExceptions, tellsEachFailureThatWasCaught) {
     EXPECT_EQ(log.caught(), 1U);
 }
 
-TEST(HeardExceptions, writesBothCategoriesDownWhenAsked) {
+TEST(ExceptionMonitor, writesBothCategoriesDownWhenAsked) {
     std::vector<std::string> told;
     std::string written;
-    HeardExceptions log([&](std::string_view reason) { told.emplace_back(reason); },
-                        [&](std::string_view message) { written += message; });
+    ExceptionMonitor log([&](std::string_view reason) { told.emplace_back(reason); },
+                         [&](std::string_view message) { written += message; });
     EXPECT_TRUE(log.records("Throw"));
     log.write("Exception throw: no disk\n");
     log.write("Exception catch: no disk\n");
@@ -54,8 +53,8 @@ TEST(HeardExceptions, writesBothCategoriesDownWhenAsked) {
     EXPECT_THAT(told, ElementsAre("no disk"));
 }
 
-TEST(RunCounts, countsWhatBecameOfTheDocuments) {
-    RunCounts counts;
+TEST(DocumentCounts, countsWhatBecameOfTheDocuments) {
+    DocumentCounts counts;
     DocumentObserver& observer = counts;
     observer.pageWritten("a.htm");
     observer.pageWritten("b.htm");
@@ -72,7 +71,7 @@ TEST(RunCounts, countsWhatBecameOfTheDocuments) {
 TEST(Messages, areOneLineEach) {
     std::ostringstream stream;
     Messages messages(stream, false);
-    messages.tell("a\nb\x1B[31m\x7F\xC3\xA4");
+    messages.write("a\nb\x1B[31m\x7F\xC3\xA4");
     EXPECT_EQ(stream.str(), "a b?[31m?\xC3\xA4\n");
 }
 
@@ -92,13 +91,13 @@ TEST(Messages, countInWords) {
     EXPECT_EQ(counted(5, "contents entry", "contents entries"), "5 contents entries");
 }
 
-class RunSettingsTest : public ::testing::Test {
+class SettingsOverlayTest : public ::testing::Test {
 protected:
     std::shared_ptr<MemorySettingsStore> store_ = std::make_shared<MemorySettingsStore>();
-    RunSettings settings_{store_};
+    SettingsOverlay settings_{store_};
 };
 
-TEST_F(RunSettingsTest, standOverTheStore) {
+TEST_F(SettingsOverlayTest, standOverTheStore) {
     ASSERT_TRUE(store_->write("Html", "Navig", "1"));
     EXPECT_EQ(settings_.read("Html", "Navig"), OrxString("1"));
     settings_.set("html", "NAVIG", "2");
@@ -107,56 +106,15 @@ TEST_F(RunSettingsTest, standOverTheStore) {
     EXPECT_EQ(store_->read("Html", "Navig"), OrxString("1"));
 }
 
-TEST_F(RunSettingsTest, mayBeSetToAnEmptyText) {
+TEST_F(SettingsOverlayTest, mayBeSetToAnEmptyText) {
     ASSERT_TRUE(store_->write("Html", "StyleSheet", "a.css"));
     settings_.set("Html", "StyleSheet", "");
     EXPECT_EQ(settings_.read("Html", "StyleSheet"), OrxString(""));
 }
 
-TEST_F(RunSettingsTest, supplyWhatTheStoreDoesNotHave) {
-    settings_.supply("Settings", "InstallDir", "inst");
-    EXPECT_EQ(settings_.read("Settings", "installdir"), OrxString("inst"));
-    ASSERT_TRUE(store_->write("Settings", "InstallDir", ""));
-    EXPECT_EQ(settings_.read("Settings", "InstallDir"), OrxString("inst"));
-    ASSERT_TRUE(store_->write("Settings", "InstallDir", "own"));
-    EXPECT_EQ(settings_.read("Settings", "InstallDir"), OrxString("own"));
-    EXPECT_EQ(settings_.read("Settings", "HelpFile"), std::nullopt);
-}
-
-TEST_F(RunSettingsTest, writeToTheStore) {
+TEST_F(SettingsOverlayTest, writeToTheStore) {
     EXPECT_TRUE(settings_.write("Html", "Navig", "2"));
     EXPECT_EQ(store_->read("Html", "Navig"), OrxString("2"));
-}
-
-TEST(DrivesInForce, areInTheTableForTheirLifeOnly) {
-    {
-        const DrivesInForce drives({{'C', "/first"}, {'D', "/other"}, {'c', "/second"}});
-        EXPECT_EQ(DriveTable::find('C'), "/second");
-        EXPECT_EQ(DriveTable::find('D'), "/other");
-    }
-    EXPECT_EQ(DriveTable::find('C'), std::nullopt);
-    EXPECT_EQ(DriveTable::find('D'), std::nullopt);
-}
-
-TEST(RegisteredServices, areInForceForTheirLifeOnly) {
-    OrxExceptionLog* const earlierLog = OrxException::getLog();
-    HeardExceptions log([](std::string_view) {}, {});
-    RunCounts counts;
-    HostServices services;
-    services.settings = std::make_shared<MemorySettingsStore>();
-    services.profilePath = "my.ini";
-    services.exceptionLog = &log;
-    services.observer = &counts;
-    {
-        const RegisteredServices registered(services);
-        EXPECT_EQ(OrxException::getLog(), &log);
-        EXPECT_EQ(&DocumentObserver::current(), &counts);
-        ASSERT_NE(AppProfileInterface::getInterface(), nullptr);
-        EXPECT_EQ(AppProfileInterface::getInterface()->profilePath(), "my.ini");
-    }
-    EXPECT_EQ(OrxException::getLog(), earlierLog);
-    EXPECT_NE(&DocumentObserver::current(), &counts);
-    EXPECT_EQ(AppProfileInterface::getInterface(), nullptr);
 }
 
 }  // namespace

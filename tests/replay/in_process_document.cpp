@@ -1,4 +1,4 @@
-#include "replay/play/in_process_document.h"
+#include "replay/in_process_document.h"
 
 #include <utility>
 

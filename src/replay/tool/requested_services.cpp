@@ -1,26 +1,21 @@
-#include "replay/services/run_services.h"
+#include "replay/tool/requested_services.h"
 
-#include <system_error>
+#include <filesystem>
 
-#include "platform/drive_table.h"
+#include "command_line/default_install_dir.h"
 #include "platform/sys_text.h"
 #include "replay/input/bad_input.h"
-#include "replay/services/run_settings.h"
+#include "replay/services/settings_overlay.h"
 #include "settings/settings_table.h"
 
 namespace quillmark::replay {
 
 namespace {
 
-/// The installed support files lie beside the program's directory, in a build tree too.
-std::filesystem::path supportFiles(const std::string& executable) {
-    return (pathFrom(executable).parent_path() / "../share/dochtml").lexically_normal();
-}
-
 std::shared_ptr<SettingsStore> openStore(const Options& options, const OptionFiles& files) {
     std::shared_ptr<SettingsStore> store;
     if (options.settingsFile) {
-        // A pipe could be read only once, and settings are read when they are asked for.
+        // A pipe can be read only once, but settings are read whenever they are needed.
         const std::filesystem::path file = files.native(*options.settingsFile);
         if (!std::filesystem::exists(file) || std::filesystem::is_directory(file) ||
             std::filesystem::is_fifo(file)) {
@@ -36,13 +31,10 @@ std::shared_ptr<SettingsStore> openStore(const Options& options, const OptionFil
     return store;
 }
 
-std::shared_ptr<RunSettings> makeSettings(const Options& options, const OptionFiles& files,
-                                          const std::string& executable) {
-    auto settings = std::make_shared<RunSettings>(openStore(options, files));
-    const std::filesystem::path support = supportFiles(executable);
-    if (std::filesystem::is_directory(support)) {
-        settings->supply(settingsGroup, "InstallDir", driverPath(utf8Path(support)));
-    }
+std::shared_ptr<SettingsOverlay> makeSettings(const Options& options, const OptionFiles& files,
+                                              const std::string& executable) {
+    auto settings = std::make_shared<SettingsOverlay>(
+        std::make_shared<DefaultInstallDir>(openStore(options, files), executable));
     for (const Options::Setting& setting : options.settings) {
         settings->set(
             SysText::fromUtf8(setting.group), SysText::fromUtf8(setting.name),
@@ -56,8 +48,8 @@ std::shared_ptr<RunSettings> makeSettings(const Options& options, const OptionFi
 
 }  // namespace
 
-RunServices::RunServices(const Options& options, const OptionFiles& files,
-                         const std::string& executable) {
+RequestedServices::RequestedServices(const Options& options, const OptionFiles& files,
+                                     const std::string& executable) {
     services_.settings = makeSettings(options, files, executable);
     services_.drives = files.allDrives();
     if (options.iniFile) {
@@ -72,18 +64,6 @@ RunServices::RunServices(const Options& options, const OptionFiles& files,
         imageMaps_.emplace(files.native(*options.imageMapFile), *options.imageMapFile);
         services_.imageMaps = &*imageMaps_;
     }
-}
-
-bool LateFile::write(std::string_view text) {
-    if (!file_.is_open() && !told_) {
-        std::error_code failure;
-        std::filesystem::create_directories(name_.parent_path(), failure);
-        file_.open(name_, std::ios::binary | std::ios::trunc);
-    }
-    file_ << text << std::flush;
-    const bool failsNow = !file_ && !told_;
-    told_ = told_ || failsNow;
-    return !failsNow;
 }
 
 }  // namespace quillmark::replay

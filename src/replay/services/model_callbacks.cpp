@@ -1,7 +1,7 @@
 #include "replay/services/callback_guard.h"
-#include "replay/services/lent_records.h"
+#include "replay/services/service_callbacks.h"
 
-// The model's objects and classes cross the boundary as their own addresses.
+// Objects and classes of the model are passed to the component as addresses.
 
 namespace quillmark::replay {
 
@@ -27,7 +27,7 @@ HRESULT answered(Body body) noexcept {
     });
 }
 
-/// Asks an attribute for its value; one that is not there has none.
+/// Reads the value of an attribute; a missing one has the default of its type.
 template <typename Value, typename Ask>
 HRESULT askAttribute(DochtmlObject object, const DochtmlText* name, Value* value, Ask ask) {
     return answered([&] {
@@ -48,7 +48,7 @@ HRESULT findClassOf(void* /*context*/, DochtmlObject object, DochtmlClass* found
     return answered([&] { *found = objectOf(object).getClass(); });
 }
 
-HRESULT tellClassName(void* /*context*/, DochtmlClass modelClass, const DochtmlSink* name) {
+HRESULT getClassName(void* /*context*/, DochtmlClass modelClass, const DochtmlSink* name) {
     return answered([&] { answer(name, classOf(modelClass).name()); });
 }
 
@@ -69,28 +69,27 @@ HRESULT hasAttribute(void* /*context*/, DochtmlObject object, const DochtmlText*
     return answered([&] { *exists = objectOf(object)[viewOf(attribute)] != nullptr ? 1 : 0; });
 }
 
-HRESULT tellText(void* /*context*/, DochtmlObject object, const DochtmlText* name,
-                 const DochtmlSink* value) {
+HRESULT getText(void* /*context*/, DochtmlObject object, const DochtmlText* name,
+                const DochtmlSink* value) {
     return answered([&] {
         const MMAttribute* const attribute = objectOf(object)[viewOf(name)];
         answer(value, attribute == nullptr ? OrxString() : attribute->asString());
     });
 }
 
-HRESULT tellBoolean(void* /*context*/, DochtmlObject object, const DochtmlText* name,
-                    std::int32_t* value) {
+HRESULT getBoolean(void* /*context*/, DochtmlObject object, const DochtmlText* name,
+                   std::int32_t* value) {
     return askAttribute(object, name, value,
                         [](const MMAttribute& attribute) { return attribute.asBoolean() ? 1 : 0; });
 }
 
-HRESULT tellLong(void* /*context*/, DochtmlObject object, const DochtmlText* name,
-                 std::int32_t* value) {
+HRESULT getLong(void* /*context*/, DochtmlObject object, const DochtmlText* name,
+                std::int32_t* value) {
     return askAttribute(object, name, value,
                         [](const MMAttribute& attribute) { return attribute.asLongInt(); });
 }
 
-HRESULT tellDouble(void* /*context*/, DochtmlObject object, const DochtmlText* name,
-                   double* value) {
+HRESULT getDouble(void* /*context*/, DochtmlObject object, const DochtmlText* name, double* value) {
     return askAttribute(object, name, value,
                         [](const MMAttribute& attribute) { return attribute.asDouble(); });
 }
@@ -105,20 +104,20 @@ HRESULT findAssociated(void* /*context*/, DochtmlObject object, const DochtmlTex
 
 }  // namespace
 
-DochtmlModel recordOf(const MMSchema& schema) {
+DochtmlModel callbacksOf(const MMSchema& schema) {
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): never written through.
     return {const_cast<MMSchema*>(&schema),
             &findObject,
             &findClass,
             &findClassOf,
-            &tellClassName,
+            &getClassName,
             &hasClassAttribute,
             &hasClassAssociation,
             &hasAttribute,
-            &tellText,
-            &tellBoolean,
-            &tellLong,
-            &tellDouble,
+            &getText,
+            &getBoolean,
+            &getLong,
+            &getDouble,
             &findAssociated};
 }
 

@@ -8,26 +8,26 @@
 
 namespace quillmark {
 
-/// A store that remembers which writes failed: the page looks at none of them. It also answers
-/// for the installation directory, when that is set nowhere, with the one given.
-class WatchedStore : public SettingsStore {
+/// Passes everything on to another store and records which writes failed, because the settings
+/// page ignores failed writes.
+class FailureRecordingStore : public SettingsStore {
 public:
-    WatchedStore(std::shared_ptr<SettingsStore> store, OrxString installDir)
-        : store_(std::move(store)), installDir_(std::move(installDir)) {}
+    explicit FailureRecordingStore(std::shared_ptr<SettingsStore> store)
+        : store_(std::move(store)) {}
 
     [[nodiscard]] std::optional<OrxString> read(const OrxString& group,
-                                                const OrxString& name) const override;
+                                                const OrxString& name) const override {
+        return store_->read(group, name);
+    }
     [[nodiscard]] bool write(const OrxString& group, const OrxString& name,
                              const OrxString& value) override;
     [[nodiscard]] OrxString problem() const override { return store_->problem(); }
 
     /// "GROUP.NAME" of each failed write, in order.
     [[nodiscard]] const std::vector<OrxString>& failures() const noexcept { return failures_; }
-    [[nodiscard]] const OrxString& installDir() const noexcept { return installDir_; }
 
 private:
     std::shared_ptr<SettingsStore> store_;
-    OrxString installDir_;
     std::vector<OrxString> failures_;
 };
 

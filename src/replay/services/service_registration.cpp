@@ -1,9 +1,9 @@
-#include "replay/services/component_services.h"
+#include "replay/services/service_registration.h"
 
 #include <utility>
 
 #include "dochtml/client.h"
-#include "replay/services/lent_records.h"
+#include "replay/services/service_callbacks.h"
 
 namespace quillmark::replay {
 
@@ -11,67 +11,67 @@ namespace {
 
 void check(HRESULT result) {
     if (FAILED(result)) {
-        throw ComponentError("the component does not take a service", result);
+        throw ComponentError("the component refused a host service", result);
     }
 }
 
-DochtmlText lend(std::string_view text) noexcept {
+DochtmlText textOf(std::string_view text) noexcept {
     return {text.data(), text.size()};
 }
 
 }  // namespace
 
-ComponentServices::ComponentServices(ComPointer<IHostServices> component, HostServices services)
+ServiceRegistration::ServiceRegistration(ComPointer<IHostServices> component, HostServices services)
     : component_(std::move(component)), services_(std::move(services)) {
     if (component_) {
-        lend();
+        provide();
     }
 }
 
-void ComponentServices::lend() {
+void ServiceRegistration::provide() {
     if (services_.settings != nullptr) {
-        const DochtmlSettingsStore record = recordOf(*services_.settings);
+        const DochtmlSettingsStore record = callbacksOf(*services_.settings);
         check(component_->setSettingsStore(&record));
     }
     if (services_.profilePath) {
-        const DochtmlText path = replay::lend(*services_.profilePath);
+        const DochtmlText path = textOf(*services_.profilePath);
         check(component_->setProfilePath(&path));
     }
     if (services_.imageMaps != nullptr) {
-        const DochtmlImageMaps record = recordOf(*services_.imageMaps);
+        const DochtmlImageMaps record = callbacksOf(*services_.imageMaps);
         check(component_->setImageMaps(&record));
     }
     if (services_.model != nullptr) {
-        const DochtmlModel record = recordOf(*services_.model);
+        const DochtmlModel record = callbacksOf(*services_.model);
         check(component_->setModel(&record));
     }
     check(component_->setSchemaType(services_.schemaType));
-    for (const HostServices::Drive& drive : services_.drives) {
-        const DochtmlText directory = replay::lend(drive.directory);
+    for (const Drive& drive : services_.drives) {
+        const DochtmlText directory = textOf(drive.directory);
         check(component_->setDrive(drive.letter, &directory));
     }
     if (services_.traceListener != nullptr) {
-        const DochtmlTraceListener record = recordOf(*services_.traceListener);
+        const DochtmlTraceListener record = callbacksOf(*services_.traceListener);
         check(component_->setTraceListener(&record));
     }
     if (services_.exceptionLog != nullptr) {
-        const DochtmlExceptionLog record = recordOf(*services_.exceptionLog);
+        const DochtmlExceptionLog record = callbacksOf(*services_.exceptionLog);
         check(component_->setExceptionLog(&record));
     }
     if (services_.observer != nullptr) {
-        const DochtmlObserver record = recordOf(*services_.observer);
+        const DochtmlObserver record = callbacksOf(*services_.observer);
         check(component_->setObserver(&record));
     }
 }
 
-ComponentServices::~ComponentServices() {
+ServiceRegistration::~ServiceRegistration() {
     if (!component_) {
         return;
     }
     component_->setObserver(nullptr);
     component_->setExceptionLog(nullptr);
     component_->setTraceListener(nullptr);
-    for (const HostServices::Drive& drive : services_.drives) {
+    for (const Drive& drive : services_.drives) {
         component_->setDrive(drive.letter, nullptr);
     }
     component_->setSchemaType(0);

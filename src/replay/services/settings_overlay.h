@@ -9,15 +9,13 @@
 
 namespace quillmark::replay {
 
-/// The settings of one run: what the command line sets stands over the store, and what it
-/// supplies stands in for what the store does not have. Writes go to the store.
-class RunSettings final : public SettingsStore {
+/// A settings store with values laid over it for one run. A value set here hides the stored one.
+/// Writes go to the store.
+class SettingsOverlay final : public SettingsStore {
 public:
-    explicit RunSettings(std::shared_ptr<SettingsStore> store);
+    explicit SettingsOverlay(std::shared_ptr<SettingsStore> store);
 
     void set(const OrxString& group, const OrxString& name, const OrxString& value);
-    /// Answers for a setting that is set nowhere, or set to an empty text.
-    void supply(const OrxString& group, const OrxString& name, const OrxString& value);
 
     [[nodiscard]] std::optional<OrxString> read(const OrxString& group,
                                                 const OrxString& name) const override;
@@ -26,11 +24,8 @@ public:
     [[nodiscard]] OrxString problem() const override { return store_->problem(); }
 
 private:
-    using Values = std::map<std::pair<OrxString, OrxString>, OrxString>;
-
     std::shared_ptr<SettingsStore> store_;
-    Values set_;
-    Values supplied_;
+    std::map<std::pair<OrxString, OrxString>, OrxString> values_;
 };
 
 }  // namespace quillmark::replay

@@ -1,4 +1,4 @@
-#include "replay/services/lent_records.h"
+#include "replay/services/service_callbacks.h"
 
 #include "replay/services/callback_guard.h"
 
@@ -77,23 +77,23 @@ void hearUnresolved(void* context, const DochtmlText* fileName, size_t count) {
 
 }  // namespace
 
-DochtmlSettingsStore recordOf(SettingsStore& store) {
+DochtmlSettingsStore callbacksOf(SettingsStore& store) {
     return {&store, &readSetting, &writeSetting};
 }
 
-DochtmlImageMaps recordOf(CImageMapInterface& maps) {
+DochtmlImageMaps callbacksOf(CImageMapInterface& maps) {
     return {&maps, &findRegions};
 }
 
-DochtmlTraceListener recordOf(TraceListener& listener) {
+DochtmlTraceListener callbacksOf(TraceListener& listener) {
     return {&listener, listener.level(), &hearLine};
 }
 
-DochtmlExceptionLog recordOf(OrxExceptionLog& log) {
+DochtmlExceptionLog callbacksOf(OrxExceptionLog& log) {
     return {&log, &recordsCategory, &writeMessage};
 }
 
-DochtmlObserver recordOf(DocumentObserver& observer) {
+DochtmlObserver callbacksOf(DocumentObserver& observer) {
     return {&observer, &hearPage, &hearCopy, &hearEntry, &hearUnresolved};
 }
 

@@ -1,7 +1,7 @@
-"""The replay tool where its surroundings fail: streams that cannot be read or written, names that
-the driver cannot hold, stores that mean nothing.
+"""The replay tool in a failing environment: streams that cannot be read or written, names that
+the driver cannot hold, damaged settings stores.
 
-    surroundings_test.py REPLAY-TOOL"""
+    environment_test.py REPLAY-TOOL"""
 
 import os
 import pathlib
@@ -14,7 +14,7 @@ TOOL = sys.argv[1]
 CALLS = '["create","rep.htm"]\n["insertText","a"]\n["getDocType"]\n["close"]\n'
 
 
-class Surroundings(unittest.TestCase):
+class Environment(unittest.TestCase):
     def setUp(self):
         directory = tempfile.TemporaryDirectory()
         self.addCleanup(directory.cleanup)
@@ -22,12 +22,12 @@ class Surroundings(unittest.TestCase):
         self.store = self.work / "config" / "quillmark" / "settings.ini"
         (self.work / "calls").write_text(CALLS)
 
-    def play(self, order, cwd=None, quiet=True):
-        """Runs a shell's order in which TOOL stands for the tool; answers with status and errors."""
+    def play(self, command, cwd=None, quiet=True):
+        """Runs a shell command in which TOOL is replaced by the tool; returns status and errors."""
         environment = dict(os.environ, XDG_CONFIG_HOME=str(self.work / "config"))
         environment["XDG_DATA_HOME"] = str(self.work / "data")
         ended = subprocess.run(
-            ["sh", "-c", order.replace("TOOL", f"'{TOOL}'" + " -q" * quiet)],
+            ["sh", "-c", command.replace("TOOL", f"'{TOOL}'" + " -q" * quiet)],
             env=environment,
             cwd=cwd or self.work,
             stderr=subprocess.PIPE,
@@ -41,13 +41,13 @@ class Surroundings(unittest.TestCase):
         self.assertEqual(self.play("TOOL - <&-"), refused)
         self.assertEqual(self.play("TOOL - </"), refused)
 
-    def test_answers_that_cannot_be_written_are_told(self):
+    def test_answers_that_cannot_be_written_are_reported(self):
         failed = (1, "dochtml-replay: cannot write the output\n")
         self.assertEqual(self.play("TOOL calls >/dev/full"), failed)
         self.assertEqual(self.play("TOOL calls >&-"), failed)
         self.assertEqual(self.play("TOOL --help >/dev/full"), failed)
 
-    def test_a_trace_that_the_disk_does_not_take_is_told_once(self):
+    def test_a_trace_that_cannot_be_written_is_reported_once(self):
         failed = (1, "dochtml-replay: Error writing to file: \\dev\\full\n")
         self.assertEqual(self.play("TOOL --trace 10 --log /dev/full calls"), failed)
         stream = '["trace",10]\n' + CALLS
@@ -57,12 +57,12 @@ class Surroundings(unittest.TestCase):
     def test_names_that_the_driver_cannot_hold_are_refused(self):
         status, errors = self.play("TOOL -o 日.htm calls")
         self.assertEqual(status, 2)
-        self.assertRegex(errors, "8-bit code page cannot hold: .*/日.htm\n$")
+        self.assertRegex(errors, "8-bit code page cannot hold the file name .*/日.htm\n$")
         strange = self.work / "日"
         strange.mkdir()
         status, errors = self.play("TOOL ../calls", cwd=strange)
         self.assertEqual(status, 2)
-        self.assertRegex(errors, "8-bit code page cannot hold: .*/日\n$")
+        self.assertRegex(errors, "8-bit code page cannot hold the file name .*/日\n$")
         self.assertEqual(sorted(path.name for path in self.work.iterdir()), ["calls", "日"])
 
     def test_a_working_directory_that_is_gone_is_refused(self):
@@ -70,9 +70,9 @@ class Surroundings(unittest.TestCase):
         gone.mkdir()
         status, errors = self.play("rmdir ../gone; TOOL ../calls", cwd=gone)
         self.assertEqual(status, 2)
-        self.assertRegex(errors, "^dochtml-replay: the working directory cannot be told: ")
+        self.assertRegex(errors, "^dochtml-replay: cannot determine the current directory: ")
 
-    def test_a_store_of_the_users_own_that_means_nothing_is_refused(self):
+    def test_a_damaged_store_of_the_user_is_refused(self):
         self.store.parent.mkdir(parents=True)
         self.store.write_text("oops\n")
         status, errors = self.play("TOOL calls")
@@ -84,7 +84,7 @@ class Surroundings(unittest.TestCase):
         self.assertEqual(status, 2)
         self.assertRegex(errors, "Cannot read the settings file ")
 
-    def test_a_setting_that_is_none_is_told_and_does_no_harm(self):
+    def test_an_unknown_setting_is_reported_and_does_no_harm(self):
         status, errors = self.play("TOOL --set Html.Navigg=2 calls")
         self.assertEqual((status, errors), (0, ""))
         status, errors = self.play("TOOL --set html.navig=2 --set Html.Navigg=2 calls", quiet=False)
