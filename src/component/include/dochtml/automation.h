@@ -1,15 +1,15 @@
 #ifndef DOCHTML_AUTOMATION_H
 #define DOCHTML_AUTOMATION_H
 
-/* The types of the component's boundary, for C (C11 or later) and C++.
+/* The types of the component's boundary, for C (C11 or later) and C++: 32-bit result codes,
+ * interface and class identifiers, length-prefixed wide texts (`BSTR`) and the variant values of
+ * late-bound calls.
  *
- * On Windows they are the system's own. Elsewhere the headers named below declare the same types
- * under the same names and with the same layout rules, so that a host's source is one for both:
- * 32-bit result codes, interface and class identifiers, length-prefixed wide texts (`BSTR`) and
- * the variant values of late-bound calls.
+ * On Windows they are the system's own. Elsewhere the headers included below declare the same types
+ * with the same names and layout rules, so that the same host source compiles on every system.
  */
 
-/* How an identifier begins that is a constant of every source file that includes it. */
+/* Starts the definition of an identifier as a constant in each source file that includes it. */
 #ifdef __cplusplus
 #define DOCHTML_IDENTIFIER inline constexpr
 #else
@@ -23,12 +23,12 @@
 #ifndef NOMINMAX
 #define NOMINMAX
 #endif
-/* The first brings the types that the second needs. */
+/* In this order: oleauto.h needs types from objbase.h. */
 #include <objbase.h>
 #include <oleauto.h>
 #else
 #include "dochtml/automation_types.h"
-/* The functions need the types. */
+/* In this order: the functions need the types. */
 #include "dochtml/automation_functions.h"
 #ifdef __cplusplus
 #include "dochtml/automation_interfaces.h"

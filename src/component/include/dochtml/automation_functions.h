@@ -1,9 +1,10 @@
 #ifndef DOCHTML_AUTOMATION_FUNCTIONS_H
 #define DOCHTML_AUTOMATION_FUNCTIONS_H
 
-/* The boundary's helpers on systems that have none of their own. Include dochtml/automation.h.
+/* The functions for texts and variants, for systems that do not provide them. Include
+ * dochtml/automation.h instead of this file.
  *
- * Texts come from `malloc`, so both sides of the boundary must use one C library.
+ * Texts are allocated with `malloc`, so host and component must use the same C library.
  */
 
 #include <stdlib.h>
@@ -11,7 +12,8 @@
 
 #include "dochtml/automation_types.h"
 
-/* Room in front of a text: its length in bytes, kept so that the text stays aligned. */
+/* Bytes before a text's first unit. The last four hold its length in bytes; the rest keeps the
+ * text aligned. */
 #define DOCHTML_TEXT_PREFIX 8U
 
 static inline UINT SysStringByteLen(BSTR text) {
@@ -22,13 +24,13 @@ static inline UINT SysStringByteLen(BSTR text) {
     return bytes;
 }
 
-/* The length in UTF-16 units, without the closing zero; 0 for the null text. */
+/* The length in UTF-16 units, without the terminating zero; 0 for a null text. */
 static inline UINT SysStringLen(BSTR text) {
     return SysStringByteLen(text) / (UINT)sizeof(OLECHAR);
 }
 
-/* A new text of `length` units, copied from `units` when that is not null. Null when out of
- * memory. */
+/* Allocates a text of `length` units, copied from `units`, or all zeros when `units` is null.
+ * Returns null when out of memory. */
 static inline BSTR SysAllocStringLen(const OLECHAR* units, UINT length) {
     if (length > (UINT32_MAX - DOCHTML_TEXT_PREFIX) / sizeof(OLECHAR) - 1) {
         return NULL;
@@ -49,7 +51,7 @@ static inline BSTR SysAllocStringLen(const OLECHAR* units, UINT length) {
     return (BSTR)(void*)text;
 }
 
-/* A new text from a zero-terminated one; null for null. */
+/* Copies a zero-terminated text. Returns null for null, or when out of memory. */
 static inline BSTR SysAllocString(const OLECHAR* text) {
     UINT length = 0;
     if (text == NULL) {

@@ -1,12 +1,12 @@
 #ifndef DOCHTML_AUTOMATION_INTERFACES_H
 #define DOCHTML_AUTOMATION_INTERFACES_H
 
-/* The boundary's basic interfaces for C++ on systems that have none of their own. Include
- * dochtml/automation.h.
+/* The basic interfaces for C++, for systems that do not provide them. Include dochtml/automation.h
+ * instead of this file.
  *
- * An interface is a pointer to a table of functions in the order written here, each taking the
- * interface pointer first. Reference counting follows the usual rules: a pointer handed out is
- * counted for the receiver, who calls `Release` when done.
+ * An interface pointer points to a pointer to a table of functions, in the order declared here.
+ * Each function takes the interface pointer first. Reference counting follows the usual rules: a
+ * pointer that a function returns is counted for the caller, who calls `Release` when done.
  */
 
 #include "dochtml/automation_functions.h"
@@ -18,7 +18,7 @@ inline bool IsEqualIID(const IID& a, const IID& b) {
     return a == b;
 }
 
-// Objects are let go of with `Release`, never deleted through an interface.
+// Release an object with `Release`; never delete it through an interface.
 struct IUnknown {
     virtual HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) = 0;
     virtual ULONG STDMETHODCALLTYPE AddRef() = 0;
@@ -29,7 +29,8 @@ protected:
 };
 
 struct IClassFactory : IUnknown {
-    /// Makes an object, inside `outer` when that is not null; then only `IUnknown` may be asked.
+    /// Creates an object. A non-null `outer` aggregates the new object; `iid` must then be
+    /// `IID_IUnknown`.
     virtual HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid,
                                                      void** object) = 0;
     virtual HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) = 0;
@@ -51,7 +52,7 @@ protected:
     ~IDispatch() = default;
 };
 
-/// Empties a variant, letting go of what it owns.
+/// Releases what a variant owns and makes it empty.
 inline HRESULT VariantClear(VARIANT* variant) {
     if (variant->vt == VT_BSTR) {
         SysFreeString(variant->bstrVal);

@@ -1,12 +1,13 @@
 #ifndef DOCHTML_AUTOMATION_TYPES_H
 #define DOCHTML_AUTOMATION_TYPES_H
 
-/* The boundary's data types on systems that have none of their own. Include dochtml/automation.h.
- * In C they need C11: `VARIANT` has an unnamed part, and texts are of `char16_t`.
+/* The data types of the boundary, for systems that do not provide them. Include
+ * dochtml/automation.h instead of this file. C code needs C11: `VARIANT` has an unnamed union, and
+ * texts consist of `char16_t`.
  *
- * A `BSTR` points at UTF-16 units that are followed by a zero unit and preceded by the text's
- * length in bytes as 32 bits. It may hold zero units. The null pointer is an empty text. Whoever
- * receives one as an out value frees it with `SysFreeString`.
+ * A `BSTR` points to the first UTF-16 unit of a text. The text's length in bytes precedes it as a
+ * 32-bit number, and a zero unit follows it. The text itself may contain zero units. A null pointer
+ * is an empty text. The receiver of an out parameter frees the text with `SysFreeString`.
  */
 
 #include <stdint.h>
@@ -102,7 +103,7 @@ DOCHTML_IDENTIFIER IID IID_IDispatch = {0x00020400, 0x0000, 0x0000, {0xC0, 0, 0,
 #define VARIANT_TRUE ((VARIANT_BOOL)-1)
 #define VARIANT_FALSE ((VARIANT_BOOL)0)
 
-/* The default property of an object. */
+/* Identifies the default property of an object. */
 #define DISPID_VALUE 0
 #define DISPID_UNKNOWN (-1)
 #define DISPID_PROPERTYPUT (-3)
@@ -111,7 +112,7 @@ DOCHTML_IDENTIFIER IID IID_IDispatch = {0x00020400, 0x0000, 0x0000, {0xC0, 0, 0,
 #define DISPATCH_PROPERTYPUT 0x4
 #define DISPATCH_PROPERTYPUTREF 0x8
 
-/* What a variant holds. `VT_BYREF` is added for a reference to such a value. */
+/* The type of a variant's value. `VT_BYREF` is added for a reference to such a value. */
 enum VARENUM {
     VT_EMPTY = 0,
     VT_NULL = 1,
@@ -148,7 +149,7 @@ struct IUnknown;
 struct IDispatch;
 struct ITypeInfo;
 
-/* Days since 30 December 1899; behind the point stands the time of the day. */
+/* Days since 30 December 1899; the fraction is the time of day. */
 typedef double DATE;
 
 /* An amount of money, in ten-thousandths. */
@@ -156,8 +157,8 @@ typedef struct CY {
     int64_t int64;
 } CY;
 
-/* A number of 96 bits, divided by ten to the power `scale` (0 to 28). `sign` is 0, or 0x80 for a
- * negative one. A variant that holds one is a copy of it, with `VT_DECIMAL` as its `vt`. */
+/* A 96-bit integer divided by ten to the power of `scale` (0 to 28). `sign` is 0, or 0x80 for a
+ * negative number. It fills a whole variant: `vt` of the variant overlays `wReserved`. */
 typedef struct DECIMAL {
     WORD wReserved;
     uint8_t scale;
@@ -166,7 +167,7 @@ typedef struct DECIMAL {
     uint64_t Lo64;
 } DECIMAL;
 
-/* A variant has room for two pointers: hosts know its size. */
+/* Gives a variant the size that hosts expect: its value has room for two pointers. */
 typedef struct VariantRoom {
     void* data;
     void* record;
@@ -208,7 +209,7 @@ typedef struct VARIANT {
 } VARIANT;
 typedef VARIANT VARIANTARG;
 
-/* The arguments of a late-bound call: the last one first, the named ones at the front. */
+/* The arguments of a late-bound call: first the named ones, then the others from last to first. */
 typedef struct DISPPARAMS {
     VARIANTARG* rgvarg;
     DISPID* rgdispidNamedArgs;
@@ -216,7 +217,7 @@ typedef struct DISPPARAMS {
     UINT cNamedArgs;
 } DISPPARAMS;
 
-/* Never filled in by this component: no operation fails across the boundary. */
+/* This component never fills it in, because no operation reports an error to its caller. */
 typedef struct EXCEPINFO {
     WORD wCode;
     WORD wReserved;

@@ -1,17 +1,17 @@
 #ifndef DOCHTML_CALLBACKS_H
 #define DOCHTML_CALLBACKS_H
 
-/* What a host can lend the component: records of callbacks, for C and C++.
+/* The services that a host can provide to the component: records of callbacks, for C and C++.
  *
- * A record is copied when it is handed in; its `context` goes back into every call. It must stay
- * valid until the service is replaced or taken back, and after that until every call to a document
- * that was going on in another thread at that moment has returned: such a call may still use the
- * service. Once all documents' threads are between calls, nothing of it is called any more.
+ * The component copies a record that it receives and passes the record's `context` to every
+ * callback. The context must stay valid until the service is replaced or removed. A document call
+ * that is running in another thread at that moment may still use the old service, so the context
+ * must also outlive all such calls. After that, none of the old callbacks is called again.
  *
- * A callback must not throw. It may come on any thread that drives a document, on several at once,
- * and has the default calling convention of C. Texts are 8-bit, in the code page
- * of the driver (the system's ANSI code page on Windows, Windows-1252 elsewhere), and are valid
- * during the call only.
+ * A callback must not throw. It runs on the thread that calls the document, so callbacks may run on
+ * several threads at once. It has the default calling convention of C. Texts are 8-bit, in the
+ * driver's code page (the system's ANSI code page on Windows, Windows-1252 elsewhere), and are
+ * valid only during the call.
  */
 
 #include <stddef.h>
@@ -23,25 +23,26 @@
 extern "C" {
 #endif
 
-/* A text on loan. It need not end in a zero. */
+/* A text that the receiver does not own. It need not be zero-terminated. */
 typedef struct DochtmlText {
     const char* data;
     size_t size;
 } DochtmlText;
 
-/* Takes a text that a callback answers with: call `put` once, during the callback. */
+/* Receives the text that a callback returns: call `put` during the callback, once unless the
+ * callback says otherwise. */
 typedef struct DochtmlSink {
     void* context;
     void (*put)(void* context, const DochtmlText* text);
 } DochtmlSink;
 
-/* The settings store, in the place of the user's own. */
+/* A settings store that replaces the user's own. */
 typedef struct DochtmlSettingsStore {
     void* context;
-    /* Puts the value kept and answers 1; answers 0 when there is none. */
+    /* Puts the stored value and returns 1. Returns 0 when there is none. */
     int32_t (*read)(void* context, const DochtmlText* group, const DochtmlText* name,
                     const DochtmlSink* value);
-    /* Answers 1 when the value is kept. */
+    /* Returns 1 when the value was stored. */
     int32_t (*write)(void* context, const DochtmlText* group, const DochtmlText* name,
                      const DochtmlText* value);
 } DochtmlSettingsStore;
@@ -49,22 +50,22 @@ typedef struct DochtmlSettingsStore {
 /* The clickable regions of pictures. */
 typedef struct DochtmlImageMaps {
     void* context;
-    /* Puts the texts of a picture's regions one after the other, three a region: element name,
-     * target bookmark, polygon coordinates. */
+    /* Puts three texts for each region of the picture, in this order: element name, target
+     * bookmark, polygon coordinates. */
     void (*regions)(void* context, const DochtmlText* picture, const DochtmlSink* texts);
 } DochtmlImageMaps;
 
-/* An object and a class of the host's model, as the host wishes. */
+/* Handles to an object and a class of the host's model. Only the host knows what they point to. */
 typedef const void* DochtmlObject;
 typedef const void* DochtmlClass;
 
-/* The model behind the entry icons. What it hands out stays valid as long as its context.
- * An answer below 0 is a failure: the driver logs it and takes the answer as empty. */
+/* The model from which the entry icons are derived. Its objects and classes stay valid as long as
+ * its context. A negative result is a failure: the driver logs it and uses an empty value. */
 typedef struct DochtmlModel {
     void* context;
-    /* Null when the model does not know the handle. */
+    /* Sets null when the model does not know the handle. */
     HRESULT (*object)(void* context, uint64_t handle, DochtmlObject* object);
-    /* Null when the schema has no class of that name. */
+    /* Sets null when the schema has no class of that name. */
     HRESULT(*findClass)
     (void* context, const DochtmlText* name, DochtmlClass* modelClass);
     HRESULT(*classOf)
@@ -86,16 +87,17 @@ typedef struct DochtmlModel {
     (void* context, DochtmlObject object, const DochtmlText* attribute, int32_t* value);
     HRESULT(*attributeDouble)
     (void* context, DochtmlObject object, const DochtmlText* attribute, double* value);
-    /* The n-th object at the end of an association, in the model's order; null behind the last. */
+    /* The associated object at `index`, counted from 0 in the model's order. Null after the
+     * last. */
     HRESULT(*associated)
     (void* context, DochtmlObject object, const DochtmlText* association, uint32_t index,
      DochtmlObject* other);
 } DochtmlModel;
 
-/* Hears every line of every trace, besides the log; the text ends with the line's "\n". */
+/* Receives every line of every trace, in addition to the log file. The text ends with "\n". */
 typedef struct DochtmlTraceListener {
     void* context;
-    /* The deepest level wanted: 1 errors, 10 calls, 11 reports. */
+    /* The highest level to receive: 1 errors, 10 calls, 11 reports. */
     int32_t level;
     void (*line)(void* context, int32_t level, const DochtmlText* text);
 } DochtmlTraceListener;
@@ -103,12 +105,12 @@ typedef struct DochtmlTraceListener {
 /* The exception log. */
 typedef struct DochtmlExceptionLog {
     void* context;
-    /* Not 0 when messages of that category ("Throw", "Catch") are wanted. */
+    /* Returns a value other than 0 when messages of that category ("Throw", "Catch") are wanted. */
     int32_t (*records)(void* context, const DochtmlText* category);
     void (*write)(void* context, const DochtmlText* message);
 } DochtmlExceptionLog;
 
-/* Hears what became of a document. Each callback may be null. */
+/* Receives events about documents. Each callback may be null. */
 typedef struct DochtmlObserver {
     void* context;
     void (*pageWritten)(void* context, const DochtmlText* fileName);

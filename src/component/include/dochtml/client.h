@@ -13,13 +13,15 @@
 
 namespace quillmark {
 
-/// Why a component could not be reached, in words and as the system's result.
+/// A component could not be found or used. `what()` says why in words; `result()` is the system's
+/// result code.
 class ComponentError : public std::runtime_error {
 public:
     ComponentError(const std::string& words, HRESULT result)
         : std::runtime_error(words), result_(result) {}
     [[nodiscard]] HRESULT result() const noexcept { return result_; }
-    /// Whether the name leads nowhere, as opposed to a library that does not load or refuses.
+    /// True when the name is not registered; false when a library was found but failed to load or
+    /// refused to create an object.
     [[nodiscard]] bool isNotRegistered() const noexcept {
         return result_ == REGDB_E_CLASSNOTREG || result_ == CO_E_CLASSSTRING;
     }
@@ -28,8 +30,9 @@ private:
     HRESULT result_;
 };
 
-/// The thread's right to use components: on Windows its apartment, elsewhere nothing. Make it
-/// before the first `Component` of a thread and let it outlive the last.
+/// Prepares the current thread for using components. On Windows it initializes the thread's
+/// apartment; elsewhere it does nothing. Create it before the thread's first `Component` and
+/// destroy it after the last.
 class Apartment {
 public:
     Apartment();
@@ -39,27 +42,31 @@ public:
     ~Apartment();
 };
 
-/// A class of a component library, found by name and loaded. It outlives what it makes.
+/// A class in a loaded component library. Keep the `Component` alive as long as any object that it
+/// created.
 ///
 ///     Apartment apartment;
 ///     const Component component = Component::byName("DocHtml.DocHtml");
 ///     const ComPointer<IDocument> document = component.createDocument();
 class Component {
 public:
-    /// By program identifier, with or without its version, or by class identifier
-    /// ("{474BDD91-...}"), as registration has made them known. Throws `ComponentError`.
+    /// Finds a registered class by its program identifier, with or without the version, or by its
+    /// class identifier ("{474BDD91-...}"). Throws `ComponentError`.
     [[nodiscard]] static Component byName(const std::string& identifier);
-    /// From a library file (UTF-8 name) that need not be registered. Throws `ComponentError`.
+    /// Loads the class from a library file, registered or not. `file` is its name in UTF-8. Throws
+    /// `ComponentError`.
     [[nodiscard]] static Component fromLibrary(const std::string& file,
                                                const CLSID& classId = CLSID_DocHtml);
 
-    /// A fresh object for one document. Throws `ComponentError`.
+    /// Creates an object for one document. Throws `ComponentError`.
     [[nodiscard]] ComPointer<::IDocument> createDocument() const;
-    /// What the host lends the component; null for a component that borrows nothing.
+    /// The interface through which the host provides services to the component. Null when the
+    /// component does not offer it.
     [[nodiscard]] ComPointer<IHostServices> hostServices() const;
     [[nodiscard]] IClassFactory* classObject() const noexcept { return factory_.get(); }
-    /// Whether it keeps the library loaded itself, for any thread. One that Windows found by name
-    /// is the system's, and good only in the apartment of the thread that made it.
+    /// True when this object itself keeps the library loaded; any thread may then use it. False for
+    /// a component that Windows found by name: the system manages its library, and only the
+    /// apartment of the thread that created the component may use it.
     [[nodiscard]] bool holdsLibrary() const noexcept { return library_ != nullptr; }
 
 private:
@@ -68,12 +75,12 @@ private:
     Component(std::shared_ptr<Library> library, ComPointer<IClassFactory> factory)
         : library_(std::move(library)), factory_(std::move(factory)) {}
 
-    /// Let go of last.
+    /// Declared first, so that it is released last.
     std::shared_ptr<Library> library_;
     ComPointer<IClassFactory> factory_;
 };
 
-/// A text from UTF-8, as the arguments of a program are. What is no UTF-8 becomes U+FFFD.
+/// Converts UTF-8, for instance a program argument, to a text. Invalid bytes become U+FFFD.
 [[nodiscard]] Text textFromUtf8(std::string_view utf8);
 
 /// The name of the component's library file on this system: "dochtmlcom.dll" or

@@ -7,7 +7,7 @@
 
 namespace quillmark {
 
-/// Owns one reference of an interface and lets go of it in the end.
+/// Owns one reference to an interface and releases it in its destructor.
 ///
 ///     ComPointer<IDocument> document;
 ///     factory->CreateInstance(nullptr, IID_IDocument, document.receive());
@@ -27,7 +27,7 @@ public:
     }
     ~ComPointer() { reset(); }
 
-    /// Takes over a reference that is counted already.
+    /// Takes over a reference that is already counted.
     [[nodiscard]] static ComPointer adopt(Interface* pointer) noexcept {
         ComPointer owner;
         owner.pointer_ = pointer;
@@ -43,12 +43,13 @@ public:
         }
     }
 
-    /// Where a function may put a counted interface; what was held is let go of first.
+    /// The address to pass to a function that returns a counted interface. Releases the current
+    /// reference first.
     [[nodiscard]] void** receive() noexcept {
         reset();
         return reinterpret_cast<void**>(&pointer_);
     }
-    /// Another interface of the object; null when it has none of that identifier.
+    /// Another interface of the same object; null when the object does not support it.
     template <typename Other>
     [[nodiscard]] ComPointer<Other> query(REFIID iid) const noexcept {
         ComPointer<Other> other;

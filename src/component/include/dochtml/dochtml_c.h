@@ -15,8 +15,8 @@
  *     SysFreeString(name);
  *     dochtml_uninitialize();
  *
- * The tables are those that C++ hosts see as interfaces (dochtml/document.h says what holds for
- * every operation, dochtml/host_services.h what a host can lend).
+ * The tables are the same ones that C++ hosts see as interfaces. dochtml/document.h says what all
+ * operations have in common, and dochtml/host_services.h describes the services of a host.
  */
 
 #include "dochtml/callbacks.h"
@@ -129,25 +129,28 @@ struct DochtmlHostServices {
 
 /* The functions of the static library dochtml_client.
  *
- * How long the component's library stays loaded: one that was loaded from its file, and off Windows
- * one that was found by name too, until the process ends. One that Windows found by name is the
- * system's: it may go once nothing of it is alive, at the latest with the thread's apartment. So
- * release documents and services before the last `dochtml_uninitialize`, and keep the services as
- * long as something is lent.
+ * A component library that was loaded from its file stays loaded until the process ends. So does
+ * one that was found by name, except on Windows. There the system manages it: it may unload the
+ * library when none of its objects is alive, and at the latest when the thread's apartment ends. So
+ * release documents and host services before the last `dochtml_uninitialize`, and hold the
+ * `DochtmlHostServices` as long as any service is set.
  */
 
-/* Makes the thread ready to use components, and ends that. The calls nest: each one that answered
- * `S_OK` needs a `dochtml_uninitialize` of its own on the same thread, and the last of these ends
- * it. One too many does nothing. */
+/* Prepare the current thread for using components, and undo that. Calls nest: each call that
+ * returned `S_OK` needs its own `dochtml_uninitialize` on the same thread. A surplus
+ * `dochtml_uninitialize` does nothing. */
 HRESULT dochtml_initialize(void);
 void dochtml_uninitialize(void);
-/* A text from UTF-8, for the caller to free with `SysFreeString`; null when out of memory. */
+/* Converts UTF-8 to a text, which the caller frees with `SysFreeString`. Returns null when out of
+ * memory. */
 BSTR dochtml_text_from_utf8(const char* utf8);
-/* A fresh document by program identifier ("DocHtml.DocHtml") or class identifier in braces. */
+/* Creates a document. `identifier` is a program identifier ("DocHtml.DocHtml") or a class
+ * identifier in braces. */
 HRESULT dochtml_create_document(const char* identifier, DochtmlDocument** document);
-/* The same from a library file (UTF-8 name) that need not be registered. */
+/* The same from a library file, registered or not. `library` is its name in UTF-8. */
 HRESULT dochtml_create_document_from(const char* library, DochtmlDocument** document);
-/* What the host lends the component that serves such a document. */
+/* Gets the interface through which the host provides services to such documents. The caller
+ * releases it. */
 HRESULT dochtml_host_services(const char* identifier, DochtmlHostServices** services);
 HRESULT dochtml_host_services_from(const char* library, DochtmlHostServices** services);
 

@@ -12,11 +12,12 @@
  *     document->create(Text(u"C:\\out\\rep.htm").get());
  */
 
-/// The 42 operations behind the seven inherited functions; the n-th has dispatch identifier n.
+/// The 42 operations of a document, after the seven inherited functions. The number next to each
+/// is its dispatch identifier.
 ///
-/// Every operation answers 0, whatever happens. Texts are only read during the call; a null text
-/// is an empty one. An out text is the caller's, who frees it with `SysFreeString`. An object is
-/// called from the thread that made it.
+/// Every operation returns 0, whatever happens. Texts are only read during the call, and a null
+/// text is an empty one. The caller owns an out text and frees it with `SysFreeString`. Only the
+/// thread that created an object may call it.
 struct IDocument : IDispatch {
     virtual HRESULT STDMETHODCALLTYPE create(BSTR fileName) = 0;                               // 1
     virtual HRESULT STDMETHODCALLTYPE close() = 0;                                             // 2

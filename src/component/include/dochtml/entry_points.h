@@ -1,7 +1,7 @@
 #ifndef DOCHTML_ENTRY_POINTS_H
 #define DOCHTML_ENTRY_POINTS_H
 
-/* The four names that the library exports, for hosts that load it themselves. C and C++. */
+/* The four functions that the library exports, for C and C++ hosts that load it themselves. */
 
 #include "dochtml/automation.h"
 
@@ -12,11 +12,11 @@
 extern "C" {
 #endif
 
-/* The class object of a class of the library, counted for the caller. */
+/* Gets the class object of one of the library's classes. The caller releases it. */
 HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID classId, REFIID iid, void** object);
-/* `S_OK` when no object and no lock of the library is alive, else `S_FALSE`. */
+/* Returns `S_OK` when no object of the library and no lock on it is alive, else `S_FALSE`. */
 HRESULT STDAPICALLTYPE DllCanUnloadNow(void);
-/* Writes, or removes, what makes the classes known by their identifiers. */
+/* Write and remove the registration by which hosts find the classes. */
 HRESULT STDAPICALLTYPE DllRegisterServer(void);
 HRESULT STDAPICALLTYPE DllUnregisterServer(void);
 
@@ -28,7 +28,7 @@ HRESULT STDAPICALLTYPE DllUnregisterServer(void);
 #ifdef __cplusplus
 extern "C" {
 #endif
-/* Their types, for looking them up in a loaded library. */
+/* The types of these functions, for looking them up in a loaded library. */
 typedef HRESULT(STDAPICALLTYPE* DochtmlGetClassObject)(REFCLSID, REFIID, void**);
 typedef HRESULT(STDAPICALLTYPE* DochtmlEntryPoint)(void);
 #ifdef __cplusplus

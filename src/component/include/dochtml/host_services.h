@@ -4,26 +4,27 @@
 #include "dochtml/callbacks.h"
 #include "dochtml/identifiers.h"
 
-/// What a host lends the component, process-wide: ask the class object of `DocHtml` for it, before
-/// the first document. Null takes a service back. A host that lends nothing needs none of this:
-/// the component then works with the user's own settings store, without a model and image maps.
+/// The services that a host provides to the component, for the whole process. Ask the class object
+/// of `DocHtml` for this interface before you create the first document. Null removes a service.
+/// All services are optional: without them the component uses the user's own settings store, and
+/// no model or image maps.
 ///
-/// A service may be replaced or taken back at any time, from any thread. What it leads to must stay
-/// valid until no document of another thread is in a call that began before (dochtml/callbacks.h).
+/// A service may be replaced or removed at any time, from any thread. The context of its callbacks
+/// must outlive every document call that is running at that moment (dochtml/callbacks.h).
 ///
-/// Keep the interface as long as services are lent, so that the library stays loaded, and take them
-/// back before letting go. Every function answers `S_OK`, or `E_INVALIDARG` for a record with a
-/// callback missing.
+/// Hold this interface as long as any service is set, so that the library stays loaded, and remove
+/// all services before you release it. Every function returns `S_OK`, or `E_INVALIDARG` for a
+/// record that lacks a callback.
 struct IHostServices : IUnknown {
     virtual HRESULT STDMETHODCALLTYPE setSettingsStore(const DochtmlSettingsStore* store) = 0;
-    /// The path that takes the place of "Veltrano.ini".
+    /// The path of the ini file that replaces "Veltrano.ini".
     virtual HRESULT STDMETHODCALLTYPE setProfilePath(const DochtmlText* path) = 0;
     virtual HRESULT STDMETHODCALLTYPE setImageMaps(const DochtmlImageMaps* maps) = 0;
     virtual HRESULT STDMETHODCALLTYPE setModel(const DochtmlModel* model) = 0;
-    /// 2 selects the second rule set for entry icons.
+    /// 2 selects the second set of rules for entry icons.
     virtual HRESULT STDMETHODCALLTYPE setSchemaType(LONG schemaType) = 0;
-    /// Where names of a drive lie on systems without drive letters. The directory is the system's
-    /// own name, in UTF-8; null removes the drive.
+    /// Maps a drive letter to a directory on systems without drive letters. The directory is a name
+    /// of the system, in UTF-8; null removes the drive.
     virtual HRESULT STDMETHODCALLTYPE setDrive(SHORT letter, const DochtmlText* directory) = 0;
     virtual HRESULT STDMETHODCALLTYPE setTraceListener(const DochtmlTraceListener* listener) = 0;
     virtual HRESULT STDMETHODCALLTYPE setExceptionLog(const DochtmlExceptionLog* log) = 0;

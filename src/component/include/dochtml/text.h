@@ -9,7 +9,7 @@
 
 namespace quillmark {
 
-/// Owns a text of the boundary (a `BSTR`).
+/// Owns a `BSTR`.
 ///
 ///     document->insertText(Text(u"Hello").get());
 ///
@@ -37,14 +37,14 @@ public:
 
     [[nodiscard]] BSTR get() const noexcept { return text_; }
     [[nodiscard]] BSTR release() noexcept { return std::exchange(text_, nullptr); }
-    /// Where a function may put a text; what was held is freed first.
+    /// The address to pass to a function that returns a text. Frees the current text first.
     [[nodiscard]] BSTR* receive() noexcept {
         SysFreeString(std::exchange(text_, nullptr));
         return &text_;
     }
     [[nodiscard]] std::u16string_view view() const noexcept { return viewOf(text_); }
 
-    /// What any text of the boundary holds; the null text is empty.
+    /// The units of any `BSTR`; empty for a null text.
     [[nodiscard]] static std::u16string_view viewOf(BSTR text) noexcept {
         if (text == nullptr) {
             return {};
