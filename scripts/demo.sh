@@ -17,5 +17,4 @@ examples/manual/make.sh build/demo out
 
 pages=$(find out -name '*.htm' | wc -l)
 say "Done: $pages pages. Open in a browser:"
-echo "    $PWD/out/manual_sfrm.htm   (contents beside the pages)"
-echo "    $PWD/out/manual.htm        (the start page, for browsers with Java)"
+echo "    $PWD/out/manual.htm"

@@ -1,11 +1,12 @@
 #include "navigator/support_pieces.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
+#include "host/document_observer.h"
 #include "platform/read_whole.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
@@ -69,6 +70,14 @@ std::optional<Scripts> putTogether(const PieceReader& reader) {
     return scripts;
 }
 
+bool writeAndTell(const DataFiles& files, std::string_view name, std::string_view bytes) {
+    const bool written = files.writePlain(name, std::span(&bytes, 1));
+    if (written) {
+        DocumentObserver::current().fileCopied(SysFile::appendToDir(files.directory(), name));
+    }
+    return written;
+}
+
 }  // namespace
 
 bool writeNavigatorScripts(const OrxString& source, const DataFiles& files, const Trace& trace) {
@@ -77,8 +86,8 @@ bool writeNavigatorScripts(const OrxString& source, const DataFiles& files, cons
         return false;
     }
     SysDirectory::checkDirectoryAndCreate(files.directory());
-    return files.writePlain("navigator.js", std::array<std::string_view, 1>{scripts->script}) &&
-           files.writePlain("navigator.css", std::array<std::string_view, 1>{scripts->styleSheet});
+    return writeAndTell(files, "navigator.js", scripts->script) &&
+           writeAndTell(files, "navigator.css", scripts->styleSheet);
 }
 
 }  // namespace quillmark

@@ -146,6 +146,7 @@ class ReplayTest(unittest.TestCase):
         )
         self.assertEqual(status, 0)
         self.assertIn("manual.htm", files)
+        self.assertIn("manual_nav/word0.js", files)
         self.assertGreater(len(files), 20)
 
     def test_report_and_its_recording(self):

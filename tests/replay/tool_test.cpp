@@ -67,10 +67,23 @@ TEST_F(ReplayTool, makesADocumentSetFromACallStream) {
     EXPECT_EQ(result.output, "");
     EXPECT_EQ(result.errors,
               "dochtml-replay: 3 pages written, 1 contents entry, 3 files copied, "
-              "0 unresolved references, 0 errors\n");
+              "0 unresolved references, 0 errors\n"
+              "dochtml-replay: rep.htm needs a browser with Java. For today's browsers add --set "
+              "Html.ScriptNavigator=true\n");
     EXPECT_THAT(content("rep_dtl.htm"), HasSubstr(">Hello"));
     EXPECT_TRUE(exists("default.css"));
     EXPECT_TRUE(exists("rep_cnt.htm"));
+}
+
+TEST_F(ReplayTool, namesThePageToOpen) {
+    const std::string calls = "[\"create\",\"new/rep.htm\"]\n[\"insertText\",\"x\"]\n[\"close\"]\n";
+    makeDirectory("new");
+    EXPECT_THAT(run({"--set", "Html.ScriptNavigator=true", "-"}, calls).errors,
+                EndsWith("\ndochtml-replay: open new/rep.htm\n"));
+    EXPECT_THAT(run({"--set", "Html.SupportOld=true", "-"}, calls).errors,
+                EndsWith("\ndochtml-replay: open new/rep_sfrm.htm\n"));
+    EXPECT_THAT(run({"--set", "Html.Navig=2", "-"}, calls).errors,
+                EndsWith("\ndochtml-replay: open new/rep.htm\n"));
 }
 
 TEST_F(ReplayTool, saysNothingWhenQuiet) {
@@ -216,7 +229,9 @@ TEST_F(ReplayTool, stopsAtAMalformedLineWithAllThatWasDrivenOnDisk) {
     EXPECT_EQ(result.errors,
               "calls:3: insertText takes 1 argument, not 2\n"
               "dochtml-replay: 3 pages written, 1 contents entry, 3 files copied, "
-              "0 unresolved references, 0 errors\n");
+              "0 unresolved references, 0 errors\n"
+              "dochtml-replay: rep.htm needs a browser with Java. For today's browsers add --set "
+              "Html.ScriptNavigator=true\n");
     EXPECT_THAT(content("rep_dtl.htm"), HasSubstr(">kept"));
     EXPECT_THAT(content("rep_dtl.htm"), Not(HasSubstr("lost")));
     EXPECT_THAT(lines("trace.txt"), HasSubstr("dochtml->close();"));

@@ -28,7 +28,7 @@ ALLOWED = {
     "page": {"foundation", "platform", "host"},
     "contents": {"foundation", "platform", "host", "page"},
     "diagram": {"foundation", "host"},
-    "navigator": {"foundation", "platform", "page", "contents"},
+    "navigator": {"foundation", "platform", "host", "page", "contents"},
     "driver": {
         "foundation", "platform", "settings", "host", "page", "contents", "diagram", "navigator",
     },

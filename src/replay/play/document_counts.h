@@ -3,14 +3,21 @@
 #include <cstddef>
 
 #include "host/document_observer.h"
+#include "replay/play/opening_page.h"
 
 namespace quillmark::replay {
 
 /// Counts what the documents of a run consist of.
 class DocumentCounts final : public DocumentObserver {
 public:
-    void pageWritten(const OrxString& /*fileName*/) override { ++pages; }
-    void fileCopied(const OrxString& /*target*/) override { ++files; }
+    void pageWritten(const OrxString& fileName) override {
+        ++pages;
+        opening.pageWritten(fileName);
+    }
+    void fileCopied(const OrxString& target) override {
+        ++files;
+        opening.fileCopied(target);
+    }
     void contentsEntryAdded() override { ++contentsEntries; }
     void unresolvedReferences(const OrxString& /*fileName*/, std::size_t count) override {
         unresolved += count;
@@ -20,6 +27,7 @@ public:
     std::size_t files = 0;
     std::size_t contentsEntries = 0;
     std::size_t unresolved = 0;
+    OpeningPage opening;
 };
 
 }  // namespace quillmark::replay

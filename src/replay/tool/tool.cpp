@@ -1,5 +1,6 @@
 #include "replay/tool/tool.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -172,10 +173,36 @@ private:
             text += ", " + counted(charactersLost_, "character") + " lost";
         }
         messages_.write(std::string(toolName) + ": " + text);
+        writeOpeningPage();
+    }
+
+    void writeOpeningPage() {
+        const auto opening = counts_.opening.answer();
+        if (!opening.has_value()) {
+            return;
+        }
+        const std::string page = shownPath(opening->page);
+        messages_.write(std::string(toolName) + ": " +
+                       (opening->needsJava
+                            ? page + " needs a browser with Java. For today's browsers add --set "
+                                     "Html.ScriptNavigator=true"
+                            : "open " + page));
+    }
+
+    /// From where the tool was started, when the file lies below.
+    [[nodiscard]] std::string shownPath(const OrxString& driverName) const {
+        std::string name = SysText::toUtf8(driverName);
+        std::replace(name.begin(), name.end(), '\\', '/');
+        const std::filesystem::path path = files_.native(name);
+        const std::string fromStart = utf8Path(path.lexically_relative(start_).generic_u8string());
+        const bool isBelow = !fromStart.empty() && !fromStart.starts_with("..");
+        return isBelow ? fromStart : utf8Path(path);
     }
 
     const Options& options_;
     const ReplayEnvironment& environment_;
+    /// The driver changes the current directory.
+    std::filesystem::path start_ = startDirectory();
     OptionFiles files_;
     /// Declared before `services_`: the settings file may be on one of the drives.
     ScopedDrives drives_;
