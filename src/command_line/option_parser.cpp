@@ -8,22 +8,6 @@
 
 namespace quillmark {
 
-namespace {
-
-/// Separates the names of an option with ", ".
-class HelpFormatter final : public CLI::Formatter {
-public:
-    std::string make_option_name(const CLI::Option* option, bool isPositional) const override {
-        std::string names = Formatter::make_option_name(option, isPositional);
-        if (const std::size_t comma = names.find(','); comma != std::string::npos) {
-            names.insert(comma + 1, " ");
-        }
-        return names;
-    }
-};
-
-}  // namespace
-
 class OptionParser::Implementation {
 public:
     Implementation() {
@@ -69,6 +53,18 @@ public:
     }
 
 private:
+    /// Separates the names of an option with ", ".
+    class HelpFormatter final : public CLI::Formatter {
+    public:
+        std::string make_option_name(const CLI::Option* option, bool isPositional) const override {
+            std::string names = Formatter::make_option_name(option, isPositional);
+            if (const std::size_t comma = names.find(','); comma != std::string::npos) {
+                names.insert(comma + 1, " ");
+            }
+            return names;
+        }
+    };
+
     struct Value {
         ValueHandler handler;
         std::string name;

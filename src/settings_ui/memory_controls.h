@@ -8,8 +8,8 @@
 
 namespace quillmark {
 
-/// The page's controls without a window: they hold texts and checks, tell of events as a dialog's
-/// would, and do what a person could do to them.
+/// The page's controls without a window: they store texts and checks, report the same events as a
+/// dialog, and have a function for everything that a user can do.
 ///
 ///     MemoryControls controls;
 ///     SettingsPage page(controls, host);
@@ -27,12 +27,12 @@ public:
     void setChecked(int id, bool checked) override;
     void setRange(int id, int lowest, int highest) override;
 
-    /// The person gives the control the focus.
+    /// The user moves the focus to the control.
     void focus(int id);
-    /// The person clicks: a check box turns over, a radio button takes the check from the others
-    /// of its setting.
+    /// The user clicks: a check box is toggled, a radio button becomes the checked one of its
+    /// setting.
     void click(int id);
-    /// The person steps the heading level; beyond one end of the range it goes on at the other.
+    /// The user steps the heading level, which wraps around at the ends of its range.
     void spin(int steps);
 
 private:
@@ -43,7 +43,7 @@ private:
         bool checked = false;
     };
     struct Range {
-        // As an up-down control is before anyone tells it a range: it steps nothing.
+        // Without a range, an up-down control does not step.
         int lowest = 0;
         int highest = 0;
     };

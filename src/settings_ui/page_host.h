@@ -6,10 +6,10 @@
 
 namespace quillmark {
 
-/// The controls of a settings page, by identifier: a dialog's, or a form's without a window.
+/// The controls of a settings page, by identifier: those of a dialog or of a form without a window.
 ///
-/// Putting a text into an edit box tells the page about it (`SettingsPage::handle` with
-/// `textChanged`) as a person's typing does; checking a box from here tells nothing.
+/// `setText` notifies the page (`SettingsPage::handle` with `textChanged`), as typing does;
+/// `setChecked` does not.
 class PageControls {
 public:
     virtual ~PageControls() = default;
@@ -17,30 +17,30 @@ public:
     virtual void setText(int id, const OrxString& text) = 0;
     [[nodiscard]] virtual bool isChecked(int id) const = 0;
     virtual void setChecked(int id, bool checked) = 0;
-    /// Tells an up-down control between which numbers it steps.
+    /// Sets the range of an up-down control.
     virtual void setRange(int id, int lowest, int highest) = 0;
 };
 
-/// What a file-open dialog is told.
+/// The parameters of a file-open dialog.
 struct FileChoice {
     const char* filterName = "";
     const char* pattern = "";
     const char* title = "";
-    /// The name that the dialog opens with.
+    /// The name that the dialog shows first.
     OrxString initialName;
-    /// Characters that the name buffer holds.
+    /// The size of the name buffer, in characters.
     static constexpr int bufferSize = 259;
 };
 
-/// What the page asks of the person and of the frame around it.
+/// What the page needs from the user and from the frame around it.
 class PageHost {
 public:
     virtual ~PageHost() = default;
     /// A message box of the page's window with an exclamation icon and an OK button.
     virtual void showMessage(const OrxString& text, const OrxString& title) = 0;
-    /// The directory that the person picked, or nothing.
+    /// The directory that the user picked, or nothing.
     [[nodiscard]] virtual std::optional<OrxString> chooseDirectory(const OrxString& title) = 0;
-    /// The file that the person picked, or nothing.
+    /// The file that the user picked, or nothing.
     [[nodiscard]] virtual std::optional<OrxString> chooseFile(const FileChoice& choice) = 0;
     virtual void showHelp(const OrxString& helpFile, unsigned long context) = 0;
     /// The page became dirty, or clean.

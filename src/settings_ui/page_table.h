@@ -8,7 +8,7 @@
 
 namespace quillmark {
 
-/// Identifiers of the settings page's controls; they are those of the dialog template too.
+/// Identifiers of the settings page's controls; the dialog template has the same.
 namespace control {
 
 inline constexpr int none = -1;  ///< labels and group boxes have no identifier of their own
@@ -35,23 +35,23 @@ inline constexpr int browseImages = 5602;
 
 }  // namespace control
 
-/// What a row of the table stands for.
+/// The kind of a row of the table.
 enum class ControlKind {
     label,
     groupBox,
     edit,
     numberEdit,  ///< takes digits only
-    upDown,      ///< steps the number edit in front of it
+    upDown,      ///< steps the number edit of the previous row
     button,
     checkBox,
     radioButton,
-    command,  ///< a command that the page answers though no control of the template sends it
+    command,  ///< a command of the page that no control of the template sends
 };
 
-/// What a control tells the page.
+/// An event that a control reports to the page.
 enum class ControlEvent { focused, textChanged, clicked };
 
-/// What the page does about it.
+/// The page's reaction to an event.
 enum class PageAction {
     none,
     load,
@@ -63,39 +63,39 @@ enum class PageAction {
     help,
 };
 
-/// An event of a control and what it leads to.
+/// An event of a control and the action that it causes.
 struct Route {
     ControlEvent event;
     PageAction action;
 };
 
-/// One row: a control with its text, the setting of group "Html" that it carries (null for none)
-/// and its routes. Two controls may carry one setting between them.
+/// One row: a control with its text, the setting of group "Html" that it edits (null for none) and
+/// its routes. Two controls may edit one setting together.
 struct PageControl {
     int id = control::none;
     ControlKind kind = ControlKind::label;
     const char* text = "";
     const char* setting = nullptr;
     std::array<Route, 2> routes{};
-    /// The person never sees it, and cannot reach it.
+    /// The user cannot see or reach it.
     bool hidden = false;
 };
 
-/// All controls in tab order. The page, its twin on a terminal and the tests of the dialog
-/// template are all driven by this one table.
+/// All controls in tab order. The page, its form on a terminal and the tests of the dialog template
+/// use this table.
 [[nodiscard]] std::span<const PageControl> pageControls() noexcept;
 
 /// The row of that identifier, or null.
 [[nodiscard]] const PageControl* findControl(int id) noexcept;
 
-/// What the event of that control leads to; `PageAction::none` for what is not routed.
+/// The action for an event of a control; `PageAction::none` if it is not routed.
 [[nodiscard]] PageAction routeOf(int id, ControlEvent event) noexcept;
 
-/// The setting that a control carries; empty for one that carries none.
+/// The setting that a control edits; empty if there is none.
 [[nodiscard]] std::string_view settingOf(int id) noexcept;
 
-/// The check boxes that carry a setting each, in the order in which those are read and written
-/// (it is not the order of the boxes).
+/// The check boxes with a setting of their own, in the order in which the settings are read and
+/// written. This is not the tab order.
 inline constexpr std::array checksInOrder{control::relativePaths, control::passThrough,
                                           control::olderBrowsers, control::locate,
                                           control::showIcons};

@@ -56,7 +56,7 @@ void SettingsPage::showHelp() {
 }
 
 void SettingsPage::setDirty(bool dirty) {
-    // Filling the boxes is no edit, though every box reports its new text.
+    // Loading is not an edit, although every box reports its new text.
     if (loading_ || dirty_ == dirty) {
         return;
     }
@@ -106,7 +106,7 @@ bool SettingsPage::applyOnly(std::span<const std::string_view> settings) {
 }
 
 void SettingsPage::browseDirectory(int id, const char* title) {
-    // The setting is read, as for the files, but the dialog starts nowhere in particular.
+    // The setting is read, as for the files, but the dialog has no initial directory.
     static_cast<void>(storedFor(id));
     const std::optional<OrxString> chosen = host_.chooseDirectory(title);
     if (chosen) {

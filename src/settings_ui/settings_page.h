@@ -16,21 +16,20 @@ namespace quillmark {
 ///     page.handle(control::contents, ControlEvent::clicked);          // dirty
 ///     if (!page.apply()) { /* a message was shown, the page is still dirty */ }
 ///
-/// Controls and host are the caller's and must outlive the page.
+/// Controls and host stay the caller's and must outlive the page.
 class SettingsPage {
 public:
     SettingsPage(PageControls& controls, PageHost& host) : controls_(controls), host_(host) {}
 
-    /// Does what the table routes that event of that control to. False when it is not routed.
+    /// Carries out the action that the table gives for the event. False if there is none.
     bool handle(int id, ControlEvent event);
 
-    /// Validates and writes, value by value and in a fixed order, each write at once: a refusal
-    /// shows its message and leaves what stands before it written. True when all was accepted;
-    /// the page is clean then. Whether the store kept the values is not looked at.
+    /// Validates and writes the settings one by one, in a fixed order. At the first value that is
+    /// refused it shows a message and stops; earlier settings stay written. True if all were
+    /// accepted; the page is then clean. Write errors of the store are ignored.
     bool apply();
 
-    /// The same for some settings only: those are validated and written in the page's order, the
-    /// others are left alone. The page's dirty flag stays as it is.
+    /// The same for the given settings only. The dirty flag of the page does not change.
     bool applyOnly(std::span<const std::string_view> settings);
 
     void showHelp();

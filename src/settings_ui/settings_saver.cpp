@@ -48,7 +48,7 @@ bool SettingsSaver::saveHeadingLevel() {
         return true;
     }
     const OrxString text = controls_.text(control::headingLevel).substr(0, readCharacters);
-    // Read as every number of the store is: a text without digits is 0, and accepted.
+    // Read like every number of the store: a text without digits is 0, and accepted.
     const int level = RegEntry::ofString(text).asInt();
     if (level < lowestHeadingLevel || level > highestHeadingLevel) {
         return refuse("Heading level must fall between " +
@@ -65,7 +65,7 @@ bool SettingsSaver::saveDirectory(int id, const char* what) {
         return true;
     }
     const OrxString name = controls_.text(id);
-    // A relative directory belongs to an output directory that nobody knows yet.
+    // A relative directory is below the output directory, which is not known yet.
     const bool hasDrive = name.length() > 1 && name.view()[1] == ':';
     if (hasDrive && !SysDirectory::exists(name)) {
         return refuse(name + "\nDirectory Not Found.\n" + "Please verify the correct " + what +
@@ -90,7 +90,7 @@ bool SettingsSaver::saveFile(int id, const char* what) {
 }
 
 bool SettingsSaver::refuse(const OrxString& message) {
-    // The focus stays where it is, whichever box is to blame.
+    // The focus does not move to the box with the wrong value.
     host_.showMessage(message, "Invalid Value");
     return false;
 }

@@ -9,20 +9,20 @@
 
 namespace quillmark {
 
-/// Validates what the page's controls hold and writes it to the settings store, value by value
-/// and each write at once. The first value that is refused ends it with a message; what stands
-/// before it stays written. Whether the store kept the values is not looked at.
+/// Validates the values of the page's controls and writes them to the settings store, one by one.
+/// At the first value that is refused it shows a message and stops; earlier values stay written.
+/// Write errors of the store are ignored.
 class SettingsSaver {
 public:
     /// All settings of the page.
     SettingsSaver(const PageControls& controls, PageHost& host)
         : controls_(controls), host_(host) {}
-    /// Those named alone, in the same order; the others are neither looked at nor written.
+    /// Only the given settings, in the same order.
     SettingsSaver(const PageControls& controls, PageHost& host,
                   std::span<const std::string_view> wanted)
         : controls_(controls), host_(host), wanted_(wanted) {}
 
-    /// True when everything was accepted.
+    /// True if everything was accepted.
     [[nodiscard]] bool save();
 
 private:

@@ -2,12 +2,13 @@
 
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 namespace quillmark::manual {
 
-/// Collects document calls in the form that the replay tool plays: a JSON array a line, the
-/// operation's name first, then its arguments.
+/// Collects document calls in the form that the replay tool plays: one JSON array per line, with
+/// the operation's name and its arguments.
 ///
 ///     CallStream calls;
 ///     calls.add("insertText", "Hello");
@@ -18,24 +19,17 @@ public:
     /// that name or one with another number of arguments.
     template <typename... Arguments>
     void add(std::string_view operation, const Arguments&... arguments) {
-        append(operation, {json(arguments)...});
+        append(operation, {Argument(arguments)...});
     }
-    /// Appends the tool's own line for a fresh object.
+    /// Appends the line that asks the tool for a new object.
     void startOver() { text_ += "[\"new\"]\n"; }
 
     [[nodiscard]] const std::string& text() const noexcept { return text_; }
 
 private:
-    static std::string json(std::string_view argument);
-    static std::string json(const char* argument) { return json(std::string_view(argument)); }
-    static std::string json(const std::string& argument) {
-        return json(std::string_view(argument));
-    }
-    static std::string json(bool argument) { return argument ? "true" : "false"; }
-    static std::string json(int argument) { return std::to_string(argument); }
-    static std::string json(unsigned argument) { return std::to_string(argument); }
+    using Argument = std::variant<std::string_view, bool, int, unsigned>;
 
-    void append(std::string_view operation, const std::vector<std::string>& arguments);
+    void append(std::string_view operation, const std::vector<Argument>& arguments);
 
     std::string text_;
 };

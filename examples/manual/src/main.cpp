@@ -1,5 +1,5 @@
-// Stands for a report generator: makes the calls that write the reference manual of IDocument,
-// with the picture, the texts, the model and the image maps that belong to them.
+// An example of a report generator. It makes the calls that write the reference manual of
+// IDocument, and the picture, texts, model and image maps that they need.
 
 #include <filesystem>
 #include <fstream>

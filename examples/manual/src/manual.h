@@ -20,7 +20,7 @@ struct ManualNames {
     [[nodiscard]] std::string diagram() const { return sources + "pictures/subsystems.gif"; }
 };
 
-/// Makes the manual: one document with a page a chapter, group and operation.
+/// Makes the manual: one document with a page for each chapter, group and operation.
 class Manual {
 public:
     Manual(const ManualData& data, ManualNames names);

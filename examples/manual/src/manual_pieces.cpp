@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "driver/boundary/operation_table.h"
-#include "json_text.h"
+#include "json_writer.h"
 #include "manual.h"
 #include "subsystem_diagram.h"
 #include "text_markup.h"
@@ -125,16 +125,21 @@ void Manual::gallery() {
 }
 
 std::string Manual::imageMapsJson() const {
-    const SubsystemDiagram picture;
-    std::string regions;
-    for (const DiagramPart& part : picture.parts()) {
-        if (!part.chapter.empty()) {
-            regions += (regions.empty() ? "" : ",") + ("\n    " + jsonText(part.name)) + ", " +
-                       jsonText(chapterTag(part.chapter)) + ", " +
-                       jsonText(SubsystemDiagram::corners(part));
+    return indentedJson([this](auto& writer) {
+        writer.StartObject();
+        writeText(writer, names_.diagram());
+        writer.StartArray();
+        const SubsystemDiagram picture;
+        for (const DiagramPart& part : picture.parts()) {
+            if (!part.chapter.empty()) {
+                writeText(writer, part.name);
+                writeText(writer, chapterTag(part.chapter));
+                writeText(writer, SubsystemDiagram::corners(part));
+            }
         }
-    }
-    return "{\n  " + jsonText(names_.diagram()) + ": [" + regions + "\n  ]\n}\n";
+        writer.EndArray();
+        writer.EndObject();
+    });
 }
 
 }  // namespace quillmark::manual

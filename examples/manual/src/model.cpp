@@ -3,7 +3,7 @@
 #include <map>
 #include <stdexcept>
 
-#include "json_text.h"
+#include "json_writer.h"
 
 namespace quillmark::manual {
 
@@ -42,12 +42,10 @@ std::string hexadecimal(int number) {
     return text;
 }
 
-std::string attributesJson(const Attributes& attributes) {
-    std::string json;
-    for (const auto& [name, value] : attributes) {
-        json += (json.empty() ? "" : ", ") + jsonText(name) + ": " + jsonText(value);
-    }
-    return json;
+template <typename Writer>
+void writeMember(Writer& writer, std::string_view name, std::string_view value) {
+    writeText(writer, name);
+    writeText(writer, value);
 }
 
 }  // namespace
@@ -68,14 +66,27 @@ Handle Model::add(const std::string& name, const std::string& word) {
 }
 
 std::string Model::json() const {
-    std::string json = "{\n  \"schemaType\": 1,\n  \"elements\": {\n";
-    for (const Element& element : elements_) {
-        const bool last = &element == &elements_.back();
-        json += "    \"0x" + hexadecimal(modelNumber) + hexadecimal(element.low) +
-                "\": {\"class\": " + jsonText(element.metaclass) + ", \"attributes\": {" +
-                attributesJson(element.attributes) + "}}" + (last ? "\n" : ",\n");
-    }
-    return json + "  }\n}\n";
+    return indentedJson([this](auto& writer) {
+        writer.StartObject();
+        writeText(writer, "schemaType");
+        writer.Int(1);
+        writeText(writer, "elements");
+        writer.StartObject();
+        for (const Element& element : elements_) {
+            writeText(writer, "0x" + hexadecimal(modelNumber) + hexadecimal(element.low));
+            writer.StartObject();
+            writeMember(writer, "class", element.metaclass);
+            writeText(writer, "attributes");
+            writer.StartObject();
+            for (const auto& [name, value] : element.attributes) {
+                writeMember(writer, name, value);
+            }
+            writer.EndObject();
+            writer.EndObject();
+        }
+        writer.EndObject();
+        writer.EndObject();
+    });
 }
 
 }  // namespace quillmark::manual

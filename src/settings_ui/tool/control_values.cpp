@@ -24,7 +24,7 @@ const PageControl* controlOf(const SettingDescription& setting) {
     return found == pageControls().end() ? nullptr : &*found;
 }
 
-/// The highest value that check boxes or radio buttons can stand for.
+/// The highest value that the check boxes or radio buttons of a setting can represent.
 int highestOf(const SettingDescription& setting) {
     return setting.name == navigation ? navigateByContents | navigateByArrows : 1;
 }

@@ -10,8 +10,8 @@ namespace quillmark {
 /// Whether the page has controls for the setting.
 [[nodiscard]] bool isOnPage(const SettingDescription& setting);
 
-/// What a person may give for the setting when its controls can hold certain values only ("true
-/// or false"); empty when they hold any text.
+/// Describes the values that the controls of the setting accept ("true or false"). Empty if they
+/// accept any text.
 [[nodiscard]] OrxString acceptedValues(const SettingDescription& setting);
 
 /// Whether `value` is one of the accepted values.

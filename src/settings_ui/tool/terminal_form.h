@@ -8,17 +8,17 @@
 
 namespace quillmark {
 
-/// The page as a form on a terminal: its fields one after the other, in tab order, each with what
-/// it holds. An empty answer keeps that, `""` empties a text, "+" and "-" step the heading level.
-/// The end of the input keeps everything that was not asked for yet.
+/// The page as a form on a terminal. It asks for the fields in tab order and shows their current
+/// values. An empty answer keeps the value, `""` sets an empty text, "+" and "-" step the heading
+/// level. At the end of the input all remaining values are kept.
 class TerminalForm {
 public:
     TerminalForm(MemoryControls& controls, std::istream& in, std::ostream& out)
         : controls_(controls), in_(in), out_(out) {}
 
-    /// Asks for every field once. True when something was answered.
+    /// Asks for every field once. True if there was an answer other than "keep the value".
     bool fillIn();
-    /// Whether the input has ended, so that asking again is of no use.
+    /// Whether the input has ended, so that asking again is useless.
     [[nodiscard]] bool hasEnded() const noexcept { return ended_; }
 
 private:

@@ -6,8 +6,8 @@
 
 namespace quillmark {
 
-/// The page's messages on a stream, in UTF-8. Nothing can be picked on a terminal: names are
-/// typed.
+/// Writes the page's messages to a stream, in UTF-8. There are no dialogs for files: the user types
+/// the names.
 class TerminalHost : public PageHost {
 public:
     explicit TerminalHost(std::ostream& errors) : errors_(errors) {}
