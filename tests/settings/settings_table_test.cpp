@@ -34,6 +34,7 @@ TEST(SettingsTable, HoldsEverySettingWithItsTypeAndDefault) {
               "Html.StyleSheet text \"default.css\"\n"
               "Html.PassThrough boolean \"false\"\n"
               "Html.LocateInBrowser boolean \"true\"\n"
+              "Html.ScriptNavigator boolean \"false\"\n"
               "Html.DiagramType short \"0\"\n"
               "Settings.InstallDir text \"\"\n"
               "Settings.TestLevel integer \"\"\n"

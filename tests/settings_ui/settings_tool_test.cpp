@@ -67,7 +67,7 @@ TEST_F(SettingsToolTest, ListShowsEverySettingWithValueDefaultAndMeaning) {
     EXPECT_THAT(out, HasSubstr("Html.TOCLevel=7\n    default \"50\", integer\n"));
     EXPECT_THAT(out, HasSubstr("Settings.TestLevel=\n    default \"\", integer\n"));
     EXPECT_THAT(out, HasSubstr("Log.LogName=\n"));
-    EXPECT_EQ(std::ranges::count(out, '\n'), 60);
+    EXPECT_EQ(std::ranges::count(out, '\n'), 63);
     EXPECT_EQ(errors, "");
 }
 

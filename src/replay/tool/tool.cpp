@@ -183,10 +183,10 @@ private:
         }
         const std::string page = shownPath(opening->page);
         messages_.write(std::string(toolName) + ": " +
-                       (opening->needsJava
-                            ? page + " needs a browser with Java. For today's browsers add --set "
-                                     "Html.ScriptNavigator=true"
-                            : "open " + page));
+                        (opening->needsJava
+                             ? page + " needs a browser with Java. For today's browsers add --set "
+                                      "Html.ScriptNavigator=true"
+                             : "open " + page));
     }
 
     /// From where the tool was started, when the file lies below.
