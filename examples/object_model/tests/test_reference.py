@@ -18,7 +18,9 @@ def test_the_reference_has_its_pages_and_no_broken_link(tmp_path: Path) -> None:
     )  # fmt: skip
     assert (made.returncode, made.stderr) == (0, "")
     checked = subprocess.run(
-        [sys.executable, SOURCE / "scripts/check_links.py", tmp_path / "out", "reference.htm"],
+        # The contents page of the applet is written too, but with the navigator no link leads there.
+        [sys.executable, SOURCE / "scripts/check_links.py", tmp_path / "out", "reference.htm",
+         "reference_cnt.htm"],
         capture_output=True, text=True, check=False,
     )  # fmt: skip
     assert (checked.returncode, checked.stdout) == (0, "")
