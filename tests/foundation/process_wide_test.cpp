@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <memory>
 #include <set>
 #include <string>
@@ -61,10 +62,10 @@ TEST(ProcessWide, LosesNoValueAmongThreads) {
     std::vector<std::vector<int>> numbersSeen(threadCount);
     std::vector<std::vector<int>> objectsSeen(threadCount);
     std::vector<std::thread> threads;
-    for (int thread = 0; thread < threadCount; ++thread) {
+    for (std::size_t thread = 0; thread < threadCount; ++thread) {
         threads.emplace_back([&, thread] {
             for (int i = 0; i < exchanges; ++i) {
-                const int mine = thread * exchanges + i + 1;
+                const int mine = static_cast<int>(thread) * exchanges + i + 1;
                 numbersSeen[thread].push_back(number.exchange(mine));
                 const auto before = object.exchange(std::make_shared<int>(mine));
                 objectsSeen[thread].push_back(before == nullptr ? 0 : *before);
@@ -76,7 +77,7 @@ TEST(ProcessWide, LosesNoValueAmongThreads) {
     }
     std::multiset<int> numbers = {number.get()};
     std::multiset<int> objects = {*object.get()};
-    for (int thread = 0; thread < threadCount; ++thread) {
+    for (std::size_t thread = 0; thread < threadCount; ++thread) {
         numbers.insert(numbersSeen[thread].begin(), numbersSeen[thread].end());
         objects.insert(objectsSeen[thread].begin(), objectsSeen[thread].end());
     }

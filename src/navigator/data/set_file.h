@@ -16,11 +16,11 @@ class SetFile {
 public:
     explicit SetFile(const TextDecoder& decoder) noexcept : decoder_(decoder) {}
 
-    SetFile& text(std::string_view member, std::u16string_view value);
+    SetFile& text(std::string_view name, std::u16string_view value);
     /// A text in the document's encoding.
-    SetFile& bytes(std::string_view member, std::string_view value);
-    SetFile& number(std::string_view member, std::size_t value);
-    SetFile& names(std::string_view member, std::span<const std::string> values);
+    SetFile& bytes(std::string_view name, std::string_view value);
+    SetFile& number(std::string_view name, std::size_t value);
+    SetFile& names(std::string_view name, std::span<const std::string> values);
     void write(const DataFiles& files) const;
 
 private:

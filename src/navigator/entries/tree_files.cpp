@@ -61,7 +61,7 @@ TreeFiles::Numbers TreeFiles::ancestorsOf(std::uint32_t first, std::uint32_t end
         addParentOf(number);
     }
     // `found` grows by the parents' parents, level by level.
-    for (std::size_t at = 0; at < found.size(); ++at) {
+    for (std::size_t at = 0; at < found.size(); ++at) {  // NOLINT(modernize-loop-convert): it grows
         addParentOf(found[at]);
     }
     std::ranges::sort(found);
@@ -69,8 +69,7 @@ TreeFiles::Numbers TreeFiles::ancestorsOf(std::uint32_t first, std::uint32_t end
     return found;
 }
 
-void TreeFiles::appendList(std::string& json, const Numbers& numbers,
-                           WithNumber withNumber) const {
+void TreeFiles::appendList(std::string& json, const Numbers& numbers, WithNumber withNumber) const {
     std::string page;
     json.push_back('[');
     for (const std::uint32_t number : numbers) {

@@ -75,7 +75,9 @@ void PageWords::readBody() {
 
 void PageWords::readWord() {
     static_assert(WordSplitter::longestWord % blockSize == 0);
-    std::array<char, WordSplitter::longestWord> word;
+    // Every byte that is read is stored first.
+    std::array<char, WordSplitter::longestWord>
+        word;  // NOLINT(cppcoreguidelines-pro-type-member-init)
     const char* const html = html_.data();
     std::size_t at = at_;
     std::size_t length = 0;
@@ -100,8 +102,7 @@ void PageWords::readWord() {
 
 /// Named references are separators.
 bool PageWords::isLetterReference(std::size_t at) const noexcept {
-    return html_.substr(at).starts_with("&#") &&
-           html_reference::at(html_.substr(at)).length != 0;
+    return html_.substr(at).starts_with("&#") && html_reference::at(html_.substr(at)).length != 0;
 }
 
 void PageWords::readReference() {
