@@ -39,8 +39,8 @@ private:
 /// A word of a vocabulary; the first ones are the shortest.
 std::u16string wordOf(std::size_t rank) {
     constexpr std::array<const char16_t*, 16> syllables = {
-        u"re", u"la", u"to", u"mi", u"sen", u"con", u"der", u"pa",
-        u"ver", u"ti", u"on", u"ex", u"um", u"ist", u"ba", u"ko"};
+        u"re",  u"la", u"to", u"mi", u"sen", u"con", u"der", u"pa",
+        u"ver", u"ti", u"on", u"ex", u"um",  u"ist", u"ba",  u"ko"};
     std::u16string word;
     for (std::size_t rest = rank + 1; rest != 0; rest /= syllables.size()) {
         word += syllables[rest % syllables.size()];
@@ -70,8 +70,8 @@ void insertPage(IDocument& document, std::size_t number) {
     document.insertEndl();
     document.setStyle(u"Normal");
     for (std::size_t part = 0; part < paragraphsPerPage; ++part) {
-        document.insertText(paragraphs()[(number * paragraphsPerPage + part * part * 37) %
-                                         paragraphCount]);
+        document.insertText(
+            paragraphs()[(number * paragraphsPerPage + part * part * 37) % paragraphCount]);
         document.insertEndl();
     }
 }
@@ -154,8 +154,7 @@ void navigatorReport(benchmark::State& state) {
     state.counters["us_per_page"] = withCpu * 1e6 / static_cast<double>(pages);
     state.counters["index_us_per_page"] = (withCpu - withoutCpu) * 1e6 / static_cast<double>(pages);
     state.counters["MB"] = static_cast<double>(sizes.pages) / 1e6;
-    state.counters["share"] =
-        static_cast<double>(sizes.index) / static_cast<double>(sizes.pages);
+    state.counters["share"] = static_cast<double>(sizes.index) / static_cast<double>(sizes.pages);
     state.counters["bytes_per_pair"] =
         (memoryWith - memoryWithout) * 1048576 / static_cast<double>(sizes.pairs);
     state.counters["pairs_per_page"] =

@@ -88,12 +88,12 @@ void DocHtml::startNavigator() {
     const DocumentSettings& settings = context.settings;
     impl_->navigator.reset();
     if (settings.hasNavigator()) {
-        impl_->navigator = Navigator::create(
-            {.baseName = context.names.baseName(),
-             .extension = context.names.extension(),
-             .supportDir = installedName(settings.installDir, "navigator"),
-             .iconDir = SysFile::getDir(settings.iconFile)},
-            std::make_unique<CodePageDecoder>(), context.trace);
+        impl_->navigator =
+            Navigator::create({.baseName = context.names.baseName(),
+                               .extension = context.names.extension(),
+                               .supportDir = installedName(settings.installDir, "navigator"),
+                               .iconDir = SysFile::getDir(settings.iconFile)},
+                              std::make_unique<CodePageDecoder>(), context.trace);
     }
     impl_->pages.setNavigator(impl_->navigator);
 }

@@ -62,8 +62,7 @@ public:
     void read(std::uint32_t page, std::span<const std::string_view> pieces) override;
     /// Writes the start page and the files of data. A file that cannot be written goes to the
     /// exception log; the others are written all the same.
-    void write(const Appearance& appearance, const ContentsEntryList& entries,
-               const Trace& trace);
+    void write(const Appearance& appearance, const ContentsEntryList& entries, const Trace& trace);
 
 private:
     void indexEntries(const ContentsEntryList& entries, const EntryNumbers& numbers);

@@ -22,7 +22,8 @@ constexpr const char* preface =
     "\n"
     "The examples are call streams as `dochtml-replay` plays them. They run inside a document\n"
     "`rep.htm`, between `create` and `close`, unless they show these calls themselves, and with\n"
-    "the settings at their defaults. After each example comes a part of the file that it writes. A\n"
+    "the settings at their defaults. After each example comes a part of the file that it writes. "
+    "A\n"
     "test plays all of them and compares.\n";
 
 std::string lowered(std::string text) {

@@ -39,9 +39,8 @@ void writeBits(std::span<char> to, std::span<const std::uint32_t> numbers) {
         char& value = to[number / bitsEach];
         value = static_cast<char>(static_cast<unsigned>(value) | (1U << (number % bitsEach)));
     }
-    std::ranges::transform(to, to.begin(), [](char value) {
-        return alphabet[static_cast<unsigned char>(value)];
-    });
+    std::ranges::transform(to, to.begin(),
+                           [](char value) { return alphabet[static_cast<unsigned char>(value)]; });
 }
 
 }  // namespace

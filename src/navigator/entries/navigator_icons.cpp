@@ -39,16 +39,15 @@ NavigatorIcons::NavigatorIcons(const ContentsEntryList& entries, const Sources& 
     }
 }
 
-void NavigatorIcons::add(std::string_view name, const Sources& sources,
-                         const OrxString& directory, const Trace& trace) {
+void NavigatorIcons::add(std::string_view name, const Sources& sources, const OrxString& directory,
+                         const Trace& trace) {
     if (name.empty() || numbers_.contains(name)) {
         return;
     }
     std::uint32_t number = 0;
     const OrxString source = isPlainName(name) ? findIn(sources, name) : OrxString();
     // These files are part of the output, so "DontCopy" does not concern them.
-    if (!source.isEmpty() &&
-        FileCopier().copyToDir(source, directory, "", trace) != source) {
+    if (!source.isEmpty() && FileCopier().copyToDir(source, directory, "", trace) != source) {
         names_.emplace_back(name);
         number = static_cast<std::uint32_t>(names_.size());
     }

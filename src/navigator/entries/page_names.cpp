@@ -43,8 +43,7 @@ std::string unescaped(std::string_view file) {
 
 std::optional<std::uint32_t> numberOfFile(std::string_view file, const PageNames& names) noexcept {
     const std::size_t around = names.name.length() + names.extension.length();
-    if (file.size() < around || !file.starts_with(names.name) ||
-        !file.ends_with(names.extension)) {
+    if (file.size() < around || !file.starts_with(names.name) || !file.ends_with(names.extension)) {
         return std::nullopt;
     }
     const std::string_view digits = file.substr(names.name.length(), file.size() - around);

@@ -34,7 +34,7 @@ public:
         const std::size_t size = foldLoneSurrogates(line);
         loneSurrogates_ =
             size != line.size() ? utf8::LoneSurrogates::accepted : utf8::LoneSurrogates::malformed;
-        line[size] = '\0';
+        line.data()[size] = '\0';  // the byte after the line belongs to the buffer too
         // A text never has more units than its line has bytes.
         if (units_.size() < size) {
             units_.resize(std::max(size, units_.size() * 2));

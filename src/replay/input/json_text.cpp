@@ -61,7 +61,7 @@ std::size_t foldLoneSurrogates(std::span<char> line) noexcept {
         std::uint32_t unit = 0;
         const std::size_t taken = text[from] == '\\' ? wholeEscapeAt(text, from, unit) : 1;
         if (taken > 0) {
-            std::memmove(&line[to], &line[from], taken);
+            std::memmove(line.data() + to, line.data() + from, taken);
             to += taken;
             from += taken;
             continue;

@@ -57,8 +57,9 @@ TEST_F(WordIndexTest, wordsHaveTheirEntriesAndPages) {
 TEST_F(WordIndexTest, wordsAreInTheOrderOfTheirCodePoints) {
     index.startPage(0);
     add(u"z \U00020BB7 \u6771 \u00B5 \uFF9E");
-    EXPECT_EQ(written("word0.js"),
-              "repNav(\"word0\",'\"Az,,A;A\\\\u6771,,A;A\\\\uff9e,,A;A\\\\ud842\\\\udfb7,,A;\"');\n");
+    EXPECT_EQ(
+        written("word0.js"),
+        "repNav(\"word0\",'\"Az,,A;A\\\\u6771,,A;A\\\\uff9e,,A;A\\\\ud842\\\\udfb7,,A;\"');\n");
 }
 
 TEST_F(WordIndexTest, entriesCanBeTakenUpAgain) {

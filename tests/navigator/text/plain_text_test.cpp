@@ -30,7 +30,8 @@ TEST(PlainText, keepsWhatIsNotAReference) {
 }
 
 TEST(PlainText, hugeReferencesAreReplacementCharacters) {
-    EXPECT_EQ(plain("&#99999999999999999999;&#x110000;&#xDFFF;"), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(plain("&#99999999999999999999;&#x110000;&#xDFFF;"),
+              "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
 TEST(PlainText, joinsBlanksAndLineBreaks) {

@@ -9,12 +9,7 @@
  * with the same names and layout rules, so that the same host source compiles on every system.
  */
 
-/* Starts the definition of an identifier as a constant in each source file that includes it. */
-#ifdef __cplusplus
-#define DOCHTML_IDENTIFIER inline constexpr
-#else
-#define DOCHTML_IDENTIFIER static const
-#endif
+#include "dochtml/identifier_constant.h"
 
 #ifdef _WIN32
 #ifndef WIN32_LEAN_AND_MEAN

@@ -10,6 +10,8 @@
  * is an empty text. The receiver of an out parameter frees the text with `SysFreeString`.
  */
 
+#include "dochtml/identifier_constant.h"
+
 #include <stdint.h>
 
 #ifdef __cplusplus
