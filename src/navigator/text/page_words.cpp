@@ -75,9 +75,7 @@ void PageWords::readBody() {
 
 void PageWords::readWord() {
     static_assert(WordSplitter::longestWord % blockSize == 0);
-    // Every byte that is read is stored first.
-    std::array<char, WordSplitter::longestWord>
-        word;  // NOLINT(cppcoreguidelines-pro-type-member-init)
+    std::array<char, WordSplitter::longestWord> word{};
     const char* const html = html_.data();
     std::size_t at = at_;
     std::size_t length = 0;
