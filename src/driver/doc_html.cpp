@@ -18,12 +18,12 @@ namespace {
 
 /// Looks for a style sheet without a directory in the installation directory. Throws if the file
 /// does not exist. The setting keeps the path even then, because later pages link to it.
-void findStyleSheet(DocumentSettings& settings) {
+void findStyleSheet(DocumentSettings& settings, const Trace& trace) {
     OrxString& path = settings.styleSheet;
     if (SysFile::getDir(path).isEmpty()) {
         path = SysFile::appendToDir(settings.installDir, path);
     }
-    if (!SysFile::exists(path)) {
+    if (!SysFile::exists(path, trace)) {
         OrxException::raise("Html style sheet does not exist.\n" + path);
     }
 }
@@ -66,7 +66,7 @@ DocResult DocHtml::create(WideText fileName) {
     impl_->contents.setLevel(settings.tocLevel);
     impl_->contents.setShowIcons(settings.showIcons);
     if (!settings.styleSheet.isEmpty()) {
-        findStyleSheet(settings);
+        findStyleSheet(settings, context.trace);
         settings.styleSheet = context.copyTo(context.names.outputDir(), settings.styleSheet);
     }
     impl_->contents.leaveEntry();
@@ -75,7 +75,7 @@ DocResult DocHtml::create(WideText fileName) {
     if (settings.hasArrows()) {
         copyArrowPictures(context);
     }
-    if (!settings.readIniFile()) {
+    if (!settings.readIniFile(context.trace)) {
         useJnlp_ = false;
     }
     startNavigator();

@@ -11,6 +11,7 @@
 #include "page/links.h"
 #include "page/open_marks.h"
 #include "page/splice_text.h"
+#include "platform/failure_lines.h"
 #include "platform/signal_to_exception.h"
 #include "platform/sys_file.h"
 
@@ -249,6 +250,7 @@ void DocHtmlPage::close() {
     try {
         CSignal2Exception::run([this] { record_->writeFile(); });
     } catch (const OrxException&) {
+        failure_lines::writeReason(record_->trace);
         OrxException::logCaught();
     }
     record_->reportUnresolved();

@@ -1,5 +1,7 @@
 #include "contents/tree/archiver.h"
 
+#include "platform/failure_lines.h"
+#include "platform/file_failure.h"
 #include "platform/sys_file.h"
 #include "platform/sys_shell.h"
 
@@ -16,7 +18,10 @@ OrxString archiverArguments(const OrxString& archive, const OrxString& dataFile)
 
 OrxString packDataFile(const OrxString& dataFile, const OrxString& installDir, const Trace& trace) {
     OrxString archive = dataFile + ".zip";
-    SysFile::deleteFile(archive);
+    FileFailure::forget();
+    if (!SysFile::deleteFile(archive) && FileFailure::isNoted() && !FileFailure::isMissingFile()) {
+        failure_lines::write(trace, "ERR Cannot remove file ", archive);
+    }
     const OrxString archiver = SysFile::appendToDir(installDir, "zip.exe");
     if (SysShell::start(archiver, archiverArguments(archive, dataFile)) >= SysShell::started) {
         return archive;

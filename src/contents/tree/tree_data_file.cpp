@@ -10,6 +10,7 @@
 #include "contents/entries/indent_budget.h"
 #include "contents/tree/tree_text.h"
 #include "foundation/orx_exception.h"
+#include "platform/file_failure.h"
 #include "platform/file_system.h"
 #include "platform/line_end.h"
 
@@ -24,7 +25,7 @@ constexpr std::size_t bufferSize = std::size_t{64} * 1024;
 class TreeWriter {
 public:
     TreeWriter(const OrxString& path, bool showIcons)
-        : path_(path), showIcons_(showIcons), file_(FileSystem::current().openForWriting(path)) {
+        : path_(path), showIcons_(showIcons), file_(open(path)) {
         if (file_ == nullptr) {
             OrxException::raise("Error opening file: " + path_);
         }
@@ -56,6 +57,11 @@ public:
     }
 
 private:
+    [[nodiscard]] static std::unique_ptr<OutputFile> open(const OrxString& path) {
+        FileFailure::forget();
+        return FileSystem::current().openForReplacing(path);
+    }
+
     /// From 1 to one deeper than the previous node. The first node always gets level 1.
     [[nodiscard]] std::size_t correctedLevel(std::int32_t level) const {
         return level < 1 ? 1 : std::min(static_cast<std::size_t>(level), previous_ + 1);

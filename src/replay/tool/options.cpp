@@ -61,6 +61,8 @@ void addOptions(OptionParser& parser, Options& options) {
     parser.addOption("--drive", "X=DIR", "map drive X: to DIR (repeatable)",
                      [&](const std::string& text) { options.drives.push_back(parseDrive(text)); });
     addLogs(parser, options);
+    parser.addFlag("--strict", "let warnings and unresolved references fail", options.strict);
+    parser.addFlag("-v,--verbose", "name all warnings, not only the first three", options.verbose);
     parser.addFlag("-q,--quiet", "show no progress and no summary", options.quiet);
     parser.addFlag("-h,--help", "show this help", options.help);
     parser.addFlag("--version", "show the version", options.version);
