@@ -17,7 +17,7 @@ import tempfile
 ERRORS = ["ENOSPC", "EIO", "EACCES", "EMFILE", "EINTR"]
 KINDS = ["open", "read", "write", "close", "rename", "stat", "mkdir", "unlink", "copy", "truncate"]
 SAMPLE = 8  # places of a kind in the short form
-LARGE = "a large page " * 25000
+LARGE = "a large document " * 20000  # its copy is not overwritten, but replaced
 
 CALLS = """["create","rep.htm"]
 ["setOption","title","A report"]
@@ -42,7 +42,7 @@ CALLS = """["create","rep.htm"]
 ["insertTag","later"]
 ["popDirectory"]
 ["insertPageBreak"]
-["insertText","LARGE VERSION"]
+["insertText","third VERSION page"]
 ["close"]
 """
 
@@ -55,7 +55,7 @@ FILES = {
     "maps.json": '{"pics/a.gif": ["A", "Page 1", "1,2,3,4"]}',
     "pics/a.gif": "GIF",
     "pics/a.txt": "one\ntwo\n",
-    "pics/a.doc": "document",
+    "pics/a.doc": LARGE,
     "in/default.css": "P { }",
     "in/toc2.jar": "jar",
     "in/toc2_OLD.jar": "old jar",
@@ -98,8 +98,7 @@ class Sweep:
             path.parent.mkdir(parents=True, exist_ok=True)
             path.write_text(text.replace("IN", str(root / "in")))
         for version in ("older", "newer"):
-            calls = CALLS.replace("VERSION", version).replace("LARGE", LARGE)
-            (root / f"{version}.jsonl").write_text(calls)
+            (root / f"{version}.jsonl").write_text(CALLS.replace("VERSION", version))
         self.sources = snapshot(root)
 
     def play(self, calls, fault=None, count=None):
@@ -138,7 +137,7 @@ class Sweep:
         self.log = snapshot(self.root / "logs")
         lines = (line.split() for line in counts.read_text().splitlines())
         numbers = {kind: int(number) for kind, number in lines}
-        if min(numbers[kind] for kind in KINDS if kind not in ("rename", "truncate", "unlink")) < 2:
+        if min(numbers[kind] for kind in KINDS if kind not in ("rename", "truncate", "unlink")) < 1:
             sys.exit(f"the operations are not counted: {numbers}")
         return numbers
 
