@@ -14,14 +14,15 @@ namespace quillmark {
 ///     @=/usr/lib/libdochtmlcom.so
 ///     ThreadingModel=Apartment
 ///
-/// A section is a key, "@" its default value. In values "\\" is a backslash and "\n" a line end.
+/// Lines that begin with ";" or "#" are comments. A section is a key, "@" its default value. In values "\\" is a backslash and "\n" a line end.
 [[nodiscard]] std::filesystem::path classFilePath();
 
 /// What the file holds; an empty tree when there is none. Lines that are nothing are passed over.
 /// Nothing when there is one that cannot be read: nobody may take that for an empty one and write
-/// another in its place.
+/// another in its place. The same goes for a file that has text, but no section.
 [[nodiscard]] std::optional<KeyTree> readClassFile(const std::filesystem::path& file);
-/// Puts a new file in the old one's place, in one step. False when that failed. Hold the file's
+/// Puts a new file in the old one's place, in one step, and keeps the comments. False when that
+/// failed. Hold the file's
 /// lock since before the old one was read (component/posix/class_file_lock.h).
 [[nodiscard]] bool writeClassFile(const std::filesystem::path& file, const KeyTree& root);
 

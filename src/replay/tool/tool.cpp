@@ -182,9 +182,15 @@ private:
         exceptionFile_.emplace(files_.native(*options_.exceptionFile));
         return [this](std::string_view message) {
             if (!exceptionFile_->write(message)) {
-                reportError("cannot write " + *options_.exceptionFile);
+                reportExceptionFile();
             }
         };
+    }
+
+    void reportExceptionFile() {
+        const std::string reason = exceptionFile_->reason();
+        reportError("cannot write " + *options_.exceptionFile +
+                    (reason.empty() ? "" : ": " + reason));
     }
 
     /// The driver creates the log file itself, and reports it if that fails.
@@ -225,6 +231,9 @@ private:
     void checkOutput() {
         if (!environment_.output.flush()) {
             reportError("cannot write the output");
+        }
+        if (exceptionFile_ && !exceptionFile_->close()) {
+            reportExceptionFile();
         }
     }
 
