@@ -25,7 +25,7 @@ ObjectMaker findClass(REFCLSID classId) noexcept {
 }  // namespace
 }  // namespace quillmark
 
-// The names that the library exports; the linker's list of them is windows/dochtmlcom.def or
+// The functions that the library exports. The linker's list of them is in windows/dochtmlcom.def or
 // posix/dochtmlcom.map.
 
 extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID classId, REFIID iid, void** object) {

@@ -6,7 +6,7 @@
 
 namespace quillmark {
 
-/// A component's library file, loaded. It is unloaded at the end when nothing of it is alive.
+/// A loaded component library. The destructor unloads it unless any of its objects is alive.
 class Component::Library {
 public:
     /// Throws `ComponentError`.

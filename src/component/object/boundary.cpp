@@ -8,7 +8,7 @@
 namespace quillmark {
 
 void logCaughtException() noexcept {
-    // Not every call has an object that counts as one.
+    // Logging uses a service, and not every caller has an object that counts as its user.
     const ServiceUser user;
     OrxException::logCaught();
 }

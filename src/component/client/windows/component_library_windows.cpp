@@ -8,7 +8,7 @@
 namespace quillmark {
 namespace {
 
-/// What a key of the classes root holds as its default text; empty when there is none.
+/// The default text of a key below the classes root; empty when there is none.
 std::wstring defaultText(const std::wstring& key) {
     std::array<wchar_t, 256> text{};
     auto size = static_cast<DWORD>(sizeof text);
@@ -22,7 +22,7 @@ CLSID classOf(const std::string& identifier) {
     CLSID classId{};
     HRESULT result = name.starts_with(L'{') ? CLSIDFromString(name.c_str(), &classId)
                                             : CLSIDFromProgID(name.c_str(), &classId);
-    // A name without a version leads on to the current one; not every system goes that way.
+    // A name without a version refers to the current one, but not every system follows `CurVer`.
     if (FAILED(result)) {
         const std::wstring current = defaultText(name + L"\\CurVer");
         if (!current.empty()) {
