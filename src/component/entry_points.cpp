@@ -1,10 +1,10 @@
 #include "dochtml/entry_points.h"
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
+#include "component/module/module_state.h"
 #include "component/object/class_factory.h"
 #include "component/object/document_object.h"
 #include "component/object/driver_document.h"
-#include "component/object/module_state.h"
 #include "component/object/page_object.h"
 #include "component/registration/server_registration.h"
 

@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "dochtml/automation.h"
 #include "dochtml/com_pointer.h"
 
@@ -75,7 +75,6 @@ private:
     };
 
     LiveObject live_;
-    ServiceUser user_;
     InnerUnknown inner_;
     IUnknown* outer_;
 };

@@ -2,7 +2,7 @@
 
 #include <atomic>
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "dochtml/automation.h"
 #include "dochtml/host_services.h"
 

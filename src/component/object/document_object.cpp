@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
 #include "component/object/late_binding.h"
 #include "component/object/type_information.h"
 #include "dochtml/text.h"

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "component/module/module_state.h"
 #include "component/object/aggregable_object.h"
 #include "dochtml/document.h"
 #include "driver/boundary/i_document.h"
@@ -82,6 +83,8 @@ protected:
     [[nodiscard]] IUnknown* findInterface(REFIID iid) noexcept override;
 
 private:
+    /// Declared before the driver, so that the driver may use services until it is destroyed.
+    ServiceUser user_;
     std::unique_ptr<DriverDocument> document_;
 };
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
 #include "component/object/call_arguments.h"
 #include "driver/boundary/operation_table.h"
 #include "foundation/ascii.h"

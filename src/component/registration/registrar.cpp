@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
 
 namespace quillmark {
 

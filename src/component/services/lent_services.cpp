@@ -1,6 +1,6 @@
 #include "component/services/lent_services.h"
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "component/services/lent_adapters.h"
 #include "component/services/lent_model.h"
 #include "component/services/lent_text.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "component/object/recorded_object.h"
 
 namespace quillmark::testing {

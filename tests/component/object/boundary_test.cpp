@@ -5,8 +5,8 @@
 #include <new>
 #include <stdexcept>
 
+#include "component/module/module_state.h"
 #include "component/object/document_object.h"
-#include "component/object/module_state.h"
 #include "component/object/operation_calls.h"
 #include "dochtml/com_pointer.h"
 #include "support/capturing_exception_log.h"

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "component/module/module_state.h"
 #include "component/object/document_object.h"
-#include "component/object/module_state.h"
 #include "dochtml/com_pointer.h"
 #include "dochtml/document.h"
 #include "support/recording_document.h"

@@ -5,7 +5,7 @@
 #include <atomic>
 #include <thread>
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "component/object/recorded_object.h"
 #include "component/services/lent_services.h"
 

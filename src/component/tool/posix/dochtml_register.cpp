@@ -9,8 +9,8 @@
 #include "component/posix/class_file.h"
 #include "dochtml/entry_points.h"
 
-// Registers a component library with the user's file of classes: what a system with a registry
-// has a program for.
+// Registers a component library in the user's class file. On Windows the system's own program does
+// this.
 
 namespace {
 
@@ -23,7 +23,7 @@ struct Order {
     std::string library;
 };
 
-void tellUsage(std::ostream& out) {
+void printUsage(std::ostream& out) {
     out << "Usage: dochtml-register [--unregister] [LIBRARY]\n"
            "Makes the document component known to this user's programs by class and program\n"
            "identifier, or takes that back. Without LIBRARY it is the one installed with this\n"
@@ -67,7 +67,7 @@ int main(int argc, char** argv) {
     Order order;
     for (const std::string_view argument : std::vector<std::string_view>(argv + 1, argv + argc)) {
         if (argument == "--help") {
-            tellUsage(std::cout);
+            printUsage(std::cout);
             return exitDone;
         }
         if (argument == "--version") {
@@ -77,10 +77,10 @@ int main(int argc, char** argv) {
         if (argument == "--unregister") {
             order.unregister = true;
         } else if (argument.starts_with('-') || !order.library.empty()) {
-            tellUsage(std::cerr);
+            printUsage(std::cerr);
             return exitBadUsage;
         } else {
-            // A bare name would be looked for among the system's libraries.
+            // The loader would search the system's libraries for a name without a directory.
             order.library = std::filesystem::absolute(argument).string();
         }
     }

@@ -1,4 +1,4 @@
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 
 #include <atomic>
 

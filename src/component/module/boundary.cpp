@@ -1,8 +1,8 @@
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
 
 #include <new>
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "foundation/orx_exception.h"
 
 namespace quillmark {
