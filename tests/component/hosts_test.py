@@ -130,8 +130,15 @@ class HostsTest(unittest.TestCase):
 
     def test_registration_says_what_failed(self):
         self.assertEqual(self.register(self.work / "none.so").returncode, 1)
-        self.assertEqual(self.register("--wrong").returncode, 2)
-        self.assertEqual(self.register(LIBRARY, LIBRARY).returncode, 2)
+        for arguments, why in (
+            (["--wrong"], "unknown option --wrong"),
+            ([LIBRARY, LIBRARY], "more than one library given"),
+        ):
+            ended = self.register(*arguments)
+            self.assertEqual(ended.returncode, 2)
+            self.assertEqual(
+                ended.stderr, f"dochtml-register: {why}\nTry dochtml-register --help.\n"
+            )
         self.assertEqual(self.register("--help").returncode, 0)
         (self.work / "data").write_text("in the way")
         ended = self.register(LIBRARY)

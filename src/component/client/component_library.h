@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "component/client/shared_library.h"
 #include "dochtml/client.h"
 
 namespace quillmark {
@@ -10,7 +11,7 @@ namespace quillmark {
 class Component::Library {
 public:
     /// Throws `ComponentError`.
-    explicit Library(const std::string& file);
+    explicit Library(const std::string& file) : file_(file) {}
     Library(const Library&) = delete;
     Library& operator=(const Library&) = delete;
     ~Library();
@@ -19,9 +20,7 @@ public:
     [[nodiscard]] ComPointer<IClassFactory> classObject(const CLSID& classId) const;
 
 private:
-    [[nodiscard]] void* find(const char* name) const noexcept;
-
-    void* handle_ = nullptr;
+    SharedLibrary file_;
 };
 
 }  // namespace quillmark
