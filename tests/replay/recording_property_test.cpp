@@ -77,7 +77,7 @@ private:
     std::mt19937 random_;
 };
 
-TEST(RecordingProperty, everyRecordedStreamReadsBackAsItsCalls) {
+TEST(RecordingProperty, EveryRecordedStreamReadsBackAsItsCalls) {
     for (unsigned seed = 1; seed <= 500; ++seed) {
         Samples samples(seed);
         std::string recording;

@@ -141,7 +141,7 @@ TEST_F(PageApplyTest, ADriveQualifiedImagesDirectoryMustExist) {
     EXPECT_EQ(kept("ExternalDocDir"), "(nothing)");
 }
 
-TEST_F(PageApplyTest, AFileIsNoImagesDirectory) {
+TEST_F(PageApplyTest, AFileIsNotAnImagesDirectory) {
     controls.setText(5601, makeFile("plain"));
     EXPECT_FALSE(page.apply());
 }
@@ -165,7 +165,7 @@ TEST_F(PageApplyTest, AStyleSheetMustExist) {
     EXPECT_EQ(kept("IconFile"), "(nothing)");
 }
 
-TEST_F(PageApplyTest, ADirectoryIsNoStyleSheet) {
+TEST_F(PageApplyTest, ADirectoryIsNotAStyleSheet) {
     controls.setText(5205, makeDirectory("d.css"));
     EXPECT_FALSE(page.apply());
 }

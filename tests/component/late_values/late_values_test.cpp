@@ -25,7 +25,7 @@ bool isExpected(const ExpectedAnswer& expected, const std::string& answer) {
 #endif
 }
 
-TEST(LateValues, becomeWhatTheTableSays) {
+TEST(LateValues, BecomeWhatTheTableSays) {
     for (const ValueRow& row : table()) {
         const auto answers = answersTo(row.type, row.value);
         for (std::size_t i = 0; i < answers.size(); ++i) {
@@ -35,7 +35,7 @@ TEST(LateValues, becomeWhatTheTableSays) {
     }
 }
 
-TEST(LateValues, comeInManyKinds) {
+TEST(LateValues, AreDistinctAndOfManyKinds) {
     std::set<std::string> values;
     for (const ValueRow& row : table()) {
         values.insert(row.type + ' ' + row.value);
@@ -44,7 +44,7 @@ TEST(LateValues, comeInManyKinds) {
     EXPECT_GE(values.size() * ValueRow::parameterCount, 1500U);
 }
 
-TEST(LateValues, haveAReasonWhereWineIsNotWindows) {
+TEST(LateValues, HaveAReasonWhereWineDiffersFromWindows) {
     for (const ValueRow& row : table()) {
         bool differs = false;
         for (const ExpectedAnswer& answer : row.answers) {

@@ -103,7 +103,7 @@ protected:
     EnvironmentVariable settings_{"XDG_CONFIG_HOME", config_.native()};
 };
 
-TEST_F(WholeDocument, holdsEveryOperation) {
+TEST_F(WholeDocument, ContainsEveryOperation) {
     std::set<std::string> names;
     for (const Step& step : wholeDocument("")) {
         names.insert(step.name);
@@ -111,19 +111,19 @@ TEST_F(WholeDocument, holdsEveryOperation) {
     EXPECT_EQ(names.size(), 42U);
 }
 
-TEST_F(WholeDocument, isTheDriversOwnThroughTheTable) {
+TEST_F(WholeDocument, IsTheSameThroughTheTableAsFromTheDriver) {
     EXPECT_EQ(throughComponent(&callByTable), withoutComponent());
 }
 
-TEST_F(WholeDocument, isTheDriversOwnByDispatchIdentifier) {
+TEST_F(WholeDocument, IsTheSameByDispatchIdentifierAsFromTheDriver) {
     EXPECT_EQ(throughComponent(&callById), withoutComponent());
 }
 
-TEST_F(WholeDocument, isTheDriversOwnByName) {
+TEST_F(WholeDocument, IsTheSameByNameAsFromTheDriver) {
     EXPECT_EQ(throughComponent(&callByName), withoutComponent());
 }
 
-TEST_F(WholeDocument, isOnTheDisk) {
+TEST_F(WholeDocument, IsOnTheDisk) {
     const Outcome outcome = throughComponent(&callById);
     std::vector<std::string> names;
     for (const auto& [name, content] : outcome.files) {
@@ -143,7 +143,7 @@ TEST_F(WholeDocument, isOnTheDisk) {
 /// Without any of the operations the document is another one, but for those whose effect does not
 /// show in it: some are accepted and do nothing, `showLast` looks at the document, and a diagram
 /// and a mark need a model.
-TEST_F(WholeDocument, showsTheEffectOfEveryOperationThatHasOne) {
+TEST_F(WholeDocument, ShowsTheEffectOfEveryOperationThatHasOne) {
     const std::set<std::string> withoutEffect = {"start",         "stop",      "setOrientation",
                                                  "showLast",      "startFile", "setTableRowHeight",
                                                  "insertDiagram", "insertMark"};
@@ -196,7 +196,7 @@ DochtmlModel askedModel(Handles& asked) {
     return model;
 }
 
-TEST_F(WholeDocument, asksTheHostsModelForTheMarkedElement) {
+TEST_F(WholeDocument, AsksTheModelOfTheHostForTheMarkedElement) {
     const Apartment apartment;
     const Workplace place;
     Handles asked;
@@ -213,7 +213,7 @@ TEST_F(WholeDocument, asksTheHostsModelForTheMarkedElement) {
     EXPECT_THAT(asked, ::testing::Contains(0xFFFFFFFB00000000U));
 }
 
-TEST_F(WholeDocument, isHeardByTheHostCallByCall) {
+TEST_F(WholeDocument, IsReportedToTheHostCallByCall) {
     const Apartment apartment;
     const Workplace place;
     std::string heard;

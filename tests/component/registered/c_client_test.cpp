@@ -28,7 +28,7 @@ bool isLoaded() {
     return GetModuleHandleW(L"dochtmlcom.dll") != nullptr;
 }
 
-TEST(CClient, findsTheComponentAgainInALaterApartment) {
+TEST(CClient, FindsTheComponentAgainInALaterApartment) {
     for (int apartment = 0; apartment < 3; ++apartment) {
         ASSERT_EQ(dochtml_initialize(), S_OK);
         EXPECT_EQ(useDocument(), S_OK);
@@ -40,7 +40,7 @@ TEST(CClient, findsTheComponentAgainInALaterApartment) {
     }
 }
 
-TEST(CClient, lendsServicesThatKeepTheLibrary) {
+TEST(CClient, KeepsTheLibraryLoadedWhileItHoldsTheServices) {
     ASSERT_EQ(dochtml_initialize(), S_OK);
     DochtmlHostServices* services = nullptr;
     ASSERT_EQ(dochtml_host_services(driverProgram, &services), S_OK);
@@ -51,7 +51,7 @@ TEST(CClient, lendsServicesThatKeepTheLibrary) {
     dochtml_uninitialize();
 }
 
-TEST(CClient, staysInItsApartmentUntilTheLastOfItsCalls) {
+TEST(CClient, StaysInItsApartmentUntilTheLastOfItsCalls) {
     ASSERT_EQ(dochtml_initialize(), S_OK);
     DochtmlDocument* document = nullptr;
     ASSERT_EQ(dochtml_create_document(driverProgram, &document), S_OK);
@@ -67,7 +67,7 @@ TEST(CClient, staysInItsApartmentUntilTheLastOfItsCalls) {
     EXPECT_EQ(useDocument(), CO_E_NOTINITIALIZED);
 }
 
-TEST(CClient, beginsAnewAfterOneCallTooMany) {
+TEST(CClient, ToleratesOneCallTooMany) {
     dochtml_uninitialize();
     ASSERT_EQ(dochtml_initialize(), S_OK);
     EXPECT_EQ(useDocument(), S_OK);

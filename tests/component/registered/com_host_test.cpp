@@ -40,11 +40,11 @@ Interface* create(const CLSID& classId, const IID& iid) {
     return static_cast<Interface*>(object);
 }
 
-TEST_F(RegisteredComponent, hasTheClassOfTheDescription) {
+TEST_F(RegisteredComponent, HasTheClassOfTheDescription) {
     EXPECT_TRUE(IsEqualCLSID(driverClass(), CLSID_DocHtml));
 }
 
-TEST_F(RegisteredComponent, isMadeAndCalledThroughTheTable) {
+TEST_F(RegisteredComponent, IsCreatedAndCalledThroughTheTable) {
     auto* document = create<IDocument>(CLSID_DocHtml, IID_IDocument);
     ASSERT_NE(document, nullptr);
     BSTR text = nullptr;
@@ -57,7 +57,7 @@ TEST_F(RegisteredComponent, isMadeAndCalledThroughTheTable) {
     EXPECT_EQ(document->Release(), 0U);
 }
 
-TEST_F(RegisteredComponent, answersFailuresOfTheDriverWithZero) {
+TEST_F(RegisteredComponent, ReturnsZeroForFailuresOfTheDriver) {
     auto* document = create<IDocument>(CLSID_DocHtml, IID_IDocument);
     BSTR group = SysAllocString(L"Html");
     BSTR name = SysAllocString(L"StyleSheet");
@@ -73,7 +73,7 @@ TEST_F(RegisteredComponent, answersFailuresOfTheDriverWithZero) {
     document->Release();
 }
 
-TEST_F(RegisteredComponent, describesItselfToLateBoundHosts) {
+TEST_F(RegisteredComponent, DescribesItselfToLateBoundHosts) {
     auto* document = create<IDispatch>(CLSID_DocHtml, IID_IDispatch);
     UINT count = 0;
     EXPECT_EQ(document->GetTypeInfoCount(&count), S_OK);
@@ -88,13 +88,13 @@ TEST_F(RegisteredComponent, describesItselfToLateBoundHosts) {
     document->Release();
 }
 
-TEST_F(RegisteredComponent, hasItsPropertyPage) {
+TEST_F(RegisteredComponent, HasItsPropertyPage) {
     auto* page = create<IPropertyPage>(CLSID_HtmlComPage, IID_IPropertyPage);
     ASSERT_NE(page, nullptr);
     EXPECT_EQ(page->Release(), 0U);
 }
 
-TEST_F(RegisteredComponent, doesNotMakeUnknownClassesAndInterfaces) {
+TEST_F(RegisteredComponent, CreatesNoUnknownClassesAndInterfaces) {
     CLSID unknownClass = CLSID_DocHtml;
     unknownClass.Data1 = 0x474BDD92;
     void* object = nullptr;
@@ -135,7 +135,7 @@ protected:
     }
 };
 
-TEST_P(AggregatedClass, keepsTheRulesOfIdentity) {
+TEST_P(AggregatedClass, FollowsTheRulesOfIdentity) {
     Outer outer;
     ASSERT_EQ(CoCreateInstance(classId(), &outer, CLSCTX_INPROC_SERVER, IID_IUnknown,
                                reinterpret_cast<void**>(&outer.inner)),
@@ -153,7 +153,7 @@ TEST_P(AggregatedClass, keepsTheRulesOfIdentity) {
     EXPECT_EQ(outer.inner->Release(), 0U);
 }
 
-TEST_P(AggregatedClass, isMadeWithTheUnknownInterfaceOnly) {
+TEST_P(AggregatedClass, IsCreatedWithTheUnknownInterfaceOnly) {
     Outer outer;
     void* object = nullptr;
     EXPECT_EQ(CoCreateInstance(classId(), &outer, CLSCTX_INPROC_SERVER, interfaceId(), &object),

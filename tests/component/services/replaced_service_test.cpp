@@ -29,7 +29,7 @@ protected:
     }
 };
 
-TEST_F(ReplacedService, canStillBeCalledByWhoTookItUpBefore) {
+TEST_F(ReplacedService, CanStillBeCalledByWhoeverFetchedItBefore) {
     const ServiceUser another;
     int calls = 0;
     const DochtmlObserver observer = observerOf(calls);
@@ -40,7 +40,7 @@ TEST_F(ReplacedService, canStillBeCalledByWhoTookItUpBefore) {
     EXPECT_EQ(calls, 1);
 }
 
-TEST_F(ReplacedService, isLetGoOfWhenNobodyCanHaveTakenItUp) {
+TEST_F(ReplacedService, IsReleasedWhenNobodyCanHaveFetchedIt) {
     const DochtmlObserver deaf{};
     {
         const ServiceUser another;
@@ -53,7 +53,7 @@ TEST_F(ReplacedService, isLetGoOfWhenNobodyCanHaveTakenItUp) {
     EXPECT_EQ(LentServices::module().retiredCount(), 0U);
 }
 
-TEST_F(ReplacedService, isKeptForADocument) {
+TEST_F(ReplacedService, IsKeptForADocument) {
     const DochtmlObserver deaf{};
     {
         const RecordedObject document;
@@ -65,7 +65,7 @@ TEST_F(ReplacedService, isKeptForADocument) {
     EXPECT_EQ(LentServices::module().retiredCount(), 0U);
 }
 
-TEST_F(ReplacedService, mayBeReplacedWhileAnotherThreadWritesItsTrace) {
+TEST_F(ReplacedService, MayBeReplacedWhileAnotherThreadWritesItsTrace) {
     constexpr int rounds = 2000;
     std::atomic<int> heard{0};
     const DochtmlTraceListener listener{&heard, Trace::calls,

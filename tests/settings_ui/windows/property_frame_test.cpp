@@ -70,7 +70,7 @@ TEST_F(PropertyFrameTest, LoadsWhenTheFirstBoxGetsTheFocusAndLeavesApplyDisabled
     EXPECT_FALSE(driver.applyIsEnabled());
 }
 
-TEST_F(PropertyFrameTest, TheTabCarriesTheTitleWithoutItsAccessMark) {
+TEST_F(PropertyFrameTest, TheTabShowsTheTitleWithoutItsAccessMark) {
     const FrameDriver driver;
     const HWND tabs = GetDlgItem(driver.frame(), 0x3020);
     std::array<char, 64> title{};
@@ -82,7 +82,7 @@ TEST_F(PropertyFrameTest, TheTabCarriesTheTitleWithoutItsAccessMark) {
     EXPECT_STREQ(item.pszText, "&HTML");
 }
 
-TEST_F(PropertyFrameTest, AFrameMakesThePageFromItsRegisteredClass) {
+TEST_F(PropertyFrameTest, AFrameCreatesThePageFromItsRegisteredClass) {
     put("HtmlPixDir", "images");
     const FrameDriver driver(settingsPageClass);
     EXPECT_EQ(driver.focused(), 5601);
@@ -155,7 +155,7 @@ TEST_F(PropertyFrameTest, WithoutANavigationMethodApplyIsRefusedAndNothingIsWrit
     EXPECT_EQ(kept("UseRelative"), "(nothing)");
 }
 
-TEST_F(PropertyFrameTest, AHeadingLevelOutsideItsRangeIsRefusedBehindTheChecks) {
+TEST_F(PropertyFrameTest, AHeadingLevelOutsideItsRangeIsRefusedAfterTheChecks) {
     const FrameDriver driver;
     driver.click(5219);
     driver.type(5202, "51");
@@ -188,7 +188,7 @@ TEST_F(PropertyFrameTest, TheHeadingLevelWrapsAroundAtBothEnds) {
     EXPECT_TRUE(driver.applyIsEnabled());
 }
 
-TEST_F(PropertyFrameTest, DirectoriesAndFilesThatAreNotThereAreRefused) {
+TEST_F(PropertyFrameTest, DirectoriesAndFilesThatDoNotExistAreRefused) {
     const FrameDriver driver;
     driver.type(5601, "C:\\no such");
     expectRefusal(driver,
