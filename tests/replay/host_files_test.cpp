@@ -97,7 +97,7 @@ TEST_F(HostFiles, ContainTheElementsOfAModel) {
     EXPECT_FALSE(element->getClass()->associationExists("owner"));
     EXPECT_THAT(element->objects("owner"), IsEmpty());
 
-    // Elements of a class share it, so the class has what any of them has.
+    // Elements of the same class share one description, which has the members of all of them.
     const MMObject* const other = model.object(9);
     ASSERT_NE(other, nullptr);
     EXPECT_EQ(other->getClass(), element->getClass());

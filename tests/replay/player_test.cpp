@@ -20,7 +20,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-/// What the documents of a test were called with, and the trace lines that they write when they
+/// The calls that the documents of a test received, and the trace lines that they write when they
 /// are called.
 struct Stage {
     std::vector<std::string> calls;
@@ -29,7 +29,7 @@ struct Stage {
     int made = 0;
 };
 
-/// Tells its calls to a stage, and when it goes.
+/// Reports its calls and its destruction to a stage.
 class StagedDocument final : public testing::RecordingDocument {
 public:
     explicit StagedDocument(Stage& stage) : stage_(stage) {}
@@ -125,7 +125,7 @@ protected:
                 exceptions_};
     }
 
-    /// Lets the staged document write the call itself and more lines when it is called.
+    /// Makes the staged document write the call itself and more lines when it is called.
     void traces(const std::string& call, std::vector<std::string> more = {}) {
         more.insert(more.begin(), "dochtml->" + call + ";\n");
         stage_.trace[call] = std::move(more);

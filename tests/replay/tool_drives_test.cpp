@@ -6,7 +6,7 @@
 namespace quillmark::replay {
 namespace {
 
-/// Names that begin with the letter of a drive, on a system that has none.
+/// Names that begin with a drive letter, on a system without drives.
 class ReplayToolDrives : public ReplayTool {
 protected:
     void SetUp() override {

@@ -245,7 +245,7 @@ TEST_F(ReplayTool, ReportsThatCreateFailed) {
 }
 
 TEST_F(ReplayTool, ReportsThatAPageCouldNotBeWrittenAndContinues) {
-    // A directory in the place of the page's file stops it for every user.
+    // A directory with the name of the page's file prevents writing for every user.
     makeDirectory("rep_dtl.htm");
     const ToolResult result =
         run({"--exceptions", "exceptions.txt", "-"},

@@ -16,7 +16,7 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-/// The tool on an INI file of the test's own.
+/// The tool with an INI file that belongs to the test.
 class SettingsToolTest : public testing::Test {
 protected:
     SettingsToolTest() { std::filesystem::create_directories(directory_); }

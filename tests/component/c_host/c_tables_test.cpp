@@ -1,4 +1,4 @@
-// The tables that C hosts call through are those of the C++ interfaces.
+// The tables of functions of C hosts are those of the C++ interfaces.
 
 #include <gmock/gmock.h>
 

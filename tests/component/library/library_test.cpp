@@ -1,4 +1,4 @@
-// The library from outside: what it serves, how long it must stay, and several objects at once.
+// The library from outside: its classes, how long it must stay loaded, and several objects at once.
 
 #include <gmock/gmock.h>
 
@@ -103,7 +103,7 @@ TEST_F(Library, HasNoSettingsPageWhereThereAreNoPropertyPages) {
 #endif
 
 #ifndef _WIN32
-/// Loads the library, has it write a document, and unloads it.
+/// Loads the library, writes a document with it, and unloads it.
 void writeDocumentAndUnload(const TempDir& dir) {
     const LoadedLibrary library(DOCHTML_TEST_LIBRARY);
     ComPointer<IClassFactory> factory;

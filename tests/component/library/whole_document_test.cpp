@@ -1,5 +1,5 @@
-// The library as hosts load it: a document of all 42 operations, driven in every way, is the one
-// that the driver itself makes.
+// The library as hosts load it: a document of all 42 operations, called in every way, is the same
+// as the one that the driver itself writes.
 
 #include <gmock/gmock.h>
 
@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Everything that a document leaves behind that somebody can see.
+/// Every visible result of a document.
 struct Outcome {
     std::map<std::string, std::string> files;
     std::vector<std::string> calls;
@@ -27,7 +27,7 @@ struct Outcome {
     friend bool operator==(const Outcome&, const Outcome&) = default;
 };
 
-/// The directory of one document, the same name for each, so that outcomes can be compared.
+/// The directory of one document. All documents use the same name, so that results can be compared.
 class Workplace {
 public:
     Workplace() {
@@ -48,7 +48,7 @@ public:
         }
         return all;
     }
-    /// The place differs from run to run.
+    /// The directory differs from run to run.
     [[nodiscard]] std::string withoutDirectory(std::string text) const {
         return OrxString(text).replaceStr(dir_.path(), "HERE").str();
     }
@@ -140,9 +140,8 @@ TEST_F(WholeDocument, IsOnTheDisk) {
                                          std::u16string(u"Html")}));
 }
 
-/// Without any of the operations the document is another one, but for those whose effect does not
-/// show in it: some are accepted and do nothing, `showLast` looks at the document, and a diagram
-/// and a mark need a model.
+/// The operations that can be left out without changing the document: some are accepted and do
+/// nothing, `showLast` only shows the document, and a diagram and a mark need a model.
 TEST_F(WholeDocument, ShowsTheEffectOfEveryOperationThatHasOne) {
     const std::set<std::string> withoutEffect = {"start",         "stop",      "setOrientation",
                                                  "showLast",      "startFile", "setTableRowHeight",
@@ -169,7 +168,7 @@ HRESULT knowsNothing(void* /*context*/, Arguments...) {
     return E_FAIL;
 }
 
-/// A model that knows nothing and writes down what it is asked for.
+/// An empty model that records what it is asked for.
 DochtmlModel askedModel(Handles& asked) {
     DochtmlModel model{};
     model.context = &asked;

@@ -1,4 +1,4 @@
-// Who an object is and how long it lives, alone and inside an outer object.
+// An object's identity and lifetime, alone and inside an outer object.
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,8 @@ namespace {
 
 constexpr IID unknownInterface = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
 
-/// An outer object that counts, and passes on what it does not know to its inner object.
+/// An outer object that counts references and passes requests for unknown interfaces on to its
+/// inner object.
 class Outer final : public IUnknown {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {

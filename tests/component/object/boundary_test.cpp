@@ -1,4 +1,4 @@
-// Whatever happens behind the boundary, the host hears 0.
+// Whatever happens inside the component, an operation returns 0 to the host.
 
 #include <gmock/gmock.h>
 

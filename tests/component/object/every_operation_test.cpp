@@ -49,7 +49,7 @@ TEST_P(EveryOperation, RefusesEveryOtherNumberOfArguments) {
 TEST_P(EveryOperation, ReportsTheArgumentOfAWrongKindAndContinues) {
     for (std::size_t position = 0; position < call().arguments.size(); ++position) {
         LateArguments late(call().arguments);
-        // A reference to an object is no text, no number and no boolean.
+        // A reference to an object is not a text, a number or a boolean.
         VARIANT& wrong = late.argument(position);
         VariantInit(&wrong);
         wrong.vt = VT_UNKNOWN;

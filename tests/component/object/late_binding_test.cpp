@@ -1,4 +1,4 @@
-// What a host that knows only names may do, and what it hears when it errs.
+// What a host that knows only names may do, and the results of its mistakes.
 
 #include <gmock/gmock.h>
 
@@ -28,7 +28,7 @@ protected:
     HRESULT call(DISPID id, LateArguments& arguments, UINT* bad = nullptr) const {
         return invoke(document(), id, arguments.parameters(), bad);
     }
-    /// Calls with one argument of the test's own making.
+    /// Calls with one argument that the test has prepared.
     HRESULT callWith(DISPID id, VARIANT argument, UINT* bad = nullptr) const {
         DISPPARAMS parameters{&argument, nullptr, 1, 0};
         return invoke(document(), id, parameters, bad);

@@ -137,7 +137,7 @@ TEST_F(ClassFile, KeepsTheSharedKeyAndOtherClassesWhenUnregistered) {
     EXPECT_EQ(tree(), others);
 }
 
-/// A file that is there and cannot be read, whoever asks: it is a link to itself.
+/// A file that exists but cannot be read by any user: it is a link to itself.
 class UnreadableClassFile : public ClassFile {
 protected:
     void SetUp() override {
@@ -169,7 +169,7 @@ TEST_F(UnreadableClassFile, IsNamedInTheErrorOfALookup) {
 }
 
 TEST_F(ClassFile, CannotBeReadWhenItIsADirectory) {
-    // It opens; only reading it fails.
+    // Opening it succeeds; only reading fails.
     fs::create_directories(file());
     EXPECT_EQ(readClassFile(file()), std::nullopt);
     EXPECT_EQ(registerServer(), REGDB_E_READREGDB);

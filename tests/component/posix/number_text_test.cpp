@@ -1,4 +1,4 @@
-// What a text means as a number, where it goes beyond what other systems can be asked for.
+// The number that a text means, in cases that the table of late-bound values cannot cover.
 
 #include "component/posix/conversion/number_text.h"
 

@@ -1,4 +1,4 @@
-// How numbers become texts where the system brings no conversion of its own.
+// How numbers become texts on systems without a conversion of their own.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// A C host by the component's name: the class objects are the system's, and so is the library.
+// A C host that creates the component by name: the system manages class objects and library.
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace {
 
 const char* const driverProgram = "DocHtml.DocHtml.2.1.0";
 
-/// Makes a document by name, asks it something and lets go of it.
+/// Creates a document by name, calls it and releases it.
 HRESULT useDocument() {
     DochtmlDocument* document = nullptr;
     const HRESULT made = dochtml_create_document(driverProgram, &document);
@@ -35,7 +35,7 @@ TEST(CClient, FindsTheComponentAgainInALaterApartment) {
         EXPECT_TRUE(isLoaded());
         CoFreeUnusedLibraries();
         dochtml_uninitialize();
-        // Nothing of the client's keeps it.
+        // The client does not keep it loaded.
         EXPECT_FALSE(isLoaded());
     }
 }

@@ -1,4 +1,4 @@
-// The registered component as a Windows host sees it that knows nothing but the system's own
+// The registered component from the view of a Windows host that uses only the system's own
 // functions and the header compiled from the interface description.
 
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ class Apartment : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_EQ(CoInitialize(nullptr), S_OK); }
     void TearDown() override {
-        // What was loaded goes again: nothing keeps it.
+        // The library can be unloaded again: nothing keeps it.
         CoFreeUnusedLibraries();
         CoUninitialize();
     }
@@ -107,7 +107,7 @@ TEST_F(RegisteredComponent, CreatesNoUnknownClassesAndInterfaces) {
     EXPECT_EQ(object, nullptr);
 }
 
-/// An outer object that passes on what it does not know.
+/// An outer object that passes requests for unknown interfaces on.
 class Outer final : public IUnknown {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {

@@ -1,4 +1,4 @@
-// The texts and the version that the library carries.
+// The texts and the version in the resources of the library.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// The type library inside the library, walked from end to end.
+// The complete contents of the type library inside the library.
 
 #include <gmock/gmock.h>
 
@@ -128,7 +128,7 @@ TEST_F(TypeLibrary, DescribesTheClassOfThePage) {
     info->ReleaseTypeAttr(attributes);
 }
 
-/// The table of operations behind the dispatch description.
+/// The function table that belongs to the dispatch description.
 ComPointer<ITypeInfo> tableOf(const ComPointer<ITypeInfo>& dispatch) {
     HREFTYPE reference = 0;
     ComPointer<ITypeInfo> table;

@@ -33,7 +33,7 @@ KeyTree registered() {
     return {{}, {{"Prog.1", program}, {"CLSID", {{}, {{"{1}", classKey}}}}}};
 }
 
-/// A store in which others have keys, and an earlier version of ours too.
+/// A store with keys of other programs and of an earlier version of ours.
 KeyTree usedStore() {
     KeyTree old = leaf("Older Class");
     old.children = {{"Leftover", leaf("x")}};

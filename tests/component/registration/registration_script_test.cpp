@@ -70,7 +70,7 @@ TEST(RegistrationScript, RefusesAMalformedScript) {
 }
 
 #ifndef _WIN32
-// On Windows the scripts are resources of the library, which its own tests look into.
+// On Windows the scripts are resources of the library. Other tests read them there.
 
 TEST(DriverScript, ContainsTheKeysOfTheDriver) {
     const auto keys = readRegistrationScript(registrationScript(driverScript), "/lib/x.so");

@@ -1,4 +1,4 @@
-// What a host lends through callbacks reaches the driver behind its own contracts.
+// The services that a host provides through callbacks reach the driver through its own interfaces.
 
 #include "component/services/lent_services.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// The host's side: writes down what it is asked and answers from its members.
+/// The host's side: records what it is asked and answers from its members.
 struct Host {
     std::vector<std::string> heard;
     bool fails = false;

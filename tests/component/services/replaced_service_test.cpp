@@ -1,4 +1,4 @@
-// A lent service that is replaced while others may be calling it.
+// A service of the host that is replaced while others may be calling it.
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ DochtmlObserver observerOf(int& calls) {
 class ReplacedService : public ::testing::Test {
 protected:
     void TearDown() override {
-        // Without a user this also lets go of what a test has left.
+        // Without a user this also releases the services that a test has left.
         EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
         EXPECT_EQ(LentServices::module().retiredCount(), 0U);
     }

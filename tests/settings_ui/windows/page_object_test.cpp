@@ -105,7 +105,7 @@ std::vector<Placed> visibleControls(HWND window) {
     for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT)) {
         const LONG style = GetWindowLongA(child, GWL_STYLE);
-        // The up-down control lies inside its buddy's frame.
+        // The up-down control is inside its buddy's frame.
         if ((style & WS_VISIBLE) == 0 || GetDlgCtrlID(child) == control::headingLevelSpin) {
             continue;
         }
@@ -235,7 +235,7 @@ TEST_F(PageObjectTest, IsNotActivatedTwice) {
     EXPECT_EQ(page_->Activate(parent_, &place, FALSE), E_UNEXPECTED);
 }
 
-/// An outer object that counts what reaches it.
+/// An outer object that counts its calls.
 class Outer final : public IUnknown {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {

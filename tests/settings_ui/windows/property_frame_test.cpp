@@ -17,7 +17,7 @@ namespace quillmark {
 
 namespace {
 
-/// A person in front of the frame, with a registry in which everything is acceptable.
+/// A user of the frame, with a registry in which every value is valid.
 class PropertyFrameTest : public testing::Test {
 protected:
     PropertyFrameTest() {
@@ -39,7 +39,7 @@ protected:
         EXPECT_TRUE(seen.hasExclamation);
         EXPECT_TRUE(driver.isOpen());
         EXPECT_TRUE(driver.applyIsEnabled());
-        // The page moves the focus nowhere: the button that was pressed has it.
+        // The page does not move the focus: the button that was pressed has it.
         EXPECT_EQ(driver.focused(), applyButton);
     }
     static void expectAccepted(const FrameDriver& driver) {
@@ -285,7 +285,7 @@ TEST_F(PropertyFrameTest, AStyleSheetCanBePicked) {
 TEST_F(PropertyFrameTest, IsSavedAsAPicture) {
     put("Navig", "3");
     const FrameDriver driver;
-    // A box would show a blinking caret.
+    // An edit box would show a blinking caret.
     driver.giveFocus(5213);
     saveScreenshot(driver.frame(), "settings-page.bmp");
     EXPECT_GT(std::filesystem::file_size("settings-page.bmp"), 100000U);
