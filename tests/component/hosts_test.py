@@ -49,7 +49,7 @@ class HostsTest(unittest.TestCase):
         return self.run_program("bin/dochtml-register", *arguments)
 
     def report(self, host, *component):
-        """Runs a host; answers with how it ended and the document set that it made."""
+        """Runs a host; returns how it ended and the document set that it wrote."""
         out = self.work / ("out-" + host)
         ended = self.run_program(
             "examples/hosts/" + host, out / "rep.htm", document_set.STYLE_SHEET, *component
@@ -130,8 +130,15 @@ class HostsTest(unittest.TestCase):
 
     def test_registration_says_what_failed(self):
         self.assertEqual(self.register(self.work / "none.so").returncode, 1)
-        self.assertEqual(self.register("--wrong").returncode, 2)
-        self.assertEqual(self.register(LIBRARY, LIBRARY).returncode, 2)
+        for arguments, why in (
+            (["--wrong"], "unknown option --wrong"),
+            ([LIBRARY, LIBRARY], "more than one library given"),
+        ):
+            ended = self.register(*arguments)
+            self.assertEqual(ended.returncode, 2)
+            self.assertEqual(
+                ended.stderr, f"dochtml-register: {why}\nTry dochtml-register --help.\n"
+            )
         self.assertEqual(self.register("--help").returncode, 0)
         (self.work / "data").write_text("in the way")
         ended = self.register(LIBRARY)
@@ -166,7 +173,7 @@ class HostsTest(unittest.TestCase):
     def test_replay_tool_takes_the_registered_component(self):
         self.register(LIBRARY)
         document_set.check(self, self.replay()[1], "posix")
-        # A registered library that is gone shows that the name was followed.
+        # A registered library that no longer exists shows that the tool followed the name.
         text = self.classes.read_text().replace(str(LIBRARY), str(self.work / "gone.so"))
         self.classes.write_text(text)
         ended, files = self.replay()

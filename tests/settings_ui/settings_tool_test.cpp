@@ -16,7 +16,7 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-/// The tool on an INI file of the test's own.
+/// The tool with an INI file that belongs to the test.
 class SettingsToolTest : public testing::Test {
 protected:
     SettingsToolTest() { std::filesystem::create_directories(directory_); }
@@ -79,7 +79,7 @@ TEST_F(SettingsToolTest, GetShowsTheStoredValueOrTheDefault) {
     EXPECT_EQ(out, "50\n");
 }
 
-TEST_F(SettingsToolTest, InstalledSupportFilesStandInForTheInstallationDirectory) {
+TEST_F(SettingsToolTest, InstalledSupportFilesReplaceAMissingInstallationDirectory) {
     EXPECT_EQ(run({"get", "StyleSheet"}), 0);
     EXPECT_EQ(out, "default.css\n");
     std::filesystem::create_directories(directory() / "share/dochtml");
@@ -97,7 +97,7 @@ TEST_F(SettingsToolTest, SetWritesTheSettingsNamedAndNoOthers) {
     EXPECT_EQ(errors, "");
 }
 
-TEST_F(SettingsToolTest, SetKeepsWhatElseTheFileHolds) {
+TEST_F(SettingsToolTest, SetKeepsTheRestOfTheFile) {
     keep("; mine\n[Other]\na=b\n[Html]\nTOCLevel=5\n");
     EXPECT_EQ(run({"set", "TOCLevel=6"}), 0);
     EXPECT_EQ(kept(), "; mine\n[Other]\na=b\n[Html]\nTOCLevel=6\n");
@@ -110,7 +110,7 @@ TEST_F(SettingsToolTest, TextsAreUtf8) {
     EXPECT_EQ(out, "caf\xC3\xA9\n");
 }
 
-TEST_F(SettingsToolTest, SetRefusesLettersThatTheCodePageCannotHold) {
+TEST_F(SettingsToolTest, SetRefusesLettersThatTheCodePageCannotRepresent) {
     keep("[Html]\nBodyTags=old\n");
     EXPECT_EQ(run({"set", "TOCLevel=4", "BodyTags=\xE6\x97\xA5\xE6\x9C\xAC"}), 2);
     EXPECT_THAT(errors, StartsWith("dochtml-settings: the driver's 8-bit code page cannot hold "
@@ -128,7 +128,7 @@ TEST_F(SettingsToolTest, SetRefusesAValueOfSeveralLines) {
     EXPECT_EQ(kept(), "[Html]\nBodyTags=old\n");
 }
 
-TEST_F(SettingsToolTest, SetRefusesByThePagesRulesAndInThePagesOrder) {
+TEST_F(SettingsToolTest, SetRefusesByTheRulesAndInTheOrderOfThePage) {
     EXPECT_EQ(run({"set", "TOCLevel=51", "UseRelative=false", "Navig=0"}), 1);
     EXPECT_EQ(errors, "Invalid Value: You must select at least one navigation method.\n");
     EXPECT_EQ(kept(), "");
@@ -137,7 +137,7 @@ TEST_F(SettingsToolTest, SetRefusesByThePagesRulesAndInThePagesOrder) {
     EXPECT_EQ(kept(), "[Html]\nNavig=2\nUseRelative=false\n");
 }
 
-TEST_F(SettingsToolTest, AMissingStyleSheetIsRefusedWithThePagesMessage) {
+TEST_F(SettingsToolTest, AMissingStyleSheetIsRefusedWithTheMessageOfThePage) {
     EXPECT_EQ(run({"set", "StyleSheet=nowhere.css", "BodyTags=class=x"}), 1);
     EXPECT_EQ(errors,
               "Invalid Value: nowhere.css\nFile Not Found.\n"

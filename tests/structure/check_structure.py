@@ -47,6 +47,10 @@ FOLDERS_IN_ORDER = {
     "navigator": ("text", "data", "index", "entries", ""),
     "driver": ("boundary", "pages", "links", "text", "files", ""),
     "settings_ui": ("", "tool", "windows"),
+    "component": (
+        "module", "services", "object", "registration", "include", "posix", "windows", "client",
+        "tool", "",
+    ),
     "replay": ("input", "services", "play", "tool"),
 }
 

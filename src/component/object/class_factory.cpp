@@ -1,6 +1,6 @@
 #include "component/object/class_factory.h"
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
 #include "component/services/lent_services.h"
 
 namespace quillmark {

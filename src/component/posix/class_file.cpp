@@ -44,7 +44,7 @@ std::string unescaped(std::string_view text) {
     return out;
 }
 
-/// The first key of a path, and what follows it.
+/// The first key of a path and the rest of the path.
 std::pair<std::string, std::string_view> splitPath(std::string_view path) {
     const std::size_t end = path.find('\\');
     if (end == std::string_view::npos) {
@@ -83,7 +83,8 @@ void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree) 
     }
 }
 
-/// All of the file: nothing when it cannot be read, an empty text when it is not there.
+/// The whole content of the file. Empty when the file does not exist; nothing when it cannot be
+/// read.
 std::optional<std::string> contentOf(const std::filesystem::path& file) {
     const Descriptor in = descriptor_io::openFile(file.c_str(), O_RDONLY);
     if (!in.isOpen()) {

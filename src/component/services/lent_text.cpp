@@ -1,6 +1,6 @@
 #include "component/services/lent_text.h"
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
 
 namespace quillmark {
 

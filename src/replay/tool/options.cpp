@@ -58,8 +58,7 @@ void addOptions(OptionParser& parser, Options& options) {
     addFile(parser, "--ini", options.iniFile, "ini file to read instead of Veltrano.ini");
     addFile(parser, "--model", options.modelFile, "model metadata for entry icons (JSON)");
     addFile(parser, "--image-maps", options.imageMapFile, "regions of pictures (JSON)");
-    parser.addOption("--drive", "X=DIR", "map drive X: to DIR (repeatable)",
-                     [&](const std::string& text) { options.drives.push_back(parseDrive(text)); });
+    addDriveOption(parser, options.drives);
     addLogs(parser, options);
     parser.addFlag("-q,--quiet", "show no progress and no summary", options.quiet);
     parser.addFlag("-h,--help", "show this help", options.help);

@@ -52,7 +52,7 @@ protected:
     HWND parent_ = nullptr;
 };
 
-TEST_F(PageObjectTest, TellsItsTitleDescriptionAndSizeAndNamesNoHelpFile) {
+TEST_F(PageObjectTest, ReportsItsTitleDescriptionAndSizeButNoHelpFile) {
     PROPPAGEINFO info{};
     EXPECT_EQ(page_->GetPageInfo(&info), S_OK);
     EXPECT_EQ(info.cb, sizeof(info));
@@ -74,7 +74,7 @@ TEST_F(PageObjectTest, ItsSizeIsTheTemplatesInPixels) {
     EXPECT_EQ(size.cy, units.bottom);
 }
 
-TEST_F(PageObjectTest, ItsWindowHoldsTheControlsOfTheTableInOrder) {
+TEST_F(PageObjectTest, ItsWindowContainsTheControlsOfTheTableInOrder) {
     const HWND window = activate();
     HWND child = GetWindow(window, GW_CHILD);
     for (const PageControl& row : pageControls()) {
@@ -105,7 +105,7 @@ std::vector<Placed> visibleControls(HWND window) {
     for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT)) {
         const LONG style = GetWindowLongA(child, GWL_STYLE);
-        // The up-down control lies inside its buddy's frame.
+        // The up-down control is inside its buddy's frame.
         if ((style & WS_VISIBLE) == 0 || GetDlgCtrlID(child) == control::headingLevelSpin) {
             continue;
         }
@@ -121,7 +121,7 @@ std::vector<Placed> visibleControls(HWND window) {
     return placed;
 }
 
-TEST_F(PageObjectTest, ItsControlsLieInsideTheWindowAndNoTwoOverlap) {
+TEST_F(PageObjectTest, ItsControlsAreInsideTheWindowAndNoTwoOverlap) {
     const HWND window = activate();
     RECT inside{};
     GetClientRect(window, &inside);
@@ -163,7 +163,7 @@ TEST_F(PageObjectTest, ItsTextsFitTheirControls) {
     ReleaseDC(window, screen);
 }
 
-TEST_F(PageObjectTest, IsShownMovedAndTakenDown) {
+TEST_F(PageObjectTest, IsShownMovedHiddenAndDestroyed) {
     const HWND window = activate();
     EXPECT_EQ(page_->Show(SW_SHOWNA), S_OK);
     EXPECT_NE(GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE, 0);
@@ -179,7 +179,7 @@ TEST_F(PageObjectTest, IsShownMovedAndTakenDown) {
     EXPECT_FALSE(IsWindow(window));
 }
 
-TEST_F(PageObjectTest, ASecondWindowShowsWhatTheFirstOneHeld) {
+TEST_F(PageObjectTest, ASecondWindowShowsTheValuesOfTheFirst) {
     HWND window = activate();
     SetDlgItemTextA(window, 5205, "mine.css");
     CheckDlgButton(window, 5219, BST_CHECKED);
@@ -191,7 +191,7 @@ TEST_F(PageObjectTest, ASecondWindowShowsWhatTheFirstOneHeld) {
     EXPECT_EQ(IsDlgButtonChecked(window, 5219), static_cast<UINT>(BST_CHECKED));
 }
 
-TEST_F(PageObjectTest, GoesWithAParentThatIsDestroyedAndComesAgainBelowAnother) {
+TEST_F(PageObjectTest, IsDestroyedWithItsParentAndKeepsItsValuesForAnother) {
     HWND window = activate();
     SetDlgItemTextA(window, 5205, "mine.css");
     CheckDlgButton(window, 5219, BST_CHECKED);
@@ -235,7 +235,7 @@ TEST_F(PageObjectTest, IsNotActivatedTwice) {
     EXPECT_EQ(page_->Activate(parent_, &place, FALSE), E_UNEXPECTED);
 }
 
-/// An outer object that counts what reaches it.
+/// An outer object that counts its calls.
 class Outer final : public IUnknown {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
@@ -253,7 +253,7 @@ public:
     ULONG count = 1;
 };
 
-TEST_F(PageObjectTest, InsideAnOuterObjectItsIdentityAndLifeAreTheOuterOnes) {
+TEST_F(PageObjectTest, InsideAnOuterObjectItHasTheOuterIdentityAndLifetime) {
     Outer outer;
     ASSERT_EQ(CoCreateInstance(settingsPageClass, &outer, CLSCTX_INPROC_SERVER, IID_IUnknown,
                                reinterpret_cast<void**>(&outer.inner)),

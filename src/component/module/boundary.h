@@ -6,13 +6,13 @@
 
 namespace quillmark {
 
-/// Tells the exception log of the exception being handled. Call it in a catch block.
+/// Writes the current exception to the exception log. Call it in a catch block.
 void logCaughtException() noexcept;
-/// The platform's result for the exception being handled; also logs it.
+/// Logs the current exception and returns the result code for it. Call it in a catch block.
 [[nodiscard]] HRESULT resultOfCaughtException() noexcept;
 
-/// The way into the driver: runs an operation of a document and answers 0, whatever happens in it.
-/// An exception is logged and goes no further.
+/// Runs an operation of a document and returns `S_OK`, whatever happens. Logs an exception and does
+/// not pass it on.
 template <typename Body>
 HRESULT runOperation(Body&& body) noexcept {
     try {
@@ -23,8 +23,8 @@ HRESULT runOperation(Body&& body) noexcept {
     return S_OK;
 }
 
-/// The way into everything else: runs `body`, which answers with a result, and turns an exception
-/// into a failing one.
+/// Runs anything else that a host calls: returns the result of `body`, or a failure when `body`
+/// throws.
 template <typename Body>
 HRESULT runGuarded(Body&& body) noexcept {
     try {

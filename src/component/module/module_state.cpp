@@ -1,4 +1,4 @@
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 
 #include <atomic>
 
@@ -28,7 +28,7 @@ ServiceUser::~ServiceUser() {
 }
 
 bool servicesHaveUsers() noexcept {
-    // A change, not a mere look: whoever adds to the count afterwards is then ordered behind it.
+    // A read-modify-write, not a load: every later increment of the count is ordered after it.
     return serviceUsers.fetch_add(0) != 0;
 }
 

@@ -1,14 +1,13 @@
 #include <array>
 
-#include "component/client/component_library.h"
 #include "component/windows/wide_text.h"
-#include "dochtml/entry_points.h"
+#include "dochtml/client.h"
 #include "platform/windows/windows_api.h"
 
 namespace quillmark {
 namespace {
 
-/// What a key of the classes root holds as its default text; empty when there is none.
+/// The default text of a key below the classes root; empty when there is none.
 std::wstring defaultText(const std::wstring& key) {
     std::array<wchar_t, 256> text{};
     auto size = static_cast<DWORD>(sizeof text);
@@ -22,7 +21,7 @@ CLSID classOf(const std::string& identifier) {
     CLSID classId{};
     HRESULT result = name.starts_with(L'{') ? CLSIDFromString(name.c_str(), &classId)
                                             : CLSIDFromProgID(name.c_str(), &classId);
-    // A name without a version leads on to the current one; not every system goes that way.
+    // A name without a version refers to the current one, but not every system follows `CurVer`.
     if (FAILED(result)) {
         const std::wstring current = defaultText(name + L"\\CurVer");
         if (!current.empty()) {
@@ -40,29 +39,12 @@ CLSID classOf(const std::string& identifier) {
 Apartment::Apartment() {
     const HRESULT result = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     if (FAILED(result)) {
-        throw ComponentError("the thread has no apartment", result);
+        throw ComponentError("cannot initialize the thread's apartment", result);
     }
 }
 
 Apartment::~Apartment() {
     CoUninitialize();
-}
-
-Component::Library::Library(const std::string& file) : handle_(LoadLibraryW(toWide(file).c_str())) {
-    if (handle_ == nullptr) {
-        throw ComponentError("cannot load " + file, HRESULT_FROM_WIN32(GetLastError()));
-    }
-}
-
-Component::Library::~Library() {
-    const auto canUnload = reinterpret_cast<DochtmlEntryPoint>(find("DllCanUnloadNow"));
-    if (canUnload == nullptr || canUnload() == S_OK) {
-        FreeLibrary(static_cast<HMODULE>(handle_));
-    }
-}
-
-void* Component::Library::find(const char* name) const noexcept {
-    return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(handle_), name));
 }
 
 Component Component::byName(const std::string& identifier) {

@@ -1,4 +1,4 @@
-#include "settings_ui/windows/doc_html_com_page.h"
+#include "component/windows/doc_html_com_page.h"
 
 #include <algorithm>
 #include <new>
@@ -6,13 +6,12 @@
 #include <utility>
 
 #include "settings_ui/windows/module_resources.h"
-#include "settings_ui/windows/settings_page_factory.h"
 
 namespace quillmark {
 
 namespace {
 
-/// A resource string as a caller of the component frees it; null for an empty one.
+/// A copy of a resource string, which the caller of the component frees. Null for an empty string.
 wchar_t* copiedString(WORD id) {
     const std::wstring text = resourceString(id);
     auto* const copy =
@@ -24,7 +23,8 @@ wchar_t* copiedString(WORD id) {
     return copy;
 }
 
-/// Runs what answers a call of a frame: nothing may be thrown out of the component.
+/// Runs the body of a function that a frame calls, and lets no exception through. Unlike
+/// `runGuarded` it logs nothing, and every exception except a lack of memory becomes `E_FAIL`.
 template <typename Body>
 HRESULT guarded(Body&& body) noexcept {
     try {
@@ -38,65 +38,34 @@ HRESULT guarded(Body&& body) noexcept {
 
 }  // namespace
 
-DocHtmlComPage::DocHtmlComPage(IUnknown* outer, std::shared_ptr<void> lifetime)
-    : inner_(*this),
-      outer_(outer == nullptr ? &inner_ : outer),
+HRESULT DocHtmlComPage::make(IUnknown* outer, REFIID iid, void** object) noexcept {
+    return guarded([&] { return createAggregable<DocHtmlComPage>(outer, iid, object); });
+}
+
+DocHtmlComPage::DocHtmlComPage(IUnknown* outer)
+    : AggregableObject(outer),
       window_([this](int id, ControlEvent event) { page_.handle(id, event); }),
-      host_([this] { return window_.handle(); }, [this](bool dirty) { tellSite(dirty); }),
-      page_(window_, host_),
-      lifetime_(std::move(lifetime)) {}
+      host_([this] { return window_.handle(); }, [this](bool dirty) { notifySite(dirty); }),
+      page_(window_, host_) {}
 
 DocHtmlComPage::~DocHtmlComPage() {
     window_.destroy();
-    if (site_ != nullptr) {
-        site_->Release();
-    }
+    site_.reset();
 }
 
-HRESULT DocHtmlComPage::InnerUnknown::QueryInterface(REFIID iid, void** object) {
-    if (object == nullptr) {
-        return E_POINTER;
-    }
-    IUnknown* found = nullptr;
-    if (IsEqualIID(iid, IID_IUnknown)) {
-        found = this;
-    } else if (IsEqualIID(iid, IID_IPropertyPage)) {
-        found = static_cast<IPropertyPage*>(&page_);
-    }
-    *object = found;
-    if (found == nullptr) {
-        return E_NOINTERFACE;
-    }
-    found->AddRef();
-    return S_OK;
-}
-
-ULONG DocHtmlComPage::InnerUnknown::Release() {
-    const ULONG left = --count_;
-    if (left == 0) {
-        // A reference that is taken and let go of while the page goes must not end it twice.
-        constexpr ULONG endingCount = 0x40000000;
-        count_ = endingCount;
-        delete &page_;
-    }
-    return left;
-}
-
-HRESULT DocHtmlComPage::QueryInterface(REFIID iid, void** object) {
-    return outer_->QueryInterface(iid, object);
+IUnknown* DocHtmlComPage::findInterface(REFIID iid) noexcept {
+    return IsEqualIID(iid, IID_IPropertyPage) ? this : nullptr;
 }
 
 HRESULT DocHtmlComPage::SetPageSite(IPropertyPageSite* site) {
-    // A page has one frame at a time; the old one takes itself back with null.
-    if (site != nullptr && site_ != nullptr) {
+    // A page has one frame at a time. The old frame removes itself with null.
+    if (site != nullptr && site_) {
         return E_UNEXPECTED;
     }
     if (site != nullptr) {
         site->AddRef();
     }
-    if (IPropertyPageSite* const old = std::exchange(site_, site)) {
-        old->Release();
-    }
+    site_ = ComPointer<IPropertyPageSite>::adopt(site);
     return S_OK;
 }
 
@@ -135,7 +104,7 @@ HRESULT DocHtmlComPage::GetPageInfo(PROPPAGEINFO* info) {
 }
 
 HRESULT DocHtmlComPage::SetObjects(ULONG count, IUnknown** objects) {
-    // The settings are the user's: they belong to none of the objects that the frame is about.
+    // The settings belong to the user, not to the objects that the frame shows.
     return count != 0 && objects == nullptr ? E_POINTER : S_OK;
 }
 
@@ -198,7 +167,7 @@ bool DocHtmlComPage::leavesPage(const MSG& message) const {
     if (message.message != WM_KEYDOWN) {
         return false;
     }
-    // The frame's default button and its Cancel are for the frame to find.
+    // These keys are for the frame's default button and its Cancel button.
     if (message.wParam == VK_RETURN || message.wParam == VK_ESCAPE) {
         return true;
     }
@@ -211,29 +180,11 @@ bool DocHtmlComPage::leavesPage(const MSG& message) const {
     return GetFocus() == (backwards ? first : last);
 }
 
-void DocHtmlComPage::tellSite(bool dirty) {
-    if (site_ != nullptr) {
+void DocHtmlComPage::notifySite(bool dirty) {
+    if (site_) {
         constexpr DWORD clean = 0;
         site_->OnStatusChange(dirty ? DWORD{PROPPAGESTATUS_DIRTY} : clean);
     }
-}
-
-HRESULT createSettingsPage(IUnknown* outer, REFIID iid, void** object,
-                           std::shared_ptr<void> lifetime) {
-    if (object == nullptr) {
-        return E_POINTER;
-    }
-    *object = nullptr;
-    // An outer object must hold the inner unknown, or the identities would run into each other.
-    if (outer != nullptr && !IsEqualIID(iid, IID_IUnknown)) {
-        return CLASS_E_NOAGGREGATION;
-    }
-    return guarded([&] {
-        IUnknown* const made = (new DocHtmlComPage(outer, std::move(lifetime)))->innerUnknown();
-        const HRESULT result = made->QueryInterface(iid, object);
-        made->Release();
-        return result;
-    });
 }
 
 }  // namespace quillmark

@@ -2,8 +2,8 @@
 
 namespace quillmark {
 
-/// Counts one live object of the module for as long as it exists; a member of everything that a
-/// host can hold. The count is the one thing that objects of several apartments share.
+/// Counts a live object of the module for as long as it exists. Every object that a host can hold
+/// has one as a member. Objects of all apartments share the count.
 class LiveObject {
 public:
     LiveObject() noexcept;
@@ -12,8 +12,8 @@ public:
     ~LiveObject();
 };
 
-/// Counts one user of the services that a host has lent: an object that calls the driver, or a call
-/// without one that tells the exception log.
+/// Counts a user of the host's services: an object that calls the driver, or a call that writes to
+/// the exception log.
 class ServiceUser {
 public:
     ServiceUser() noexcept;
@@ -22,10 +22,11 @@ public:
     ~ServiceUser();
 };
 
-/// Whether there is one. A user that comes after the answer "no" sees all that was done before it.
+/// Whether there is such a user. After a false result, a new user sees everything that was done
+/// before this call.
 [[nodiscard]] bool servicesHaveUsers() noexcept;
 
-/// Adds (or takes away) a lock that a host holds on the module.
+/// Adds or removes a lock of a host on the module.
 void lockModule(bool lock) noexcept;
 
 /// Whether no object and no lock is alive, so that the library may be unloaded.

@@ -1,14 +1,14 @@
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
 
 #include <new>
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "foundation/orx_exception.h"
 
 namespace quillmark {
 
 void logCaughtException() noexcept {
-    // Not every call has an object that counts as one.
+    // Logging uses a service, and not every caller has an object that counts as its user.
     const ServiceUser user;
     OrxException::logCaught();
 }
