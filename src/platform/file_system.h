@@ -111,6 +111,9 @@ public:
     /// for instance because its directory does not exist.
     [[nodiscard]] virtual std::unique_ptr<FileLock> lockForChange(const OrxString& name);
 
+    /// Whether programs may be started while this file system is installed.
+    [[nodiscard]] virtual bool mayStart(const OrxString& /*program*/) const { return true; }
+
     /// The installed file system, or the native one if none is installed.
     [[nodiscard]] static FileSystem& current() noexcept;
     /// The system's own file system.
