@@ -31,6 +31,8 @@ public:
 
     /// The same for the given settings only. The dirty flag of the page does not change.
     bool applyOnly(std::span<const std::string_view> settings);
+    /// Shows the message of `applyOnly` if it would refuse a value now. Writes nothing.
+    bool accepts(std::span<const std::string_view> settings);
 
     void showHelp();
 

@@ -81,6 +81,24 @@ class HostsTest(unittest.TestCase):
             for name in "DocHtml.DocHtml", "DocHtml.DocHtml.2.1.0", DRIVER_CLASS:
                 self.check_report(host, name)
 
+    def test_hosts_load_no_library_by_a_relative_path(self):
+        self.assertEqual(self.register(LIBRARY).returncode, 0)
+        shutil.copy(LIBRARY, self.work / LIBRARY.name)
+        text = self.classes.read_text(encoding="utf-8")
+        for path in LIBRARY.name, "./" + LIBRARY.name, "":
+            self.classes.write_text(text.replace(str(LIBRARY), path), encoding="utf-8")
+            ended, files = self.report("report_host")
+            self.assertEqual(ended.returncode, 1)
+            self.assertEqual(
+                ended.stderr,
+                f'report: the library of DocHtml.DocHtml, "{path}" in {self.classes}, '
+                "is not an absolute path\n",
+            )
+            ended, files = self.report("report_c_host")
+            self.assertEqual(ended.returncode, 1)
+            self.assertEqual(ended.stderr, "report_c: no document, result 0x800401F8\n")
+            self.assertEqual(files, {})
+
     def test_hosts_of_the_documentation_say_hello(self):
         self.register(LIBRARY)
         for host in "hello_host", "hello_c_host":

@@ -181,8 +181,8 @@ TEST(NativeFile, LeavesNoDescriptorOpen) {
     EXPECT_EQ(write(dir.file("a"), "x"), WriteResult::done);
     EXPECT_TRUE(SysFile::copy(dir.file("a"), dir.file("b")));
     EXPECT_EQ(write("/dev/full", "x"), WriteResult::writeFailed);
-    EXPECT_EQ(SysShell::start("/bin/true", ""), SysShell::started);
-    EXPECT_LT(SysShell::start("/none", ""), SysShell::started);
+    EXPECT_EQ(SysShell::start("/bin/true", {}), SysShell::started);
+    EXPECT_LT(SysShell::start("/none", {}), SysShell::started);
     EXPECT_EQ(openDescriptors(), before);
 }
 

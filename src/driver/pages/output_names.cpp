@@ -1,8 +1,9 @@
 #include "driver/pages/output_names.h"
 
 #include <string>
+#include <string_view>
 
-#include "platform/sys_directory.h"
+#include "platform/path_text.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -39,16 +40,20 @@ OrxString OutputNames::pageFileName(std::uint32_t number, const OrxString& subDi
     return name.append(extension_);
 }
 
-OrxString OutputNames::shortenedDirectory(OrxString subDirectory) const {
+OrxString OutputNames::shortenedDirectory(const OrxString& subDirectory) const {
     const auto taken = static_cast<std::ptrdiff_t>(outputDir_.length());
-    while (static_cast<std::ptrdiff_t>(subDirectory.length()) > directoryLimit - taken) {
-        OrxString parent = SysDirectory::getParentDirectory(subDirectory);
-        if (parent.isEmpty()) {
+    // Each step only moves the end of a view: a path may have as many components as a text can
+    // hold.
+    std::string_view shortened = subDirectory.view();
+    while (static_cast<std::ptrdiff_t>(shortened.size()) > directoryLimit - taken) {
+        const std::string_view parent = path_text::parent(shortened);
+        if (parent.empty()) {
             break;
         }
-        subDirectory = std::move(parent);
+        shortened = parent;
     }
-    return subDirectory;
+    const bool fits = shortened.size() == subDirectory.view().size();
+    return fits ? subDirectory : path_text::inDriverForm(shortened);
 }
 
 }  // namespace quillmark

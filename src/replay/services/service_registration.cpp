@@ -1,8 +1,14 @@
 #include "replay/services/service_registration.h"
 
+#include <algorithm>
+#include <iterator>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "dochtml/client.h"
+#include "dochtml/file_confinement.h"
+#include "replay/services/callback_guard.h"
 #include "replay/services/service_callbacks.h"
 
 namespace quillmark::replay {
@@ -19,12 +25,47 @@ DochtmlText textOf(std::string_view text) noexcept {
     return {text.data(), text.size()};
 }
 
+std::vector<DochtmlText> textsOf(const std::vector<std::string>& names) {
+    std::vector<DochtmlText> texts;
+    std::ranges::transform(names, std::back_inserter(texts), textOf);
+    return texts;
+}
+
+void hearRefusal(void* context, const DochtmlText* name, LONG access) {
+    guarded([&] {
+        const char* const verb = access == dochtmlWrite   ? "write "
+                                 : access == dochtmlStart ? "start "
+                                                          : "read ";
+        static_cast<const FilesInReach*>(context)->refused(verb +
+                                                           std::string(name->data, name->size));
+    });
+}
+
 }  // namespace
 
 ServiceRegistration::ServiceRegistration(ComPointer<IHostServices> component, HostServices services)
     : component_(std::move(component)), services_(std::move(services)) {
+    // First, so that nothing has been provided to a component that cannot confine itself.
+    if (services_.filesInReach) {
+        confine();
+    }
     if (component_) {
         provide();
+    }
+}
+
+void ServiceRegistration::confine() {
+    const auto confinement = component_ ? component_.query<IFileConfinement>(IID_IFileConfinement)
+                                        : ComPointer<IFileConfinement>();
+    if (!confinement) {
+        throw ComponentError("the component cannot confine its files", E_NOINTERFACE);
+    }
+    const std::vector<DochtmlText> writable = textsOf(services_.filesInReach->writable);
+    const std::vector<DochtmlText> readable = textsOf(services_.filesInReach->readable);
+    const DochtmlConfinement record{&*services_.filesInReach, writable.data(), writable.size(),
+                                    readable.data(),          readable.size(), &hearRefusal};
+    if (FAILED(confinement->setConfinement(&record))) {
+        throw ComponentError("--confine is not available on this system", E_NOTIMPL);
     }
 }
 
@@ -67,6 +108,9 @@ void ServiceRegistration::provide() {
 ServiceRegistration::~ServiceRegistration() {
     if (!component_) {
         return;
+    }
+    if (services_.filesInReach) {
+        component_.query<IFileConfinement>(IID_IFileConfinement)->setConfinement(nullptr);
     }
     component_->setObserver(nullptr);
     component_->setExceptionLog(nullptr);

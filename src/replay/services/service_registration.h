@@ -16,6 +16,7 @@ public:
 
 private:
     void provide();
+    void confine();
 
     ComPointer<IHostServices> component_;
     HostServices services_;

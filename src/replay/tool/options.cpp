@@ -51,6 +51,15 @@ void addLogs(OptionParser& parser, Options& options) {
     addFile(parser, "--exceptions", options.exceptionFile, "write the exception log to FILE");
 }
 
+void addConfinement(OptionParser& parser, Options& options) {
+    parser.addFlag("--confine",
+                   "for calls from strangers: write only below the output directory, read only "
+                   "the support files and what --allow-read names",
+                   options.confine);
+    parser.addOption("--allow-read", "DIR", "let a confined run read below DIR (repeatable)",
+                     [&](const std::string& dir) { options.allowRead.push_back(dir); });
+}
+
 /// Lets `parser` write what it finds into `options`.
 void addOptions(OptionParser& parser, Options& options) {
     addFile(parser, "-o,--output", options.output, "name for the first document");
@@ -60,6 +69,7 @@ void addOptions(OptionParser& parser, Options& options) {
     addFile(parser, "--image-maps", options.imageMapFile, "regions of pictures (JSON)");
     addDriveOption(parser, options.drives);
     addLogs(parser, options);
+    addConfinement(parser, options);
     parser.addFlag("-q,--quiet", "show no progress and no summary", options.quiet);
     parser.addFlag("-h,--help", "show this help", options.help);
     parser.addFlag("--version", "show the version", options.version);
@@ -74,6 +84,9 @@ Options parseOptions(std::span<const std::string> arguments) {
     options.inputs = parser.parse(arguments);
     if (options.inputs.empty() && !options.help && !options.version) {
         throw BadUsage("no calls given; try --help");
+    }
+    if (!options.allowRead.empty() && !options.confine) {
+        throw BadUsage("--allow-read is for runs with --confine");
     }
     return options;
 }

@@ -33,6 +33,9 @@ struct Options {
     std::optional<std::int16_t> traceLevel;
     std::optional<std::string> logFile;
     std::optional<std::string> exceptionFile;
+    /// Directories that a confined run may read.
+    std::vector<std::string> allowRead;
+    bool confine = false;
     bool quiet = false;
     bool help = false;
     bool version = false;

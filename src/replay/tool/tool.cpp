@@ -14,6 +14,7 @@
 #include "replay/input/inputs.h"
 #include "replay/play/document_counts.h"
 #include "replay/play/player.h"
+#include "replay/tool/confinement_options.h"
 #include "replay/tool/lazy_file.h"
 #include "replay/tool/messages.h"
 #include "replay/tool/requested_services.h"
@@ -79,6 +80,12 @@ private:
         services.traceListener = &trace_;
         services.exceptionLog = &exceptions_;
         services.observer = &counts_;
+        if (options_.confine) {
+            services.filesInReach = filesInReach(options_, files_, *services.settings);
+            services.filesInReach->refused = [this](const std::string& what) {
+                reportError("--confine: refused to " + what);
+            };
+        }
         return services;
     }
 

@@ -76,11 +76,12 @@ ToolOptions parseToolOptions(std::span<const std::string> arguments) {
     return options;
 }
 
-void writeToolHelp(std::ostream& out) {
+void writeToolHelp(std::ostream& out, const std::string& location) {
     ToolOptions unused;
     OptionParser parser;
     addOptions(parser, unused);
-    out << usage << parser.help() << exitStatus;
+    out << usage << parser.help() << "\nThe settings are kept in " << location << "\n"
+        << exitStatus;
 }
 
 }  // namespace quillmark

@@ -75,6 +75,13 @@ RegisteredClass findRegisteredClass(const std::string& identifier) {
         throw ComponentError("the class of " + identifier + " is not registered",
                              REGDB_E_CLASSNOTREG);
     }
+    // The system would look for it in the current directory or on its search path, where others may
+    // have put a library of that name.
+    if (!library->starts_with('/')) {
+        throw ComponentError("the library of " + identifier + ", \"" + *library + "\" in " +
+                                 classFilePath().string() + ", is not an absolute path",
+                             CO_E_DLLNOTFOUND);
+    }
     return {*classId, *library};
 }
 
