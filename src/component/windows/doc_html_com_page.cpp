@@ -167,9 +167,14 @@ bool DocHtmlComPage::leavesPage(const MSG& message) const {
     if (message.message != WM_KEYDOWN) {
         return false;
     }
-    // These keys are for the frame's default button and its Cancel button.
-    if (message.wParam == VK_RETURN || message.wParam == VK_ESCAPE) {
+    // These keys are for the frame's default button and its Cancel button, but a "..." button of
+    // the page takes Return for itself.
+    if (message.wParam == VK_ESCAPE) {
         return true;
+    }
+    if (message.wParam == VK_RETURN) {
+        const PageControl* const row = findControl(GetDlgCtrlID(message.hwnd));
+        return row == nullptr || row->kind != ControlKind::button;
     }
     if (message.wParam != VK_TAB) {
         return false;

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/windows/this_module.h"
+#include "settings_ui/windows/browse_button.h"
 #include "settings_ui/windows/module_resources.h"
 
 namespace quillmark {
@@ -49,6 +50,11 @@ bool PageWindow::create(HWND parent) {
                                  dialogProcedure, reinterpret_cast<LPARAM>(this));
     if (window_ == nullptr) {
         return false;
+    }
+    for (const PageControl& row : pageControls()) {
+        if (row.kind == ControlKind::button) {
+            pressOnReturn(GetDlgItem(window_, row.id));
+        }
     }
     restoreState();
     return true;

@@ -263,6 +263,11 @@ void FrameDriver::pressCancel() {
 void FrameDriver::withDialog(int button, const std::string& title,
                              const std::function<void(HWND)>& play) const {
     PostMessageA(control(button), BM_CLICK, 0, 0);
+    playDialog(title, play);
+}
+
+void FrameDriver::playDialog(const std::string& title,
+                             const std::function<void(HWND)>& play) const {
     HWND dialog = nullptr;
     waitFor(title.c_str(), [&] {
         dialog = findWindow(title);

@@ -58,8 +58,10 @@ public:
     void pressOk();
     void pressCancel();
 
-    /// Clicks the button, waits for the dialog of that title and runs `play` on it, then waits
-    /// until it is closed.
+    /// Waits for the dialog of that title, which an action has opened, and runs `play` on it, then
+    /// waits until it is closed.
+    void playDialog(const std::string& title, const std::function<void(HWND)>& play) const;
+    /// Clicks the button and plays the dialog that it opens.
     void withDialog(int button, const std::string& title,
                     const std::function<void(HWND)>& play) const;
 

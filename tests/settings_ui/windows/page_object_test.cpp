@@ -229,6 +229,36 @@ TEST_F(PageObjectTest, RefusesWhatNeedsAWindowWhileThereIsNone) {
     EXPECT_EQ(page_->SetObjects(0, nullptr), S_OK);
 }
 
+TEST_F(PageObjectTest, ReturnPressesItsButtonsInAHostsOwnDialog) {
+    ShowWindow(parent_, SW_SHOW);
+    const HWND window = activate();
+    EXPECT_EQ(page_->Show(SW_SHOWNA), S_OK);
+    for (const int id : {5602, 5212, 5206, 5216}) {
+        const HWND button = GetDlgItem(window, id);
+        SetFocus(button);
+        MSG key{};
+        key.hwnd = button;
+        key.message = WM_KEYDOWN;
+        key.wParam = VK_RETURN;
+        key.lParam = 1;
+        MSG click{};
+        EXPECT_EQ(page_->TranslateAccelerator(&key), S_OK);
+        EXPECT_TRUE(PeekMessageA(&click, button, BM_CLICK, BM_CLICK, PM_REMOVE)) << id;
+        // A host need not ask the page first.
+        EXPECT_TRUE(IsDialogMessageA(parent_, &key));
+        EXPECT_TRUE(PeekMessageA(&click, button, BM_CLICK, BM_CLICK, PM_REMOVE)) << id;
+    }
+}
+
+TEST_F(PageObjectTest, ReturnInABoxIsForTheHost) {
+    const HWND window = activate();
+    MSG key{};
+    key.hwnd = GetDlgItem(window, 5601);
+    key.message = WM_KEYDOWN;
+    key.wParam = VK_RETURN;
+    EXPECT_EQ(page_->TranslateAccelerator(&key), S_FALSE);
+}
+
 TEST_F(PageObjectTest, IsNotActivatedTwice) {
     static_cast<void>(activate());
     const RECT place{};

@@ -3,6 +3,7 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 #include "settings/register_dynamic.h"
 #include "settings/settings_store.h"
@@ -265,6 +266,30 @@ TEST_F(PropertyFrameTest, BrowsingForADirectoryCanBeCancelled) {
                       [](HWND dialog) { PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0); });
     EXPECT_EQ(driver.text(5601), "pix");
     EXPECT_FALSE(driver.applyIsEnabled());
+}
+
+TEST_F(PropertyFrameTest, ReturnOpensTheDialogOfTheButtonThatHasTheFocus) {
+    const FrameDriver driver;
+    const auto cancel = [](HWND dialog) { PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0); };
+    const std::array<std::pair<int, const char*>, 4> dialogs{{{5602, "Browse"},
+                                                              {5212, "Browse"},
+                                                              {5206, "Select Html Style Sheet"},
+                                                              {5216, "Select Icon Zip File"}}};
+    for (const auto& [button, title] : dialogs) {
+        driver.giveFocus(button);
+        driver.press(VK_RETURN);
+        driver.playDialog(title, cancel);
+        EXPECT_TRUE(driver.isOpen()) << button;
+        EXPECT_EQ(driver.focused(), button);
+    }
+}
+
+TEST_F(PropertyFrameTest, ReturnElsewhereIsForTheFrame) {
+    put("HtmlPixDir", "images");
+    const FrameDriver driver;
+    driver.giveFocus(5601);
+    driver.press(VK_RETURN);
+    waitFor("the frame to go", [&] { return !driver.isOpen(); });
 }
 
 TEST_F(PropertyFrameTest, AStyleSheetCanBePicked) {
