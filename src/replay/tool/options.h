@@ -17,7 +17,7 @@ struct Options {
         std::string group;
         std::string name;
         std::string value;
-        /// The value is a file name, so it may lie on one of the drives.
+        /// The value is a file name, so it may be on one of the drives.
         bool isFileName = false;
     };
 

@@ -141,7 +141,7 @@ private:
         }
     }
 
-    /// An unknown setting is most likely misspelled. It does no harm, so the run goes on.
+    /// An unknown setting is most likely misspelled. It does no harm, so the run continues.
     void warnOfUnknownSettings() {
         for (const Options::Setting& setting : options_.settings) {
             if (!options_.quiet && findSetting(setting.group, setting.name) == nullptr) {
@@ -196,7 +196,7 @@ private:
                              : "open " + page));
     }
 
-    /// From where the tool was started, when the file lies below.
+    /// Relative to the directory where the tool was started, if the file is below it.
     [[nodiscard]] std::string shownPath(const OrxString& driverName) const {
         std::string name = SysText::toUtf8(driverName);
         std::replace(name.begin(), name.end(), '\\', '/');

@@ -97,7 +97,7 @@ private:
 }  // namespace
 
 std::wstring resourceString(WORD id) {
-    // With no buffer the call hands out the text in place, without a closing zero.
+    // Without a buffer the call returns a pointer to the text, which has no terminating zero.
     const wchar_t* text = nullptr;
     const int length = LoadStringW(thisModule(), id, reinterpret_cast<wchar_t*>(&text), 0);
     return length > 0 ? std::wstring(text, static_cast<std::size_t>(length)) : std::wstring();
