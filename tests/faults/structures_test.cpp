@@ -149,10 +149,9 @@ TEST(AfterAFailedAllocation, aPooledListIsAsBefore) {
 }
 
 TEST(AfterAFailedAllocation, aTextHasWhatWasAppended) {
-    failEverywhere<SpliceText>([](SpliceText& text) { text.append(longName(1)); },
-                               [](const SpliceText& text) {
-                                   EXPECT_EQ(text.lineCount(), text.plain().empty() ? 0 : 1);
-                               });
+    failEverywhere<SpliceText>(
+        [](SpliceText& text) { text.append(longName(1)); },
+        [](const SpliceText& text) { EXPECT_EQ(text.lineCount(), text.plain().empty() ? 0 : 1); });
 }
 
 TEST(AfterAFailedAllocation, aTextHasItsMarks) {
@@ -182,8 +181,9 @@ TEST(AfterAFailedAllocation, aFailedInsertionLeavesAPlainText) {
 
 TEST(AfterAFailedAllocation, aCachedLinkIsTheRightOne) {
     const OrxString base("C:\\a directory with a long name\\and a subdirectory");
-    const auto file = [](int number) {
-        return OrxString("C:\\a directory with a long name\\") + longName(number);
+    const auto fileName = [](int number) { return std::string(40 * number, 'f'); };
+    const auto file = [&](int number) {
+        return "C:\\a directory with a long name\\" + OrxString(fileName(number));
     };
     failEverywhere<CachedLink>(
         [&](CachedLink& link) {
@@ -191,8 +191,8 @@ TEST(AfterAFailedAllocation, aCachedLinkIsTheRightOne) {
             static_cast<void>(link.relativeFile(file(2), base));
         },
         [&](CachedLink& link) {
-            EXPECT_EQ(link.relativeFile(file(1), base), OrxString("../" + longName(1)));
-            EXPECT_EQ(link.relativeFile(file(2), base), OrxString("../" + longName(2)));
+            EXPECT_EQ(link.relativeFile(file(1), base), OrxString("../" + fileName(1)));
+            EXPECT_EQ(link.relativeFile(file(2), base), OrxString("../" + fileName(2)));
         });
 }
 

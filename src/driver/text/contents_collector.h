@@ -57,6 +57,8 @@ public:
 
 private:
     void openAnchor();
+    /// Adds the entry of a page that has none.
+    void addPageEntry(DocHtmlPage& page);
     /// Adds an entry and clears `anchor`. Does nothing if anchor or text is empty.
     void addEntry(OrxString& anchor, const OrxString& text, std::int32_t level);
     [[nodiscard]] std::int32_t levelOfStyle() const;
