@@ -7,6 +7,7 @@
 
 #include "replay/input/image_map_file.h"
 #include "replay/input/model_file.h"
+#include "support/environment_variable.h"
 #include "support/memory_settings_store.h"
 #include "support/temp_dir.h"
 
@@ -32,6 +33,7 @@ public:
 
 private:
     TempDir dir_;
+    EnvironmentVariable clock_{"SOURCE_DATE_EPOCH", "0"};
 };
 
 /// A host's services, as files of the stage describe them. The settings store is installed too.
