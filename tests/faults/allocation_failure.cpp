@@ -23,7 +23,8 @@ bool failsNow() noexcept {
         return false;
     }
     ++state.count;
-    const bool fails = state.forGood ? state.count >= state.position : state.count == state.position;
+    const bool fails =
+        state.forGood ? state.count >= state.position : state.count == state.position;
     state.happened = state.happened || fails;
     return fails;
 }

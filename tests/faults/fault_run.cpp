@@ -8,8 +8,8 @@
 
 #include "component/object/class_factory.h"
 #include "component/object/document_object.h"
-#include "driver/doc_html.h"
 #include "dochtml/com_pointer.h"
+#include "driver/doc_html.h"
 #include "foundation/orx_exception.h"
 #include "host/document_observer.h"
 #include "platform/trace.h"
@@ -102,9 +102,7 @@ struct FaultRun::Outcome {
 };
 
 /// Listens to everything that the driver tells.
-class FaultRun::Told final : public OrxExceptionLog,
-                             public TraceListener,
-                             public DocumentObserver {
+class FaultRun::Told final : public OrxExceptionLog, public TraceListener, public DocumentObserver {
 public:
     Told() {
         OrxException::setLog(this);
@@ -182,6 +180,7 @@ FaultRun::Outcome FaultRun::playDocument(std::size_t position, AllocationFailure
             } catch (const std::bad_alloc&) {
                 // In front of the component are conversions of the host's own.
                 outcome.escaped = outcome.escaped || player_ == Player::driver;
+                outcome.told = true;
             } catch (const OrxException&) {
                 // A style sheet that is missing.
             }
@@ -192,7 +191,7 @@ FaultRun::Outcome FaultRun::playDocument(std::size_t position, AllocationFailure
         outcome.failureHappened = AllocationFailure::hasHappened();
         outcome.allocations = AllocationFailure::count();
         const UncountedAllocations own;
-        outcome.told = told.told() || document == nullptr;
+        outcome.told = outcome.told || told.told() || document == nullptr;
         outcome.finished = told.finished();
         outcome.files = stage_.written();
     }
@@ -215,26 +214,34 @@ FaultRun::Outcome FaultRun::playTool(std::size_t position, AllocationFailure::Mo
         std::ofstream stream(file, std::ios::binary);
         stream << stream_->text;
     }
-    const std::vector<std::string> arguments = {
-        "--settings",   stage_.nativeFile("in/settings.ini"),
-        "--model",      stage_.nativeFile("in/model.json"),
-        "--image-maps", stage_.nativeFile("in/maps.json"),
-        "--ini",        stage_.nativeFile("in/Veltrano.ini"),
-        "--exceptions", stage_.nativeFile("out/exceptions.log"),
-        file};
+    const std::vector<std::string> arguments = {"--settings",
+                                                stage_.nativeFile("in/settings.ini"),
+                                                "--model",
+                                                stage_.nativeFile("in/model.json"),
+                                                "--image-maps",
+                                                stage_.nativeFile("in/maps.json"),
+                                                "--ini",
+                                                stage_.nativeFile("in/Veltrano.ini"),
+                                                "--exceptions",
+                                                stage_.nativeFile("out/exceptions.log"),
+                                                file};
     Outcome outcome;
     std::istringstream input;
     std::ostringstream output;
     std::ostringstream errors;
+    const replay::ReplayEnvironment environment = {
+        input,
+        output,
+        errors,
+        false,
+        stage_.nativeFile("in/dochtml-replay"),
+        [] { return makeComponentDocument(); },
+        [](const replay::HostServices& services) {
+            return std::make_shared<replay::ServiceRegistration>(hostServices(), services);
+        }};
     {
         const AllocationFailure failure(position, mode);
-        outcome.status = replay::runTool(
-            arguments, {input, output, errors, false, stage_.nativeFile("in/dochtml-replay"),
-                        [] { return makeComponentDocument(); },
-                        [](const replay::HostServices& services) {
-                            return std::make_shared<replay::ServiceRegistration>(hostServices(),
-                                                                                 services);
-                        }});
+        outcome.status = replay::runTool(arguments, environment);
         outcome.failureHappened = AllocationFailure::hasHappened();
         outcome.allocations = AllocationFailure::count();
     }
@@ -301,9 +308,9 @@ const FileTree& FaultRun::secondFrom(std::uint32_t pageNumber) {
         stage_.clear();
         const StageServices services(stage_);
         DirectDocument document;
-        const std::vector<OwnedCall> pageBreak = parseCalls(
-            "[\"create\",\"" + OrxString(stage_.out()).replaceStr("\\", "\\\\").str() +
-            "\\\\first.htm\"]\n[\"insertPageBreak\"]\n");
+        const std::vector<OwnedCall> pageBreak =
+            parseCalls("[\"create\",\"" + OrxString(stage_.out()).replaceStr("\\", "\\\\").str() +
+                       "\\\\first.htm\"]\n[\"insertPageBreak\"]\n");
         pageBreak.front().play(document);
         // The settling document has two pages itself.
         for (std::uint32_t number = 2; number < pageNumber; ++number) {
