@@ -23,7 +23,7 @@ namespace quillmark {
 class PageTurner {
 public:
     PageTurner(DocumentContext& context, HeldPages& held, BookmarkWriter& bookmarks,
-               ContentsCollector& contents, FontWriter& font, ParagraphStyle& style) noexcept
+               ContentsCollector& contents, FontWriter& font, ParagraphStyle& style)
         : context_(context),
           held_(held),
           bookmarks_(bookmarks),

@@ -17,7 +17,7 @@ namespace quillmark {
 /// An anchor that never gets an entry stays open, and the entry of the next heading points to it.
 class ContentsCollector {
 public:
-    ContentsCollector(OutputRouter& out, BookmarkWriter& bookmarks) noexcept
+    ContentsCollector(OutputRouter& out, BookmarkWriter& bookmarks)
         : out_(out), bookmarks_(bookmarks) {}
 
     /// Starts a new document. An open entry stays open.
