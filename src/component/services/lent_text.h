@@ -1,5 +1,6 @@
 #pragma once
 
+#include <new>
 #include <string_view>
 #include <vector>
 
@@ -27,15 +28,30 @@ public:
 
     /// The sink to pass to the callback. Valid as long as this object.
     [[nodiscard]] DochtmlSink sink() noexcept { return {this, &CollectedTexts::put}; }
-    [[nodiscard]] std::vector<OrxString>& texts() noexcept { return texts_; }
-    /// The first text, for callbacks that return one text. Empty when there is none.
-    [[nodiscard]] OrxString text() const { return texts_.empty() ? OrxString() : texts_.front(); }
+    /// All texts. Throws `std::bad_alloc` if there was no memory for one of them.
+    [[nodiscard]] std::vector<OrxString>& texts() {
+        checkComplete();
+        return texts_;
+    }
+    /// The first text, for callbacks that return one text. Empty when there is none. Throws like
+    /// `texts`.
+    [[nodiscard]] OrxString text() const {
+        checkComplete();
+        return texts_.empty() ? OrxString() : texts_.front();
+    }
 
 private:
-    /// Drops the text when out of memory, because no exception may pass through a callback.
+    void checkComplete() const {
+        if (!complete_) {
+            throw std::bad_alloc();
+        }
+    }
+    /// Only notes that a text is missing when out of memory, because no exception may pass through
+    /// a callback.
     static void put(void* context, const DochtmlText* text) noexcept;
 
     std::vector<OrxString> texts_;
+    bool complete_ = true;
 };
 
 }  // namespace quillmark

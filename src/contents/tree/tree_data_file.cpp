@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <new>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,12 +24,14 @@ constexpr std::size_t bufferSize = std::size_t{64} * 1024;
 /// Streams the tree into one file through one buffer.
 class TreeWriter {
 public:
-    TreeWriter(const OrxString& path, bool showIcons)
-        : path_(path), showIcons_(showIcons), file_(FileSystem::current().openForWriting(path)) {
+    TreeWriter(const OrxString& path, bool showIcons) : path_(path), showIcons_(showIcons) {
+        // The file is not touched if there is no memory for the usual tree.
+        buffer_.reserve(bufferSize + bufferSize / 4);
+        buffer_ = "(TREE";
+        file_ = FileSystem::current().openForWriting(path);
         if (file_ == nullptr) {
             OrxException::raise("Error opening file: " + path_);
         }
-        buffer_ = "(TREE";
     }
 
     void add(const ContentsEntryView& entry) {
@@ -113,11 +116,17 @@ private:
 }  // namespace
 
 void writeTreeDataFile(const OrxString& path, const ContentsEntryList& entries, bool showIcons) {
-    TreeWriter writer(path, showIcons);
-    for (const ContentsEntryView entry : entries) {
-        writer.add(entry);
+    try {
+        TreeWriter writer(path, showIcons);
+        for (const ContentsEntryView entry : entries) {
+            writer.add(entry);
+        }
+        writer.finish();
+    } catch (const std::bad_alloc&) {
+        // Better no tree than half of one.
+        FileSystem::current().deleteFile(path);
+        throw;
     }
-    writer.finish();
 }
 
 }  // namespace quillmark

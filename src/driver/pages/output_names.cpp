@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/path_text.h"
 #include "platform/sys_file.h"
@@ -19,10 +20,12 @@ constexpr std::ptrdiff_t directoryLimit = 210;
 void OutputNames::setDocument(const OrxString& fileName) {
     OrxString name = fileName;
     name.replaceStr("/", "\\");
-    const OrxString extension = SysFile::getExtension(name);
-    extension_ = extension.isEmpty() ? OrxString(".htm") : extension;
-    outputDir_ = SysFile::getDir(name);
-    baseName_ = name.remove(name.length() - extension.length());
+    OrxString extension = SysFile::getExtension(name);
+    OrxString outputDir = SysFile::getDir(name);
+    name.remove(name.length() - extension.length());
+    extension_ = extension.isEmpty() ? OrxString(".htm") : std::move(extension);
+    outputDir_ = std::move(outputDir);
+    baseName_ = std::move(name);
 }
 
 OrxString OutputNames::pageFileName(std::uint32_t number, const OrxString& subDirectory) const {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -15,7 +16,14 @@ namespace quillmark::replay {
 
 namespace {
 
+void checkMemory(HRESULT result) {
+    if (result == E_OUTOFMEMORY) {
+        throw std::bad_alloc();
+    }
+}
+
 void check(HRESULT result) {
+    checkMemory(result);
     if (FAILED(result)) {
         throw ComponentError("the component refused a host service", result);
     }
@@ -45,12 +53,17 @@ void hearRefusal(void* context, const DochtmlText* name, LONG access) {
 
 ServiceRegistration::ServiceRegistration(ComPointer<IHostServices> component, HostServices services)
     : component_(std::move(component)), services_(std::move(services)) {
-    // First, so that nothing has been provided to a component that cannot confine itself.
-    if (services_.filesInReach) {
-        confine();
-    }
-    if (component_) {
-        provide();
+    try {
+        // First, so that nothing has been provided to a component that cannot confine itself.
+        if (services_.filesInReach) {
+            confine();
+        }
+        if (component_) {
+            provide();
+        }
+    } catch (...) {
+        takeBack();
+        throw;
     }
 }
 
@@ -64,9 +77,12 @@ void ServiceRegistration::confine() {
     const std::vector<DochtmlText> readable = textsOf(services_.filesInReach->readable);
     const DochtmlConfinement record{&*services_.filesInReach, writable.data(), writable.size(),
                                     readable.data(),          readable.size(), &hearRefusal};
-    if (FAILED(confinement->setConfinement(&record))) {
+    const HRESULT result = confinement->setConfinement(&record);
+    checkMemory(result);
+    if (FAILED(result)) {
         throw ComponentError("--confine is not available on this system", E_NOTIMPL);
     }
+    confined_ = true;
 }
 
 void ServiceRegistration::provide() {
@@ -106,10 +122,14 @@ void ServiceRegistration::provide() {
 }
 
 ServiceRegistration::~ServiceRegistration() {
+    takeBack();
+}
+
+void ServiceRegistration::takeBack() noexcept {
     if (!component_) {
         return;
     }
-    if (services_.filesInReach) {
+    if (confined_) {
         component_.query<IFileConfinement>(IID_IFileConfinement)->setConfinement(nullptr);
     }
     component_->setObserver(nullptr);

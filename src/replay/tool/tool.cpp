@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <new>
 #include <system_error>
 
 #include "command_line/scoped_drives.h"
@@ -14,6 +15,7 @@
 #include "replay/input/inputs.h"
 #include "replay/play/document_counts.h"
 #include "replay/play/player.h"
+#include "replay/services/callback_guard.h"
 #include "replay/tool/confinement_options.h"
 #include "replay/tool/lazy_file.h"
 #include "replay/tool/messages.h"
@@ -25,6 +27,18 @@ namespace quillmark::replay {
 namespace {
 
 constexpr std::string_view toolName = "dochtml-replay";
+constexpr std::string_view outOfMemory = "dochtml-replay: out of memory";
+
+/// Without memory for its message, an exception is one more of having no memory.
+int reportFailure(std::ostream& errors, const std::exception& failure) {
+    try {
+        Messages(errors, false).write(std::string(toolName) + ": " + failure.what());
+        return exitBadInput;
+    } catch (const std::bad_alloc&) {
+        Messages(errors, false).write(outOfMemory);
+        return exitFailed;
+    }
+}
 
 /// One run of the tool over all its inputs.
 class Run {
@@ -38,8 +52,12 @@ public:
           services_(options, files_, environment.executable),
           messages_(environment.errors, environment.errorsGoToTerminal && !options.quiet),
           trace_(inputs_.hasRecording()),
-          exceptions_([this](std::string_view reason) { reportError(SysText::toUtf8(reason)); },
-                      exceptionWriter()) {}
+          exceptions_(
+              [this](std::string_view reason) {
+                  ++errors_;
+                  write(SysText::toUtf8(reason));
+              },
+              exceptionWriter()) {}
 
     int play() {
         makeLogDirectory();
@@ -57,6 +75,10 @@ public:
             charactersLost_ = player.charactersLost();
         }
         messages_.clearProgress();
+        if (const std::size_t failed = failedCallbacks - failedBefore_; failed > 0) {
+            errors_ += failed;
+            messages_.write(outOfMemory);
+        }
         checkOutput();
         if (!options_.quiet) {
             writeSummary();
@@ -164,8 +186,10 @@ private:
 
     void reportError(const std::string& what) {
         ++errors_;
-        messages_.write(std::string(toolName) + ": " + what);
+        write(what);
     }
+
+    void write(const std::string& what) { messages_.write(std::string(toolName) + ": " + what); }
 
     void writeSummary() {
         std::string text = counted(counts_.pages, "page") + " written, " +
@@ -221,6 +245,7 @@ private:
     ExceptionMonitor exceptions_;
     DocumentCounts counts_;
     const Inputs::Input* current_ = nullptr;
+    std::size_t failedBefore_ = failedCallbacks;
     std::size_t errors_ = 0;
     std::size_t charactersLost_ = 0;
     bool badInput_ = false;
@@ -245,9 +270,11 @@ int runTool(std::span<const std::string> arguments, const ReplayEnvironment& env
             return exitFailed;
         }
         return exitDone;
+    } catch (const std::bad_alloc&) {
+        Messages(environment.errors, false).write(outOfMemory);
+        return exitFailed;
     } catch (const std::exception& failure) {
-        Messages(environment.errors, false).write(std::string(toolName) + ": " + failure.what());
-        return exitBadInput;
+        return reportFailure(environment.errors, failure);
     }
 }
 
