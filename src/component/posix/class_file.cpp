@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <fstream>
@@ -83,6 +84,24 @@ void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree) 
     }
 }
 
+/// Whether every key of a path has a name, and there are no more than a registry holds. A file can
+/// have anything, and keys are handled by functions that call themselves.
+bool isKeyPath(std::string_view path) noexcept {
+    constexpr std::ptrdiff_t deepest = 512;
+    return !path.empty() && path.front() != '\\' && path.back() != '\\' &&
+           path.find("\\\\") == std::string_view::npos &&
+           std::count(path.begin(), path.end(), '\\') < deepest;
+}
+
+/// The path in a line such as "[A\B]"; empty when it holds none. Nothing for any other line.
+std::optional<std::string_view> keyPathIn(std::string_view line) noexcept {
+    if (!line.starts_with('[') || !line.ends_with(']')) {
+        return std::nullopt;
+    }
+    const std::string_view path = line.substr(1, line.size() - 2);
+    return isKeyPath(path) ? path : std::string_view();
+}
+
 /// The whole content of the file. Empty when the file does not exist; nothing when it cannot be
 /// read.
 std::optional<std::string> contentOf(const std::filesystem::path& file) {
@@ -118,8 +137,9 @@ std::optional<KeyTree> readClassFile(const std::filesystem::path& file) {
     std::istringstream in(*content);
     for (std::string line; std::getline(in, line);) {
         const std::size_t equals = line.find('=');
-        if (line.starts_with('[') && line.ends_with(']') && line.size() > 2) {
-            key = &makeKey(root, std::string_view(line).substr(1, line.size() - 2));
+        if (const std::optional<std::string_view> path = keyPathIn(line)) {
+            // The values below a key that cannot be are no other key's.
+            key = path->empty() ? nullptr : &makeKey(root, *path);
         } else if (key != nullptr && equals != std::string::npos && !line.starts_with(';')) {
             const std::string name = line.substr(0, equals);
             key->values[name == defaultValueName ? std::string() : name] = {

@@ -63,6 +63,33 @@ TEST_F(ClassFile, IgnoresMalformedLines) {
     EXPECT_EQ(tree(), expected);
 }
 
+TEST_F(ClassFile, PassesOverKeysWithoutAName) {
+    fs::create_directories(file().parent_path());
+    std::ofstream(file()) << "[A]\n@=a\n[\\B]\n@=b\n[C\\]\n@=c\n[D\\\\E]\n@=e\n[]\n@=f\n";
+    KeyTree expected;
+    makeKey(expected, "A").values[""] = {KeyValue::textType, "a"};
+    EXPECT_EQ(tree(), expected);
+}
+
+TEST_F(ClassFile, PassesOverKeysThatLieTooDeep) {
+    fs::create_directories(file().parent_path());
+    std::string deep = "K";
+    for (int level = 1; level < 512; ++level) {
+        deep += "\\K";
+    }
+    std::string endless = "K";
+    for (int level = 1; level < 300'000; ++level) {
+        endless += "\\K";
+    }
+    std::ofstream(file()) << "[" << deep << "\\K]\n@=x\n[" << endless << "]\n@=y\n";
+    EXPECT_EQ(tree(), KeyTree());
+    std::ofstream(file()) << "[" << deep << "]\n@=z\n";
+    const KeyTree read = tree();
+    const KeyTree* const deepest = findKey(read, deep);
+    ASSERT_NE(deepest, nullptr);
+    EXPECT_EQ(deepest->values.at("").data, "z");
+}
+
 TEST_F(ClassFile, ContainsAKeyOnceInAnyCase) {
     KeyTree root;
     makeKey(root, "clsid\\A").values["Name"] = {KeyValue::textType, "kept"};
