@@ -20,6 +20,12 @@ if(DOCHTML_SANITIZE)
     add_link_options(${sanitizers})
 endif()
 
+if(DOCHTML_COVERAGE)
+    # Clang counts how often each region of the sources is run; the target coverage_report shows it.
+    add_compile_options(-fprofile-instr-generate -fcoverage-mapping)
+    add_link_options(-fprofile-instr-generate)
+endif()
+
 # Use ccache if it is installed.
 find_program(DOCHTML_CCACHE ccache)
 mark_as_advanced(DOCHTML_CCACHE)

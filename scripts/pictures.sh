@@ -1,6 +1,6 @@
 #!/bin/bash
-# Makes the pictures of the documentation in docs/images: the example document set in Chromium, and
-# the settings page under Wine. Look at them before you commit them.
+# Makes the pictures of the documentation in docs/images: the reference of a real model in
+# Chromium, and the settings page under Wine. Look at them before you commit them.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
@@ -17,17 +17,21 @@ need_node_modules
 mkdir -p build/pictures
 
 say "Building"
-configure release
-cmake --build --preset release --target dochtml-replay manual_generator
+configure release -D DOCHTML_BUILD_PYTHON=ON
+cmake --build --preset release
 configure mingw64
 cmake --build --preset mingw64 --target settings_page_tests
 
 say "Taking the pictures"
 rm -rf build/pictures/set
-examples/manual/make.sh build/release build/pictures/set
-MANUAL_SET=$PWD/build/pictures/set MANUAL_PICTURES=$PWD/build/pictures \
-    node --test --test-name-pattern '/static frame set/' tests/browser/manual.test.mjs >/dev/null
-save_picture build/pictures/frames-disk.png manual
+examples/object_model/make.sh build/release build/pictures/set
+page=$(cd build/pictures/set && grep -rlF '<a name="Gio.InputStream"></a>' . --include='*.htm')
+NAVIGATOR_BROWSERS=chrome node scripts/take_pictures.mjs build/pictures/set "$page" build/pictures
+(cd build/pictures &&
+    convert -background white \( tree.png search.png +append \) \
+        \( dark.png phone.png drawer.png +append \) -append navigator-all.png)
+save_picture build/pictures/navigator-all.png navigator
+save_picture build/pictures/object-model.png object-model
 
 windows=$PWD/build/mingw64
 (cd build/pictures &&

@@ -106,8 +106,9 @@ def read_settings(tool: str) -> Iterator[Setting]:
         listing = subprocess.run(
             [tool, "--settings", empty.name, "list"], check=True, capture_output=True, text=True
         ).stdout
-    # One setting is three lines: NAME=VALUE, its default and type, its meaning.
-    lines = listing.splitlines()
+    # The first line names the store. One setting is three lines: NAME=VALUE, its default and type,
+    # its meaning.
+    lines = listing.splitlines()[1:]
     for first, second, meaning in zip(lines[0::3], lines[1::3], lines[2::3], strict=True):
         kind = second.rpartition(", ")[2]
         if kind not in ("text", "boolean", "short", "integer"):

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace quillmark {
+
+class OptionParser;
 
 /// A drive letter and its directory, on a system without drives.
 struct Drive {
@@ -11,7 +14,8 @@ struct Drive {
     std::string directory;
 };
 
-/// Parses the value of `--drive`, "X=DIR". Throws `BadUsage`.
-[[nodiscard]] Drive parseDrive(const std::string& text);
+/// Adds the option `--drive X=DIR`. Each occurrence appends a drive to `drives`, which must outlive
+/// the parser. A value of another form is a `BadUsage`.
+void addDriveOption(OptionParser& parser, std::vector<Drive>& drives);
 
 }  // namespace quillmark

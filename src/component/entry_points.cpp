@@ -1,10 +1,10 @@
 #include "dochtml/entry_points.h"
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
+#include "component/module/module_state.h"
 #include "component/object/class_factory.h"
 #include "component/object/document_object.h"
 #include "component/object/driver_document.h"
-#include "component/object/module_state.h"
 #include "component/object/page_object.h"
 #include "component/registration/server_registration.h"
 
@@ -25,7 +25,7 @@ ObjectMaker findClass(REFCLSID classId) noexcept {
 }  // namespace
 }  // namespace quillmark
 
-// The names that the library exports; the linker's list of them is windows/dochtmlcom.def or
+// The functions that the library exports. The linker's list of them is in windows/dochtmlcom.def or
 // posix/dochtmlcom.map.
 
 extern "C" HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID classId, REFIID iid, void** object) {

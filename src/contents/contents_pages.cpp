@@ -11,6 +11,7 @@
 #include "contents/tree/tree_data_file.h"
 #include "foundation/orx_exception.h"
 #include "platform/failure_lines.h"
+#include "platform/out_of_memory.h"
 #include "platform/sys_directory.h"
 
 namespace quillmark {
@@ -32,17 +33,23 @@ OrxString writeTreeData(const ContentsContext& context) {
 }  // namespace
 
 void writeContentsPages(const ContentsContext& context) {
-    const IconArchives archives = copyContentsSupportFiles(context);
+    const auto step = [&](const char* what, const auto& body) {
+        survive(context.trace, what, body);
+    };
+    IconArchives archives;
+    step("the support files", [&] { archives = copyContentsSupportFiles(context); });
     // For archivers that look for their files in the current directory. It may fail, because the
     // archiver also gets full paths.
-    std::ignore = SysDirectory::setCurrentDir(context.outputDir);
-    const OrxString treeFile = writeTreeData(context);
-    writeAppletContents(context, archives, treeFile);
+    step("the directory of the archiver",
+         [&] { std::ignore = SysDirectory::setCurrentDir(context.outputDir); });
+    OrxString treeFile;
+    step("the tree data", [&] { treeFile = writeTreeData(context); });
+    step("the contents page", [&] { writeAppletContents(context, archives, treeFile); });
     if (context.ownStartPage) {
-        writeStartPage(context);
+        step("the start page", [&] { writeStartPage(context); });
     } else if (context.supportOld) {
-        writeFixedFrameSet(context);
-        writeStaticFrameSet(context);
+        step("a frame set", [&] { writeFixedFrameSet(context); });
+        step("a frame set", [&] { writeStaticFrameSet(context); });
     }
 }
 

@@ -37,7 +37,7 @@ DocHtml::~DocHtml() {
         // Without the sections, the last page of a document that was never closed gets no header
         // and no footer.
         impl_->context.out.freeSections();
-        if (!impl_->context.out.page().isEmpty()) {
+        if (!impl_->isLost && !impl_->context.out.page().isEmpty()) {
             DocHtml::close();
         }
         impl_->pages.releaseHeldPages();
@@ -47,9 +47,15 @@ DocHtml::~DocHtml() {
 }
 
 DocResult DocHtml::create(WideText fileName) {
+    impl_->isLost = false;
+    impl_->isLost =
+        !survive(impl_->context.trace, "create", [&] { startDocument(SysText::narrow(fileName)); });
+    return resultOk;
+}
+
+void DocHtml::startDocument(const OrxString& name) {
     DocumentContext& context = impl_->context;
     DocumentSettings& settings = context.settings;
-    const OrxString name = SysText::narrow(fileName);
     impl_->calls.call("create", name.view());
     impl_->images.restart();
     impl_->pages.releaseHeldPages();
@@ -67,20 +73,23 @@ DocResult DocHtml::create(WideText fileName) {
     impl_->contents.setShowIcons(settings.showIcons);
     if (!settings.styleSheet.isEmpty()) {
         findStyleSheet(settings, context.trace);
-        settings.styleSheet = context.copyTo(context.names.outputDir(), settings.styleSheet);
+        survive(context.trace, "the copy of the style sheet", [&] {
+            settings.styleSheet = context.copyTo(context.names.outputDir(), settings.styleSheet);
+        });
     }
     impl_->contents.leaveEntry();
     settings.readTexts(impl_->settings);
     impl_->text.setPassThrough(settings.passThrough);
     if (settings.hasArrows()) {
-        copyArrowPictures(context);
+        survive(context.trace, "the copies of the arrows", [&] { copyArrowPictures(context); });
     }
     if (!settings.readIniFile(context.trace)) {
         useJnlp_ = false;
     }
-    startNavigator();
+    survive(context.trace, "the navigator", [this] { startNavigator(); });
+    impl_->pages.setNavigator(impl_->navigator);
+    impl_->pages.preparePage(context.out.pageNumber());
     impl_->pages.startPage();
-    return resultOk;
 }
 
 void DocHtml::startNavigator() {
@@ -95,18 +104,18 @@ void DocHtml::startNavigator() {
                                .iconDir = SysFile::getDir(settings.iconFile)},
                               std::make_unique<CodePageDecoder>(), context.trace);
     }
-    impl_->pages.setNavigator(impl_->navigator);
 }
 
 DocResult DocHtml::close() {
-    if (!impl_->context.out.page().isEmpty()) {
-        impl_->calls.call("close");
-    }
-    endPage(true);
-    if (impl_->context.settings.hasContentsPages()) {
-        writeContents();
-    }
-    return resultOk;
+    return impl_->operate("close", [this] {
+        if (!impl_->context.out.page().isEmpty()) {
+            impl_->calls.call("close");
+        }
+        endPage(true);
+        if (impl_->context.settings.hasContentsPages()) {
+            writeContents();
+        }
+    });
 }
 
 void DocHtml::endPage(bool last) {
@@ -159,22 +168,29 @@ void DocHtml::writeContents() {
 }
 
 DocResult DocHtml::insertPageBreak() {
-    impl_->calls.pageBreak();
-    if (impl_->breakJustMade && impl_->context.out.page().getLineCount() < 2) {
-        return resultOk;
-    }
-    endPage(false);
-    impl_->context.out.nextPageNumber();
-    impl_->pages.startPage();
-    return resultOk;
+    return impl_->operate("insertPageBreak", [this] {
+        impl_->calls.pageBreak();
+        if (impl_->breakJustMade && impl_->context.out.page().getLineCount() < 2) {
+            return;
+        }
+        impl_->pages.preparePage(impl_->context.out.pageNumber() + 1);
+        endPage(false);
+        impl_->context.out.nextPageNumber();
+        impl_->pages.startPage();
+    });
 }
 
 DocResult DocHtml::pushDirectory(WideText directoryName) {
-    if (impl_->tables.inTable()) {
-        return resultOk;
-    }
+    return impl_->operate("pushDirectory", [&] {
+        if (!impl_->tables.inTable()) {
+            enterDirectory(SysText::narrow(directoryName));
+        }
+    });
+}
+
+void DocHtml::enterDirectory(const OrxString& directoryName) {
     DocumentContext& context = impl_->context;
-    impl_->pages.setSubDirectory(context.names.shortenedDirectory(SysText::narrow(directoryName)));
+    impl_->pages.setSubDirectory(context.names.shortenedDirectory(directoryName));
     if (context.out.page().getLineCount() > 1) {
         insertPageBreak();
         impl_->breakJustMade = true;
@@ -184,14 +200,14 @@ DocResult DocHtml::pushDirectory(WideText directoryName) {
     if (!impl_->pages.subDirectory().isEmpty()) {
         SysDirectory::checkDirectoryAndCreate(context.pageDir());
     }
-    return resultOk;
 }
 
 DocResult DocHtml::popDirectory() {
-    if (!impl_->tables.inTable()) {
-        impl_->pages.setSubDirectory("");
-    }
-    return resultOk;
+    return impl_->operate("popDirectory", [this] {
+        if (!impl_->tables.inTable()) {
+            impl_->pages.setSubDirectory("");
+        }
+    });
 }
 
 }  // namespace quillmark

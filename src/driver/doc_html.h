@@ -21,9 +21,11 @@ struct DocHtmlImpl;
 ///     document.close();                       // the pages are on the disk
 ///
 /// Every operation returns `resultOk`. Failures are reported in the call trace and in the exception
-/// log. Two failures throw `OrxException`: `create` when the style sheet is missing, and `close`
-/// when the tree data file cannot be written. Use an object from one thread only. The destructor
-/// closes a document that is still open; its last page then has no header and no footer.
+/// log. So is an operation that runs out of memory: its output is lost, at most, and the document
+/// goes on; after such a `create` the calls up to the next one write nothing. Two failures throw
+/// `OrxException`: `create` when the style sheet is missing, and `close` when the tree data file
+/// cannot be written. Use an object from one thread only. The destructor closes a document that is
+/// still open; its last page then has no header and no footer.
 class DocHtml : public IDocument {
 public:
     DocHtml();
@@ -76,6 +78,8 @@ public:
     DocResult popDirectory() override;
 
 private:
+    void startDocument(const OrxString& name);
+    void enterDirectory(const OrxString& directoryName);
     void insertTextCall(std::string_view text);
     void insertXrefCall(std::string_view text, std::string_view tagName);
     void endPage(bool last);

@@ -34,81 +34,91 @@ RegEntry::Type entryType(ValueType valueType) noexcept {
 }  // namespace
 
 DocResult DocHtml::startHeader() {
-    impl_->calls.call("startHeader");
-    impl_->context.out.openSection(SectionMode::header, impl_->context.settings.testLevel);
-    return resultOk;
+    return impl_->operate("startHeader", [&] {
+        impl_->calls.call("startHeader");
+        impl_->context.out.openSection(SectionMode::header, impl_->context.settings.testLevel);
+    });
 }
 
 DocResult DocHtml::endHeader() {
-    impl_->calls.call("endHeader");
-    if (impl_->context.out.mode() == SectionMode::header) {
-        impl_->style.closeAll();
-        impl_->context.out.returnToBody();
-    }
-    return resultOk;
+    return impl_->operate("endHeader", [&] {
+        impl_->calls.call("endHeader");
+        if (impl_->context.out.mode() == SectionMode::header) {
+            impl_->style.closeAll();
+            impl_->context.out.returnToBody();
+        }
+    });
 }
 
 DocResult DocHtml::startFooter() {
-    impl_->calls.call("startFooter");
-    impl_->context.out.openSection(SectionMode::footer, impl_->context.settings.testLevel);
-    return resultOk;
+    return impl_->operate("startFooter", [&] {
+        impl_->calls.call("startFooter");
+        impl_->context.out.openSection(SectionMode::footer, impl_->context.settings.testLevel);
+    });
 }
 
 DocResult DocHtml::endFooter() {
-    impl_->calls.call("endFooter");
-    // Unlike `endHeader` this does not check what is open. In the body it closes the body's tags.
-    impl_->style.closeAll();
-    impl_->context.out.returnToBody();
-    return resultOk;
+    return impl_->operate("endFooter", [&] {
+        impl_->calls.call("endFooter");
+        // Unlike `endHeader` this does not check what is open. In the body it closes the body's
+        // tags.
+        impl_->style.closeAll();
+        impl_->context.out.returnToBody();
+    });
 }
 
 DocResult DocHtml::setOption(WideText option, WideText value) {
-    const OrxString name = SysText::narrow(option);
-    const OrxString text = SysText::narrow(value);
-    impl_->calls.call("setOption", name.view(), text.view());
-    if (name == "title") {
-        impl_->pages.setTitle(text);
-    }
-    return resultOk;
+    return impl_->operate("setOption", [&] {
+        const OrxString name = SysText::narrow(option);
+        const OrxString text = SysText::narrow(value);
+        impl_->calls.call("setOption", name.view(), text.view());
+        if (name == "title") {
+            impl_->pages.setTitle(text);
+        }
+    });
 }
 
 DocResult DocHtml::trace(std::int16_t level) {
     Trace& trace = impl_->context.trace;
-    const OrxString logName =
-        impl_->settings.read(logGroup, "LogName", defaultValue(logGroup, "LogName")).asString();
-    trace.purgeBefore(logName);
-    if (level == 0) {
-        trace.close();
-        trace.setLevel(0);
-    } else if (level > 0) {
-        trace.open(logName);
-        trace.setLevel(level);
-    }
-    impl_->context.out.page().setTrace(trace);
+    survive(trace, "trace", [&] {
+        const OrxString logName =
+            impl_->settings.read(logGroup, "LogName", defaultValue(logGroup, "LogName")).asString();
+        trace.purgeBefore(logName);
+        if (level == 0) {
+            trace.close();
+            trace.setLevel(0);
+        } else if (level > 0) {
+            trace.open(logName);
+            trace.setLevel(level);
+        }
+        impl_->context.out.page().setTrace(trace);
+    });
     return resultOk;
 }
 
 DocResult DocHtml::overrideRegistry(WideText group, WideText name, WideText value,
                                     std::int16_t valueType) {
-    impl_->settings.override(RegEntry(SysText::narrow(group), SysText::narrow(name),
-                                      SysText::narrow(value),
-                                      entryType(static_cast<ValueType>(valueType))));
+    survive(impl_->context.trace, "overrideRegistry", [&] {
+        impl_->settings.override(RegEntry(SysText::narrow(group), SysText::narrow(name),
+                                          SysText::narrow(value),
+                                          entryType(static_cast<ValueType>(valueType))));
+    });
     return resultOk;
 }
 
 DocResult DocHtml::getPropPages(std::u16string& bstrCLSID) {
-    bstrCLSID = settingsPageClass;
+    survive(impl_->context.trace, "getPropPages", [&] { bstrCLSID = settingsPageClass; });
     return resultOk;
 }
 
 DocResult DocHtml::getDocType(std::u16string& docType) {
-    docType = u"Html";
+    survive(impl_->context.trace, "getDocType", [&] { docType = u"Html"; });
     return resultOk;
 }
 
 DocResult DocHtml::showLast() {
-    SysShell::open(impl_->context.names.documentFileName());
-    return resultOk;
+    return impl_->operate("showLast",
+                          [&] { SysShell::open(impl_->context.names.documentFileName()); });
 }
 
 DocResult DocHtml::insertMark(std::int32_t ptr, bool isPrimary) {
@@ -123,14 +133,16 @@ DocResult DocHtml::insertMark(std::int32_t ptr, bool isPrimary) {
 
 DocResult DocHtml::insertDiagram(std::int32_t /*ptr*/, std::int16_t /*width*/,
                                  std::int16_t /*height*/) {
-    // Diagrams arrive as pictures through `insertImage`. Hosts only expect this call to be guarded.
-    try {
-        CSignal2Exception::run([] {});
-    } catch (const OrxException& problem) {
-        impl_->context.traceError("ERR ", problem.reasonText());
-        OrxException::logCaught();
-    }
-    return resultOk;
+    return impl_->operate("insertDiagram", [&] {
+        // Diagrams arrive as pictures through `insertImage`. Hosts only expect this call to be
+        // guarded.
+        try {
+            CSignal2Exception::run([] {});
+        } catch (const OrxException& problem) {
+            impl_->context.traceError("ERR ", problem.reasonText());
+            OrxException::logCaught();
+        }
+    });
 }
 
 // These are for drivers of other formats. This driver accepts them and does nothing.

@@ -18,6 +18,7 @@
 #include "driver/text/table_writer.h"
 #include "driver/text/text_writer.h"
 #include "navigator/navigator.h"
+#include "platform/out_of_memory.h"
 #include "settings/register_cache.h"
 
 namespace quillmark {
@@ -44,12 +45,24 @@ struct DocHtmlImpl {
     /// Null for a document without one.
     std::shared_ptr<Navigator> navigator;
 
+    /// `create` found too little memory. Then nothing is written up to the next one: the calls
+    /// would go to files of the document before.
+    bool isLost = false;
     /// `pushDirectory` has just ended a page, so an immediate page break does not end another one.
     bool breakJustMade = false;
     // The host's text in 8 bits, and the target of the current link. Members only to reuse their
     // memory.
     std::string narrowed;
     OrxString linkTarget;
+
+    /// Runs an operation. What it has no memory for is lost and reported; the document goes on.
+    template <typename Body>
+    DocResult operate(const char* operation, const Body& body) {
+        if (!isLost) {
+            survive(context.trace, operation, body);
+        }
+        return resultOk;
+    }
 };
 
 }  // namespace quillmark

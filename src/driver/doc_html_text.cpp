@@ -9,10 +9,11 @@
 namespace quillmark {
 
 DocResult DocHtml::insertText(WideText text) {
-    impl_->narrowed.clear();
-    SysText::appendNarrow(impl_->narrowed, text);
-    insertTextCall(impl_->narrowed);
-    return resultOk;
+    return impl_->operate("insertText", [&] {
+        impl_->narrowed.clear();
+        SysText::appendNarrow(impl_->narrowed, text);
+        insertTextCall(impl_->narrowed);
+    });
 }
 
 void DocHtml::insertTextCall(std::string_view text) {
@@ -33,77 +34,88 @@ void DocHtml::insertTextCall(std::string_view text) {
 }
 
 DocResult DocHtml::insertEndl() {
-    impl_->calls.call("insertEndl");
-    impl_->text.insertEndl();
-    return resultOk;
+    return impl_->operate("insertEndl", [&] {
+        impl_->calls.call("insertEndl");
+        impl_->text.insertEndl();
+    });
 }
 
 DocResult DocHtml::insertField(std::int16_t field) {
-    impl_->calls.call("insertField", field);
-    impl_->text.insertField(static_cast<FieldKind>(field));
-    return resultOk;
+    return impl_->operate("insertField", [&] {
+        impl_->calls.call("insertField", field);
+        impl_->text.insertField(static_cast<FieldKind>(field));
+    });
 }
 
 DocResult DocHtml::setStyle(WideText style) {
-    const OrxString name = SysText::narrow(style);
-    impl_->calls.call("setStyle", name.view());
-    impl_->style.setStyle(name);
-    return resultOk;
+    return impl_->operate("setStyle", [&] {
+        const OrxString name = SysText::narrow(style);
+        impl_->calls.call("setStyle", name.view());
+        impl_->style.setStyle(name);
+    });
 }
 
 DocResult DocHtml::setTextAlign(std::int16_t textAlign) {
-    impl_->calls.call("setTextAlign", textAlign);
-    impl_->style.setAlign(static_cast<TextAlign>(textAlign));
-    return resultOk;
+    return impl_->operate("setTextAlign", [&] {
+        impl_->calls.call("setTextAlign", textAlign);
+        impl_->style.setAlign(static_cast<TextAlign>(textAlign));
+    });
 }
 
 DocResult DocHtml::setFontName(WideText name) {
-    const OrxString face = SysText::narrow(name);
-    impl_->calls.call("setFontName", face.view());
-    impl_->font.setName(face);
-    return resultOk;
+    return impl_->operate("setFontName", [&] {
+        const OrxString face = SysText::narrow(name);
+        impl_->calls.call("setFontName", face.view());
+        impl_->font.setName(face);
+    });
 }
 
 DocResult DocHtml::setFontSize(std::int16_t size) {
-    impl_->calls.call("setFontSize", size);
-    impl_->font.setSize(size);
-    return resultOk;
+    return impl_->operate("setFontSize", [&] {
+        impl_->calls.call("setFontSize", size);
+        impl_->font.setSize(size);
+    });
 }
 
 DocResult DocHtml::setFontAttribute(std::int16_t att, bool value) {
-    const auto attribute = static_cast<FontAttribute>(att);
-    const CallTrace::Word flag{value ? "TRUE" : "FALSE"};
-    if (const std::string_view word = fontAttributeWord(attribute); word.empty()) {
-        impl_->calls.call("setFontAttribute", flag);
-    } else {
-        impl_->calls.call("setFontAttribute", CallTrace::Word{word}, flag);
-    }
-    impl_->font.setAttribute(attribute, value);
-    return resultOk;
+    return impl_->operate("setFontAttribute", [&] {
+        const auto attribute = static_cast<FontAttribute>(att);
+        const CallTrace::Word flag{value ? "TRUE" : "FALSE"};
+        if (const std::string_view word = fontAttributeWord(attribute); word.empty()) {
+            impl_->calls.call("setFontAttribute", flag);
+        } else {
+            impl_->calls.call("setFontAttribute", CallTrace::Word{word}, flag);
+        }
+        impl_->font.setAttribute(attribute, value);
+    });
 }
 
 DocResult DocHtml::startTable() {
-    impl_->calls.call("startTable");
-    impl_->tables.startTable();
-    return resultOk;
+    return impl_->operate("startTable", [&] {
+        impl_->calls.call("startTable");
+        impl_->tables.startTable();
+    });
 }
 
 DocResult DocHtml::endTable() {
-    impl_->calls.call("endTable");
-    impl_->tables.endTable();
-    return resultOk;
+    return impl_->operate("endTable", [&] {
+        impl_->calls.call("endTable");
+        impl_->tables.endTable();
+    });
 }
 
 DocResult DocHtml::addRow() {
-    impl_->calls.call("addRow");
-    impl_->tables.addRow();
-    return resultOk;
+    return impl_->operate("addRow", [&] {
+        impl_->calls.call("addRow");
+        impl_->tables.addRow();
+    });
 }
 
 DocResult DocHtml::addCell() {
-    impl_->calls.call("addCell");
-    impl_->tables.addCell();
-    return resultOk;
+    return impl_->operate("addCell", [&] {
+        impl_->calls.call("addCell");
+        impl_->tables.addCell();
+    });
 }
 
 DocResult DocHtml::setTableRowHeight(std::int32_t /*points*/) {
@@ -111,22 +123,24 @@ DocResult DocHtml::setTableRowHeight(std::int32_t /*points*/) {
 }
 
 DocResult DocHtml::insertTag(WideText tagName) {
-    impl_->narrowed.clear();
-    SysText::appendNarrow(impl_->narrowed, tagName);
-    const std::string_view name = impl_->narrowed;
-    impl_->calls.call("insertTag", name);
-    impl_->bookmarks.define(name, BookmarkWriter::Origin::host);
-    return resultOk;
+    return impl_->operate("insertTag", [&] {
+        impl_->narrowed.clear();
+        SysText::appendNarrow(impl_->narrowed, tagName);
+        const std::string_view name = impl_->narrowed;
+        impl_->calls.call("insertTag", name);
+        impl_->bookmarks.define(name, BookmarkWriter::Origin::host);
+    });
 }
 
 DocResult DocHtml::insertXref(WideText text, WideText tagName) {
-    impl_->narrowed.clear();
-    SysText::appendNarrow(impl_->narrowed, text);
-    const std::size_t textLength = impl_->narrowed.size();
-    SysText::appendNarrow(impl_->narrowed, tagName);
-    const std::string_view both = impl_->narrowed;
-    insertXrefCall(both.substr(0, textLength), both.substr(textLength));
-    return resultOk;
+    return impl_->operate("insertXref", [&] {
+        impl_->narrowed.clear();
+        SysText::appendNarrow(impl_->narrowed, text);
+        const std::size_t textLength = impl_->narrowed.size();
+        SysText::appendNarrow(impl_->narrowed, tagName);
+        const std::string_view both = impl_->narrowed;
+        insertXrefCall(both.substr(0, textLength), both.substr(textLength));
+    });
 }
 
 void DocHtml::insertXrefCall(std::string_view text, std::string_view tagName) {
@@ -136,49 +150,54 @@ void DocHtml::insertXrefCall(std::string_view text, std::string_view tagName) {
     target.clear();
     target.append(tagName);
     const LinkWriter::End end = impl_->links.open(target);
-    impl_->text.insertEscaped(text);
+    // A link that has begun must also end.
+    survive(impl_->context.trace, "the text of a link", [&] { impl_->text.insertEscaped(text); });
     impl_->links.close(target, end);
 }
 
 DocResult DocHtml::startTOCEntry() {
-    impl_->calls.call("startTOCEntry");
-    impl_->contents.startEntry();
-    return resultOk;
+    return impl_->operate("startTOCEntry", [&] {
+        impl_->calls.call("startTOCEntry");
+        impl_->contents.startEntry();
+    });
 }
 
 DocResult DocHtml::endTOCEntry() {
-    impl_->calls.call("endTOCEntry");
-    impl_->contents.endEntry();
-    return resultOk;
+    return impl_->operate("endTOCEntry", [&] {
+        impl_->calls.call("endTOCEntry");
+        impl_->contents.endEntry();
+    });
 }
 
 DocResult DocHtml::insertTOC() {
-    impl_->calls.call("insertTOC");
-    // An unbalanced `endTable` can leave a depth below 0, which also means outside a table.
-    if (!impl_->tables.hasOpenTable()) {
-        impl_->context.out.page().addMark(page_marks::contentsListing, "");
-    }
-    return resultOk;
+    return impl_->operate("insertTOC", [&] {
+        impl_->calls.call("insertTOC");
+        // An unbalanced `endTable` can leave a depth below 0, which also means outside a table.
+        if (!impl_->tables.hasOpenTable()) {
+            impl_->context.out.page().addMark(page_marks::contentsListing, "");
+        }
+    });
 }
 
 DocResult DocHtml::insertImage(WideText imageFileName, WideText fileOrUrl) {
-    const OrxString picture = SysText::narrow(imageFileName);
-    const OrxString target = SysText::narrow(fileOrUrl);
-    impl_->calls.call("insertImage", picture.view(), target.view());
-    impl_->images.insertImage(picture, target);
-    return resultOk;
+    return impl_->operate("insertImage", [&] {
+        const OrxString picture = SysText::narrow(imageFileName);
+        const OrxString target = SysText::narrow(fileOrUrl);
+        impl_->calls.call("insertImage", picture.view(), target.view());
+        impl_->images.insertImage(picture, target);
+    });
 }
 
 DocResult DocHtml::insertFile(WideText fileName, std::int16_t insertAsType) {
-    const OrxString name = SysText::narrow(fileName);
-    impl_->calls.call("insertFile", name.view(), insertAsType);
-    impl_->files.insertFile(name, static_cast<InsertAs>(insertAsType));
-    return resultOk;
+    return impl_->operate("insertFile", [&] {
+        const OrxString name = SysText::narrow(fileName);
+        impl_->calls.call("insertFile", name.view(), insertAsType);
+        impl_->files.insertFile(name, static_cast<InsertAs>(insertAsType));
+    });
 }
 
 DocResult DocHtml::insertLocate() {
-    impl_->locate.insert();
-    return resultOk;
+    return impl_->operate("insertLocate", [&] { impl_->locate.insert(); });
 }
 
 }  // namespace quillmark

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "page/page_marks.h"
 #include "platform/sys_file.h"
@@ -12,24 +13,30 @@ OrxString PageTurner::pageFileName() const {
     return context_.names.pageFileName(context_.out.pageNumber(), subDirectory_);
 }
 
-void PageTurner::newPage() {
+OrxCountedPtr<DocHtmlPage> PageTurner::emptyPage() const {
     auto page = OrxCountedPtr<DocHtmlPage>::make();
     page->setTrace(context_.trace);
     // Pages of a report are similar in size, but one very large page does not predict the next.
     constexpr std::size_t commonPage = 65536;
-    page->reserve(std::min(expectedSize_, commonPage));
-    context_.out.setPage(std::move(page));
+    page->reserve(std::min(std::max(expectedSize_, context_.out.page().bodySize()), commonPage));
+    return page;
+}
+
+void PageTurner::preparePage(std::uint32_t number) {
+    OrxCountedPtr<DocHtmlPage> page = emptyPage();
+    page->setFileName(context_.names.pageFileName(number, subDirectory_));
+    page->addMark(page_marks::topOfPage, "");
+    next_ = std::move(page);
 }
 
 void PageTurner::startPage() {
     const OutputRouter::BodyScope body(context_.out);
-    newPage();
-    DocHtmlPage& page = context_.out.page();
-    page.setFileName(pageFileName());
-    page.addMark(page_marks::topOfPage, "");
-    bookmarks_.define("Page " + std::to_string(context_.out.pageNumber()),
-                      BookmarkWriter::Origin::driver);
-    reopenTextState();
+    context_.out.setPage(std::exchange(next_, {}));
+    step("the anchor of a page", [this] {
+        bookmarks_.define("Page " + std::to_string(context_.out.pageNumber()),
+                          BookmarkWriter::Origin::driver);
+    });
+    step("the style of a page", [this] { reopenTextState(); });
     contents_.startPage();
 }
 
@@ -49,12 +56,18 @@ void PageTurner::reopenTextState() {
 void PageTurner::endPage(bool last, const std::function<void()>& closeTables) {
     const OutputRouter::BodyScope body(context_.out);
     writeTop(last);
-    if (context_.out.page().isEmpty()) {
+    DocHtmlPage& page = context_.out.page();
+    if (page.isEmpty()) {
         return;
     }
     finishBody(closeTables);
-    writeTail();
-    DocHtmlPage& page = context_.out.page();
+    step("the footer of a page", [this] { writeTail(); });
+    step("the head of a page", [&] { setHead(page); });
+    step("the contents entry of a page", [this] { contents_.finishPage(); });
+    dispatchPage(last);
+}
+
+void PageTurner::setHead(DocHtmlPage& page) {
     const OrxString& styleSheet = context_.settings.styleSheet;
     page.setStyleSheet(styleSheet.isEmpty()
                            ? OrxString()
@@ -63,8 +76,6 @@ void PageTurner::endPage(bool last, const std::function<void()>& closeTables) {
     if (navigator_ != nullptr) {
         addNavigator(page);
     }
-    contents_.finishPage();
-    dispatchPage(last);
 }
 
 void PageTurner::addNavigator(DocHtmlPage& page) {
@@ -74,16 +85,21 @@ void PageTurner::addNavigator(DocHtmlPage& page) {
 
 void PageTurner::writeTop(bool last) {
     DocHtmlPage& page = context_.out.page();
-    page.appendTop("<BODY ");
-    page.appendTop(context_.settings.bodyTags);
-    page.appendTop(" >\n");
+    step("the body tag of a page", [&] {
+        page.appendTop("<BODY ");
+        page.appendTop(context_.settings.bodyTags);
+        page.appendTop(" >\n");
+    });
     if (context_.settings.hasArrows()) {
-        page.appendTop(arrows_.bar(context_.out.pageNumber(), last));
+        step("the arrows of a page",
+             [&] { page.appendTop(arrows_.bar(context_.out.pageNumber(), last)); });
     }
     if (const DocHtmlSection* const header = context_.out.section(SectionMode::header);
         header != nullptr) {
-        page.appendTop(stamp(*header));
-        page.appendTop("<HR>\n");
+        step("the header of a page", [&] {
+            page.appendTop(stamp(*header));
+            page.appendTop("<HR>\n");
+        });
     }
 }
 
@@ -114,33 +130,48 @@ OrxString PageTurner::stamp(const DocHtmlSection& section) {
 
 void PageTurner::finishBody(const std::function<void()>& closeTables) {
     closeTables();
-    savedState_ = context_.out.state();
-    style_.closeAll();
+    step("the style for the next page", [this] { saveTextState(); });
+    step("the end of a style", [this] { style_.closeAll(); });
+}
+
+void PageTurner::saveTextState() {
+    const DocHtmlTextState& state = context_.out.state();
+    // Without memory nothing is reopened.
+    savedState_.styleName.clear();
+    savedState_.fontOpen = false;
+    savedState_.font.size = 0;
+    savedState_.styleName = state.styleName;
+    savedState_.font = state.font;
+    savedState_.fontOpen = state.fontOpen;
+}
+
+void PageTurner::finishPage(DocHtmlPage& page) {
+    if (!page.isEmpty()) {
+        step("the contents listing of a page", [&] { contents_.fillListing(page); });
+        page.close();
+    }
 }
 
 void PageTurner::dispatchPage(bool last) {
-    const auto finish = [this](DocHtmlPage& page) {
-        if (!page.isEmpty()) {
-            contents_.fillListing(page);
-            page.close();
-        }
-    };
     DocHtmlPage& page = context_.out.page();
     expectedSize_ = page.bodySize();
     if (last) {
-        held_.finishAll(finish);
+        held_.finishAll([this](DocHtmlPage& heldPage) { finishPage(heldPage); });
         bookmarks_.clear();
     }
     if (!page.hasMarks()) {
         page.close();
-        return;
-    }
-    if (last) {
-        finish(page);
+    } else if (last) {
+        finishPage(page);
+        // If there is no memory, the page itself is empty and can be used again.
+        step("an empty page", [this] { context_.out.setPage(emptyPage()); });
+    } else if (survive(context_.trace, "the later links of a page", [this] {
+                   held_.hold(context_.out.pageNumber(), context_.out.sharedPage());
+               })) {
+        context_.out.setPage(next_);
     } else {
-        held_.hold(context_.out.pageNumber(), context_.out.sharedPage());
+        page.close();
     }
-    newPage();
 }
 
 void PageTurner::releaseHeldPages() {

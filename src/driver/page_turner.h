@@ -11,6 +11,7 @@
 #include "driver/text/font_writer.h"
 #include "driver/text/paragraph_style.h"
 #include "navigator/navigator.h"
+#include "platform/out_of_memory.h"
 
 namespace quillmark {
 
@@ -22,7 +23,7 @@ namespace quillmark {
 class PageTurner {
 public:
     PageTurner(DocumentContext& context, HeldPages& held, BookmarkWriter& bookmarks,
-               ContentsCollector& contents, FontWriter& font, ParagraphStyle& style) noexcept
+               ContentsCollector& contents, FontWriter& font, ParagraphStyle& style)
         : context_(context),
           held_(held),
           bookmarks_(bookmarks),
@@ -31,14 +32,15 @@ public:
           style_(style),
           arrows_(context) {}
 
-    /// Starts a new current page: writes its anchor and reopens style and font.
+    /// Makes the next page, with that number. If it throws, nothing has changed. Everything after
+    /// it takes what memory there is, and does without the rest.
+    void preparePage(std::uint32_t number);
+    /// Makes the prepared page the current one, writes its anchor, and reopens style and font.
     void startPage();
     /// Ends the current page. `closeTables` must end every open table through the document's own
     /// interface, so that the calls are traced. The end of the last page also writes every page
     /// that was held back.
     void endPage(bool last, const std::function<void()>& closeTables);
-    /// Makes a new, empty page the current one.
-    void newPage();
     /// Writes the pages that an earlier document left held back.
     void releaseHeldPages();
 
@@ -55,8 +57,18 @@ public:
     [[nodiscard]] OrxString pageFileName() const;
 
 private:
+    /// Runs a step of a page's end or start, which is lost if there is no memory for it.
+    template <typename Step>
+    void step(const char* what, const Step& body) {
+        survive(context_.trace, what, body);
+    }
+
+    [[nodiscard]] OrxCountedPtr<DocHtmlPage> emptyPage() const;
     void writeTop(bool last);
     void writeTail();
+    void saveTextState();
+    void setHead(DocHtmlPage& page);
+    void finishPage(DocHtmlPage& page);
     /// The section's text for this page. A font that the section left open becomes the body's font.
     [[nodiscard]] OrxString stamp(const DocHtmlSection& section);
     void finishBody(const std::function<void()>& closeTables);
@@ -76,6 +88,7 @@ private:
     ArrowBar arrows_;
     CachedLink styleSheetLink_;
     std::shared_ptr<Navigator> navigator_;
+    OrxCountedPtr<DocHtmlPage> next_;
     /// The size in bytes of the previous page's body.
     std::size_t expectedSize_ = 0;
 };

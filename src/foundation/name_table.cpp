@@ -60,24 +60,26 @@ NameTable::Id NameTable::add(std::string_view name) {
 }
 
 void NameTable::grow() {
-    std::vector<Slot> old = std::exchange(slots_, {});
-    if (old.empty()) {
-        for (Id id = 0; id < names_.size(); ++id) {
-            old.push_back({hashOf(names_[id]), id});
-        }
-    }
-    slots_.resize(std::max(firstTableSize, old.size() * 2));
-    const std::size_t mask = slots_.size() - 1;
-    for (const Slot& slot : old) {
-        if (slot.id == none) {
-            continue;
-        }
+    std::vector<Slot> grown(std::max(firstTableSize, slots_.size() * 2));
+    const std::size_t mask = grown.size() - 1;
+    const auto put = [&](const Slot& slot) {
         std::size_t at = slot.hash & mask;
-        while (slots_[at].id != none) {
+        while (grown[at].id != none) {
             at = (at + 1) & mask;
         }
-        slots_[at] = slot;
+        grown[at] = slot;
+    };
+    if (slots_.empty()) {
+        for (Id id = 0; id < names_.size(); ++id) {
+            put({hashOf(names_[id]), id});
+        }
     }
+    for (const Slot& slot : slots_) {
+        if (slot.id != none) {
+            put(slot);
+        }
+    }
+    slots_ = std::move(grown);
 }
 
 }  // namespace quillmark

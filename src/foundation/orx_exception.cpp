@@ -1,5 +1,7 @@
 #include "foundation/orx_exception.h"
 
+#include <new>
+
 #include "foundation/module_lifetime.h"
 #include "foundation/process_wide.h"
 
@@ -27,6 +29,18 @@ void writeToLog(const char* category, std::string_view opening, std::string_view
     }
 }
 
+/// Builds no message, since there is no memory for one.
+void logOutOfMemory() noexcept {
+    try {
+        OrxExceptionLog* const log = OrxException::getLog();
+        if (log->records(OrxExceptionLog::catchCategory)) {
+            log->write("Exception catch: out of memory\n");
+        }
+    } catch (...) {
+        // As in `logCatch`.
+    }
+}
+
 }  // namespace
 
 OrxExceptionLog* OrxException::getLog() noexcept {
@@ -46,6 +60,8 @@ void OrxException::raise(const OrxString& reason) {
 void OrxException::logCatch(std::string_view reason) noexcept {
     try {
         writeToLog(OrxExceptionLog::catchCategory, "Exception catch: ", reason);
+    } catch (const std::bad_alloc&) {
+        logOutOfMemory();
     } catch (...) {
         // There is nowhere left to report a failure of the log itself. The document goes on.
     }
@@ -56,6 +72,8 @@ void OrxException::logCaught() noexcept {
         throw;
     } catch (const OrxException& exception) {
         logCatch(exception.reasonText());
+    } catch (const std::bad_alloc&) {
+        logOutOfMemory();
     } catch (const std::exception& exception) {
         logCatch(exception.what());
     } catch (...) {

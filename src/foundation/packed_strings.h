@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "foundation/growth.h"
+
 namespace quillmark {
 
 /// A list of strings that share one block of memory. Each string costs eight bytes besides its own,
@@ -14,6 +16,7 @@ class PackedStrings {
 public:
     /// Appends a string and returns its index, counted from 0.
     std::uint32_t add(std::string_view text) {
+        makeRoomForOne(ends_);
         bytes_.append(text);
         ends_.push_back(bytes_.size());
         return static_cast<std::uint32_t>(ends_.size() - 1);

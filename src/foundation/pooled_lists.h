@@ -40,16 +40,13 @@ public:
     [[nodiscard]] const Value& first(const List& list) const { return entries_[list.first_].value; }
     [[nodiscard]] const Value& last(const List& list) const { return entries_[list.last_].value; }
 
-    /// Empties the list and calls `each` with every value, first to last. `each` may use the pool.
+    /// Empties the list and calls `each` with every value, first to last. `each` may use the pool,
+    /// but not the list. A value for which `each` throws stays in the list, with those after it.
     template <typename Each>
     void take(List& list, const Each& each) {
-        std::uint32_t entry = std::exchange(list, {}).first_;
-        while (entry != none) {
-            const Value value = std::exchange(entries_[entry].value, Value());
-            const std::uint32_t next = std::exchange(entries_[entry].next, firstFree_);
-            firstFree_ = entry;
-            each(value);
-            entry = next;
+        while (!list.isEmpty()) {
+            each(Value(entries_[list.first_].value));
+            removeFirst(list);
         }
     }
 
@@ -69,6 +66,16 @@ private:
         Value value;
         std::uint32_t next;  // in its list, or in the list of free entries
     };
+
+    void removeFirst(List& list) noexcept {
+        const std::uint32_t entry = list.first_;
+        entries_[entry].value = Value();
+        list.first_ = std::exchange(entries_[entry].next, firstFree_);
+        firstFree_ = entry;
+        if (list.first_ == none) {
+            list.last_ = none;
+        }
+    }
 
     std::uint32_t newEntry(Value value) {
         if (firstFree_ == none) {

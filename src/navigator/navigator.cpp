@@ -13,6 +13,7 @@
 #include "navigator/support_pieces.h"
 #include "navigator/text/plain_text.h"
 #include "navigator/text/word_splitter.h"
+#include "platform/out_of_memory.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -67,14 +68,16 @@ void Navigator::write(const Appearance& appearance, const ContentsEntryList& ent
         .styleSheetLink = appearance.styleSheetLink,
         .headLines = headLines(SysFile::getDir(places_.baseName)),
     };
-    startPage.write(entries, numbers, *decoder_);
+    const auto step = [&](const char* what, const auto& body) { survive(trace, what, body); };
+    step("the start page", [&] { startPage.write(entries, numbers, *decoder_); });
     const NavigatorIcons icons(
         entries, {places_.iconDir, SysFile::appendToDir(places_.supportDir, iconFolder)},
         SysFile::appendToDir(files_.directory(), iconFolder), trace);
-    TreeFiles(entries, numbers, icons, *decoder_).write(files_);
-    writeTables(entries, numbers, icons, appearance.title);
-    indexEntries(entries, numbers);
-    index_.write(files_);
+    step("the navigator's tree",
+         [&] { TreeFiles(entries, numbers, icons, *decoder_).write(files_); });
+    step("the navigator's tables", [&] { writeTables(entries, numbers, icons, appearance.title); });
+    step("the contents in the search", [&] { indexEntries(entries, numbers); });
+    step("the search", [&] { index_.write(files_); });
 }
 
 void Navigator::writeTables(const ContentsEntryList& entries, const EntryNumbers& numbers,

@@ -6,6 +6,7 @@ namespace quillmark {
 
 const OrxString& CachedLink::relativeFile(const OrxString& fileName, const OrxString& base) {
     if (!known_ || fileName != fileName_ || base != base_) {
+        known_ = false;
         link_ = links::relativeFile(fileName, base);
         fileName_ = fileName;
         base_ = base;

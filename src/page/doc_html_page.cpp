@@ -12,6 +12,7 @@
 #include "page/open_marks.h"
 #include "page/splice_text.h"
 #include "platform/failure_lines.h"
+#include "platform/out_of_memory.h"
 #include "platform/signal_to_exception.h"
 #include "platform/sys_file.h"
 
@@ -40,7 +41,7 @@ struct DocHtmlPage::Record {
     void fillMark(SpliceText::MarkId mark, std::string_view name, std::string_view reference);
     void writeFile() const;
     void reportUnresolved() const;
-    void reset();
+    void reset() noexcept;
 };
 
 void DocHtmlPage::Record::fillMark(SpliceText::MarkId mark, std::string_view name,
@@ -63,7 +64,8 @@ void DocHtmlPage::Record::writeFile() const {
         case WriteResult::done:
             DocumentObserver::current().pageWritten(fileName);
             if (reader != nullptr) {
-                reader->read(number, std::span(pieces).subspan(1));
+                survive(trace, "the words of a page for the search",
+                        [&] { reader->read(number, std::span(pieces).subspan(1)); });
             }
             return;
         case WriteResult::openFailed:
@@ -95,13 +97,18 @@ void DocHtmlPage::Record::reportUnresolved() const {
     trace.write(Trace::reports, report);
 }
 
-void DocHtmlPage::Record::reset() {
-    // The style-sheet link stays: a page that is filled again keeps its style sheet.
-    const Trace keptTrace = trace;
-    OrxString keptLink = std::move(styleSheetLink);
-    *this = Record();
-    styleSheetLink = std::move(keptLink);
-    trace = keptTrace;
+void DocHtmlPage::Record::reset() noexcept {
+    top = {};
+    text = {};
+    tail = {};
+    title = {};
+    headExtra = {};
+    fileName = {};
+    marks = {};
+    insertPoint = SpliceText::none;
+    reader = nullptr;
+    number = 0;
+    // The trace stays, and the style-sheet link: a page that is filled again keeps its style sheet.
 }
 
 DocHtmlPage::DocHtmlPage() : record_(std::make_unique<Record>()) {}
@@ -181,7 +188,13 @@ OrxString DocHtmlPage::relativeLink(const OrxString& target, const OrxString& ba
 DocHtmlPage::MarkNameId DocHtmlPage::addMark(std::string_view name, std::string_view markup,
                                              MarkNameId hint) {
     const auto sequence = static_cast<std::uint32_t>(record_->marks.size() + 1);
-    return record_->marks.add(name, record_->text.addMark(markup, sequence), hint);
+    const SpliceText::MarkId mark = record_->text.addMark(markup, sequence);
+    try {
+        return record_->marks.add(name, mark, hint);
+    } catch (...) {
+        record_->text.drop(mark);
+        throw;
+    }
 }
 
 bool DocHtmlPage::hasMarks() const noexcept {
@@ -248,12 +261,14 @@ void DocHtmlPage::close() {
         return;
     }
     try {
-        CSignal2Exception::run([this] { record_->writeFile(); });
+        survive(record_->trace, "a page",
+                [this] { CSignal2Exception::run([this] { record_->writeFile(); }); });
     } catch (const OrxException&) {
         failure_lines::writeReason(record_->trace);
         OrxException::logCaught();
     }
-    record_->reportUnresolved();
+    survive(record_->trace, "the report of unresolved references",
+            [this] { record_->reportUnresolved(); });
     record_->reset();
 }
 

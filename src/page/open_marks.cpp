@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "foundation/growth.h"
+
 namespace quillmark {
 
 OpenMarks::NameId OpenMarks::add(std::string_view name, MarkId mark, NameId hint) {
@@ -16,6 +18,7 @@ OpenMarks::NameId OpenMarks::idOf(std::string_view name, NameId hint) {
     if (isNameOf(hint, name)) {
         return hint;
     }
+    makeRoomForOne(lists_);
     const NameId id = names_.add(name);
     if (id == lists_.size()) {
         lists_.emplace_back();

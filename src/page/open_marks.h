@@ -27,7 +27,7 @@ public:
     /// The first open mark of the name, or `SpliceText::none`.
     [[nodiscard]] MarkId first(std::string_view name) const noexcept;
     /// Removes the marks of the name and calls `each(MarkId)` for them, in the order of their
-    /// creation.
+    /// creation. A mark for which `each` throws stays open.
     template <typename Each>
     void take(std::string_view name, const Each& each, NameId hint = NameTable::none);
     /// Calls `each` for every open mark, in the order of their names.
@@ -57,8 +57,8 @@ void OpenMarks::take(std::string_view name, const Each& each, NameId hint) {
         return;
     }
     marks_.take(lists_[id], [&](MarkId mark) {
-        --open_;
         each(mark);
+        --open_;
     });
 }
 

@@ -5,10 +5,10 @@
 namespace quillmark {
 
 void SpliceText::append(std::string_view text) {
+    base_.append(text);
     if (lineCount_ == 0) {
         lineCount_ = 1;
     }
-    base_.append(text);
     if (text.find('\n') != std::string_view::npos) {
         ++lineCount_;
         lineStart_ = base_.size();
@@ -16,18 +16,20 @@ void SpliceText::append(std::string_view text) {
 }
 
 SpliceText::MarkId SpliceText::addMark(std::string_view markup, std::uint32_t sequence) {
+    const std::size_t poolStart = pool_.size();
+    // If there is no memory for the node, these bytes stay behind and do no harm.
+    pool_.append(markup);
+    const MarkId mark = newNode();
     if (lineCount_ == 0) {
         lineCount_ = 1;
     }
-    const MarkId mark = newNode();
     Node& node = nodes_[mark];
     node.offset = base_.size();
-    node.poolStart = pool_.size();
+    node.poolStart = poolStart;
     node.poolLength = static_cast<std::uint32_t>(markup.size());
     node.sequence = sequence;
     node.line = static_cast<std::uint32_t>(lineCount_);
     node.baseColumn = static_cast<std::uint32_t>(base_.size() - lineStart_);
-    pool_.append(markup);
     // A later mark may have a smaller sequence number, because it counts the open marks.
     MarkId previous = tail_;
     while (previous != none && !nodes_[previous].isText && nodes_[previous].offset == node.offset &&
@@ -42,26 +44,27 @@ void SpliceText::insertAt(MarkId mark, std::string_view text) {
     if (text.empty()) {
         return;
     }
-    insertedBytes_ += text.size();
     const MarkId last = nodes_[mark].lastText;
-    if (last != none && nodes_[last].poolStart + nodes_[last].poolLength == pool_.size()) {
+    const std::size_t poolStart = pool_.size();
+    pool_.append(text);
+    if (last != none && nodes_[last].poolStart + nodes_[last].poolLength == poolStart) {
         nodes_[last].poolLength += static_cast<std::uint32_t>(text.size());
-        pool_.append(text);
+        insertedBytes_ += text.size();
         return;
     }
+    const MarkId inserted = newNode();
+    insertedBytes_ += text.size();
     if (last == none) {
         moveAfterEqualMarks(mark);
     }
-    const MarkId inserted = newNode();
     Node& node = nodes_[inserted];
     const Node& place = nodes_[mark];
     node.isText = true;
     node.offset = place.offset;
     node.line = place.line;
     node.baseColumn = place.baseColumn;
-    node.poolStart = pool_.size();
+    node.poolStart = poolStart;
     node.poolLength = static_cast<std::uint32_t>(text.size());
-    pool_.append(text);
     linkAfter(inserted, last == none ? mark : last);
     nodes_[mark].lastText = inserted;
 }

@@ -2,26 +2,36 @@
 
 namespace quillmark {
 
-std::vector<std::string> splitArguments(std::string_view text) {
-    std::vector<std::string> arguments;
-    bool inArgument = false;
-    bool inQuotes = false;
-    for (const char c : text) {
-        if (!inQuotes && (c == ' ' || c == '\t')) {
-            inArgument = false;
-            continue;
-        }
-        if (!inArgument) {
-            arguments.emplace_back();
-            inArgument = true;
-        }
+namespace {
+
+bool needsQuotes(std::string_view argument) noexcept {
+    return argument.empty() || argument.find_first_of(" \t\n\v\"") != std::string_view::npos;
+}
+
+/// Backslashes are ordinary characters, except directly before a quote.
+std::string quoted(std::string_view argument) {
+    std::string text = "\"";
+    std::size_t backslashes = 0;
+    for (const char c : argument) {
         if (c == '"') {
-            inQuotes = !inQuotes;
-        } else {
-            arguments.back().push_back(c);
+            text.append(backslashes + 1, '\\');
         }
+        backslashes = c == '\\' ? backslashes + 1 : 0;
+        text.push_back(c);
     }
-    return arguments;
+    text.append(backslashes, '\\');
+    return text + '"';
+}
+
+}  // namespace
+
+std::string joinedArguments(const std::vector<std::string>& arguments) {
+    std::string joined;
+    for (const std::string& argument : arguments) {
+        joined += joined.empty() ? "" : " ";
+        joined += needsQuotes(argument) ? quoted(argument) : argument;
+    }
+    return joined;
 }
 
 }  // namespace quillmark

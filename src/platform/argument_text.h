@@ -6,10 +6,9 @@
 
 namespace quillmark {
 
-/// Splits a command line into arguments at blanks and tabs. Double quotes keep blanks inside an
-/// argument and are removed. A quote that is never closed extends to the end. There are no escapes.
-///
-///     splitArguments("-o \"my file\"");   // {"-o", "my file"}
-[[nodiscard]] std::vector<std::string> splitArguments(std::string_view text);
+/// Joins the arguments of a program into one text, for systems that start a program with a command
+/// line. A program that splits its command line by the rules of Microsoft's C runtime gets exactly
+/// these arguments, whatever quotes, blanks and backslashes they contain.
+[[nodiscard]] std::string joinedArguments(const std::vector<std::string>& arguments);
 
 }  // namespace quillmark

@@ -49,6 +49,15 @@ public:
     [[nodiscard]] virtual bool close() = 0;
 };
 
+/// Keeps others from changing a file for as long as it lives; see `FileSystem::lockForChange`.
+class FileLock {
+public:
+    FileLock() = default;
+    FileLock(const FileLock&) = delete;
+    FileLock& operator=(const FileLock&) = delete;
+    virtual ~FileLock() = default;
+};
+
 /// The file system as the driver needs it. This is the contract for all implementations: the native
 /// ones, and those that tests install.
 ///
@@ -100,6 +109,20 @@ public:
     /// `target` is a link, the file that it leads to is replaced. The permissions of `target` are
     /// kept. On failure both files are unchanged.
     [[nodiscard]] virtual bool replaceFile(const OrxString& source, const OrxString& target) = 0;
+
+    /// Replaces the content of a file in one atomic step, or creates the file. If `name` is a link,
+    /// the file that it leads to is replaced, or created if it is missing. Owner, group and
+    /// permissions stay. Until then the new content is in a temporary file beside the old one,
+    /// which nobody may read who may not read the old one. On failure, also if the owner or the
+    /// group cannot be kept, the file is unchanged and there is no other file.
+    [[nodiscard]] virtual bool rewriteFile(const OrxString& name, std::string_view content);
+    /// Waits until nobody else holds the lock of this file, in this process or another one, and
+    /// takes it. It does not stop those who do not ask for it. Null if the file cannot be locked,
+    /// for instance because its directory does not exist.
+    [[nodiscard]] virtual std::unique_ptr<FileLock> lockForChange(const OrxString& name);
+
+    /// Whether programs may be started while this file system is installed.
+    [[nodiscard]] virtual bool mayStart(const OrxString& /*program*/) const { return true; }
 
     /// The installed file system, or the native one if none is installed.
     [[nodiscard]] static FileSystem& current() noexcept;

@@ -69,6 +69,22 @@ std::size_t fileStart(std::string_view name) noexcept {
     return hasDrive(name) ? 2 : 0;
 }
 
+std::string_view parent(std::string_view path) noexcept {
+    const auto dropSeparators = [&path] {
+        while (path.size() > 1 && isSeparator(path.back())) {
+            path.remove_suffix(1);
+        }
+    };
+    dropSeparators();
+    const std::size_t separator = path.find_last_of("\\/");
+    if (path.size() <= 1 || separator == std::string_view::npos) {
+        return {};
+    }
+    path = path.substr(0, separator + 1);
+    dropSeparators();
+    return path;
+}
+
 std::vector<std::string_view> components(std::string_view path) {
     std::vector<std::string_view> result;
     if (!path.empty() && isSeparator(path.front())) {

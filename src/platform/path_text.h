@@ -29,6 +29,10 @@ namespace quillmark::path_text {
 /// The position of the file part: after the last separator or after the drive's colon.
 [[nodiscard]] std::size_t fileStart(std::string_view name) noexcept;
 
+/// The part of a path that is its parent directory, as `SysDirectory::getParentDirectory` gives it,
+/// but with the separators that the path has.
+[[nodiscard]] std::string_view parent(std::string_view path) noexcept;
+
 /// The components between the separators, without empty ones. A leading separator is a component of
 /// its own, "\".
 [[nodiscard]] std::vector<std::string_view> components(std::string_view path);

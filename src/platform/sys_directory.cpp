@@ -25,20 +25,7 @@ OrxString SysDirectory::getSpecificPath(const OrxString& dir, const OrxString& n
 }
 
 OrxString SysDirectory::getParentDirectory(const OrxString& dir) {
-    std::string_view text = dir.view();
-    const auto dropSeparators = [&text] {
-        while (text.size() > 1 && path_text::isSeparator(text.back())) {
-            text.remove_suffix(1);
-        }
-    };
-    dropSeparators();
-    const std::size_t separator = text.find_last_of("\\/");
-    if (text.size() <= 1 || separator == std::string_view::npos) {
-        return {};
-    }
-    text = text.substr(0, separator + 1);
-    dropSeparators();
-    return path_text::inDriverForm(text);
+    return path_text::inDriverForm(path_text::parent(dir));
 }
 
 OrxString SysDirectory::getRelativePath(const OrxString& base, const OrxString& target) {

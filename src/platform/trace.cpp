@@ -136,9 +136,15 @@ public:
     void purgeOnce(const OrxString& fileName) {
         const std::lock_guard lock(mutex_);
         FileSystem& files = FileSystem::current();
-        if (usedKeys_.insert(logKey(fileName)).second && files.fileExists(fileName)) {
-            // Truncated and not deleted, because another process may be writing to it.
-            static_cast<void>(files.openForWriting(fileName));
+        const auto [key, isFirst] = usedKeys_.insert(logKey(fileName));
+        try {
+            if (isFirst && files.fileExists(fileName)) {
+                // Truncated and not deleted, because another process may be writing to it.
+                static_cast<void>(files.openForWriting(fileName));
+            }
+        } catch (...) {
+            usedKeys_.erase(key);
+            throw;
         }
     }
 

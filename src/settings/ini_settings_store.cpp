@@ -1,4 +1,3 @@
-#include <atomic>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -11,7 +10,6 @@
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 #include "platform/sys_text.h"
-#include "platform/system_facts.h"
 #include "settings/ini_text.h"
 #include "settings/settings_store.h"
 
@@ -20,13 +18,6 @@ namespace quillmark {
 namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-/// The name of a file in the same directory that no other process or thread uses.
-OrxString temporaryNameFor(const OrxString& fileName) {
-    static std::atomic<unsigned> counter{0};
-    return fileName + ("." + std::to_string(system_facts::processId()) + "-" +
-                       std::to_string(counter++) + ".tmp");
-}
 
 class IniSettingsStore final : public SettingsStore {
 public:
@@ -44,6 +35,12 @@ public:
     [[nodiscard]] bool write(const OrxString& group, const OrxString& name,
                              const OrxString& value) override {
         const std::lock_guard lock(mutex_);
+        const std::unique_ptr<FileLock> ofAllProcesses = lockFile();
+        if (ofAllProcesses == nullptr) {
+            return false;
+        }
+        // Read again in any case: the stamp of a file that was replaced twice may be the old one.
+        state_ = State::unknown;
         refresh();
         IniText changed = ini_;
         // A file that could not be read must not be replaced, since its content would be lost.
@@ -94,18 +91,19 @@ private:
         stamp_ = stamp;
     }
 
-    [[nodiscard]] bool save(const IniText& ini) {
-        FileSystem& files = FileSystem::current();
+    /// Other processes wait from before the file is read until the new one is in its place.
+    [[nodiscard]] std::unique_ptr<FileLock> lockFile() const {
         const OrxString dir = SysFile::getDir(fileName_);
         if (!dir.isEmpty() && !SysDirectory::checkDirectoryAndCreate(dir)) {
-            return false;
+            return nullptr;
         }
-        const OrxString temporary = temporaryNameFor(fileName_);
+        return FileSystem::current().lockForChange(fileName_);
+    }
+
+    [[nodiscard]] bool save(const IniText& ini) {
+        FileSystem& files = FileSystem::current();
         const std::string text = (hasByteOrderMark_ ? std::string(byteOrderMark) : "") + ini.text();
-        const std::string_view piece = text;
-        if (SysFile::writeWhole(temporary, {&piece, 1}) != WriteResult::done ||
-            !files.replaceFile(temporary, fileName_)) {
-            files.deleteFile(temporary);
+        if (!files.rewriteFile(fileName_, text)) {
             return false;
         }
         stamp_ = files.stamp(fileName_);

@@ -25,8 +25,9 @@ public:
 };
 
 /// A store in an INI file in UTF-8, with one section per group and one `Name=Value` line per
-/// setting. A write creates a temporary file that then replaces the old one. Comments and unknown
-/// lines are kept.
+/// setting. A write creates a temporary file that then replaces the old one (see
+/// `FileSystem::rewriteFile`); other processes that write to the same file wait for it. Comments and
+/// unknown lines are kept.
 [[nodiscard]] std::shared_ptr<SettingsStore> makeIniSettingsStore(const OrxString& fileName);
 
 /// The user's own store: the registry on Windows, elsewhere the file "quillmark/settings.ini" in

@@ -44,7 +44,8 @@ constexpr std::array settingRows{
                        true},
     SettingDescription{
         htmlGroup, "PassThrough", SettingType::boolean, "false",
-        "A text may carry markup of its own; \"<<\" in it is then written as \"&lt;&lt;\""},
+        "\"<<\" in a text is written as \"&lt;&lt;\"; other markup in texts is written as it is, on "
+        "or off"},
     SettingDescription{
         htmlGroup, "LocateInBrowser", SettingType::boolean, "true",
         "Locate buttons in the pages, which show a model element in the model browser"},

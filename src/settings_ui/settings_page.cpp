@@ -105,6 +105,10 @@ bool SettingsPage::applyOnly(std::span<const std::string_view> settings) {
     return SettingsSaver(controls_, host_, settings).save();
 }
 
+bool SettingsPage::accepts(std::span<const std::string_view> settings) {
+    return SettingsSaver(controls_, host_, settings).check();
+}
+
 void SettingsPage::browseDirectory(int id, const char* title) {
     // The setting is read, as for the files, but the dialog has no initial directory.
     static_cast<void>(storedFor(id));

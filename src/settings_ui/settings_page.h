@@ -16,7 +16,7 @@ namespace quillmark {
 ///     page.handle(control::contents, ControlEvent::clicked);          // dirty
 ///     if (!page.apply()) { /* a message was shown, the page is still dirty */ }
 ///
-/// Controls and host stay the caller's and must outlive the page.
+/// The caller owns controls and host, which must outlive the page.
 class SettingsPage {
 public:
     SettingsPage(PageControls& controls, PageHost& host) : controls_(controls), host_(host) {}
@@ -31,6 +31,8 @@ public:
 
     /// The same for the given settings only. The dirty flag of the page does not change.
     bool applyOnly(std::span<const std::string_view> settings);
+    /// Shows the message of `applyOnly` if it would refuse a value now. Writes nothing.
+    bool accepts(std::span<const std::string_view> settings);
 
     void showHelp();
 

@@ -19,6 +19,13 @@ bool SettingsSaver::save() {
            saveFile(control::styleSheet, "style sheet") && saveFile(control::iconFile, "icon file");
 }
 
+bool SettingsSaver::check() {
+    writes_ = false;
+    const bool accepted = save();
+    writes_ = true;
+    return accepted;
+}
+
 bool SettingsSaver::saveNavigation() {
     const std::string_view setting = settingOf(control::contents);
     if (!isWanted(setting)) {
@@ -96,7 +103,7 @@ bool SettingsSaver::refuse(const OrxString& message) {
 }
 
 void SettingsSaver::write(std::string_view setting, const RegEntry& entry) {
-    if (isWanted(setting)) {
+    if (writes_ && isWanted(setting)) {
         RegisterDynamic().write(htmlGroup, setting, entry);
     }
 }

@@ -24,6 +24,8 @@ public:
 
     /// True if everything was accepted.
     [[nodiscard]] bool save();
+    /// The same without writing anything.
+    [[nodiscard]] bool check();
 
 private:
     bool saveNavigation();
@@ -38,6 +40,7 @@ private:
     const PageControls& controls_;
     PageHost& host_;
     std::optional<std::span<const std::string_view>> wanted_;
+    bool writes_ = true;
 };
 
 }  // namespace quillmark

@@ -8,8 +8,8 @@ DOCUMENTATION = HERE.parent.parent / "docs" / "component.md"
 REPORT = HERE / "report"
 EXPECTED = REPORT / "expected"
 STYLE_SHEET = REPORT / "plain.css"
-# The hosts' installation directory; there is none of that name. A relative one is the same link in
-# the pages of every system, wherever the test's files lie.
+# The installation directory of the hosts, which does not exist. A relative name gives the same
+# links in the pages of every system, wherever the test's files are.
 INSTALLATION = "installation"
 
 
@@ -41,7 +41,7 @@ def expected(system):
 
 
 def approve(directory):
-    """Makes a document set the expected one."""
+    """Stores a document set as the expected one."""
     for path in EXPECTED.rglob("*"):
         path.unlink()
     for name, content in read(directory).items():

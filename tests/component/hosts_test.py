@@ -49,7 +49,7 @@ class HostsTest(unittest.TestCase):
         return self.run_program("bin/dochtml-register", *arguments)
 
     def report(self, host, *component):
-        """Runs a host; answers with how it ended and the document set that it made."""
+        """Runs a host; returns how it ended and the document set that it wrote."""
         out = self.work / ("out-" + host)
         ended = self.run_program(
             "examples/hosts/" + host, out / "rep.htm", document_set.STYLE_SHEET, *component
@@ -80,6 +80,24 @@ class HostsTest(unittest.TestCase):
         for host in "report_host", "report_c_host":
             for name in "DocHtml.DocHtml", "DocHtml.DocHtml.2.1.0", DRIVER_CLASS:
                 self.check_report(host, name)
+
+    def test_hosts_load_no_library_by_a_relative_path(self):
+        self.assertEqual(self.register(LIBRARY).returncode, 0)
+        shutil.copy(LIBRARY, self.work / LIBRARY.name)
+        text = self.classes.read_text(encoding="utf-8")
+        for path in LIBRARY.name, "./" + LIBRARY.name, "":
+            self.classes.write_text(text.replace(str(LIBRARY), path), encoding="utf-8")
+            ended, files = self.report("report_host")
+            self.assertEqual(ended.returncode, 1)
+            self.assertEqual(
+                ended.stderr,
+                f'report: the library of DocHtml.DocHtml, "{path}" in {self.classes}, '
+                "is not an absolute path\n",
+            )
+            ended, files = self.report("report_c_host")
+            self.assertEqual(ended.returncode, 1)
+            self.assertEqual(ended.stderr, "report_c: no document, result 0x800401F8\n")
+            self.assertEqual(files, {})
 
     def test_hosts_of_the_documentation_say_hello(self):
         self.register(LIBRARY)
@@ -130,8 +148,15 @@ class HostsTest(unittest.TestCase):
 
     def test_registration_says_what_failed(self):
         self.assertEqual(self.register(self.work / "none.so").returncode, 1)
-        self.assertEqual(self.register("--wrong").returncode, 2)
-        self.assertEqual(self.register(LIBRARY, LIBRARY).returncode, 2)
+        for arguments, why in (
+            (["--wrong"], "unknown option --wrong"),
+            ([LIBRARY, LIBRARY], "more than one library given"),
+        ):
+            ended = self.register(*arguments)
+            self.assertEqual(ended.returncode, 2)
+            self.assertEqual(
+                ended.stderr, f"dochtml-register: {why}\nTry dochtml-register --help.\n"
+            )
         self.assertEqual(self.register("--help").returncode, 0)
         (self.work / "data").write_text("in the way")
         ended = self.register(LIBRARY)
@@ -166,7 +191,7 @@ class HostsTest(unittest.TestCase):
     def test_replay_tool_takes_the_registered_component(self):
         self.register(LIBRARY)
         document_set.check(self, self.replay()[1], "posix")
-        # A registered library that is gone shows that the name was followed.
+        # A registered library that no longer exists shows that the tool followed the name.
         text = self.classes.read_text().replace(str(LIBRARY), str(self.work / "gone.so"))
         self.classes.write_text(text)
         ended, files = self.replay()

@@ -1,4 +1,4 @@
-"""What a Windows library shows without running: its exports and its imports.
+"""Checks a Windows library without running it: its exports and its imports.
 
     library_file_test.py OBJDUMP LIBRARY"""
 
@@ -9,7 +9,7 @@ import unittest
 
 OBJDUMP, LIBRARY = sys.argv[1:3]
 
-# Those that come with every Windows.
+# The libraries that are part of every Windows.
 SYSTEM_LIBRARIES = {
     "advapi32.dll",
     "comctl32.dll",

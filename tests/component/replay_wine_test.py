@@ -40,7 +40,7 @@ def native_build():
 
 
 def is_text(name):
-    """Files that have the system's own line ends: tree data, traces, what the tool says."""
+    """Files with the system's own line ends: tree data, traces, the messages of the tool."""
     return name.endswith(("_toc.dat", ".log", ".said"))
 
 
@@ -87,7 +87,7 @@ class ReplayTest(unittest.TestCase):
 
     @classmethod
     def furnish(cls, drive):
-        """Support files, and the manual's streams with all that they name."""
+        """Support files, and the streams of the manual with all files that they name."""
         shutil.copytree(SOURCE / "support", drive / "support")
         shutil.copy(SOURCE / "examples" / "manual" / "manual.ini", drive)
         shutil.copytree(document_set.REPORT, drive / "report")
@@ -99,7 +99,7 @@ class ReplayTest(unittest.TestCase):
             stream.write_text(content.replace(str(work), "C:/work"), encoding="utf-8")
 
     def play(self, system, arguments):
-        """Plays on one system; answers with the exit status and all that is there then."""
+        """Plays on one system; returns the exit status and all files that exist afterwards."""
         drive = self.drives[system]
         for name in "out", "log":
             shutil.rmtree(drive / name, ignore_errors=True)

@@ -10,7 +10,7 @@ std::u16string converted(std::string_view utf8) {
     return std::u16string(textFromUtf8(utf8).view());
 }
 
-TEST(TextFromUtf8, keepsEveryCharacter) {
+TEST(TextFromUtf8, KeepsEveryCharacter) {
     EXPECT_EQ(converted(""), u"");
     EXPECT_EQ(converted("abc"), u"abc");
     EXPECT_EQ(converted("Z\xC3\xBCrich"), u"Z\u00FCrich");
@@ -19,7 +19,7 @@ TEST(TextFromUtf8, keepsEveryCharacter) {
     EXPECT_EQ(converted(std::string_view("a\0b", 3)), std::u16string(u"a\0b", 3));
 }
 
-TEST(TextFromUtf8, replacesWhatIsNoUtf8) {
+TEST(TextFromUtf8, ReplacesInvalidUtf8) {
     EXPECT_EQ(converted("a\xFCz"), u"a\uFFFDz");
     EXPECT_EQ(converted("\xE2\x82"), u"\uFFFD\uFFFD");
     EXPECT_EQ(converted("\xC0\x80"), u"\uFFFD\uFFFD");
@@ -28,7 +28,7 @@ TEST(TextFromUtf8, replacesWhatIsNoUtf8) {
     EXPECT_EQ(converted("\xE0\x80\x80"), u"\uFFFD\uFFFD\uFFFD");
 }
 
-TEST(CHost, getsTextsOfItsOwn) {
+TEST(CHost, OwnsTheTextsThatItConverts) {
     BSTR text = dochtml_text_from_utf8("Z\xC3\xBCrich");
     EXPECT_EQ(Text::viewOf(text), u"Z\u00FCrich");
     SysFreeString(text);
@@ -37,7 +37,7 @@ TEST(CHost, getsTextsOfItsOwn) {
     SysFreeString(text);
 }
 
-TEST(CHost, mustSayWhatItWants) {
+TEST(CHost, MustPassNamesAndPlacesForResults) {
     DochtmlDocument* document = nullptr;
     DochtmlHostServices* services = nullptr;
     EXPECT_EQ(dochtml_create_document(nullptr, &document), E_POINTER);

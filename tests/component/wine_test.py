@@ -1,9 +1,9 @@
-"""The component as Windows serves it, under Wine in a prefix of its own.
+"""The component under Wine, as Windows provides it, in a prefix of its own.
 
     wine_test.py BUILD-DIRECTORY LIBRARY REGISTERED-TESTS LIBRARY-TESTS
 
 Registration and its traces in the registry, script hosts, compiled hosts, and the replay tool. The
-prefix is made at the start and removed at the end."""
+prefix is created at the start and removed at the end."""
 
 import os
 import pathlib
@@ -107,7 +107,7 @@ class WineTest(unittest.TestCase):
         cls.wine("wineboot", "--init")
         settings = "HKCU\\Software\\Zorvane\\Quillmark\\Settings"
         cls.wine("reg", "add", settings, "/v", "InstallDir", "/d", document_set.INSTALLATION, "/f")
-        # The new system goes on registering its own classes for a while.
+        # The new system continues to register its own classes for a while.
         subprocess.run(["wineserver", "--wait"], env=cls.environment, check=True, timeout=300)
 
     @classmethod
@@ -141,12 +141,12 @@ class WineTest(unittest.TestCase):
         self.assertEqual(self.wine("regsvr32", "/s", "/u", LIBRARY).returncode, 0)
 
     def classes_without(self):
-        """What the classes root holds when the component is not registered."""
+        """The classes root when the component is not registered."""
         self.unregister()
         return self.classes()
 
     def check_added(self, before, added):
-        """Nothing but the keys added is new, and nothing is otherwise."""
+        """Only the added keys are new, and nothing else has changed."""
         after = self.classes()
         new = {key: values for key, values in after.items() if key not in before}
         self.assertEqual(new, added)

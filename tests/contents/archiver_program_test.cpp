@@ -69,6 +69,25 @@ TEST_F(ArchiverProgram, IsGivenItsArgumentsQuotedAgainstBlanks) {
     EXPECT_EQ(trace.text(), "");
 }
 
+TEST_F(ArchiverProgram, GetsNoArgumentFromAQuoteInAName) {
+    const TempDir quotes;
+    const std::string scratch = dir.nativeFile("scratch");
+    installScript(install, "for a in \"$@\"; do echo \"[$a]\"; done > '" + scratch + "'\nmv '" +
+                               scratch + "' '" + dir.nativeFile("report") + "'\n");
+    const OrxString dataFile = quotes.file("a\" -T -TT \"touch x_toc.dat");
+    EXPECT_EQ(packDataFile(dataFile, install.path(), Trace()), dataFile + ".zip");
+    EXPECT_EQ(reportOf(dir), "[-m]\n[-q]\n[-j]\n[" + nativePath(dataFile) + ".zip]\n[" +
+                                 nativePath(dataFile) + "]\n");
+}
+
+TEST_F(ArchiverProgram, TakesNoNameForAnOption) {
+    const std::string scratch = dir.nativeFile("scratch");
+    installScript(install, "for a in \"$@\"; do echo \"[$a]\"; done > '" + scratch + "'\nmv '" +
+                               scratch + "' '" + dir.nativeFile("report") + "'\n");
+    EXPECT_EQ(packDataFile("-T_toc.dat", install.path(), Trace()), "-T_toc.dat.zip");
+    EXPECT_EQ(reportOf(dir), "[-m]\n[-q]\n[-j]\n[./-T_toc.dat.zip]\n[./-T_toc.dat]\n");
+}
+
 TEST_F(ArchiverProgram, IsNotWaitedFor) {
     // The script goes on only when a file appears that is written after the call has returned.
     installScript(install, "while [ ! -e '" + dir.nativeFile("go") +

@@ -2,34 +2,27 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace quillmark {
 namespace {
 
-using List = std::vector<std::string>;
-
-TEST(ArgumentText, IsSplitAtBlanks) {
-    EXPECT_EQ(splitArguments("-m -q  -j"), (List{"-m", "-q", "-j"}));
-    EXPECT_EQ(splitArguments("  a\tb "), (List{"a", "b"}));
-    EXPECT_EQ(splitArguments(""), List{});
-    EXPECT_EQ(splitArguments("  "), List{});
+TEST(ArgumentText, IsJoinedWithBlanks) {
+    EXPECT_EQ(joinedArguments({}), "");
+    EXPECT_EQ(joinedArguments({"-m", "C:\\out\\a.zip"}), "-m C:\\out\\a.zip");
 }
 
-TEST(ArgumentText, KeepsBlanksInsideDoubleQuotes) {
-    EXPECT_EQ(splitArguments("-j \"C:\\my out\\a.zip\" \"b c\""),
-              (List{"-j", "C:\\my out\\a.zip", "b c"}));
-    EXPECT_EQ(splitArguments("a\" \"b"), List{"a b"});
-    EXPECT_EQ(splitArguments("\"\""), List{""});
+TEST(ArgumentText, QuotesWhatHoldsBlanksOrNothing) {
+    EXPECT_EQ(joinedArguments({"-j", "C:\\my out\\a.zip", ""}), "-j \"C:\\my out\\a.zip\" \"\"");
+    EXPECT_EQ(joinedArguments({"a\tb"}), "\"a\tb\"");
 }
 
-TEST(ArgumentText, MayLeaveItsLastQuoteOpen) {
-    EXPECT_EQ(splitArguments("a \"b c"), (List{"a", "b c"}));
+TEST(ArgumentText, KeepsAQuoteInsideItsArgument) {
+    EXPECT_EQ(joinedArguments({"a\" -T \"b"}), "\"a\\\" -T \\\"b\"");
 }
 
-TEST(ArgumentText, KnowsNoOtherQuotesAndNoEscapes) {
-    EXPECT_EQ(splitArguments("'a b' \\\"c\\\" d"), (List{"'a", "b'", "\\c\\", "d"}));
+TEST(ArgumentText, DoublesBackslashesBeforeAQuoteOnly) {
+    EXPECT_EQ(joinedArguments({"a b\\"}), "\"a b\\\\\"");
+    EXPECT_EQ(joinedArguments({"a\\\"b"}), "\"a\\\\\\\"b\"");
+    EXPECT_EQ(joinedArguments({"a\\ b"}), "\"a\\ b\"");
 }
 
 }  // namespace

@@ -189,8 +189,8 @@ TEST(NativeFile, LeavesNoDescriptorOpen) {
     EXPECT_EQ(write("/dev/full", "x"), WriteResult::openFailed);
     EXPECT_EQ(write(dir.file("a"), "again"), WriteResult::done);
     EXPECT_TRUE(SysFile::copy(dir.file("a"), dir.file("b")));
-    EXPECT_EQ(SysShell::start("/bin/true", ""), SysShell::started);
-    EXPECT_LT(SysShell::start("/none", ""), SysShell::started);
+    EXPECT_EQ(SysShell::start("/bin/true", {}), SysShell::started);
+    EXPECT_LT(SysShell::start("/none", {}), SysShell::started);
     EXPECT_EQ(openDescriptors(), before);
 }
 

@@ -44,8 +44,9 @@ TEST(Shell, StartsAProgramWithItsArguments) {
     putProgram(dir, "zip.exe",
                "#!/bin/sh\nprintf '<%s>' \"$@\" > \"$0.tmp\"; echo >> \"$0.tmp\"; "
                "mv \"$0.tmp\" \"$0.txt\"\n");
-    EXPECT_EQ(SysShell::start(dir.file("zip.exe"), "-m -q \"\\my out\\a.zip\""), SysShell::started);
-    EXPECT_EQ(eventually(dir, "zip.exe.txt"), "<-m><-q></my out/a.zip>\n");
+    EXPECT_EQ(SysShell::start(dir.file("zip.exe"), {"-m", "-q", "\\my out\\a \" -T.zip"}),
+              SysShell::started);
+    EXPECT_EQ(eventually(dir, "zip.exe.txt"), "<-m><-q></my out/a \" -T.zip>\n");
 }
 
 TEST(Shell, DoesNotWaitForTheProgramAndLeavesNoChild) {
@@ -53,7 +54,7 @@ TEST(Shell, DoesNotWaitForTheProgramAndLeavesNoChild) {
     putProgram(dir, "slow", "#!/bin/sh\nread line < \"$0.fifo\"; echo \"$line\" > \"$0.txt\"\n");
     ASSERT_EQ(mkfifo(dir.nativeFile("slow.fifo").c_str(), 0600), 0);
     // It returns although the program cannot end before the next line is written.
-    EXPECT_EQ(SysShell::start(dir.file("slow"), ""), SysShell::started);
+    EXPECT_EQ(SysShell::start(dir.file("slow"), {}), SysShell::started);
     EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1);
     EXPECT_EQ(errno, ECHILD);
     dir.put("slow.fifo", "go on\n");
@@ -66,16 +67,16 @@ TEST(Shell, DoesNotStartAFileThatIsNotAProgram) {
     SysDirectory::create(dir.file("dir"));
     putProgram(dir, "broken", "#!/none/interpreter\n");
     putProgram(dir, "foreign", "MZ, a program of another system\n");
-    EXPECT_LT(SysShell::start(dir.file("none"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start(dir.file("data"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start(dir.file("dir"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start(dir.file("broken"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start(dir.file("foreign"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start("", ""), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("none"), {}), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("data"), {}), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("dir"), {}), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("broken"), {}), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("foreign"), {}), SysShell::started);
+    EXPECT_LT(SysShell::start("", {}), SysShell::started);
 }
 
 TEST(Shell, DoesNotLookForAProgramOnTheSearchPath) {
-    EXPECT_LT(SysShell::start("true", ""), SysShell::started);
+    EXPECT_LT(SysShell::start("true", {}), SysShell::started);
 }
 
 TEST(Shell, OpensAFileWithTheDesktopsTool) {
@@ -113,7 +114,7 @@ int startWithoutStreams(const OrxString& program) {
         for (int number = 0; number < moreThanAreOpen; ++number) {
             close(number);
         }
-        _exit(SysShell::start(program, ""));
+        _exit(SysShell::start(program, {}));
     }
     int status = -1;
     EXPECT_EQ(waitpid(child, &status, 0), child);

@@ -117,10 +117,9 @@ TEST(Shell, StartsAProgramAndDoesNotStartAMissingOne) {
     std::array<char, MAX_PATH> system{};
     GetSystemDirectoryA(system.data(), MAX_PATH);
     const OrxString shell = OrxString(system.data()) + "\\cmd.exe";
-    EXPECT_GE(SysShell::start(shell, "/c mkdir \"" + dir.file("made by it") + "\""),
-              SysShell::started);
-    EXPECT_LT(SysShell::start(dir.file("none.exe"), ""), SysShell::started);
-    EXPECT_LT(SysShell::start("", ""), SysShell::started);
+    EXPECT_GE(SysShell::start(shell, {"/c", "mkdir", dir.file("made by it")}), SysShell::started);
+    EXPECT_LT(SysShell::start(dir.file("none.exe"), {}), SysShell::started);
+    EXPECT_LT(SysShell::start("", {}), SysShell::started);
     for (int i = 0; i < 500 && !SysDirectory::exists(dir.file("made by it")); ++i) {
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }

@@ -19,7 +19,7 @@ std::string problemOf(const std::string& text) {
     return readStream(text).problem;
 }
 
-TEST(CallStreamReader, readsACallALine) {
+TEST(CallStreamReader, ReadsOneCallPerLine) {
     const Reading reading = readStream(
         "[\"create\",\"C:\\\\out\\\\rep.htm\"]\n"
         "[\"insertText\",\"Hello\"]\n"
@@ -33,42 +33,42 @@ TEST(CallStreamReader, readsACallALine) {
     EXPECT_EQ(reading.problem, "");
 }
 
-TEST(CallStreamReader, passesOverBlankLinesAndTakesCarriageReturns) {
+TEST(CallStreamReader, SkipsBlankLinesAndAcceptsCarriageReturns) {
     const Reading reading = readStream("\r\n\n  \t\n[\"start\"]\r\n\r\n [ \"stop\" ] \r\n");
     EXPECT_THAT(reading.calls, ElementsAre("start()", "stop()"));
     EXPECT_THAT(reading.lines, ElementsAre(4, 6));
 }
 
-TEST(CallStreamReader, needsNoLineEndBehindTheLastCall) {
+TEST(CallStreamReader, NeedsNoLineEndAfterTheLastCall) {
     EXPECT_THAT(readStream("[\"start\"]\n[\"stop\"]").calls, ElementsAre("start()", "stop()"));
 }
 
-TEST(CallStreamReader, passesOverAByteOrderMark) {
+TEST(CallStreamReader, SkipsAByteOrderMark) {
     EXPECT_THAT(readStream("\xEF\xBB\xBF[\"start\"]\n").calls, ElementsAre("start()"));
 }
 
-TEST(CallStreamReader, findsNothingInAnEmptyInput) {
+TEST(CallStreamReader, FindsNothingInAnEmptyInput) {
     EXPECT_THAT(readStream("").calls, IsEmpty());
     EXPECT_THAT(readStream(" \n\t\r\n").calls, IsEmpty());
     EXPECT_EQ(problemOf(" \n"), "");
 }
 
-TEST(CallStreamReader, readsEveryKindOfEscape) {
+TEST(CallStreamReader, ReadsEveryKindOfEscape) {
     EXPECT_THAT(readStream(R"(["insertText","a\"b\\c\/d\te\u00e9\uD83D\uDE00"])").calls,
                 ElementsAre("insertText(\"a\"b\\c/d\te\xC3\xA9\xF0\x9F\x98\x80\")"));
 }
 
-TEST(CallStreamReader, readsUtf8) {
+TEST(CallStreamReader, ReadsUtf8) {
     EXPECT_THAT(readStream("[\"insertText\",\"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80\"]").calls,
                 ElementsAre("insertText(\"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80\")"));
 }
 
-TEST(CallStreamReader, hidesNothingBehindAZeroInAText) {
+TEST(CallStreamReader, KeepsAZeroInsideAText) {
     EXPECT_THAT(readStream(R"(["insertText","a\u0000b"])").calls,
                 ElementsAre(std::string("insertText(\"a\0b\")", 17)));
 }
 
-TEST(CallStreamReader, handsOutALoneSurrogateAsItIs) {
+TEST(CallStreamReader, KeepsALoneSurrogate) {
     std::istringstream stream(R"(["insertText","\\ud800\uD800\udc00\ud800x\udC01"])");
     InputBuffer input(stream);
     CallStreamReader reader(input);
@@ -79,12 +79,12 @@ TEST(CallStreamReader, handsOutALoneSurrogateAsItIs) {
     EXPECT_EQ(std::get<WideText>(call.arguments[0]), expected);
 }
 
-TEST(CallStreamReader, takesBooleansAsIntegersToo) {
+TEST(CallStreamReader, AcceptsIntegersAsBooleans) {
     EXPECT_THAT(readStream("[\"setFontAttribute\",1,0]\n[\"setFontAttribute\",2,-1]\n").calls,
                 ElementsAre("setFontAttribute(1,false)", "setFontAttribute(2,true)"));
 }
 
-TEST(CallStreamReader, holdsIntegersToTheirTypes) {
+TEST(CallStreamReader, RefusesIntegersOutsideTheirTypes) {
     EXPECT_THAT(readStream("[\"setFontSize\",-32768]\n[\"setFontSize\",32767]\n").calls,
                 ElementsAre("setFontSize(-32768)", "setFontSize(32767)"));
     const std::string wanted =
@@ -102,7 +102,7 @@ TEST(CallStreamReader, holdsIntegersToTheirTypes) {
               "2147483647");
 }
 
-TEST(CallStreamReader, takesTheHalfOfAModelHandleUnsignedToo) {
+TEST(CallStreamReader, AcceptsTheHalfOfAModelHandleAsUnsignedToo) {
     EXPECT_THAT(readStream("[\"insertMark\",4294967295,true]\n[\"insertMark\",2147483648,0]\n"
                            "[\"insertMark\",-2147483648,0]\n[\"insertMark\",2147483647,0]\n")
                     .calls,
@@ -115,7 +115,7 @@ TEST(CallStreamReader, takesTheHalfOfAModelHandleUnsignedToo) {
               "2147483647");
 }
 
-TEST(CallStreamReader, asksForKindsThatFit) {
+TEST(CallStreamReader, RefusesArgumentsOfAWrongKind) {
     EXPECT_EQ(problemOf("[\"insertText\",5]"), "1: insertText: argument 1 (text) must be a string");
     EXPECT_EQ(problemOf("[\"setFontAttribute\",1,\"yes\"]"),
               "1: setFontAttribute: argument 2 (value) must be true, false or an integer");
@@ -125,7 +125,7 @@ TEST(CallStreamReader, asksForKindsThatFit) {
               "1: insertText: argument 1 (text) must be a string");
 }
 
-TEST(CallStreamReader, asksForTheRightNumberOfArguments) {
+TEST(CallStreamReader, RefusesAWrongNumberOfArguments) {
     EXPECT_EQ(problemOf("[\"insertText\"]"), "1: insertText takes 1 argument, not 0");
     EXPECT_EQ(problemOf("[\"insertText\",\"a\",\"b\"]"), "1: insertText takes 1 argument, not 2");
     EXPECT_EQ(problemOf("[\"insertText\",\"a\",\"b\",1,true,7]"),
@@ -136,18 +136,18 @@ TEST(CallStreamReader, asksForTheRightNumberOfArguments) {
               "1: argument 1 must be a string, an integer or a boolean");
 }
 
-TEST(CallStreamReader, leavesAnswersOut) {
+TEST(CallStreamReader, OmitsOutArguments) {
     EXPECT_THAT(readStream("[\"getDocType\"]\n[\"getPropPages\"]\n").calls,
                 ElementsAre("getDocType()", "getPropPages()"));
     EXPECT_EQ(problemOf("[\"getDocType\",\"x\"]"), "1: getDocType takes no argument, not 1");
 }
 
-TEST(CallStreamReader, readsTheRequestForAFreshObject) {
+TEST(CallStreamReader, ReadsTheRequestForANewObject) {
     EXPECT_THAT(readStream("[\"new\"]\n").calls, ElementsAre("new"));
     EXPECT_EQ(problemOf("[\"new\",1]"), "1: new takes no argument, not 1");
 }
 
-TEST(CallStreamReader, knowsOperationsExactly) {
+TEST(CallStreamReader, KnowsOperationsExactly) {
     EXPECT_EQ(problemOf("[\"InsertText\",\"a\"]"), "1: unknown operation \"InsertText\"");
     EXPECT_EQ(problemOf("[\"\"]"), "1: unknown operation \"\"");
     EXPECT_EQ(problemOf("[]"), "1: not a call: the first value must be the name of an operation");
@@ -156,7 +156,7 @@ TEST(CallStreamReader, knowsOperationsExactly) {
               "1: not a call: the first value must be the name of an operation");
 }
 
-TEST(CallStreamReader, tellsTheLineOfMalformedJson) {
+TEST(CallStreamReader, ReportsTheLineOfMalformedJson) {
     EXPECT_EQ(problemOf("[\"start\"]\n\n[\"insertText\",\"a]\n[\"stop\"]\n"),
               "3: malformed JSON: Missing a closing quotation mark in string");
     EXPECT_EQ(problemOf("[\"start\""),
@@ -167,7 +167,7 @@ TEST(CallStreamReader, tellsTheLineOfMalformedJson) {
               "1: malformed JSON: Invalid escape character in string");
 }
 
-TEST(CallStreamReader, takesNothingButArrays) {
+TEST(CallStreamReader, AcceptsOnlyArrays) {
     const std::string wanted =
         "2: not a call: each line must be an array of the operation's name and its arguments";
     EXPECT_EQ(problemOf("[\"start\"]\n{\"start\":1}\n"), wanted);
@@ -177,24 +177,24 @@ TEST(CallStreamReader, takesNothingButArrays) {
     EXPECT_EQ(problemOf("[\"start\"]\nnull\n"), wanted);
 }
 
-TEST(CallStreamReader, refusesBytesThatAreNotUtf8) {
+TEST(CallStreamReader, RefusesBytesThatAreNotUtf8) {
     EXPECT_EQ(problemOf("[\"insertText\",\"\xE4\"]"), "1: the text is not UTF-8");
     EXPECT_EQ(problemOf("[\"insertText\",\"\xED\xA0\x80\"]"), "1: the text is not UTF-8");
     EXPECT_EQ(problemOf("[\"insertText\",\"\xC0\x80\"]"), "1: the text is not UTF-8");
     EXPECT_EQ(problemOf("[\"insertText\",\"\xF4\x90\x80\x80\"]"), "1: the text is not UTF-8");
 }
 
-TEST(CallStreamReader, refusesAZeroByte) {
+TEST(CallStreamReader, RefusesAZeroByte) {
     EXPECT_EQ(problemOf(std::string("[\"start\"]\0[\"stop\"]", 18)),
               "1: malformed JSON: a zero byte");
 }
 
-TEST(CallStreamReader, surfacesFromDeepNesting) {
+TEST(CallStreamReader, SurvivesDeepNesting) {
     EXPECT_EQ(problemOf(std::string(1000000, '[')),
               "1: not a call: the first value must be the name of an operation");
 }
 
-TEST(CallStreamReader, readsCallsHoweverTheirBytesArrive) {
+TEST(CallStreamReader, ReadsCallsHoweverTheirBytesArrive) {
     std::string text;
     std::vector<std::string> expected;
     for (int i = 0; i < 200; ++i) {
@@ -209,7 +209,7 @@ TEST(CallStreamReader, readsCallsHoweverTheirBytesArrive) {
     }
 }
 
-TEST(CallStreamReader, readsATextLargerThanItsBuffer) {
+TEST(CallStreamReader, ReadsATextLargerThanItsBuffer) {
     const std::string value(3U << 20U, 'y');
     EXPECT_THAT(readStream("[\"start\"]\n[\"insertText\",\"" + value + "\"]\n[\"stop\"]\n").calls,
                 ElementsAre("start()", "insertText(\"" + value + "\")", "stop()"));

@@ -32,7 +32,7 @@ protected:
     TempDir dir_;
 };
 
-TEST_F(HostFiles, giveTheRegionsOfAPicture) {
+TEST_F(HostFiles, ContainTheRegionsOfAPicture) {
     ImageMapFile maps(written(R"({"C:\\pics\\a.gif": ["A", "a", "0,0", "B"], "b.gif": []})"),
                       "file.json");
     std::vector<OrxString> regions;
@@ -40,14 +40,14 @@ TEST_F(HostFiles, giveTheRegionsOfAPicture) {
     EXPECT_THAT(regions, ElementsAre("A", "a", "0,0", "B"));
 }
 
-TEST_F(HostFiles, giveNoRegionsOfAPictureThatIsNotThere) {
+TEST_F(HostFiles, ContainNoRegionsOfAnUnknownPicture) {
     ImageMapFile maps(written(R"({"a.gif": ["A", "a", "0,0"]})"), "file.json");
     std::vector<OrxString> regions;
     maps.getRegions("A.GIF", regions);
     EXPECT_THAT(regions, IsEmpty());
 }
 
-TEST_F(HostFiles, refuseImageMapsThatAreNoLists) {
+TEST_F(HostFiles, RefuseImageMapsThatAreNotLists) {
     EXPECT_EQ(refusal<ImageMapFile>("[]"), "file.json:1: the file must contain a JSON object");
     EXPECT_EQ(refusal<ImageMapFile>(R"({"a.gif": "A"})"),
               "file.json: a.gif: the regions must be a list of strings");
@@ -55,18 +55,18 @@ TEST_F(HostFiles, refuseImageMapsThatAreNoLists) {
               "file.json: a.gif: the regions must be a list of strings");
 }
 
-TEST_F(HostFiles, tellTheLineOfMalformedJson) {
+TEST_F(HostFiles, ReportTheLineOfMalformedJson) {
     EXPECT_EQ(refusal<ImageMapFile>("{\n\"a\" 1}"),
               "file.json:2: malformed JSON: Missing a colon after a name of object member.");
     EXPECT_EQ(refusal<ModelFile>(""), "file.json:1: malformed JSON: The document is empty.");
 }
 
-TEST_F(HostFiles, surviveDeepNesting) {
+TEST_F(HostFiles, SurviveDeepNesting) {
     EXPECT_THAT(refusal<ModelFile>("{\"elements\":" + std::string(1000000, '[')),
                 ::testing::HasSubstr("malformed JSON"));
 }
 
-TEST_F(HostFiles, areRefusedWhenMissing) {
+TEST_F(HostFiles, AreRefusedWhenMissing) {
     try {
         const ModelFile model(pathFrom(dir_.nativeFile("none.json")), "none.json");
         FAIL() << "nothing was thrown";
@@ -75,7 +75,7 @@ TEST_F(HostFiles, areRefusedWhenMissing) {
     }
 }
 
-TEST_F(HostFiles, giveTheElementsOfAModel) {
+TEST_F(HostFiles, ContainTheElementsOfAModel) {
     const ModelFile model(written(R"({"schemaType": 2, "elements": {
             "0x0000000700000005": {"class": "Operation",
                 "attributes": {"visibility": "public", "rank": 7, "abstract": true,
@@ -97,7 +97,7 @@ TEST_F(HostFiles, giveTheElementsOfAModel) {
     EXPECT_FALSE(element->getClass()->associationExists("owner"));
     EXPECT_THAT(element->objects("owner"), IsEmpty());
 
-    // Elements of a class share it, so the class has what any of them has.
+    // Elements of the same class share one description, which has the members of all of them.
     const MMObject* const other = model.object(9);
     ASSERT_NE(other, nullptr);
     EXPECT_EQ(other->getClass(), element->getClass());
@@ -107,11 +107,11 @@ TEST_F(HostFiles, giveTheElementsOfAModel) {
     EXPECT_EQ(model.object(8), nullptr);
 }
 
-TEST_F(HostFiles, takeTheFirstRuleSetWhenAModelNamesNone) {
+TEST_F(HostFiles, SelectTheFirstRuleSetWhenAModelNamesNone) {
     EXPECT_EQ(ModelFile(written(R"({"elements": {}})"), "file.json").schemaType(), 1);
 }
 
-TEST_F(HostFiles, refuseModelsOfAnotherShape) {
+TEST_F(HostFiles, RefuseModelsOfAnotherShape) {
     EXPECT_EQ(refusal<ModelFile>("{}"), "file.json: the model has no \"elements\" object");
     EXPECT_EQ(refusal<ModelFile>(R"({"schemaType": "1", "elements": {}})"),
               "file.json: \"schemaType\" must be an integer");

@@ -7,8 +7,8 @@
 
 namespace quillmark::replay {
 
-/// Serves a document of this process through the table of operations. Exceptions end here, in
-/// the exception log, as at the boundary of a component.
+/// Calls a document of this process through the table of operations. Catches all exceptions and
+/// logs them, as the boundary of a component does.
 class InProcessDocument final : public LateBoundDocument {
 public:
     explicit InProcessDocument(std::unique_ptr<IDocument> document);

@@ -17,7 +17,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-TEST(TraceMonitor, countsErrorLinesAndKeepsCallLines) {
+TEST(TraceMonitor, CountsErrorLinesAndKeepsCallLines) {
     TraceMonitor trace(true);
     trace.line(1, "ERR File not found: a\n");
     trace.line(1, "ERR: running zip.exe\n");
@@ -31,7 +31,7 @@ TEST(TraceMonitor, countsErrorLinesAndKeepsCallLines) {
     EXPECT_EQ(trace.calls().size(), 0U);
 }
 
-TEST(ExceptionMonitor, tellsEachFailureThatWasCaught) {
+TEST(ExceptionMonitor, ReportsEachFailureThatWasCaught) {
     std::vector<std::string> told;
     ExceptionMonitor log([&](std::string_view reason) { told.emplace_back(reason); }, {});
     EXPECT_TRUE(log.records("Catch"));
@@ -41,7 +41,7 @@ TEST(ExceptionMonitor, tellsEachFailureThatWasCaught) {
     EXPECT_EQ(log.caught(), 1U);
 }
 
-TEST(ExceptionMonitor, writesBothCategoriesDownWhenAsked) {
+TEST(ExceptionMonitor, RecordsBothCategoriesOnRequest) {
     std::vector<std::string> told;
     std::string written;
     ExceptionMonitor log([&](std::string_view reason) { told.emplace_back(reason); },
@@ -53,7 +53,7 @@ TEST(ExceptionMonitor, writesBothCategoriesDownWhenAsked) {
     EXPECT_THAT(told, ElementsAre("no disk"));
 }
 
-TEST(DocumentCounts, countsWhatBecameOfTheDocuments) {
+TEST(DocumentCounts, CountTheEventsOfDocuments) {
     DocumentCounts counts;
     DocumentObserver& observer = counts;
     observer.pageWritten("a.htm");
@@ -68,14 +68,14 @@ TEST(DocumentCounts, countsWhatBecameOfTheDocuments) {
     EXPECT_EQ(counts.unresolved, 7U);
 }
 
-TEST(Messages, areOneLineEach) {
+TEST(Messages, AreOneLineEach) {
     std::ostringstream stream;
     Messages messages(stream, false);
     messages.write("a\nb\x1B[31m\x7F\xC3\xA4");
     EXPECT_EQ(stream.str(), "a b?[31m?\xC3\xA4\n");
 }
 
-TEST(Messages, showNoProgressOfAShortRun) {
+TEST(Messages, ShowNoProgressOfAShortRun) {
     std::ostringstream stream;
     Messages messages(stream, true);
     messages.progress(1000, 10);
@@ -83,7 +83,7 @@ TEST(Messages, showNoProgressOfAShortRun) {
     EXPECT_EQ(stream.str(), "");
 }
 
-TEST(Messages, countInWords) {
+TEST(Messages, CountInWords) {
     EXPECT_EQ(counted(0, "page"), "0 pages");
     EXPECT_EQ(counted(1, "page"), "1 page");
     EXPECT_EQ(counted(2, "page"), "2 pages");
@@ -97,7 +97,7 @@ protected:
     SettingsOverlay settings_{store_};
 };
 
-TEST_F(SettingsOverlayTest, standOverTheStore) {
+TEST_F(SettingsOverlayTest, TakesPrecedenceOverTheStore) {
     ASSERT_TRUE(store_->write("Html", "Navig", "1"));
     EXPECT_EQ(settings_.read("Html", "Navig"), OrxString("1"));
     settings_.set("html", "NAVIG", "2");
@@ -106,13 +106,13 @@ TEST_F(SettingsOverlayTest, standOverTheStore) {
     EXPECT_EQ(store_->read("Html", "Navig"), OrxString("1"));
 }
 
-TEST_F(SettingsOverlayTest, mayBeSetToAnEmptyText) {
+TEST_F(SettingsOverlayTest, AcceptsAnEmptyText) {
     ASSERT_TRUE(store_->write("Html", "StyleSheet", "a.css"));
     settings_.set("Html", "StyleSheet", "");
     EXPECT_EQ(settings_.read("Html", "StyleSheet"), OrxString(""));
 }
 
-TEST_F(SettingsOverlayTest, writeToTheStore) {
+TEST_F(SettingsOverlayTest, WritesToTheStore) {
     EXPECT_TRUE(settings_.write("Html", "Navig", "2"));
     EXPECT_EQ(store_->read("Html", "Navig"), OrxString("2"));
 }

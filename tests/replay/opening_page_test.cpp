@@ -12,11 +12,11 @@ std::string opened(const OpeningPage& page) {
                                : answer->page.str() + (answer->needsJava ? " with Java" : "");
 }
 
-TEST(OpeningPage, runWithoutPagesHasNone) {
+TEST(OpeningPage, IsMissingInARunWithoutPages) {
     EXPECT_EQ(opened(OpeningPage()), "(none)");
 }
 
-TEST(OpeningPage, documentWithoutContentsOpensAtItsFirstPage) {
+TEST(OpeningPage, IsTheFirstPageOfADocumentWithoutContents) {
     OpeningPage page;
     for (const char* name : {"C:\\out\\rep2.htm", "C:\\out\\rep.htm", "C:\\out\\a\\rep3.htm"}) {
         page.pageWritten(name);
@@ -24,7 +24,7 @@ TEST(OpeningPage, documentWithoutContentsOpensAtItsFirstPage) {
     EXPECT_EQ(opened(page), "C:\\out\\rep.htm");
 }
 
-TEST(OpeningPage, contentsNeedJava) {
+TEST(OpeningPage, NeedsJavaForTheContents) {
     OpeningPage page;
     for (const char* name : {"C:\\out\\rep_dtl.htm", "C:\\out\\rep_cnt.htm", "C:\\out\\rep.htm"}) {
         page.pageWritten(name);
@@ -32,7 +32,7 @@ TEST(OpeningPage, contentsNeedJava) {
     EXPECT_EQ(opened(page), "C:\\out\\rep.htm with Java");
 }
 
-TEST(OpeningPage, staticListingIsOpenedInItsFrameSet) {
+TEST(OpeningPage, IsTheFrameSetOfAStaticListing) {
     OpeningPage page;
     for (const char* name : {"C:\\out\\rep_dtl.htm", "C:\\out\\rep_cnt.htm",
                              "C:\\out\\rep_sfrm.htm", "C:\\out\\rep.htm"}) {
@@ -41,7 +41,7 @@ TEST(OpeningPage, staticListingIsOpenedInItsFrameSet) {
     EXPECT_EQ(opened(page), "C:\\out\\rep_sfrm.htm");
 }
 
-TEST(OpeningPage, navigatorOpensAtTheStartPage) {
+TEST(OpeningPage, IsTheStartPageOfTheNavigator) {
     OpeningPage page;
     page.fileCopied("C:\\out\\rep_nav\\navigator.js");
     for (const char* name : {"C:\\out\\rep_dtl.htm", "C:\\out\\rep_cnt.htm",
@@ -51,7 +51,7 @@ TEST(OpeningPage, navigatorOpensAtTheStartPage) {
     EXPECT_EQ(opened(page), "C:\\out\\rep.htm");
 }
 
-TEST(OpeningPage, firstDocumentCounts) {
+TEST(OpeningPage, BelongsToTheFirstDocument) {
     OpeningPage page;
     for (const char* name : {"C:\\out\\rep_cnt.htm", "C:\\out\\rep.htm", "C:\\out\\b_cnt.htm",
                              "C:\\out\\b_sfrm.htm", "C:\\out\\b.htm"}) {

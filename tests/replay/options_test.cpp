@@ -26,12 +26,12 @@ std::string refusal(std::vector<std::string> arguments) {
     return "accepted";
 }
 
-TEST(Options, takeInputsInTheirOrder) {
+TEST(Options, ListInputsInTheirOrder) {
     EXPECT_THAT(parsed({"a", "-q", "-", "b"}).inputs, ElementsAre("a", "-", "b"));
     EXPECT_THAT(parsed({"--", "-q", "--x"}).inputs, ElementsAre("-q", "--x"));
 }
 
-TEST(Options, takeAValueBehindOrWithinTheOption) {
+TEST(Options, AcceptAValueAfterOrWithinTheOption) {
     EXPECT_EQ(parsed({"--output", "x", "a"}).output, "x");
     EXPECT_EQ(parsed({"--output=x=y", "a"}).output, "x=y");
     EXPECT_EQ(parsed({"-o", "x", "a"}).output, "x");
@@ -42,7 +42,7 @@ TEST(Options, takeAValueBehindOrWithinTheOption) {
     EXPECT_EQ(refusal({"--install-dir", "", "a"}), "option --install-dir needs a value: DIR");
 }
 
-TEST(Options, takeTheFilesOfARun) {
+TEST(Options, NameTheFilesOfARun) {
     const Options options =
         parsed({"--settings", "s.ini", "--ini", "v.ini", "--model", "m.json", "--image-maps",
                 "i.json", "--log", "l.txt", "--exceptions", "e.txt", "a"});
@@ -56,7 +56,7 @@ TEST(Options, takeTheFilesOfARun) {
     EXPECT_FALSE(options.quiet);
 }
 
-TEST(Options, takeSettingsApart) {
+TEST(Options, SplitSettingsIntoTheirParts) {
     const Options options = parsed(
         {"--set", "Html.BodyTags=A=\"b.c\"", "--install-dir", "inst", "--set=Html.IconFile=", "a"});
     ASSERT_EQ(options.settings.size(), 3U);
@@ -71,7 +71,7 @@ TEST(Options, takeSettingsApart) {
     EXPECT_EQ(options.settings[2].value, "");
 }
 
-TEST(Options, refuseASettingWithoutAddressOrValue) {
+TEST(Options, RefuseASettingWithoutNameOrValue) {
     for (const char* text :
          {"Html", "Html.Navig", "Navig=1", ".Navig=1", "Html.=1", "=1", "", "Html=a.b"}) {
         EXPECT_EQ(refusal({"--set", text, "a"}),
@@ -79,7 +79,7 @@ TEST(Options, refuseASettingWithoutAddressOrValue) {
     }
 }
 
-TEST(Options, takeDrives) {
+TEST(Options, AcceptDrives) {
     const Options options = parsed({"--drive", "C=/tmp/c", "--drive=d=x=y", "a"});
     ASSERT_EQ(options.drives.size(), 2U);
     EXPECT_EQ(options.drives[0].letter, 'C');
@@ -92,7 +92,7 @@ TEST(Options, takeDrives) {
     }
 }
 
-TEST(Options, takeATraceLevelThatIsAShort) {
+TEST(Options, AcceptATraceLevelOfSixteenBits) {
     EXPECT_EQ(parsed({"--trace", "10", "a"}).traceLevel, 10);
     EXPECT_EQ(parsed({"--trace", "-1", "a"}).traceLevel, -1);
     EXPECT_FALSE(parsed({"a"}).traceLevel.has_value());
@@ -103,27 +103,27 @@ TEST(Options, takeATraceLevelThatIsAShort) {
     }
 }
 
-TEST(Options, areRefusedWhenUnknown) {
+TEST(Options, AreRefusedWhenUnknown) {
     EXPECT_EQ(refusal({"--colour", "a"}), "unknown option --colour");
     EXPECT_EQ(refusal({"--colour=red", "a"}), "unknown option --colour");
     EXPECT_EQ(refusal({"-x", "a"}), "unknown option -x");
     EXPECT_EQ(refusal({"--out", "x", "a"}), "unknown option --out");
 }
 
-TEST(Options, areRefusedWithoutTheirValueOrWithOneTooMany) {
+TEST(Options, AreRefusedWithoutTheirValueOrWithOneTooMany) {
     EXPECT_EQ(refusal({"a", "--output"}), "option --output needs a value: FILE");
     EXPECT_EQ(refusal({"a", "-o"}), "option --output needs a value: FILE");
     EXPECT_EQ(refusal({"--quiet=yes", "a"}), "option --quiet takes no value");
 }
 
-TEST(Options, needCalls) {
+TEST(Options, NeedCalls) {
     EXPECT_EQ(refusal({}), "no calls given; try --help");
     EXPECT_EQ(refusal({"-q"}), "no calls given; try --help");
     EXPECT_TRUE(parsed({"--help"}).help);
     EXPECT_TRUE(parsed({"--version"}).version);
 }
 
-TEST(Options, areAllToldByTheHelp) {
+TEST(Options, AreAllListedInTheHelp) {
     std::ostringstream out;
     writeHelp(out);
     for (const char* name :

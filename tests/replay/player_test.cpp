@@ -20,7 +20,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-/// What the documents of a test were called with, and the trace lines that they write when they
+/// The calls that the documents of a test received, and the trace lines that they write when they
 /// are called.
 struct Stage {
     std::vector<std::string> calls;
@@ -29,7 +29,7 @@ struct Stage {
     int made = 0;
 };
 
-/// Tells its calls to a stage, and when it goes.
+/// Reports its calls and its destruction to a stage.
 class StagedDocument final : public testing::RecordingDocument {
 public:
     explicit StagedDocument(Stage& stage) : stage_(stage) {}
@@ -125,7 +125,7 @@ protected:
                 exceptions_};
     }
 
-    /// Lets the staged document write the call itself and more lines when it is called.
+    /// Makes the staged document write the call itself and more lines when it is called.
     void traces(const std::string& call, std::vector<std::string> more = {}) {
         more.insert(more.begin(), "dochtml->" + call + ";\n");
         stage_.trace[call] = std::move(more);
@@ -142,18 +142,18 @@ protected:
     std::vector<std::string> refusals_;
 };
 
-TEST_F(PlayerTest, playsEveryCallOfAStreamAndLetsGoOfTheObject) {
+TEST_F(PlayerTest, PlaysEveryCallOfAStreamAndReleasesTheObject) {
     EXPECT_TRUE(playStream("[\"create\",\"C:\\\\a.htm\"]\n[\"insertText\",\"x\"]\n[\"close\"]\n"));
     EXPECT_THAT(stage_.calls,
                 ElementsAre("create(\"C:\\a.htm\")", "insertText(\"x\")", "close()", "gone"));
 }
 
-TEST_F(PlayerTest, makesNoObjectForNoCall) {
+TEST_F(PlayerTest, CreatesNoObjectWithoutACall) {
     EXPECT_TRUE(playStream("\n"));
     EXPECT_EQ(stage_.made, 0);
 }
 
-TEST_F(PlayerTest, makesRelativeNamesOfCreateAbsolute) {
+TEST_F(PlayerTest, MakesRelativeNamesOfCreateAbsolute) {
     playStream(
         "[\"create\",\"a.htm\"]\n[\"create\",\"sub/a.htm\"]\n[\"create\",\"\\\\x\\\\a\"]\n"
         "[\"create\",\"/x/a\"]\n[\"create\",\"C:a.htm\"]\n");
@@ -162,31 +162,31 @@ TEST_F(PlayerTest, makesRelativeNamesOfCreateAbsolute) {
                                           "create(\"/x/a\")", "create(\"C:a.htm\")", "gone"));
 }
 
-TEST_F(PlayerTest, putsTheOutputNameIntoTheFirstCreateOnly) {
+TEST_F(PlayerTest, PutsTheOutputNameIntoTheFirstCreateOnly) {
     outputName_ = "D:\\b.htm";
     playStream("[\"create\",\"C:\\\\a.htm\"]\n[\"new\"]\n[\"create\",\"C:\\\\a.htm\"]\n");
     EXPECT_THAT(stage_.calls,
                 ElementsAre("create(\"D:\\b.htm\")", "gone", "create(\"C:\\a.htm\")", "gone"));
 }
 
-TEST_F(PlayerTest, callsTraceFirstForEachObject) {
+TEST_F(PlayerTest, CallsTraceFirstForEachObject) {
     traceLevel_ = 10;
     playStream("[\"insertEndl\"]\n[\"new\"]\n[\"insertEndl\"]\n");
     EXPECT_THAT(stage_.calls, ElementsAre("trace(10)", "insertEndl()", "gone", "trace(10)",
                                           "insertEndl()", "gone"));
 }
 
-TEST_F(PlayerTest, handsOnWhatAnOperationAnswers) {
+TEST_F(PlayerTest, PassesOnWhatAnOperationReturns) {
     playStream("[\"getDocType\"]\n[\"getPropPages\"]\n");
     EXPECT_THAT(answers_, ElementsAre(u"Recording", u"{a property page}"));
 }
 
-TEST_F(PlayerTest, closesAnOpenDocumentInFrontOfAMalformedLine) {
+TEST_F(PlayerTest, ClosesAnOpenDocumentBeforeAMalformedLine) {
     EXPECT_FALSE(playStream("[\"create\",\"C:\\\\a.htm\"]\n[\"insertText\",5]\n"));
     EXPECT_THAT(stage_.calls, ElementsAre("create(\"C:\\a.htm\")", "close()", "gone"));
 }
 
-TEST_F(PlayerTest, closesNothingThatIsNotOpen) {
+TEST_F(PlayerTest, ClosesNothingThatIsNotOpen) {
     EXPECT_FALSE(playStream("[\"insertEndl\"]\n[\n"));
     EXPECT_THAT(stage_.calls, ElementsAre("insertEndl()", "gone"));
     stage_.calls.clear();
@@ -197,20 +197,20 @@ TEST_F(PlayerTest, closesNothingThatIsNotOpen) {
     EXPECT_THAT(stage_.calls, ElementsAre("create(\"C:\\a\")", "gone", "gone"));
 }
 
-TEST_F(PlayerTest, tellsWhatFailedAndGoesOn) {
+TEST_F(PlayerTest, ReportsWhatFailedAndContinues) {
     stage_.createFails = true;
     EXPECT_TRUE(playStream("[\"create\",\"C:\\\\a\"]\n[\"insertEndl\"]\n"));
     EXPECT_THAT(failures_, ElementsAre("no style sheet"));
     EXPECT_THAT(stage_.calls, ElementsAre("create(\"C:\\a\")", "insertEndl()", "gone"));
 }
 
-TEST_F(PlayerTest, takesADocumentWhoseCreateFailedAsNotOpen) {
+TEST_F(PlayerTest, TreatsADocumentWhoseCreateFailedAsNotOpen) {
     stage_.createFails = true;
     EXPECT_FALSE(playStream("[\"create\",\"C:\\\\a\"]\n[\n"));
     EXPECT_THAT(stage_.calls, ElementsAre("create(\"C:\\a\")", "gone"));
 }
 
-TEST_F(PlayerTest, refusesADocumentNameThatTheCodePageCannotHold) {
+TEST_F(PlayerTest, RefusesADocumentNameThatTheCodePageCannotRepresent) {
     EXPECT_TRUE(
         playStream("[\"create\",\"a.htm\"]\n[\"close\"]\n[\"create\",\"C:\\\\\\u4e2d\\\\a.htm\"]\n"
                    "[\"insertText\",\"lost\"]\n[\"getDocType\"]\n[\"close\"]\n"
@@ -224,7 +224,7 @@ TEST_F(PlayerTest, refusesADocumentNameThatTheCodePageCannotHold) {
     EXPECT_THAT(answers_, IsEmpty());
 }
 
-TEST_F(PlayerTest, passesCallsOverUpToAFreshObject) {
+TEST_F(PlayerTest, SkipsCallsUpToANewObject) {
     EXPECT_TRUE(
         playStream("[\"create\",\"\\u4e2d\"]\n[\"insertEndl\"]\n[\"create\",\"\\u6587\"]\n"
                    "[\"insertEndl\"]\n[\"new\"]\n[\"insertEndl\"]\n"));
@@ -232,7 +232,7 @@ TEST_F(PlayerTest, passesCallsOverUpToAFreshObject) {
     EXPECT_THAT(stage_.calls, ElementsAre("insertEndl()", "gone"));
 }
 
-TEST_F(PlayerTest, passesCallsOfTheNextInputOverToo) {
+TEST_F(PlayerTest, SkipsCallsOfTheNextInputToo) {
     Player player = makePlayer(true);
     EXPECT_TRUE(playInto<CallStreamReader>(player, "[\"create\",\"\\u4e2d\"]\n"));
     EXPECT_TRUE(playInto<RecordingReader>(player, "dochtml->insertEndl();\n"));
@@ -241,19 +241,19 @@ TEST_F(PlayerTest, passesCallsOfTheNextInputOverToo) {
     EXPECT_THAT(divergences_, IsEmpty());
 }
 
-TEST_F(PlayerTest, leavesAnOpenDocumentAsItIsWhenItRefusesTheNext) {
+TEST_F(PlayerTest, DoesNotChangeAnOpenDocumentWhenItRefusesTheNext) {
     EXPECT_FALSE(playStream("[\"create\",\"C:\\\\a\"]\n[\"create\",\"\\u4e2d\"]\n[\n"));
     EXPECT_THAT(stage_.calls, ElementsAre("create(\"C:\\a\")", "close()", "gone"));
 }
 
-TEST_F(PlayerTest, doesNotRefuseANameThatTheOutputNameReplaces) {
+TEST_F(PlayerTest, DoesNotRefuseANameThatTheOutputNameReplaces) {
     outputName_ = "D:\\b.htm";
     playStream("[\"create\",\"\\u4e2d\"]\n[\"create\",\"\\u4e2d\"]\n");
     EXPECT_THAT(stage_.calls, ElementsAre("create(\"D:\\b.htm\")", "gone"));
     EXPECT_EQ(refusals_.size(), 1U);
 }
 
-TEST_F(PlayerTest, countsTheCharactersThatTheCodePageLoses) {
+TEST_F(PlayerTest, CountsTheCharactersThatTheCodePageLoses) {
     Player player = makePlayer(false);
     EXPECT_TRUE(
         playInto<CallStreamReader>(player,
@@ -263,7 +263,7 @@ TEST_F(PlayerTest, countsTheCharactersThatTheCodePageLoses) {
     EXPECT_EQ(player.charactersLost(), 4U);
 }
 
-TEST_F(PlayerTest, playsSeveralInputsIntoTheSameObject) {
+TEST_F(PlayerTest, PlaysSeveralInputsIntoTheSameObject) {
     Player player = makePlayer(false);
     EXPECT_TRUE(playInto<CallStreamReader>(player, "[\"insertEndl\"]\n"));
     EXPECT_TRUE(playInto<CallStreamReader>(player, "[\"close\"]\n"));
@@ -271,7 +271,7 @@ TEST_F(PlayerTest, playsSeveralInputsIntoTheSameObject) {
     EXPECT_THAT(stage_.calls, ElementsAre("insertEndl()", "close()", "gone"));
 }
 
-TEST_F(PlayerTest, doesNotPlayTwiceWhatTheDriverCallsItself) {
+TEST_F(PlayerTest, DoesNotPlayTwiceWhatTheDriverCallsItself) {
     traces("insertPageBreak()", {"dochtml->endTable();\n", "dochtml->endTable();\n"});
     traces("insertEndl()");
     EXPECT_TRUE(
@@ -281,7 +281,7 @@ TEST_F(PlayerTest, doesNotPlayTwiceWhatTheDriverCallsItself) {
     EXPECT_THAT(divergences_, IsEmpty());
 }
 
-TEST_F(PlayerTest, comparesTheNameThatTheDocumentReallyGot) {
+TEST_F(PlayerTest, ComparesTheNameThatTheDocumentReallyGot) {
     outputName_ = "D:\\b.htm";
     traces("create(\"D:\\b.htm\")");
     EXPECT_TRUE(playRecording("dochtml->create(\"C:\\a.htm\");\n"));
@@ -289,7 +289,7 @@ TEST_F(PlayerTest, comparesTheNameThatTheDocumentReallyGot) {
     EXPECT_THAT(divergences_, IsEmpty());
 }
 
-TEST_F(PlayerTest, tellsALineThatTheRecordingDoesNotHave) {
+TEST_F(PlayerTest, ReportsALineThatTheRecordingDoesNotHave) {
     traces("insertPageBreak()", {"dochtml->endTable();\n"});
     traces("insertEndl()");
     EXPECT_TRUE(playRecording("dochtml->insertPageBreak();\n\ndochtml->insertEndl();\n"));
@@ -298,7 +298,7 @@ TEST_F(PlayerTest, tellsALineThatTheRecordingDoesNotHave) {
     EXPECT_THAT(stage_.calls, ElementsAre("insertPageBreak()", "insertEndl()", "gone"));
 }
 
-TEST_F(PlayerTest, findsTheLinesBehindOneThatIsTooMany) {
+TEST_F(PlayerTest, FindsTheLinesAfterASurplusOne) {
     traces("insertPageBreak()", {"dochtml->addRow();\n", "dochtml->endTable();\n"});
     traces("insertEndl()");
     EXPECT_TRUE(
@@ -308,27 +308,27 @@ TEST_F(PlayerTest, findsTheLinesBehindOneThatIsTooMany) {
     EXPECT_THAT(stage_.calls, ElementsAre("insertPageBreak()", "insertEndl()", "gone"));
 }
 
-TEST_F(PlayerTest, tellsThatARecordingEndsTooEarly) {
+TEST_F(PlayerTest, ReportsThatARecordingEndsTooEarly) {
     traces("insertPageBreak()", {"dochtml->endTable();\n"});
     EXPECT_TRUE(playRecording("dochtml->insertPageBreak();\n\n"));
     EXPECT_THAT(divergences_, ElementsAre("1: the driver called dochtml->endTable();, the "
                                           "recording ends"));
 }
 
-TEST_F(PlayerTest, tellsACallThatTheDriverDoesNotTrace) {
+TEST_F(PlayerTest, ReportsACallThatTheDriverDoesNotTrace) {
     traces("insertEndl()");
     EXPECT_TRUE(playRecording("dochtml->close();\ndochtml->insertEndl();\n"));
     EXPECT_THAT(divergences_, ElementsAre("1: the driver wrote no line for dochtml->close();"));
     EXPECT_THAT(stage_.calls, ElementsAre("close()", "insertEndl()", "gone"));
 }
 
-TEST_F(PlayerTest, leavesAMalformedLineToItself) {
+TEST_F(PlayerTest, ReportsNoDivergenceForAMalformedLine) {
     traces("insertPageBreak()", {"dochtml->endTable();\n"});
     EXPECT_FALSE(playRecording("dochtml->insertPageBreak();\n\nstray\n"));
     EXPECT_THAT(divergences_, IsEmpty());
 }
 
-TEST_F(PlayerTest, asksForCallLinesOnlyWhenItComparesThem) {
+TEST_F(PlayerTest, RequestsCallLinesOnlyToCompareThem) {
     EXPECT_EQ(TraceMonitor(false).level(), 1);
     EXPECT_EQ(TraceMonitor(true).level(), 10);
 }
@@ -340,7 +340,7 @@ public:
     InvokeStatus invoke(int, std::span<const Argument>) override { return InvokeStatus::done; }
 };
 
-TEST_F(PlayerTest, refusesADocumentThatLacksAnOperation) {
+TEST_F(PlayerTest, RefusesADocumentThatLacksAnOperation) {
     TraceMonitor trace(false);
     Player::Settings settings;
     settings.makeDocument = [] { return std::make_unique<PoorDocument>(); };

@@ -32,7 +32,7 @@ struct Reading {
     std::vector<std::string> calls;
     std::vector<std::size_t> lines;
     std::vector<std::string> recorded;
-    /// "LINE: what is wrong", empty when nothing is.
+    /// "LINE: what is wrong", or empty.
     std::string problem;
 };
 
@@ -64,7 +64,7 @@ Reading readText(const std::string& text) {
     return readFrom<Reader>(stream);
 }
 
-/// Hands its text out in pieces of a few bytes, as a slow pipe does.
+/// Delivers its text in pieces of a few bytes, as a slow pipe does.
 class TricklingText final : public std::streambuf {
 public:
     TricklingText(std::string text, std::size_t piece) : text_(std::move(text)), piece_(piece) {

@@ -11,14 +11,15 @@
 namespace quillmark::replay {
 namespace {
 
-/// A call of a random stream as its recorded form and as `shown` has it.
+/// A call of a random stream, in its recorded form and in the form of `shown`.
 struct Sample {
     std::string recorded;
     std::string call;
 };
 
-/// Makes texts of pieces that are hard on a reader of raw lines. None of them ends a line with
-/// what closes a call in front of a new call line, which no reader could tell from one.
+/// Creates texts from pieces that are difficult for a reader of raw lines. No text contains the end
+/// of a call followed by a line that looks like a call, which no reader could distinguish from a
+/// real one.
 class Samples {
 public:
     explicit Samples(unsigned seed) : random_(seed) {}
@@ -70,14 +71,15 @@ private:
         for (int count = below(8); count > 0; --count) {
             result += pieces[static_cast<std::size_t>(below(static_cast<int>(pieces.size())))];
         }
-        // What would look like the end of the call stays in front of something else.
+        // What looks like the end of the call may be the end of the text, or be followed by more
+        // text.
         return result + (below(2) == 0 ? "" : "end");
     }
 
     std::mt19937 random_;
 };
 
-TEST(RecordingProperty, everyRecordedStreamReadsBackAsItsCalls) {
+TEST(RecordingProperty, EveryRecordedStreamReadsBackAsItsCalls) {
     for (unsigned seed = 1; seed <= 500; ++seed) {
         Samples samples(seed);
         std::string recording;
@@ -90,7 +92,7 @@ TEST(RecordingProperty, everyRecordedStreamReadsBackAsItsCalls) {
         const Reading reading = readText<RecordingReader>(recording);
         ASSERT_EQ(reading.calls, expected) << "seed " << seed << "\n" << recording;
         ASSERT_EQ(reading.problem, "") << "seed " << seed;
-        // However the bytes arrive, the same is read.
+        // The result does not depend on how the bytes arrive.
         TricklingText trickle(recording, 1 + seed % 5);
         std::istream stream(&trickle);
         ASSERT_EQ(readFrom<RecordingReader>(stream).calls, expected) << "seed " << seed;

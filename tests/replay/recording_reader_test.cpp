@@ -14,7 +14,7 @@ Reading read(const std::string& text) {
     return readText<RecordingReader>(text);
 }
 
-TEST(RecordingReader, readsEveryCallThatATraceRecords) {
+TEST(RecordingReader, ReadsEveryCallThatATraceRecords) {
     const Reading reading = read(
         "dochtml->create(\"C:\\out\\rep.htm\");\n"
         "dochtml->setOption(\"title\",\"Report\");\n"
@@ -56,7 +56,7 @@ TEST(RecordingReader, readsEveryCallThatATraceRecords) {
     EXPECT_EQ(reading.problem, "");
 }
 
-TEST(RecordingReader, readsTheWordsOfFontAttributes) {
+TEST(RecordingReader, ReadsTheWordsOfFontAttributes) {
     EXPECT_THAT(read("dochtml->setFontAttribute(DocBold,TRUE);\n"
                      "dochtml->setFontAttribute(DocItalic,FALSE);\n"
                      "dochtml->setFontAttribute(DocUnderline,TRUE);\n"
@@ -66,17 +66,17 @@ TEST(RecordingReader, readsTheWordsOfFontAttributes) {
                             "setFontAttribute(4,true)", "setFontAttribute(8,false)"));
 }
 
-TEST(RecordingReader, readsAnUnknownFontAttributeAsOneThatNobodyKnows) {
+TEST(RecordingReader, ReadsAnUnknownFontAttributeAsZero) {
     EXPECT_THAT(read("dochtml->setFontAttribute(TRUE);\ndochtml->setFontAttribute(FALSE);\n").calls,
                 ElementsAre("setFontAttribute(0,true)", "setFontAttribute(0,false)"));
 }
 
-TEST(RecordingReader, keepsTheCallLinesAsTheyAre) {
+TEST(RecordingReader, KeepsTheCallLinesAsTheyAre) {
     EXPECT_THAT(read("dochtml->insertText(\"a\nb\");\ndochtml->insertPageBreak();\n\n").recorded,
                 ElementsAre("dochtml->insertText(\"a\nb\");", "dochtml->insertPageBreak();"));
 }
 
-TEST(RecordingReader, takesQuotesAndLineEndsAsPartOfAText) {
+TEST(RecordingReader, TakesQuotesAndLineEndsAsPartOfAText) {
     const Reading reading = read(
         "dochtml->insertText(\"say \"hi\" twice\");\n"
         "dochtml->insertText(\"one\ntwo\n\nfour\");\n"
@@ -91,25 +91,25 @@ TEST(RecordingReader, takesQuotesAndLineEndsAsPartOfAText) {
     EXPECT_THAT(reading.lines, ElementsAre(1, 2, 6, 7, 8, 9));
 }
 
-TEST(RecordingReader, goesOnWithATextThatLooksClosedButIsNot) {
+TEST(RecordingReader, ContinuesATextThatOnlyLooksClosed) {
     EXPECT_THAT(read("dochtml->insertText(\"f(\"x\");\ng(\"y\");\n\nend\");\n"
                      "dochtml->close();\n")
                     .calls,
                 ElementsAre("insertText(\"f(\"x\");\ng(\"y\");\n\nend\")", "close()"));
 }
 
-TEST(RecordingReader, closesATextAtTheFirstPlaceWhenNoOtherIsThere) {
+TEST(RecordingReader, ClosesATextAtTheFirstPlaceWhenThereIsNoOther) {
     const Reading reading = read("dochtml->insertText(\"a\");\nstray\ndochtml->close();\n");
     EXPECT_THAT(reading.calls, ElementsAre("insertText(\"a\")"));
     EXPECT_EQ(reading.problem, "2: not a line of a recorded trace");
 }
 
-TEST(RecordingReader, takesCallLinesInATextAsText) {
+TEST(RecordingReader, TakesCallLinesInATextAsText) {
     EXPECT_THAT(read("dochtml->insertText(\"a\ndochtml->insertEndl();\nb\");\n").calls,
                 ElementsAre("insertText(\"a\ndochtml->insertEndl();\nb\")"));
 }
 
-TEST(RecordingReader, splitsTwoTextsAtTheLikelierPlace) {
+TEST(RecordingReader, SplitsTwoTextsAtTheLikelierPlace) {
     EXPECT_THAT(read("dochtml->insertXref(\"a\",\"b\",\"tag\");\n"
                      "dochtml->setOption(\"title\",\"a\",\"b\");\n"
                      "dochtml->insertImage(\"\",\"\");\n"
@@ -119,7 +119,7 @@ TEST(RecordingReader, splitsTwoTextsAtTheLikelierPlace) {
                             "insertImage(\"\",\"\")", "insertXref(\"\",\"x\ny\")"));
 }
 
-TEST(RecordingReader, splitsACrossReferenceBeforeItsTag) {
+TEST(RecordingReader, SplitsACrossReferenceBeforeItsTag) {
     std::istringstream stream("dochtml->insertXref(\"a\",\"b\",\"tag\");\n");
     InputBuffer input(stream);
     RecordingReader reader(input);
@@ -129,7 +129,7 @@ TEST(RecordingReader, splitsACrossReferenceBeforeItsTag) {
     EXPECT_EQ(std::get<WideText>(call.arguments[1]), u"tag");
 }
 
-TEST(RecordingReader, splitsAnOptionBehindItsName) {
+TEST(RecordingReader, SplitsAnOptionAfterItsName) {
     std::istringstream stream("dochtml->setOption(\"title\",\"a\",\"b\");\n");
     InputBuffer input(stream);
     RecordingReader reader(input);
@@ -139,7 +139,7 @@ TEST(RecordingReader, splitsAnOptionBehindItsName) {
     EXPECT_EQ(std::get<WideText>(call.arguments[1]), u"a\",\"b");
 }
 
-TEST(RecordingReader, endsAFileNameInFrontOfItsNumber) {
+TEST(RecordingReader, EndsAFileNameBeforeItsNumber) {
     EXPECT_THAT(read("dochtml->insertFile(\"a\",1);b\",-3);\n"
                      "dochtml->insertFile(\"x\");\ny\",2);\n"
                      "dochtml->insertFile(\"\",0);\n")
@@ -148,7 +148,7 @@ TEST(RecordingReader, endsAFileNameInFrontOfItsNumber) {
                             "insertFile(\"\",0)"));
 }
 
-TEST(RecordingReader, passesOverWhatATraceReports) {
+TEST(RecordingReader, SkipsTheReportsOfATrace) {
     const Reading reading = read(
         "ERR File not found: a.gif\n"
         "dochtml->insertTag(\"A\");\n"
@@ -166,7 +166,7 @@ TEST(RecordingReader, passesOverWhatATraceReports) {
     EXPECT_EQ(reading.problem, "");
 }
 
-TEST(RecordingReader, passesOverTheRestOfAReportThatHoldsLineEnds) {
+TEST(RecordingReader, SkipsTheRestOfAReportThatContainsLineEnds) {
     const Reading reading = read(
         "dochtml->insertTag(\"A\nB\");\n"
         "created bookmark:A\nB as rep.htm#A\nB\n"
@@ -174,7 +174,7 @@ TEST(RecordingReader, passesOverTheRestOfAReportThatHoldsLineEnds) {
     EXPECT_THAT(reading.calls, ElementsAre("insertTag(\"A\nB\")", "close()"));
 }
 
-TEST(RecordingReader, readsARecordingWithCarriageReturns) {
+TEST(RecordingReader, ReadsARecordingWithCarriageReturns) {
     const Reading reading = read(
         "dochtml->insertText(\"a\r\nb\");\r\n"
         "dochtml->insertText(\"c\r\r\nd\");\r\n"
@@ -186,17 +186,17 @@ TEST(RecordingReader, readsARecordingWithCarriageReturns) {
     EXPECT_THAT(reading.lines, ElementsAre(1, 3, 5, 7));
 }
 
-TEST(RecordingReader, keepsCarriageReturnsThatBelongToTheText) {
+TEST(RecordingReader, KeepsCarriageReturnsThatBelongToTheText) {
     EXPECT_THAT(read("dochtml->insertText(\"a\r\nb\r\");\ndochtml->close();\n").calls,
                 ElementsAre("insertText(\"a\r\nb\r\")", "close()"));
 }
 
-TEST(RecordingReader, readsTextsAsTheCodePageHasThem) {
+TEST(RecordingReader, ReadsTextsInTheCodePage) {
     EXPECT_THAT(read("dochtml->insertText(\"\xE4\x80\");\n").calls,
                 ElementsAre("insertText(\"\xC3\xA4\xE2\x82\xAC\")"));
 }
 
-TEST(RecordingReader, refusesWhatIsNoCallLine) {
+TEST(RecordingReader, RefusesALineThatIsNotACall) {
     EXPECT_EQ(read("<HTML>\n").problem, "1: not a line of a recorded trace");
     EXPECT_EQ(read("dochtml->close();\n\ndochtml->fly();\n").problem,
               "3: not a line of a recorded trace");
@@ -205,7 +205,7 @@ TEST(RecordingReader, refusesWhatIsNoCallLine) {
               "2: not a line of a recorded trace");
 }
 
-TEST(RecordingReader, refusesWrongArguments) {
+TEST(RecordingReader, RefusesWrongArguments) {
     EXPECT_EQ(read("dochtml->setFontSize(x);\n").problem, "1: wrong arguments for setFontSize");
     EXPECT_EQ(read("dochtml->setFontSize();\n").problem, "1: wrong arguments for setFontSize");
     EXPECT_EQ(read("dochtml->setFontSize(32768);\n").problem, "1: wrong arguments for setFontSize");
@@ -219,7 +219,7 @@ TEST(RecordingReader, refusesWrongArguments) {
               "1: wrong arguments for insertFile");
 }
 
-TEST(RecordingReader, refusesACallThatIsCutOff) {
+TEST(RecordingReader, RefusesACallThatIsCutOff) {
     EXPECT_EQ(read("dochtml->start").problem, "1: not a line of a recorded trace");
     EXPECT_EQ(read("dochtml->insertText(\"a").problem, "1: the call of insertText is not complete");
     EXPECT_EQ(read("dochtml->insertText(\");\n").problem,
@@ -235,13 +235,13 @@ TEST(RecordingReader, refusesACallThatIsCutOff) {
     EXPECT_EQ(read("dochtml->insertEndl()\n").problem, "1: the call of insertEndl is not complete");
 }
 
-TEST(RecordingReader, needsNoLineEndBehindTheLastCall) {
+TEST(RecordingReader, NeedsNoLineEndAfterTheLastCall) {
     EXPECT_THAT(read("dochtml->insertText(\"a\");\ndochtml->close();").calls,
                 ElementsAre("insertText(\"a\")", "close()"));
     EXPECT_THAT(read("dochtml->insertText(\"a\");").calls, ElementsAre("insertText(\"a\")"));
 }
 
-TEST(RecordingReader, comesToAnEndWithATextThatLooksClosedOnEveryLine) {
+TEST(RecordingReader, EndsWithATextThatLooksClosedOnEveryLine) {
     std::string text;
     for (int i = 0; i < 200000; ++i) {
         text += "x\");\n";
@@ -252,12 +252,12 @@ TEST(RecordingReader, comesToAnEndWithATextThatLooksClosedOnEveryLine) {
                 ElementsAre("insertXref(\"" + text + "\",\"y\")", "close()"));
 }
 
-TEST(RecordingReader, passesOverAReportLargerThanItsBuffer) {
+TEST(RecordingReader, SkipsAReportLargerThanItsBuffer) {
     EXPECT_THAT(read("ERR " + std::string(3U << 20U, 'x') + "\ndochtml->close();\n").calls,
                 ElementsAre("close()"));
 }
 
-TEST(RecordingReader, readsATextLargerThanItsBuffer) {
+TEST(RecordingReader, ReadsATextLargerThanItsBuffer) {
     const std::string value(3U << 20U, 'y');
     EXPECT_THAT(read("dochtml->insertText(\"" + value + "\");\ndochtml->close();\n").calls,
                 ElementsAre("insertText(\"" + value + "\")", "close()"));

@@ -6,7 +6,7 @@
 namespace quillmark::replay {
 namespace {
 
-/// Names that begin with the letter of a drive, on a system that has none.
+/// Names that begin with a drive letter, on a system without drives.
 class ReplayToolDrives : public ReplayTool {
 protected:
     void SetUp() override {
@@ -16,7 +16,7 @@ protected:
     }
 };
 
-TEST_F(ReplayToolDrives, putsFilesOfADriveUnderItsDirectory) {
+TEST_F(ReplayToolDrives, PutsFilesOfADriveUnderItsDirectory) {
     const ToolResult result =
         run({"-q", "--drive", "C=disk", "--trace", "10", "--log", "c:\\log.txt", "-"},
             "[\"create\",\"C:\\\\out\\\\rep.htm\"]\n[\"close\"]\n");
@@ -25,7 +25,7 @@ TEST_F(ReplayToolDrives, putsFilesOfADriveUnderItsDirectory) {
     EXPECT_EQ(lines("disk/log.txt").substr(0, 35), "dochtml->create(\"C:\\out\\rep.htm\");\n");
 }
 
-TEST_F(ReplayToolDrives, keepsEverythingOfADriveUnderItsDirectory) {
+TEST_F(ReplayToolDrives, KeepsEverythingOfADriveUnderItsDirectory) {
     const ToolResult result =
         run({"-q", "--drive", "C=disk", "--trace", "10", "--log", "C:\\..\\logs\\log.txt", "-"},
             "[\"create\",\"C:\\\\rep.htm\"]\n[\"pushDirectory\",\"..\\\\side\"]\n"
@@ -37,7 +37,7 @@ TEST_F(ReplayToolDrives, keepsEverythingOfADriveUnderItsDirectory) {
     EXPECT_FALSE(exists("logs"));
 }
 
-TEST_F(ReplayToolDrives, putsFilesOfADriveWithoutADirectoryWhereItWasStarted) {
+TEST_F(ReplayToolDrives, PutsFilesOfAnUnmappedDriveIntoTheWorkingDirectory) {
     const ToolResult result =
         run({"-q", "-"}, "[\"create\",\"C:\\\\out\\\\rep.htm\"]\n[\"close\"]\n");
     EXPECT_EQ(result.status, 0) << result.errors;
@@ -46,7 +46,7 @@ TEST_F(ReplayToolDrives, putsFilesOfADriveWithoutADirectoryWhereItWasStarted) {
     EXPECT_TRUE(exists("C:/out/rep.htm"));
 }
 
-TEST_F(ReplayToolDrives, readsItsOwnFilesFromADrive) {
+TEST_F(ReplayToolDrives, ReadsItsOwnFilesFromADrive) {
     makeDirectory("disk");
     dir_.put("disk/store.ini", "[Html]\nNavig=2\n");
     const ToolResult result = run({"-q", "--drive=C=disk", "--settings=C:store.ini", "-"},
@@ -56,7 +56,7 @@ TEST_F(ReplayToolDrives, readsItsOwnFilesFromADrive) {
     EXPECT_FALSE(exists("rep_dtl.htm"));
 }
 
-TEST_F(ReplayToolDrives, refusesADamagedSettingsFileOnADrive) {
+TEST_F(ReplayToolDrives, RefusesADamagedSettingsFileOnADrive) {
     makeDirectory("disk");
     dir_.put("disk/store.ini", "[Html]\noops\nNavig=2\n");
     const ToolResult result = run({"--drive", "C=disk", "--settings", "C:\\store.ini", "-"},

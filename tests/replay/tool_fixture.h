@@ -11,7 +11,7 @@
 
 namespace quillmark::replay {
 
-/// The program, run from outside in a directory of the test's own.
+/// Runs the program in a directory that belongs to the test.
 class ReplayTool : public ::testing::Test {
 protected:
     ToolResult run(const std::vector<std::string>& arguments, const std::string& input = {}) {

@@ -16,7 +16,7 @@ using ::testing::Not;
 using ::testing::Pair;
 using ::testing::StartsWith;
 
-TEST_F(ReplayTool, refusesDocumentNamesThatTheCodePageCannotHold) {
+TEST_F(ReplayTool, RefusesDocumentNamesThatTheCodePageCannotRepresent) {
     dir_.put("calls",
              "[\"create\",\"\u4e2d\u6587.htm\"]\n[\"insertText\",\"first\"]\n[\"close\"]\n"
              "[\"create\",\"\u65e5/a.htm\"]\n[\"insertText\",\"second\"]\n[\"close\"]\n");
@@ -32,7 +32,7 @@ TEST_F(ReplayTool, refusesDocumentNamesThatTheCodePageCannotHold) {
     EXPECT_THAT(filesIn("."), ElementsAre(Pair("calls", _)));
 }
 
-TEST_F(ReplayTool, makesTheDocumentsAroundOneThatItRefuses) {
+TEST_F(ReplayTool, CreatesTheDocumentsAroundOneThatItRefuses) {
     const ToolResult result =
         run({"-q", "-"},
             "[\"create\",\"a.htm\"]\n[\"insertText\",\"one\"]\n[\"close\"]\n[\"new\"]\n"
@@ -45,7 +45,7 @@ TEST_F(ReplayTool, makesTheDocumentsAroundOneThatItRefuses) {
     EXPECT_THAT(filesIn("."), Each(Key(Not(HasSubstr("?")))));
 }
 
-TEST_F(ReplayTool, countsTheCharactersThatPagesLose) {
+TEST_F(ReplayTool, CountsTheCharactersThatPagesLose) {
     const ToolResult result = run({"-"},
                                   "[\"create\",\"rep.htm\"]\n"
                                   "[\"insertText\",\"\u4e2d\u20ac\U0001F600\"]\n"

@@ -59,7 +59,7 @@ constexpr const char* report = R"(["create","rep.htm"]
 ["close"]
 )";
 
-TEST_F(ReplayTool, makesADocumentSetFromACallStream) {
+TEST_F(ReplayTool, CreatesADocumentSetFromACallStream) {
     const ToolResult result = run({"-"},
                                   "[\"create\",\"rep.htm\"]\n[\"insertText\",\"Hello\"]\n"
                                   "[\"close\"]\n");
@@ -75,7 +75,7 @@ TEST_F(ReplayTool, makesADocumentSetFromACallStream) {
     EXPECT_TRUE(exists("rep_cnt.htm"));
 }
 
-TEST_F(ReplayTool, namesThePageToOpen) {
+TEST_F(ReplayTool, NamesThePageToOpen) {
     const std::string calls = "[\"create\",\"new/rep.htm\"]\n[\"insertText\",\"x\"]\n[\"close\"]\n";
     makeDirectory("new");
     EXPECT_THAT(run({"--set", "Html.ScriptNavigator=true", "-"}, calls).errors,
@@ -86,14 +86,14 @@ TEST_F(ReplayTool, namesThePageToOpen) {
                 EndsWith("\ndochtml-replay: open new/rep.htm\n"));
 }
 
-TEST_F(ReplayTool, saysNothingWhenQuiet) {
+TEST_F(ReplayTool, PrintsNothingWhenQuiet) {
     dir_.put("calls", "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
     const ToolResult result = run({"-q", "calls"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors, "");
 }
 
-TEST_F(ReplayTool, replaysItsOwnRecordingToTheSameBytes) {
+TEST_F(ReplayTool, ReplaysItsOwnRecordingToTheSameBytes) {
     makeDirectory("first");
     makeDirectory("second");
     dir_.put("calls", report);
@@ -111,7 +111,7 @@ TEST_F(ReplayTool, replaysItsOwnRecordingToTheSameBytes) {
     EXPECT_EQ(filesIn("second"), files);
 }
 
-TEST_F(ReplayTool, replaysARecordingOfEveryLevelAndRecordsItAgain) {
+TEST_F(ReplayTool, ReplaysARecordingOfEveryLevelAndRecordsItAgain) {
     dir_.put("calls", report);
     run({"--trace", "11", "--log", "trace.txt", "-o", "rep.htm", "calls"});
     const std::string trace = lines("trace.txt");
@@ -121,7 +121,7 @@ TEST_F(ReplayTool, replaysARecordingOfEveryLevelAndRecordsItAgain) {
     EXPECT_EQ(lines("again.txt"), trace);
 }
 
-TEST_F(ReplayTool, makesTheSameBytesInEveryRun) {
+TEST_F(ReplayTool, WritesTheSameBytesInEveryRun) {
     makeDirectory("first");
     makeDirectory("second");
     dir_.put("calls", report);
@@ -131,7 +131,7 @@ TEST_F(ReplayTool, makesTheSameBytesInEveryRun) {
     EXPECT_THAT(content("first/rep_dtl.htm"), HasSubstr("01/01/70"));
 }
 
-TEST_F(ReplayTool, tellsWhereAReplayDiverges) {
+TEST_F(ReplayTool, ReportsWhereAReplayDiverges) {
     const ToolResult result = run({"-q", "-"},
                                   "dochtml->create(\"rep.htm\");\n"
                                   "dochtml->startTable();\n"
@@ -146,7 +146,7 @@ TEST_F(ReplayTool, tellsWhereAReplayDiverges) {
     EXPECT_THAT(content("rep_dtl2.htm"), HasSubstr("x"));
 }
 
-TEST_F(ReplayTool, takesSettingsFromTheStoreAndOverIt) {
+TEST_F(ReplayTool, TakesSettingsFromTheStoreAndOverIt) {
     dir_.put("store.ini", "[Html]\nNavig=2\nBodyTags=STORED\nHtmlPixDir=p\n");
     const ToolResult result = run({"-q", "--settings", "store.ini", "--set", "Html.BodyTags=FIRST",
                                    "--set", "Html.BodyTags=\xC3\xA9", "-"},
@@ -156,7 +156,7 @@ TEST_F(ReplayTool, takesSettingsFromTheStoreAndOverIt) {
     EXPECT_TRUE(exists("p/backOFF.gif"));
 }
 
-TEST_F(ReplayTool, takesTheInstallationDirectoryOfTheStoreAndTheCommandLine) {
+TEST_F(ReplayTool, TakesTheInstallationDirectoryOfTheStoreAndTheCommandLine) {
     makeDirectory("stored");
     makeDirectory("given");
     dir_.put("stored/default.css", "stored");
@@ -169,7 +169,7 @@ TEST_F(ReplayTool, takesTheInstallationDirectoryOfTheStoreAndTheCommandLine) {
     EXPECT_EQ(content("default.css"), "given");
 }
 
-TEST_F(ReplayTool, takesTheIniFile) {
+TEST_F(ReplayTool, UsesTheIniFile) {
     dir_.put("own.ini", "[Quillmark]\nUseJavaPre7=TRUE\n");
     run({"-q", "--ini", "own.ini", "-"}, "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
     EXPECT_FALSE(exists("toc2.jnlp"));
@@ -177,7 +177,7 @@ TEST_F(ReplayTool, takesTheIniFile) {
     EXPECT_TRUE(exists("toc2.jnlp"));
 }
 
-TEST_F(ReplayTool, takesIconsFromTheModelAndRegionsFromImageMaps) {
+TEST_F(ReplayTool, TakesIconsFromTheModelAndRegionsFromImageMaps) {
     dir_.put("model.json", R"({"schemaType": 1, "elements": {"0x0000000700000005":
         {"class": "Operation", "attributes": {"visibility": "public"}}}})");
     dir_.put("maps.json", R"({"a.gif": ["A", "Page 1", "1,2,3,4"]})");
@@ -192,12 +192,12 @@ TEST_F(ReplayTool, takesIconsFromTheModelAndRegionsFromImageMaps) {
     EXPECT_THAT(content("rep_dtl.htm"), HasSubstr("<MAP NAME=\"map0\">"));
 }
 
-TEST_F(ReplayTool, printsWhatOperationsAnswer) {
+TEST_F(ReplayTool, PrintsWhatOperationsReturn) {
     const ToolResult result = run({"-q", "-"}, "[\"getDocType\"]\n[\"getPropPages\"]\n");
     EXPECT_EQ(result.output, "Html\n{474BDD93-0170-11D3-A6BF-00104B2AEFE1}\n");
 }
 
-TEST_F(ReplayTool, playsSeveralFilesIntoOneDocument) {
+TEST_F(ReplayTool, PlaysSeveralFilesIntoOneDocument) {
     dir_.put("a", "[\"create\",\"rep.htm\"]\n[\"insertText\",\"one\"]\n");
     dir_.put("b", "dochtml->insertText(\"two\");\n");
     const ToolResult result = run({"-q", "a", "b", "-"}, "[\"close\"]\n");
@@ -205,7 +205,7 @@ TEST_F(ReplayTool, playsSeveralFilesIntoOneDocument) {
     EXPECT_THAT(content("rep_dtl.htm"), HasSubstr(">onetwo"));
 }
 
-TEST_F(ReplayTool, makesAFreshObjectWhenAsked) {
+TEST_F(ReplayTool, CreatesANewObjectOnRequest) {
     run({"-q", "-"},
         "[\"create\",\"a.htm\"]\n[\"insertPageBreak\"]\n[\"close\"]\n[\"new\"]\n"
         "[\"create\",\"b.htm\"]\n[\"close\"]\n");
@@ -213,14 +213,14 @@ TEST_F(ReplayTool, makesAFreshObjectWhenAsked) {
     EXPECT_FALSE(exists("b_dtl2.htm"));
 }
 
-TEST_F(ReplayTool, endsADocumentThatWasNotClosed) {
+TEST_F(ReplayTool, ClosesADocumentThatWasNotClosed) {
     const ToolResult result =
         run({"-q", "-"}, "[\"create\",\"rep.htm\"]\n[\"insertText\",\"left open\"]\n");
     EXPECT_EQ(result.status, 0);
     EXPECT_THAT(content("rep_dtl.htm"), HasSubstr("left open"));
 }
 
-TEST_F(ReplayTool, stopsAtAMalformedLineWithAllThatWasDrivenOnDisk) {
+TEST_F(ReplayTool, StopsAtAMalformedLineWithAllEarlierCallsOnDisk) {
     dir_.put("calls",
              "[\"create\",\"rep.htm\"]\n[\"insertText\",\"kept\"]\n"
              "[\"insertText\",\"a\",\"b\"]\n[\"insertText\",\"lost\"]\n");
@@ -237,15 +237,15 @@ TEST_F(ReplayTool, stopsAtAMalformedLineWithAllThatWasDrivenOnDisk) {
     EXPECT_THAT(lines("trace.txt"), HasSubstr("dochtml->close();"));
 }
 
-TEST_F(ReplayTool, tellsThatCreateFailed) {
+TEST_F(ReplayTool, ReportsThatCreateFailed) {
     const ToolResult result =
         run({"-q", "--set", "Html.StyleSheet=/none/x.css", "-"}, "[\"create\",\"rep.htm\"]\n");
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors, "dochtml-replay: Html style sheet does not exist. /none/x.css\n");
 }
 
-TEST_F(ReplayTool, tellsThatAPageCouldNotBeWrittenAndGoesOn) {
-    // A directory in the place of the page's file stops it for every user.
+TEST_F(ReplayTool, ReportsThatAPageCouldNotBeWrittenAndContinues) {
+    // A directory with the name of the page's file prevents writing for every user.
     makeDirectory("rep_dtl.htm");
     const ToolResult result =
         run({"--exceptions", "exceptions.txt", "-"},
@@ -258,7 +258,7 @@ TEST_F(ReplayTool, tellsThatAPageCouldNotBeWrittenAndGoesOn) {
     EXPECT_THAT(content("exceptions.txt"), HasSubstr("Exception catch: Error opening file: "));
 }
 
-TEST_F(ReplayTool, countsWarningsWithoutFailing) {
+TEST_F(ReplayTool, CountsWarningsWithoutFailing) {
     const ToolResult result = run({"-"},
                                   "[\"create\",\"rep.htm\"]\n"
                                   "[\"insertImage\",\"none.gif\",\"\"]\n"
@@ -267,7 +267,7 @@ TEST_F(ReplayTool, countsWarningsWithoutFailing) {
     EXPECT_THAT(result.errors, HasSubstr("2 unresolved references, 0 errors, 1 warning\n"));
 }
 
-TEST_F(ReplayTool, namesTheFirstThreeFindingsAndAllWhenVerbose) {
+TEST_F(ReplayTool, NamesTheFirstThreeFindingsAndAllWhenVerbose) {
     std::string calls = "[\"create\",\"rep.htm\"]\n";
     for (const char* const name : {"1", "2", "3", "4"}) {
         calls += std::string("[\"insertImage\",\"") + name + ".gif\",\"\"]\n" +
@@ -294,7 +294,7 @@ TEST_F(ReplayTool, namesTheFirstThreeFindingsAndAllWhenVerbose) {
     EXPECT_THAT(all, Not(HasSubstr("--verbose")));
 }
 
-TEST_F(ReplayTool, failsForWarningsAndUnresolvedReferencesWhenStrict) {
+TEST_F(ReplayTool, FailsForWarningsAndUnresolvedReferencesWhenStrict) {
     const std::string start = "[\"create\",\"rep.htm\"]\n[\"insertText\",\"x\"]\n";
     const std::string end = "[\"close\"]\n";
     EXPECT_EQ(run({"-q", "--strict", "-"}, start + end).status, 0);
@@ -310,7 +310,7 @@ TEST_F(ReplayTool, failsForWarningsAndUnresolvedReferencesWhenStrict) {
     EXPECT_EQ(run({"-q", "--strict", "--set", "Html.None=1", "-"}, start + end).status, 1);
 }
 
-TEST_F(ReplayTool, failsWhenAFileThatExistsCannotBeCopied) {
+TEST_F(ReplayTool, FailsWhenAFileThatExistsCannotBeCopied) {
     // A directory in the place of the copy stops it for every user.
     makeDirectory("default.css");
     const ToolResult result = run({"-q", "-"}, "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
@@ -320,7 +320,7 @@ TEST_F(ReplayTool, failsWhenAFileThatExistsCannotBeCopied) {
     EXPECT_THAT(result.errors, HasSubstr(": "));
 }
 
-TEST_F(ReplayTool, refusesADirectoryAsOutput) {
+TEST_F(ReplayTool, RefusesADirectoryAsOutput) {
     makeDirectory("there");
     dir_.put("calls", "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
     for (const char* const name : {"newdir/", "there"}) {
@@ -332,7 +332,7 @@ TEST_F(ReplayTool, refusesADirectoryAsOutput) {
     EXPECT_FALSE(exists("there.htm"));
 }
 
-TEST_F(ReplayTool, refusesADirectoryAsAnyOfItsFiles) {
+TEST_F(ReplayTool, RefusesADirectoryAsAnyOfItsFiles) {
     makeDirectory("there");
     dir_.put("calls", "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
     for (const char* const option : {"--settings", "--model", "--image-maps"}) {
@@ -342,7 +342,7 @@ TEST_F(ReplayTool, refusesADirectoryAsAnyOfItsFiles) {
     }
 }
 
-TEST_F(ReplayTool, explainsACallStreamToWhoWritesSomethingElse) {
+TEST_F(ReplayTool, ExplainsACallStreamToWhoWritesSomethingElse) {
     for (const char* const input : {"{\"create\":\"rep.htm\"}\n", "\n# my calls\n[\"close\"]\n"}) {
         const ToolResult result = run({"-q", "-"}, input);
         EXPECT_EQ(result.status, 2);
@@ -350,25 +350,25 @@ TEST_F(ReplayTool, explainsACallStreamToWhoWritesSomethingElse) {
     }
 }
 
-TEST_F(ReplayTool, warnsOfAnUnknownSettingAlsoWhenQuiet) {
+TEST_F(ReplayTool, WarnsOfAnUnknownSettingAlsoWhenQuiet) {
     const ToolResult result = run({"-q", "--set", "Html.None=1", "-"}, "");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors, "dochtml-replay: warning: there is no setting Html.None\n");
 }
 
-TEST_F(ReplayTool, makesLogFilesOnlyWhenSomethingIsWritten) {
+TEST_F(ReplayTool, CreatesLogFilesOnlyWhenSomethingIsWritten) {
     run({"-q", "--trace", "10", "--log", "trace.txt", "--exceptions", "exceptions.txt", "-"},
         "[\"insertMark\",1,false]\n");
     EXPECT_FALSE(exists("trace.txt"));
     EXPECT_FALSE(exists("exceptions.txt"));
 }
 
-TEST_F(ReplayTool, makesTheDirectoryOfALog) {
+TEST_F(ReplayTool, CreatesTheDirectoryOfALog) {
     run({"-q", "--trace", "10", "--log", "logs/trace.txt", "-"}, "[\"insertEndl\"]\n");
     EXPECT_EQ(lines("logs/trace.txt").substr(0, 23), "dochtml->insertEndl();\n");
 }
 
-TEST_F(ReplayTool, tellsThatALogCannotBeWritten) {
+TEST_F(ReplayTool, ReportsThatALogCannotBeWritten) {
     dir_.put("file", "");
     const ToolResult result = run({"-q", "--trace", "10", "--log", "file/trace.txt", "-"}, report);
     EXPECT_EQ(result.status, 1);
@@ -376,7 +376,7 @@ TEST_F(ReplayTool, tellsThatALogCannotBeWritten) {
     EXPECT_THAT(result.errors, HasSubstr("file/trace.txt: "));
 }
 
-TEST_F(ReplayTool, refusesBadUsageBeforeAnythingIsDriven) {
+TEST_F(ReplayTool, RefusesBadUsageBeforeTheFirstCall) {
     dir_.put("calls", "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
     const std::map<std::vector<std::string>, std::string> cases = {
         {{}, "no calls given; try --help"},
@@ -397,7 +397,7 @@ TEST_F(ReplayTool, refusesBadUsageBeforeAnythingIsDriven) {
     EXPECT_FALSE(exists("rep_dtl.htm"));
 }
 
-TEST_F(ReplayTool, tellsItsVersionAndItsUse) {
+TEST_F(ReplayTool, ShowsItsVersionAndItsHelp) {
     const ToolResult version = run({"--version"});
     EXPECT_EQ(version.status, 0);
     EXPECT_EQ(version.output, "dochtml-replay 2.1.0\n");
@@ -406,7 +406,7 @@ TEST_F(ReplayTool, tellsItsVersionAndItsUse) {
     EXPECT_THAT(help.output, HasSubstr("Usage: dochtml-replay [OPTIONS] CALLS..."));
 }
 
-TEST_F(ReplayTool, playsNothingFromAnEmptyInput) {
+TEST_F(ReplayTool, PlaysNothingFromAnEmptyInput) {
     const ToolResult result = run({"-"}, "\n  \n");
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.errors,

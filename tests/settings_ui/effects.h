@@ -10,13 +10,13 @@ namespace quillmark {
 /// What a document shows when one setting of the page differs from its default.
 struct Effect {
     const char* setting;
-    /// As the settings tool takes it; "%" stands for the directory of the scene.
+    /// In the form of the settings tool; "%" means the directory of the scene.
     const char* value;
-    /// The control that carries it.
+    /// The control that edits it.
     int control;
     /// The file of the document set that shows it.
     const char* file;
-    /// The text in it that comes or goes; empty when the file itself does.
+    /// The text in it that appears or disappears; empty when the file itself does.
     const char* text;
     bool comes;
 
@@ -25,11 +25,11 @@ struct Effect {
     }
 };
 
-/// One for every setting that a person can reach on the page.
+/// One for every setting that a user can reach on the page.
 [[nodiscard]] std::span<const Effect> effects() noexcept;
 
-/// A scratch directory with an installation, files of a user's own, and the calls of a report
-/// that shows every setting.
+/// A temporary directory with an installation, files of a user, and the calls of a report that
+/// shows every setting.
 class EffectScene {
 public:
     explicit EffectScene(const std::string& name);
@@ -46,9 +46,9 @@ public:
     /// The effect's value with the scene's directory in it.
     [[nodiscard]] std::string valueOf(const Effect& effect) const;
 
-    /// Makes room for another document.
+    /// Removes the document set, so that another can be written.
     void clear() const;
-    /// Whether the document set that is there shows what the effect is about.
+    /// Whether the document set shows the effect.
     [[nodiscard]] bool shows(const Effect& effect) const;
 
 private:

@@ -114,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, HeadingLevel,
                                          LevelCase{"7th", "7"}, LevelCase{" 12", "12"},
                                          LevelCase{"+9", "9"}, LevelCase{"4294967296", ""},
                                          LevelCase{"99999999999999999999", ""},
-                                         // 256 characters are read: the two last of these are not.
+                                         // 256 characters are read: not the last two of these.
                                          LevelCase{std::string(256, '0') + "51", "0"},
                                          LevelCase{std::string(254, '0') + "51", ""}));
 
@@ -141,7 +141,7 @@ TEST_F(PageApplyTest, ADriveQualifiedImagesDirectoryMustExist) {
     EXPECT_EQ(kept("ExternalDocDir"), "(nothing)");
 }
 
-TEST_F(PageApplyTest, AFileIsNoImagesDirectory) {
+TEST_F(PageApplyTest, AFileIsNotAnImagesDirectory) {
     controls.setText(5601, makeFile("plain"));
     EXPECT_FALSE(page.apply());
 }
@@ -165,7 +165,7 @@ TEST_F(PageApplyTest, AStyleSheetMustExist) {
     EXPECT_EQ(kept("IconFile"), "(nothing)");
 }
 
-TEST_F(PageApplyTest, ADirectoryIsNoStyleSheet) {
+TEST_F(PageApplyTest, ADirectoryIsNotAStyleSheet) {
     controls.setText(5205, makeDirectory("d.css"));
     EXPECT_FALSE(page.apply());
 }

@@ -18,8 +18,8 @@
 
 namespace quillmark {
 
-/// A page with controls and a host in memory, a recording store in force, and a scratch directory
-/// that has a drive-qualified name on every system.
+/// A page with controls and a host in memory, a recording store as the current one, and a temporary
+/// directory that has a drive-qualified name on every system.
 class PageTest : public testing::Test {
 protected:
     PageTest() {

@@ -116,7 +116,7 @@ TEST_F(PageLoadTest, TheHeadingLevelIsShownAsASignedNumberEvenOutsideItsRange) {
     EXPECT_EQ(shown(control::headingLevel), "-4");
 }
 
-TEST_F(PageLoadTest, AHeadingLevelThatIsNoNumberIsShownAsZero) {
+TEST_F(PageLoadTest, AHeadingLevelThatIsNotANumberIsShownAsZero) {
     put("Html", "TOCLevel", "deep");
     load();
     EXPECT_EQ(shown(control::headingLevel), "0");

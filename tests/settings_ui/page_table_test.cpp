@@ -36,7 +36,7 @@ const char* kindName(ControlKind kind) {
     return "?";
 }
 
-TEST(PageTable, HoldsTheControlsInTabOrder) {
+TEST(PageTable, ContainsTheControlsInTabOrder) {
     std::string all;
     for (const PageControl& row : pageControls()) {
         all += std::to_string(row.id) + " " + kindName(row.kind) + " " + row.text + " " +
@@ -82,7 +82,7 @@ TEST(PageTable, GivesNoIdentifierTwice) {
     }
 }
 
-TEST(PageTable, NamesOnlySettingsThatThereAre) {
+TEST(PageTable, NamesOnlyKnownSettings) {
     for (const PageControl& row : pageControls()) {
         if (row.setting != nullptr) {
             EXPECT_NE(findSetting(htmlGroup, row.setting), nullptr) << row.setting;
@@ -110,7 +110,7 @@ TEST(PageTable, ALabelHasNoRowOfItsOwn) {
 
 using DefaultTest = PageTest;
 
-TEST_F(DefaultTest, OfTheStyleSheetLiesInTheInstallationDirectory) {
+TEST_F(DefaultTest, OfTheStyleSheetIsInTheInstallationDirectory) {
     put("Settings", "InstallDir", "C:\\inst");
     EXPECT_EQ(defaultValue("Html", "StyleSheet").asString(), "C:\\inst\\default.css");
     put("Settings", "InstallDir", "C:\\inst\\");

@@ -8,7 +8,7 @@
 
 namespace quillmark {
 
-/// A host that writes down what the page asks of it, and answers as the test tells it to.
+/// A host that records what the page asks of it and answers as the test specifies.
 class RecordingHost : public PageHost {
 public:
     void showMessage(const OrxString& text, const OrxString& title) override {

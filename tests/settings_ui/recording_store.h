@@ -9,7 +9,7 @@
 
 namespace quillmark {
 
-/// A store in memory that writes down what is asked of it.
+/// A store in memory that records its calls.
 class RecordingStore : public SettingsStore {
 public:
     [[nodiscard]] std::optional<OrxString> read(const OrxString& group,

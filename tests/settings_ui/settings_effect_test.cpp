@@ -12,7 +12,8 @@ namespace quillmark {
 
 namespace {
 
-/// A store and a report; the tool changes the store, and the replay tool makes the report.
+/// A store and a report. The settings tool changes the store, and the replay tool writes the
+/// report.
 class SettingsEffect : public testing::TestWithParam<Effect> {
 protected:
     SettingsEffect() { set("Settings.InstallDir=" + scene_.installDir()); }
@@ -33,7 +34,7 @@ protected:
         const std::string command = quoted(program) + " --quiet --settings " + quoted(store()) +
                                     " --drive " + quoted("C=" + scene_.directory().string()) + " " +
                                     quoted(scene_.calls().string());
-        // Where names have backslashes the command interpreter takes a pair of quotes away.
+        // The command interpreter of Windows removes one pair of quotes.
         const bool takesQuotes = std::filesystem::path::preferred_separator == '\\';
         EXPECT_EQ(std::system(takesQuotes ? quoted(command).c_str() : command.c_str()), 0);
         return scene_.shows(GetParam());

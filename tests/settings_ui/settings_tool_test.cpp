@@ -4,10 +4,9 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
-#include <vector>
+
+#include "settings_ui/settings_tool_fixture.h"
 
 namespace quillmark {
 
@@ -16,58 +15,19 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-/// The tool on an INI file of the test's own.
-class SettingsToolTest : public testing::Test {
-protected:
-    SettingsToolTest() { std::filesystem::create_directories(directory_); }
-    ~SettingsToolTest() override { std::filesystem::remove_all(directory_); }
-
-    int run(std::vector<std::string> arguments, const std::string& input = {}) {
-        arguments.insert(arguments.begin(), {"--settings", store()});
-        return runBare(arguments, input);
-    }
-    int runBare(const std::vector<std::string>& arguments, const std::string& input = {}) {
-        std::istringstream in(input);
-        std::ostringstream outStream;
-        std::ostringstream errorStream;
-        const ToolStatus status = runSettingsTool(
-            arguments, {in, outStream, errorStream, (directory_ / "bin/tool").string()});
-        out = outStream.str();
-        errors = errorStream.str();
-        return static_cast<int>(status);
-    }
-    void keep(const std::string& text) const { std::ofstream(store(), std::ios::binary) << text; }
-    [[nodiscard]] std::string kept() const {
-        std::ifstream in(store(), std::ios::binary);
-        std::string text{std::istreambuf_iterator<char>(in), {}};
-        std::erase(text, '\r');
-        return text;
-    }
-    [[nodiscard]] std::string store() const { return (directory_ / "settings.ini").string(); }
-    [[nodiscard]] std::filesystem::path directory() const { return directory_; }
-
-    std::string out;
-    std::string errors;
-
-private:
-    static std::string uniqueName() {
-        return std::string("quillmark_settings_tool_") +
-               testing::UnitTest::GetInstance()->current_test_info()->name();
-    }
-    std::filesystem::path directory_ = std::filesystem::temp_directory_path() / uniqueName();
-};
-
 TEST_F(SettingsToolTest, ListShowsEverySettingWithValueDefaultAndMeaning) {
     keep("[Html]\nTOCLevel=7\n");
     EXPECT_EQ(run({"list"}), 0);
-    EXPECT_THAT(out, StartsWith("Html.HtmlPixDir=pix\n"
+    EXPECT_THAT(out, StartsWith("Kept in " + store() +
+                                "\n"
+                                "Html.HtmlPixDir=pix\n"
                                 "    default \"pix\", text\n"
                                 "    Directory for pictures, relative to the output directory; "
                                 "made when missing\n"));
     EXPECT_THAT(out, HasSubstr("Html.TOCLevel=7\n    default \"50\", integer\n"));
     EXPECT_THAT(out, HasSubstr("Settings.TestLevel=\n    default \"\", integer\n"));
     EXPECT_THAT(out, HasSubstr("Log.LogName=\n"));
-    EXPECT_EQ(std::ranges::count(out, '\n'), 63);
+    EXPECT_EQ(std::ranges::count(out, '\n'), 64);
     EXPECT_EQ(errors, "");
 }
 
@@ -79,7 +39,7 @@ TEST_F(SettingsToolTest, GetShowsTheStoredValueOrTheDefault) {
     EXPECT_EQ(out, "50\n");
 }
 
-TEST_F(SettingsToolTest, InstalledSupportFilesStandInForTheInstallationDirectory) {
+TEST_F(SettingsToolTest, InstalledSupportFilesReplaceAMissingInstallationDirectory) {
     EXPECT_EQ(run({"get", "StyleSheet"}), 0);
     EXPECT_EQ(out, "default.css\n");
     std::filesystem::create_directories(directory() / "share/dochtml");
@@ -97,7 +57,7 @@ TEST_F(SettingsToolTest, SetWritesTheSettingsNamedAndNoOthers) {
     EXPECT_EQ(errors, "");
 }
 
-TEST_F(SettingsToolTest, SetKeepsWhatElseTheFileHolds) {
+TEST_F(SettingsToolTest, SetKeepsTheRestOfTheFile) {
     keep("; mine\n[Other]\na=b\n[Html]\nTOCLevel=5\n");
     EXPECT_EQ(run({"set", "TOCLevel=6"}), 0);
     EXPECT_EQ(kept(), "; mine\n[Other]\na=b\n[Html]\nTOCLevel=6\n");
@@ -110,7 +70,7 @@ TEST_F(SettingsToolTest, TextsAreUtf8) {
     EXPECT_EQ(out, "caf\xC3\xA9\n");
 }
 
-TEST_F(SettingsToolTest, SetRefusesLettersThatTheCodePageCannotHold) {
+TEST_F(SettingsToolTest, SetRefusesLettersThatTheCodePageCannotRepresent) {
     keep("[Html]\nBodyTags=old\n");
     EXPECT_EQ(run({"set", "TOCLevel=4", "BodyTags=\xE6\x97\xA5\xE6\x9C\xAC"}), 2);
     EXPECT_THAT(errors, StartsWith("dochtml-settings: the driver's 8-bit code page cannot hold "
@@ -128,7 +88,7 @@ TEST_F(SettingsToolTest, SetRefusesAValueOfSeveralLines) {
     EXPECT_EQ(kept(), "[Html]\nBodyTags=old\n");
 }
 
-TEST_F(SettingsToolTest, SetRefusesByThePagesRulesAndInThePagesOrder) {
+TEST_F(SettingsToolTest, SetRefusesByTheRulesAndInTheOrderOfThePage) {
     EXPECT_EQ(run({"set", "TOCLevel=51", "UseRelative=false", "Navig=0"}), 1);
     EXPECT_EQ(errors, "Invalid Value: You must select at least one navigation method.\n");
     EXPECT_EQ(kept(), "");
@@ -137,7 +97,7 @@ TEST_F(SettingsToolTest, SetRefusesByThePagesRulesAndInThePagesOrder) {
     EXPECT_EQ(kept(), "[Html]\nNavig=2\nUseRelative=false\n");
 }
 
-TEST_F(SettingsToolTest, AMissingStyleSheetIsRefusedWithThePagesMessage) {
+TEST_F(SettingsToolTest, AMissingStyleSheetIsRefusedWithTheMessageOfThePage) {
     EXPECT_EQ(run({"set", "StyleSheet=nowhere.css", "BodyTags=class=x"}), 1);
     EXPECT_EQ(errors,
               "Invalid Value: nowhere.css\nFile Not Found.\n"
@@ -145,16 +105,35 @@ TEST_F(SettingsToolTest, AMissingStyleSheetIsRefusedWithThePagesMessage) {
     EXPECT_EQ(kept(), "");
 }
 
-TEST_F(SettingsToolTest, AHeadingLevelWithoutDigitsIsZero) {
-    EXPECT_EQ(run({"set", "TOCLevel=abc"}), 0);
-    EXPECT_EQ(kept(), "[Html]\nTOCLevel=0\n");
+TEST_F(SettingsToolTest, ANumberThatIsNoneIsRefused) {
+    for (const char* const wrong : {"abc", "7th", "", "-", "1.5", " 7"}) {
+        EXPECT_EQ(run({"set", std::string("TOCLevel=") + wrong}), 2);
+        EXPECT_THAT(errors, StartsWith(std::string("dochtml-settings: Html.TOCLevel takes a "
+                                                   "number, not \"") +
+                                       wrong + "\"\n"));
+    }
+    EXPECT_EQ(run({"set", "TestLevel=on"}), 2);
+    EXPECT_EQ(run({"set", "TOCLevel=-1"}), 1);
+    EXPECT_EQ(errors, "Invalid Value: Heading level must fall between 0 and 50.\n");
+    EXPECT_EQ(kept(), "");
+}
+
+TEST_F(SettingsToolTest, ANumberWhoseDefaultIsEmptyCanBeEmptiedAgain) {
+    EXPECT_EQ(run({"set", "TestLevel=1"}), 0);
+    EXPECT_EQ(run({"set", "TestLevel="}), 0);
+    EXPECT_EQ(kept(), "[Settings]\nTestLevel=\n");
+}
+
+TEST_F(SettingsToolTest, BooleansAreStoredAlikeOnThePageAndOffIt) {
+    EXPECT_EQ(run({"set", "SuppressImageMaps=yes", "ScriptNavigator=ON", "ShowIcons=0"}), 0);
+    EXPECT_EQ(kept(), "[Html]\nShowIcons=false\nSuppressImageMaps=true\nScriptNavigator=true\n");
 }
 
 TEST_F(SettingsToolTest, DiagramTypeAndNavigationTakeTheirNumbersOnly) {
     EXPECT_EQ(run({"set", "DiagramType=1", "Navig=3"}), 0);
     EXPECT_EQ(kept(), "[Html]\nNavig=3\nDiagramType=1\n");
     EXPECT_EQ(run({"set", "Navig=4"}), 2);
-    EXPECT_THAT(errors, StartsWith("dochtml-settings: Html.Navig takes a number from 0 to 3, "
+    EXPECT_THAT(errors, StartsWith("dochtml-settings: Html.Navig takes a number from 1 to 3, "
                                    "not \"4\"\n"));
     EXPECT_EQ(run({"set", "DiagramType=2"}), 2);
     EXPECT_EQ(kept(), "[Html]\nNavig=3\nDiagramType=1\n");
@@ -182,6 +161,9 @@ TEST_F(SettingsToolTest, BadUsageChangesNothing) {
 TEST_F(SettingsToolTest, HelpAndVersionAreShown) {
     EXPECT_EQ(runBare({"--help"}), 0);
     EXPECT_THAT(out, StartsWith("Usage: dochtml-settings [OPTIONS] COMMAND\n"));
+    EXPECT_THAT(out, HasSubstr("\nThe settings are kept in "));
+    EXPECT_EQ(run({"--help"}), 0);
+    EXPECT_THAT(out, HasSubstr("\nThe settings are kept in " + store() + "\n"));
     EXPECT_EQ(runBare({"--version"}), 0);
     EXPECT_EQ(out, "dochtml-settings 2.1.0\n");
 }
@@ -202,64 +184,6 @@ TEST_F(SettingsToolTest, AStoreThatCannotBeWrittenIsReported) {
     const std::string below = store() + "/inner.ini";
     EXPECT_EQ(runBare({"--settings", below, "set", "TOCLevel=6"}), 1);
     EXPECT_EQ(errors, "dochtml-settings: cannot write Html.TOCLevel to " + below + "\n");
-}
-
-TEST_F(SettingsToolTest, EditAsksForTheFieldsInTabOrder) {
-    EXPECT_EQ(run({"edit"}, std::string(12, '\n')), 0);
-    EXPECT_EQ(out, "HTML Settings, kept in " + store() +
-                       "\nEnter keeps a value, \"\" empties it, the end of the input keeps the "
-                       "rest.\n\n"
-                       "Images directory [pix]: "
-                       "External documents directory [docs]: "
-                       "Style sheet [default.css]: "
-                       "Use relative directory paths [yes]: "
-                       "Pass through HTML [no]: "
-                       "Support older browsers [no]: "
-                       "\nNavigation\n"
-                       "Table of contents [yes]: "
-                       "Back/next arrows [no]: "
-                       "\nTable of contents\n"
-                       "Show icons [yes]: "
-                       "Heading level [50]: "
-                       "Customized icon file []: "
-                       "Support locate in browser [yes]: "
-                       "\nNothing changed.\n");
-    EXPECT_EQ(kept(), "");
-}
-
-TEST_F(SettingsToolTest, EditAppliesTheWholePage) {
-    EXPECT_EQ(run({"edit"}, "images\r\n\n\"\"\nno\nx\nyes\n"), 0);
-    EXPECT_THAT(out, HasSubstr("Please answer yes or no.\nPass through HTML [no]: "));
-    EXPECT_THAT(out, testing::EndsWith("\nSaved.\n"));
-    EXPECT_EQ(kept(),
-              "[Html]\nNavig=1\nDiagramType=0\nUseRelative=false\nPassThrough=true\n"
-              "SupportOld=false\nLocateInBrowser=true\nShowIcons=true\nTOCLevel=50\n"
-              "HtmlPixDir=images\nExternalDocDir=docs\nStyleSheet=\nIconFile=\n");
-}
-
-TEST_F(SettingsToolTest, EditSavesTheDocumentsDirectoryToo) {
-    keep("[Html]\nStyleSheet=\n");
-    EXPECT_EQ(run({"edit"}, "\npapers\n"), 0);
-    EXPECT_THAT(kept(), HasSubstr("\nExternalDocDir=papers\n"));
-}
-
-TEST_F(SettingsToolTest, EditStepsTheHeadingLevelAndTakesDigitsOnly) {
-    keep("[Html]\nStyleSheet=\n");
-    EXPECT_EQ(run({"edit"}, std::string(9, '\n') + "deep\n+\n"), 0);
-    EXPECT_THAT(out, HasSubstr("Please give digits only, or + or - for a step.\n"));
-    EXPECT_THAT(kept(), HasSubstr("\nTOCLevel=0\n"));
-    EXPECT_EQ(run({"edit"}, std::string(9, '\n') + "-\n"), 0);
-    EXPECT_THAT(kept(), HasSubstr("\nTOCLevel=50\n"));
-}
-
-TEST_F(SettingsToolTest, EditAsksAgainAfterARefusalWhileThereIsInput) {
-    keep("[Html]\nStyleSheet=\n");
-    EXPECT_EQ(run({"edit"}, std::string(9, '\n') + "51\n"), 1);
-    EXPECT_EQ(errors, "Invalid Value: Heading level must fall between 0 and 50.\n");
-    EXPECT_THAT(kept(), testing::Not(HasSubstr("TOCLevel")));
-    EXPECT_EQ(run({"edit"}, std::string(9, '\n') + "51\n\n\n" + std::string(9, '\n') + "4\n"), 0);
-    EXPECT_THAT(out, HasSubstr("Heading level [51]: "));
-    EXPECT_THAT(kept(), HasSubstr("\nTOCLevel=4\n"));
 }
 
 }  // namespace

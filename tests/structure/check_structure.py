@@ -47,6 +47,10 @@ FOLDERS_IN_ORDER = {
     "navigator": ("text", "data", "index", "entries", ""),
     "driver": ("boundary", "pages", "links", "text", "files", ""),
     "settings_ui": ("", "tool", "windows"),
+    "component": (
+        "module", "services", "object", "registration", "include", "posix", "windows", "client",
+        "tool", "",
+    ),
     "replay": ("input", "services", "play", "tool"),
 }
 
@@ -61,6 +65,8 @@ SYSTEM_FOLDERS = (
     "src/component/client/windows/",
     "src/component/tool/posix/",
     "src/settings_ui/windows/",
+    "src/settings_ui/tool/posix/",
+    "src/settings_ui/tool/windows/",
 )
 # The wrapper of the Windows headers; public headers of the component stand on their own.
 WINDOWS_API_HEADER = "src/platform/windows/windows_api.h"

@@ -5,6 +5,7 @@ import os
 import sysconfig
 from pathlib import Path
 
+from .errors import ComponentError
 from .ini import IniFile
 
 LIBRARY = "libdochtmlcom.so"
@@ -54,7 +55,12 @@ def registered_library(program: str) -> Path | None:
         current = classes.value(rf"{program}\CurVer", "@")
         class_id = classes.value(rf"{current}\CLSID", "@") if current else None
     file = classes.value(rf"CLSID\{class_id}\InprocServer32", "@") if class_id else None
-    return Path(file.replace(r"\\", "\\")) if file else None
+    if not file:
+        return None
+    # The system would look for a relative one where others may have put a library of that name.
+    if not os.path.isabs(file):
+        raise ComponentError(f"the registered component {file} is not an absolute path")
+    return Path(file.replace(r"\\", "\\"))
 
 
 def user_settings() -> IniFile:

@@ -44,6 +44,19 @@ def test_a_registered_one_is_found(work: Path, python: Run) -> None:
     assert python(ALONE, **environment).stdout == f"{copy}\n"
 
 
+def test_a_registered_one_without_its_directory_is_refused(work: Path, python: Run) -> None:
+    copy = Path(shutil.copy(COMPONENT, work / "registered.so"))
+    environment = {"XDG_DATA_HOME": str(work / "data")}
+    register = os.environ["DOCHTML_TEST_REGISTER"]
+    subprocess.run([register, copy], env={**os.environ, **environment}, check=True)
+    classes = work / "data" / "quillmark" / "classes.ini"
+    text = classes.read_text(encoding="utf-8")
+    classes.write_text(text.replace(str(copy), copy.name), encoding="utf-8")
+    assert python(ALONE, **environment).stdout == (
+        "refused: the registered component registered.so is not an absolute path\n"
+    )
+
+
 def test_without_one_it_says_what_to_install(python: Run) -> None:
     assert python(ALONE).stdout == (
         "refused: the component libdochtmlcom.so is not on this machine: install the package "

@@ -9,9 +9,10 @@
 namespace quillmark {
 namespace {
 
-/// The components that a C host has asked for; it has nothing to hold them by. Only those that hold
-/// their library themselves are kept: what the system found by name belongs to the apartment of
-/// the thread that asked, and the system remembers it as long as that lasts.
+/// Keeps the components that a C host uses, because the host itself has no object for them. Keeps
+/// only those that hold their library themselves. A component that the system found by name
+/// belongs to the apartment of the calling thread, and the system keeps it as long as that
+/// apartment exists.
 class OpenComponents {
 public:
     using Open = Component (*)(const std::string& name);
@@ -41,7 +42,7 @@ Component openLibrary(const std::string& file) {
     return Component::fromLibrary(file);
 }
 
-// Never destroyed: a document may live until the very end of the process.
+// Never destroyed, because a document may exist until the process ends.
 OpenComponents& componentsByName() {
     static OpenComponents& components = *new OpenComponents(&Component::byName);
     return components;
@@ -67,8 +68,8 @@ HRESULT guarded(const char* name, void* out, Body&& body) noexcept {
     }
 }
 
-/// The thread's apartment, from its first `dochtml_initialize` to the `dochtml_uninitialize` that
-/// belongs to it.
+/// The thread's apartment, from its first `dochtml_initialize` to the matching
+/// `dochtml_uninitialize`.
 class NestedApartment {
 public:
     void enter() {

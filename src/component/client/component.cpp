@@ -13,7 +13,7 @@ ComPointer<::IDocument> Component::createDocument() const {
     ComPointer<::IDocument> document;
     const HRESULT result = factory_->CreateInstance(nullptr, IID_IDocument, document.receive());
     if (FAILED(result)) {
-        throw ComponentError("the component makes no document", result);
+        throw ComponentError("the component could not create a document", result);
     }
     return document;
 }

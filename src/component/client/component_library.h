@@ -2,15 +2,16 @@
 
 #include <string>
 
+#include "component/client/shared_library.h"
 #include "dochtml/client.h"
 
 namespace quillmark {
 
-/// A component's library file, loaded. It is unloaded at the end when nothing of it is alive.
+/// A loaded component library. The destructor unloads it unless any of its objects is alive.
 class Component::Library {
 public:
     /// Throws `ComponentError`.
-    explicit Library(const std::string& file);
+    explicit Library(const std::string& file) : file_(file) {}
     Library(const Library&) = delete;
     Library& operator=(const Library&) = delete;
     ~Library();
@@ -19,9 +20,7 @@ public:
     [[nodiscard]] ComPointer<IClassFactory> classObject(const CLSID& classId) const;
 
 private:
-    [[nodiscard]] void* find(const char* name) const noexcept;
-
-    void* handle_ = nullptr;
+    SharedLibrary file_;
 };
 
 }  // namespace quillmark

@@ -2,17 +2,17 @@
 
 #include <atomic>
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "dochtml/automation.h"
 #include "dochtml/com_pointer.h"
 
 namespace quillmark {
 
-/// Base of the objects that a class makes, alone or inside an outer object.
+/// Base of objects that can be aggregated into an outer object.
 ///
-/// The object's interface passes `IUnknown` on to the outer object, which alone decides identity
-/// and life; the outer object holds the object by its inner unknown. Without an outer object the
-/// inner unknown is the outer one.
+/// The object's interface forwards the functions of `IUnknown` to the outer object, which controls
+/// identity and lifetime. The outer object holds this object through its inner unknown. Without an
+/// outer object, the inner unknown takes its role.
 template <typename Interface>
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): its last release deletes it.
 class AggregableObject : public Interface {
@@ -26,16 +26,16 @@ public:
     ULONG STDMETHODCALLTYPE AddRef() final { return outer_->AddRef(); }
     ULONG STDMETHODCALLTYPE Release() final { return outer_->Release(); }
 
-    /// The unknown that knows the object itself. A new object is counted once for its maker.
+    /// The object's own `IUnknown`. A new object has one reference, which its creator owns.
     [[nodiscard]] IUnknown* innerUnknown() noexcept { return &inner_; }
 
 protected:
-    /// `outer` is not counted: it outlives what it holds.
+    /// Does not count a reference to `outer`, which outlives the objects that it aggregates.
     explicit AggregableObject(IUnknown* outer) noexcept
         : inner_(*this), outer_(outer == nullptr ? &inner_ : outer) {}
     virtual ~AggregableObject() = default;
 
-    /// The interface of that identifier, not counted yet; null when the class has none.
+    /// The interface with that identifier, without counting it. Null when the class lacks it.
     [[nodiscard]] virtual IUnknown* findInterface(REFIID iid) noexcept = 0;
 
 private:
@@ -60,7 +60,7 @@ private:
         ULONG STDMETHODCALLTYPE Release() override {
             const ULONG left = --count_;
             if (left == 0) {
-                // A reference taken and let go of while the object goes must not end it twice.
+                // References taken and released by the destructor must not delete it again.
                 count_ = endingCount;
                 delete &owner_;
             }
@@ -75,19 +75,19 @@ private:
     };
 
     LiveObject live_;
-    ServiceUser user_;
     InnerUnknown inner_;
     IUnknown* outer_;
 };
 
-/// Makes an object for a class object's `CreateInstance`, which says what the arguments are.
+/// Creates an object for `IClassFactory::CreateInstance`, whose parameters come first. The further
+/// arguments go to the object's constructor.
 template <typename Object, typename... Arguments>
 HRESULT createAggregable(IUnknown* outer, REFIID iid, void** object, Arguments&&... arguments) {
     if (object == nullptr) {
         return E_POINTER;
     }
     *object = nullptr;
-    // An outer object must hold the inner unknown, or the identities would run into each other.
+    // Only the inner unknown can be held by an outer object; other interfaces forward to it.
     if (outer != nullptr && !IsEqualIID(iid, IID_IUnknown)) {
         return CLASS_E_NOAGGREGATION;
     }

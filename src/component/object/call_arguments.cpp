@@ -20,7 +20,7 @@ VARTYPE variantTypeOf(ParameterKind kind) noexcept {
     return VT_BSTR;
 }
 
-/// The value as the table takes it; a text stays the variant's.
+/// The value as the operation table takes it. The variant still owns a text.
 Argument argumentOf(const VARIANT& variant) {
     switch (variant.vt) {
         case VT_I2:
@@ -34,7 +34,7 @@ Argument argumentOf(const VARIANT& variant) {
     }
 }
 
-/// Hosts mark an argument that they leave out with this.
+/// Hosts pass this value for an argument that they omit.
 bool isLeftOut(const VARIANT& variant) noexcept {
     return variant.vt == VT_ERROR && variant.scode == DISP_E_PARAMNOTFOUND;
 }
@@ -75,7 +75,7 @@ HRESULT CallArguments::order(const DISPPARAMS& host, UINT* badArgument) {
         (host.cNamedArgs != 0 && host.rgdispidNamedArgs == nullptr)) {
         return E_INVALIDARG;
     }
-    // The named ones stand first, then the others from the last to the first.
+    // The named arguments come first, then the others from last to first.
     for (UINT i = host.cNamedArgs; i < host.cArgs; ++i) {
         slots_[host.cArgs - 1 - i].host = &host.rgvarg[i];
     }
@@ -120,7 +120,7 @@ HRESULT CallArguments::prepareOutText(std::size_t position, LCID locale) {
     if (isReferenceTo(*slot.host, VT_VARIANT)) {
         return VariantClear(slot.host->pvarVal);
     }
-    // A host that passes by value makes the call and cannot see the text.
+    // When the host passes a value, the call is made, but the host does not receive the text.
     return convertVariant(slot.converted.get(), *slot.host, locale, VT_BSTR);
 }
 

@@ -10,18 +10,19 @@
 
 namespace quillmark {
 
-/// The arguments of one late-bound call, brought from a host's variants to what the table of
-/// operations takes. The host's variants are only read, and must outlive this.
+/// Converts the arguments of one late-bound call from the host's variants to the types that the
+/// operation table takes. The host's variants must outlive this object. Only out texts are written
+/// to them.
 class CallArguments {
 public:
     explicit CallArguments(const Operation& operation) noexcept : operation_(operation) {}
 
-    /// Orders and converts. When it fails, `badArgument` (may be null) gets the position of the
-    /// argument at fault in the host's list, where one is.
+    /// Orders and converts the arguments. When an argument causes a failure, `badArgument` (may be
+    /// null) receives its position in the host's list.
     [[nodiscard]] HRESULT read(const DISPPARAMS& host, LCID locale, UINT* badArgument);
     /// The arguments in the operation's order.
     [[nodiscard]] std::span<const Argument> values() const noexcept;
-    /// Puts the operation's out texts where the host wants them.
+    /// Copies the operation's out texts to the variants of the host.
     void handOutTexts();
 
 private:

@@ -1,6 +1,7 @@
 #include "component/object/class_factory.h"
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
+#include "component/services/lent_confinement.h"
 #include "component/services/lent_services.h"
 
 namespace quillmark {
@@ -23,6 +24,8 @@ HRESULT ClassFactory::QueryInterface(REFIID iid, void** object) {
         *object = static_cast<IClassFactory*>(this);
     } else if (IsEqualIID(iid, IID_IHostServices)) {
         *object = static_cast<IHostServices*>(this);
+    } else if (IsEqualIID(iid, IID_IFileConfinement)) {
+        *object = static_cast<IFileConfinement*>(this);
     } else {
         *object = nullptr;
         return E_NOINTERFACE;
@@ -82,6 +85,10 @@ HRESULT ClassFactory::setExceptionLog(const DochtmlExceptionLog* log) {
 
 HRESULT ClassFactory::setObserver(const DochtmlObserver* observer) {
     return runGuarded([&] { return LentServices::module().setObserver(observer); });
+}
+
+HRESULT ClassFactory::setConfinement(const DochtmlConfinement* confinement) {
+    return runGuarded([&] { return setModuleConfinement(confinement); });
 }
 
 }  // namespace quillmark

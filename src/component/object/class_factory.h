@@ -2,20 +2,22 @@
 
 #include <atomic>
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "dochtml/automation.h"
+#include "dochtml/file_confinement.h"
 #include "dochtml/host_services.h"
 
 namespace quillmark {
 
-/// Makes an object of a class for `IClassFactory::CreateInstance`. Must not throw.
+/// Creates an object of a class for `IClassFactory::CreateInstance`. Must not throw.
 using ObjectMaker = HRESULT (*)(IUnknown* outer, REFIID iid, void** object);
 
-/// The class object of one class. Each also offers `IHostServices`, one set for the module.
+/// The class object of one class. Each also offers `IHostServices`; the services are the same for
+/// the whole module.
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): its last release deletes it.
-class ClassFactory final : public IClassFactory, public IHostServices {
+class ClassFactory final : public IClassFactory, public IHostServices, public IFileConfinement {
 public:
-    /// Makes a class object and hands out the interface asked for.
+    /// Creates a class object and returns the requested interface in `object`.
     static HRESULT make(ObjectMaker maker, REFIID iid, void** object);
 
     ClassFactory(const ClassFactory&) = delete;
@@ -37,6 +39,8 @@ public:
     HRESULT STDMETHODCALLTYPE setTraceListener(const DochtmlTraceListener* listener) override;
     HRESULT STDMETHODCALLTYPE setExceptionLog(const DochtmlExceptionLog* log) override;
     HRESULT STDMETHODCALLTYPE setObserver(const DochtmlObserver* observer) override;
+
+    HRESULT STDMETHODCALLTYPE setConfinement(const DochtmlConfinement* confinement) override;
 
 private:
     explicit ClassFactory(ObjectMaker maker) noexcept : maker_(maker) {}

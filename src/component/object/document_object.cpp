@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
 #include "component/object/late_binding.h"
 #include "component/object/type_information.h"
 #include "dochtml/text.h"
@@ -14,14 +14,14 @@ bool isTrue(VARIANT_BOOL value) noexcept {
     return value != VARIANT_FALSE;
 }
 
-/// The address of an identifier as the host passed it. It is a reference in C++ only: a host may
-/// have passed null, which the compiler must not rule out.
+/// The address of an identifier that the host passed. The parameter is a reference only in C++, so
+/// the host may have passed null. This keeps the compiler from assuming the opposite.
 const IID* passedIdentifier(const IID* identifier) noexcept {
     const IID* const volatile passed = identifier;
     return passed;
 }
 
-/// An operation with an out text. Without a place for the text the operation runs all the same.
+/// Runs an operation with an out text. The operation runs even when `text` is null.
 template <typename Body>
 HRESULT runOutOperation(BSTR* out, Body&& body) noexcept {
     if (out != nullptr) {

@@ -2,23 +2,25 @@
 
 #include <memory>
 
+#include "component/module/module_state.h"
 #include "component/object/aggregable_object.h"
 #include "dochtml/document.h"
 #include "driver/boundary/i_document.h"
 
 namespace quillmark {
 
-/// The driver's side of a document: inside the object's class, `IDocument` is the host's side.
+/// The driver's `IDocument`. Inside `DocumentObject` that name means the host's interface.
 using DriverDocument = IDocument;
-/// Makes the driver behind a document object. May throw.
+/// Creates the driver of a document object. May throw.
 using DocumentMaker = std::unique_ptr<DriverDocument> (*)();
 
-/// A document as hosts see it: the 42 operations by table, by dispatch identifier and by name, in
-/// front of one driver. Nothing that the driver throws gets past it.
+/// A document as hosts see it. Hosts call its 42 operations through the function table, by dispatch
+/// identifier or by name, and it passes them to one driver. It lets no exception through.
 // NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor): its last release deletes it.
 class DocumentObject final : public AggregableObject<::IDocument> {
 public:
-    /// Makes an object for `outer` (may be null) and hands out the interface asked for.
+    /// Creates an object, aggregated into `outer` unless that is null, and returns the requested
+    /// interface in `object`.
     static HRESULT make(DocumentMaker maker, IUnknown* outer, REFIID iid, void** object);
 
     DocumentObject(IUnknown* outer, DocumentMaker maker)
@@ -81,6 +83,8 @@ protected:
     [[nodiscard]] IUnknown* findInterface(REFIID iid) noexcept override;
 
 private:
+    /// Declared before the driver, so that the driver may use services until it is destroyed.
+    ServiceUser user_;
     std::unique_ptr<DriverDocument> document_;
 };
 

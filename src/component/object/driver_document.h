@@ -6,7 +6,7 @@
 
 namespace quillmark {
 
-/// A fresh driver for one document.
+/// Creates a driver for one document.
 [[nodiscard]] std::unique_ptr<IDocument> makeDriverDocument();
 
 }  // namespace quillmark

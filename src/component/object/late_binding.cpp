@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
 #include "component/object/call_arguments.h"
 #include "driver/boundary/operation_table.h"
 #include "foundation/ascii.h"
@@ -11,7 +11,7 @@
 namespace quillmark {
 namespace {
 
-/// Compares a host's name with one of the table's, ignoring the case of ASCII letters.
+/// Compares a host's name with one of the table and ignores the case of ASCII letters.
 bool sameName(const OLECHAR* name, std::string_view known) noexcept {
     for (const char character : known) {
         if (ascii::toLower(*name) != ascii::toLower(static_cast<OLECHAR>(character))) {
@@ -70,7 +70,7 @@ HRESULT invokeLateBound(IDocument& document, const LateCall& call) {
     if (!isNone(call.reserved)) {
         return DISP_E_UNKNOWNINTERFACE;
     }
-    // Hosts that look a value up ask for a method and a property at once.
+    // A host that needs a value may ask for a method and a property in one call.
     const Operation* operation = findOperation(static_cast<int>(call.id));
     if (operation == nullptr || (call.flags & DISPATCH_METHOD) == 0) {
         return DISP_E_MEMBERNOTFOUND;

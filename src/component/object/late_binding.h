@@ -5,10 +5,10 @@
 
 namespace quillmark {
 
-/// The arguments of `IDispatch::Invoke` that count here.
+/// The arguments of `IDispatch::Invoke` that are used here.
 struct LateCall {
     DISPID id;
-    /// May be null, which counts as `IID_NULL`.
+    /// Null means `IID_NULL`.
     const IID* reserved;
     LCID locale;
     WORD flags;
@@ -17,15 +17,15 @@ struct LateCall {
     UINT* badArgument;
 };
 
-/// The identifiers of an operation's name and, behind it, of names of its parameters, which are
-/// their positions. Names are matched in any case, as automation does. A name that is not known
-/// gets `DISPID_UNKNOWN`, and the answer is then `DISP_E_UNKNOWNNAME`. A null pointer among the
-/// names is `E_INVALIDARG`. `reserved` may be null, which counts as `IID_NULL`.
+/// Looks up the name of an operation and, after it, names of its parameters. The identifier of a
+/// parameter is its position. Names are not case-sensitive. For an unknown name it sets
+/// `DISPID_UNKNOWN` and returns `DISP_E_UNKNOWNNAME`. A null pointer among the names gives
+/// `E_INVALIDARG`. A null `reserved` means `IID_NULL`.
 [[nodiscard]] HRESULT findDispatchIds(const IID* reserved, LPOLESTR* names, UINT count,
                                       DISPID* ids);
 
-/// Converts the arguments and makes the call. Nothing is called unless every argument fits. The
-/// operation's own failures stay inside: the answer is 0 for every call that was made.
+/// Converts the arguments and makes the call, unless an argument cannot be converted. Returns
+/// `S_OK` for every call that was made: failures of the operation itself are not reported.
 [[nodiscard]] HRESULT invokeLateBound(IDocument& document, const LateCall& call);
 
 }  // namespace quillmark

@@ -4,7 +4,7 @@
 
 namespace quillmark {
 
-/// A variant that lets go of what it holds.
+/// A variant that releases its value in its destructor.
 class OwnedVariant {
 public:
     OwnedVariant() noexcept = default;
@@ -20,9 +20,10 @@ private:
     VARIANT variant_{};
 };
 
-/// Fills the empty `target` with the value of `source`, which may be a reference, as `type`
-/// (`VT_BSTR`, `VT_I2`, `VT_I4` or `VT_BOOL`): a text of digits becomes a number and so on.
-/// Answers `DISP_E_TYPEMISMATCH`, `DISP_E_OVERFLOW` or `DISP_E_BADVARTYPE` when there is no way.
+/// Converts the value of `source`, which may be a reference, to `type` (`VT_BSTR`, `VT_I2`, `VT_I4`
+/// or `VT_BOOL`) and stores it in the empty `target`. For instance, a text of digits becomes a
+/// number. Returns `DISP_E_TYPEMISMATCH`, `DISP_E_OVERFLOW` or `DISP_E_BADVARTYPE` when that is not
+/// possible.
 [[nodiscard]] HRESULT convertVariant(VARIANT& target, const VARIANT& source, LCID locale,
                                      VARTYPE type);
 

@@ -4,9 +4,8 @@
 
 namespace quillmark {
 
-/// Makes a settings page, alone or inside `outer`, and hands out the interface asked for, for a
-/// class object's `CreateInstance`. Where the system has no property pages the answer is
-/// `CLASS_E_CLASSNOTAVAILABLE`.
+/// Creates a settings page, aggregated into `outer` unless that is null, and returns the requested
+/// interface in `object`. Returns `CLASS_E_CLASSNOTAVAILABLE` on systems without property pages.
 [[nodiscard]] HRESULT makePageObject(IUnknown* outer, REFIID iid, void** object) noexcept;
 
 }  // namespace quillmark

@@ -4,14 +4,14 @@
 
 namespace quillmark {
 
-/// What the system can tell of `IDocument`: 1 where it has type libraries, 0 elsewhere.
+/// The result of `IDispatch::GetTypeInfoCount`: 1 on systems with type libraries, 0 elsewhere.
 [[nodiscard]] UINT documentTypeInfoCount() noexcept;
-/// The description of `IDocument` from the library's own type library, counted for the caller.
+/// The description of `IDocument` from the library's own type library. The caller releases it.
 [[nodiscard]] HRESULT documentTypeInfo(LCID locale, ITypeInfo** info);
 
-/// Makes the library's type library known to the system; success where there is none.
+/// Registers the library's type library. Succeeds on systems without type libraries.
 [[nodiscard]] HRESULT registerTypeLibrary();
-/// Takes that back; success when it was not known.
+/// Unregisters it. Succeeds when it is not registered.
 [[nodiscard]] HRESULT unregisterTypeLibrary();
 
 }  // namespace quillmark

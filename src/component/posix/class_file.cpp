@@ -50,7 +50,7 @@ std::string unescaped(std::string_view text) {
     return out;
 }
 
-/// The first key of a path, and what follows it.
+/// The first key of a path and the rest of the path.
 std::pair<std::string, std::string_view> splitPath(std::string_view path) {
     const std::size_t end = path.find('\\');
     if (end == std::string_view::npos) {
@@ -102,7 +102,26 @@ void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree,
     }
 }
 
-/// All of the file: nothing when it cannot be read, an empty text when it is not there.
+/// Whether every key of a path has a name, and there are no more than a registry holds. A file can
+/// have anything, and keys are handled by functions that call themselves.
+bool isKeyPath(std::string_view path) noexcept {
+    constexpr std::ptrdiff_t deepest = 512;
+    return !path.empty() && path.front() != '\\' && path.back() != '\\' &&
+           path.find("\\\\") == std::string_view::npos &&
+           std::count(path.begin(), path.end(), '\\') < deepest;
+}
+
+/// The path in a line such as "[A\B]"; empty when it holds none. Nothing for any other line.
+std::optional<std::string_view> keyPathIn(std::string_view line) noexcept {
+    if (!line.starts_with('[') || !line.ends_with(']')) {
+        return std::nullopt;
+    }
+    const std::string_view path = line.substr(1, line.size() - 2);
+    return isKeyPath(path) ? path : std::string_view();
+}
+
+/// The whole content of the file. Empty when the file does not exist; nothing when it cannot be
+/// read.
 std::optional<std::string> contentOf(const std::filesystem::path& file) {
     struct stat status {};
     if (stat(file.c_str(), &status) != 0) {
@@ -170,15 +189,15 @@ Comments commentsOf(const std::string& content) {
     return comments;
 }
 
-/// The whole file. Comments of sections that are gone are at its end.
+/// The whole file. Comments of sections that are gone move to its start.
 void writeAll(std::ostream& out, const KeyTree& root, Comments comments) {
+    std::ostringstream keys;
+    writeKeys(keys, {}, root, comments);
     out << firstLine << '\n';
-    const auto first = comments.extract(std::string());
-    out << (first.empty() ? std::string() : first.mapped());
-    writeKeys(out, {}, root, comments);
     for (const auto& [section, text] : comments) {
         out << text;
     }
+    out << keys.str();
 }
 
 }  // namespace
@@ -203,8 +222,9 @@ std::optional<KeyTree> readClassFile(const std::filesystem::path& file) {
     KeyTree* key = nullptr;
     for (const std::string& line : lines) {
         const std::size_t equals = line.find('=');
-        if (isSection(line)) {
-            key = &makeKey(root, std::string_view(line).substr(1, line.size() - 2));
+        if (const std::optional<std::string_view> path = keyPathIn(line)) {
+            // The values below a key that cannot be are no other key's.
+            key = path->empty() ? nullptr : &makeKey(root, *path);
         } else if (key != nullptr && equals != std::string::npos && !isComment(line)) {
             const std::string name = line.substr(0, equals);
             key->values[name == defaultValueName ? std::string() : name] = {

@@ -6,18 +6,19 @@
 
 namespace quillmark {
 
-/// The right to change the file of classes, from reading it to putting the new one in its place:
-/// of two who register at once, in one process or two, the second waits for the first. Readers do
-/// not need it.
+/// Locks the class file against other writers. Hold it from reading the file until the changed file
+/// has replaced it. Another registration, in this process or another one, waits meanwhile. Readers
+/// do not need the lock.
 ///
-/// The lock lies on a file beside it, "classes.ini.lock", since every change replaces the file
-/// itself. That file is empty and stays; the lock goes with its holder, whatever happens to it.
+/// The lock is on a separate file, "classes.ini.lock", because every change replaces the class file
+/// itself. The lock file is empty and is never removed. The system releases the lock when its
+/// holder ends, even after a crash.
 class ClassFileLock {
 public:
-    /// Waits. Makes the directory when it is not there.
+    /// Waits for the lock. Creates the directory when it does not exist.
     explicit ClassFileLock(const std::filesystem::path& classFile);
 
-    /// False where the directory cannot be written to or cannot lock.
+    /// False when the directory is not writable or its file system does not support locks.
     [[nodiscard]] bool isHeld() const noexcept { return isHeld_; }
 
 private:

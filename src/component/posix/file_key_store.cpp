@@ -5,13 +5,13 @@
 namespace quillmark {
 namespace {
 
-/// Changes a copy in memory; `commit` puts it in the file's place in one step. Until its end nobody
-/// else changes the file.
+/// Changes a copy in memory. `commit` replaces the file with it in one step. The store locks the
+/// file for its whole lifetime.
 class FileKeyStore final : public ClassKeyStore {
 public:
     explicit FileKeyStore(std::filesystem::path file) : file_(std::move(file)), lock_(file_) {}
 
-    /// Reads the file, under the lock. Before it succeeds the store is of no use.
+    /// Reads the file. Must succeed before the store is used.
     [[nodiscard]] HRESULT load() {
         if (!lock_.isHeld()) {
             return REGDB_E_WRITEREGDB;

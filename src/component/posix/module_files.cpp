@@ -10,7 +10,7 @@ namespace quillmark {
 
 std::string modulePath() {
     Dl_info info{};
-    // Any address of the library's own does.
+    // Any address within the library works.
     if (dladdr(reinterpret_cast<const void*>(&modulePath), &info) == 0) {
         return {};
     }

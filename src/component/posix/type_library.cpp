@@ -1,6 +1,6 @@
 #include "component/object/type_information.h"
 
-// There are no type libraries here: hosts ask the interface itself for names and identifiers.
+// This system has no type libraries. Hosts look up names with `IDispatch::GetIDsOfNames`.
 
 namespace quillmark {
 

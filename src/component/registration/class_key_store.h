@@ -12,7 +12,7 @@
 
 namespace quillmark {
 
-/// A value of a key. A text is UTF-8 under every store; other types are kept as they are.
+/// A value of a key. Every store represents text as UTF-8 and keeps other types unchanged.
 struct KeyValue {
     static constexpr std::uint32_t textType = 1;
 
@@ -22,7 +22,7 @@ struct KeyValue {
     friend bool operator==(const KeyValue&, const KeyValue&) = default;
 };
 
-/// Orders names that are the same in any case of their ASCII letters.
+/// Orders names and ignores the case of ASCII letters.
 struct KeyNameOrder {
     [[nodiscard]] bool operator()(const std::string& a, const std::string& b) const noexcept {
         return std::ranges::lexicographical_compare(a, b, {}, ascii::toLower<char>,
@@ -30,8 +30,8 @@ struct KeyNameOrder {
     }
 };
 
-/// A key with all that lies below it. The default value has the empty name. Keys and values are
-/// found by their names in any case; they keep the case that they were made with.
+/// A key with all its values and subkeys. The default value has an empty name. Names are not
+/// case-sensitive, but they keep the case in which they were created.
 struct KeyTree {
     std::map<std::string, KeyValue, KeyNameOrder> values;
     std::map<std::string, KeyTree, KeyNameOrder> children;
@@ -39,27 +39,27 @@ struct KeyTree {
     friend bool operator==(const KeyTree&, const KeyTree&) = default;
 };
 
-/// Where classes are made known: the classes root of the registry, or a file of the user's.
-/// Paths have "\" between keys. Every function answers `S_OK` or a failing result.
+/// Stores the registered classes: the classes root of the registry, or a file of the user. In paths
+/// "\" separates keys. The changing functions return `S_OK` or a failure.
 class ClassKeyStore {
 public:
     virtual ~ClassKeyStore() = default;
 
-    /// The key as it is, or nothing when it is not there.
+    /// The key with its subkeys, or nothing when it does not exist.
     [[nodiscard]] virtual std::optional<KeyTree> read(const std::string& path) const = 0;
-    /// Makes the key and those above it; one that is there is left as it is.
+    /// Creates the key and its parents. Keys that exist stay unchanged.
     [[nodiscard]] virtual HRESULT createKey(const std::string& path) = 0;
     [[nodiscard]] virtual HRESULT setValue(const std::string& path, const std::string& name,
                                            const KeyValue& value) = 0;
-    /// Removes the key and what lies below it; one that is not there counts as removed.
+    /// Removes the key and its subkeys. Succeeds when the key does not exist.
     [[nodiscard]] virtual HRESULT removeTree(const std::string& path) = 0;
-    /// Makes the changes last. Before it they may or may not be seen by others.
+    /// Makes the changes permanent. Until then other processes may or may not see them.
     [[nodiscard]] virtual HRESULT commit() = 0;
 };
 
-/// Opens the store of this system, for the user who runs the process. Answers `S_OK`, or
-/// `REGDB_E_READREGDB` when it is there and cannot be read, `REGDB_E_WRITEREGDB` when it cannot be
-/// changed. May wait for others who are changing it; let go of it soon.
+/// Opens this system's store for the user who runs the process. Returns `REGDB_E_READREGDB` when
+/// the store exists but cannot be read, and `REGDB_E_WRITEREGDB` when it cannot be changed. May
+/// wait until other processes have finished their changes, so release the store soon.
 [[nodiscard]] HRESULT openClassKeyStore(std::unique_ptr<ClassKeyStore>& store);
 
 }  // namespace quillmark

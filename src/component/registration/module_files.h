@@ -4,11 +4,11 @@
 
 namespace quillmark {
 
-/// The full name of the library's own file, UTF-8.
+/// The full path of the library's own file, in UTF-8.
 [[nodiscard]] std::string modulePath();
 
-/// The text of a registration script of the library: resource 5101 (the driver's) or 5105 (the
-/// page's).
+/// The text of one of the library's registration scripts: `driverScript` or `pageScript`. On
+/// Windows the numbers are those of the resources.
 [[nodiscard]] std::string registrationScript(int resource);
 
 inline constexpr int driverScript = 5101;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "component/object/boundary.h"
+#include "component/module/boundary.h"
 
 namespace quillmark {
 
@@ -40,7 +40,7 @@ HRESULT Registrar::keep() {
     return kept;
 }
 
-/// The keys of the library's own that lie below no other of them.
+/// The topmost keys that belong to the library alone.
 std::vector<std::string> Registrar::ownedRoots() const {
     std::vector<std::string> roots;
     for (const RegisteredKey& key : keys_) {
@@ -100,7 +100,7 @@ HRESULT Registrar::writeTree(const std::string& path, const KeyTree& tree) {
     return result;
 }
 
-/// Puts back as much as can be; what cannot has failed once already.
+/// Restores as much as possible. Failures are ignored, because the caller already reports one.
 void Registrar::takeBack() noexcept {
     if (before_.empty()) {
         return;

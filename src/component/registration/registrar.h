@@ -9,13 +9,13 @@
 
 namespace quillmark {
 
-/// Writes or removes the keys of a library, all or none: what was changed before a failure is put
-/// back as it was. One table of keys drives both directions.
+/// Writes or removes the keys of a library, all or none: after a failure it restores the previous
+/// state. The same table of keys serves registration and removal.
 ///
 ///     Registrar registrar(store, keys);
 ///     if (SUCCEEDED(registrar.registerKeys())) { registrar.keep(); }
 ///
-/// Changes that nobody says `keep` to are taken back at the end.
+/// The destructor undoes all changes unless `keep` has succeeded.
 class Registrar {
 public:
     Registrar(ClassKeyStore& store, std::vector<RegisteredKey> keys)
@@ -25,9 +25,9 @@ public:
     ~Registrar();
 
     [[nodiscard]] HRESULT registerKeys();
-    /// Removes every key that is not shared, with all below it.
+    /// Removes every key that is not shared, with its subkeys.
     [[nodiscard]] HRESULT unregisterKeys();
-    /// Makes the changes last.
+    /// Makes the changes permanent.
     [[nodiscard]] HRESULT keep();
 
 private:
@@ -39,7 +39,7 @@ private:
 
     ClassKeyStore& store_;
     std::vector<RegisteredKey> keys_;
-    /// What was there before: the owned keys and the shared ones that were missing.
+    /// The state before the changes: the owned keys, and the shared keys that did not exist.
     std::vector<std::pair<std::string, std::optional<KeyTree>>> before_;
 };
 

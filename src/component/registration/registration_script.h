@@ -8,21 +8,21 @@
 
 namespace quillmark {
 
-/// One key that a library registers.
+/// A key that a library registers.
 struct RegisteredKey {
-    /// From the classes root, "\" between keys.
+    /// Relative to the classes root, with "\" between keys.
     std::string path;
     /// The key's default value.
     std::optional<std::string> value;
     std::map<std::string, std::string> namedValues;
-    /// Not the library's alone: stays when the others are removed ("NoRemove").
+    /// The key also belongs to others, so unregistering leaves it ("NoRemove").
     bool isShared = false;
-    /// What an earlier registration left below it goes first ("ForceRemove").
+    /// Registering first removes the key with all its subkeys ("ForceRemove").
     bool replacesOld = false;
 };
 
-/// Reads a registration script into the table of keys that registers and unregisters a class,
-/// parents before children. Texts are UTF-8; each "%MODULE%" in a value becomes `modulePath`.
+/// Reads the keys of a registration script, parents before children. Texts are UTF-8. Each
+/// "%MODULE%" in a value is replaced with `modulePath`.
 ///
 ///     HKCR
 ///     {
@@ -38,8 +38,8 @@ struct RegisteredKey {
 ///         }
 ///     }
 ///
-/// A brace that opens or closes a block stands alone between blanks; a quote inside quotes is
-/// written twice. A script that does not read throws `OrxException` with the place.
+/// A brace that opens or closes a block needs blanks around it. A quote inside quotes is written
+/// twice. Throws an `OrxException` that names the place when the script is malformed.
 [[nodiscard]] std::vector<RegisteredKey> readRegistrationScript(std::string_view script,
                                                                 std::string_view modulePath);
 

@@ -21,7 +21,7 @@ std::vector<RegisteredKey> serverKeys() {
     return keys;
 }
 
-/// Opens the store, has `change` change it and, when that worked, makes it last.
+/// Opens the store and passes it to `change`. Makes the changes permanent when that succeeds.
 template <typename Change>
 HRESULT changeStore(Change change) {
     std::unique_ptr<ClassKeyStore> store;

@@ -4,7 +4,7 @@
 
 namespace quillmark {
 
-/// Makes both classes and the type library known to the system, all or nothing.
+/// Registers both classes and the type library with the system, all or none.
 [[nodiscard]] HRESULT registerServer();
 /// Removes what `registerServer` wrote.
 [[nodiscard]] HRESULT unregisterServer();

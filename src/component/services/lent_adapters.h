@@ -12,8 +12,8 @@
 
 namespace quillmark {
 
-/// A host's records of callbacks behind the contracts that the driver knows. The record is copied.
-/// Null when it lacks a callback.
+/// Adapters that implement the driver's service interfaces with a host's callbacks. Each copies the
+/// record. The result is null when the record lacks a callback.
 
 [[nodiscard]] std::shared_ptr<SettingsStore> lentSettingsStore(const DochtmlSettingsStore& store);
 [[nodiscard]] std::unique_ptr<AppProfileInterface> lentProfile(const DochtmlText& path);

@@ -101,7 +101,7 @@ private:
     DochtmlObject handle_;
 };
 
-/// Keeps every object that it has handed out: the driver holds plain pointers to them.
+/// Keeps every object that it has returned, because the driver holds plain pointers to them.
 class LentSchema final : public MMSchema {
 public:
     explicit LentSchema(const DochtmlModel& host) : host_(host) {}

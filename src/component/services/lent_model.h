@@ -7,8 +7,9 @@
 
 namespace quillmark {
 
-/// A host's model behind the metamodel contract; the record is copied. Null when it lacks a
-/// callback. A failure that the host reports is thrown as `OrxException`, which the driver logs.
+/// An adapter that implements the metamodel interface with a host's callbacks. It copies the
+/// record. The result is null when the record lacks a callback. A failure that the host reports
+/// becomes an `OrxException`, which the driver logs.
 [[nodiscard]] std::unique_ptr<MMSchema> lentModel(const DochtmlModel& model);
 
 }  // namespace quillmark

@@ -1,6 +1,6 @@
 #include "component/services/lent_services.h"
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "component/services/lent_adapters.h"
 #include "component/services/lent_model.h"
 #include "component/services/lent_text.h"
@@ -25,8 +25,8 @@ LentServices::~LentServices() {
     AppProfileInterface::setInterface(nullptr);
 }
 
-/// Puts a new service in force. The one before is kept: another thread may have taken it up just
-/// before and call it only now.
+/// Installs a new service. Keeps the previous one, because another thread may have fetched its
+/// pointer and not called it yet.
 template <typename Service, typename Record, typename Install>
 HRESULT LentServices::replace(std::shared_ptr<Service>& kept, const Record* record,
                               std::unique_ptr<Service> (*make)(const Record&), Install install) {

@@ -16,12 +16,13 @@
 
 namespace quillmark {
 
-/// The services that a host has lent the module, each behind the contract that the driver knows.
-/// Null takes one back; `E_INVALIDARG` answers a record that lacks a callback it must have.
+/// The services that the host provides to this module. Each is an adapter for one of the driver's
+/// service interfaces. Null removes a service. The setters return `E_INVALIDARG` for a record that
+/// lacks a required callback.
 ///
-/// The driver holds a service by a plain pointer while it calls it. So a service that is replaced
-/// or taken back stays in memory, and may still be called, as long as anybody is there who could
-/// have taken it up before; the next change without such a user lets go of all of these.
+/// The driver uses a plain pointer while it calls a service. A service that is replaced or removed
+/// therefore stays in memory, and may still be called, as long as there are users that may have
+/// fetched the pointer before. The first later change without users frees all such services.
 class LentServices {
 public:
     LentServices(const LentServices&) = delete;
@@ -39,14 +40,14 @@ public:
     static HRESULT setSchemaType(LONG schemaType) noexcept;
     static HRESULT setDrive(SHORT letter, const DochtmlText* directory);
 
-    /// How many services are out of force and still kept.
+    /// How many replaced or removed services are still in memory.
     [[nodiscard]] std::size_t retiredCount() const;
 
 private:
     friend class ModuleLifetime<LentServices>;
 
     LentServices() = default;
-    /// When the library is unloaded nothing lent may be looked at any more.
+    /// Removes all services, because none may be used after the library is unloaded.
     ~LentServices();
 
     template <typename Service, typename Record, typename Install>

@@ -1,15 +1,16 @@
 #include "component/services/lent_text.h"
 
-#include "component/object/boundary.h"
-
 namespace quillmark {
 
 void CollectedTexts::put(void* context, const DochtmlText* text) noexcept {
-    runOperation([&] {
+    auto& collected = *static_cast<CollectedTexts*>(context);
+    try {
         if (text != nullptr) {
-            static_cast<CollectedTexts*>(context)->texts_.emplace_back(viewOf(*text));
+            collected.texts_.emplace_back(viewOf(*text));
         }
-    });
+    } catch (...) {
+        collected.complete_ = false;
+    }
 }
 
 }  // namespace quillmark

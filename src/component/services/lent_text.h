@@ -1,5 +1,6 @@
 #pragma once
 
+#include <new>
 #include <string_view>
 #include <vector>
 
@@ -8,7 +9,7 @@
 
 namespace quillmark {
 
-/// A text for a callback; it is on loan from `text`.
+/// A text to pass to a callback. It refers to the bytes of `text`.
 [[nodiscard]] inline DochtmlText lend(std::string_view text) noexcept {
     return {text.data(), text.size()};
 }
@@ -17,7 +18,7 @@ namespace quillmark {
     return text.data == nullptr ? std::string_view() : std::string_view(text.data, text.size);
 }
 
-/// Collects what a callback puts into a sink.
+/// Collects the texts that a callback puts into its sink.
 class CollectedTexts {
 public:
     CollectedTexts() = default;
@@ -25,17 +26,32 @@ public:
     CollectedTexts& operator=(const CollectedTexts&) = delete;
     ~CollectedTexts() = default;
 
-    /// For the callback; valid as long as this object.
+    /// The sink to pass to the callback. Valid as long as this object.
     [[nodiscard]] DochtmlSink sink() noexcept { return {this, &CollectedTexts::put}; }
-    [[nodiscard]] std::vector<OrxString>& texts() noexcept { return texts_; }
-    /// The one text of a callback that answers with one; empty when it put none.
-    [[nodiscard]] OrxString text() const { return texts_.empty() ? OrxString() : texts_.front(); }
+    /// All texts. Throws `std::bad_alloc` if there was no memory for one of them.
+    [[nodiscard]] std::vector<OrxString>& texts() {
+        checkComplete();
+        return texts_;
+    }
+    /// The first text, for callbacks that return one text. Empty when there is none. Throws like
+    /// `texts`.
+    [[nodiscard]] OrxString text() const {
+        checkComplete();
+        return texts_.empty() ? OrxString() : texts_.front();
+    }
 
 private:
-    /// A text that finds no memory is dropped: nothing may be thrown through a callback.
+    void checkComplete() const {
+        if (!complete_) {
+            throw std::bad_alloc();
+        }
+    }
+    /// Only notes that a text is missing when out of memory, because no exception may pass through
+    /// a callback.
     static void put(void* context, const DochtmlText* text) noexcept;
 
     std::vector<OrxString> texts_;
+    bool complete_ = true;
 };
 
 }  // namespace quillmark

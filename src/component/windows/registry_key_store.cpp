@@ -12,7 +12,7 @@ HRESULT resultOf(LSTATUS status) noexcept {
     return HRESULT_FROM_WIN32(static_cast<unsigned long>(status));
 }
 
-/// A text value without the zeros behind it, as UTF-8; other values as they are.
+/// A text value is converted to UTF-8 without trailing zeros. Other values stay unchanged.
 KeyValue valueOf(DWORD type, const std::vector<BYTE>& bytes) {
     if (type != REG_SZ) {
         return {type, std::string(bytes.begin(), bytes.end())};

@@ -12,7 +12,7 @@ constexpr WORD minorVersion = 0;
 constexpr LCID englishUnitedStates = 1033;
 constexpr SYSKIND systemKind = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
 
-/// The type library is the library's resource 1, which is the one that a bare file name means.
+/// The type library is resource 1 of this module. A file name without a number refers to it.
 HRESULT loadTypeLibrary(ComPointer<ITypeLib>& library) {
     return LoadTypeLibEx(moduleFileName(thisModule()).c_str(), REGKIND_NONE,
                          reinterpret_cast<ITypeLib**>(library.receive()));
@@ -44,7 +44,7 @@ HRESULT unregisterTypeLibrary() {
     Text path;
     if (FAILED(QueryPathOfRegTypeLib(LIBID_DOCHTMLCOMLib, majorVersion, minorVersion,
                                      englishUnitedStates, path.receive()))) {
-        // What is gone already need not be removed.
+        // It was not registered, so there is nothing to remove.
         return S_OK;
     }
     return UnRegisterTypeLib(LIBID_DOCHTMLCOMLib, majorVersion, minorVersion, englishUnitedStates,

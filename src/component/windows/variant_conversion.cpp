@@ -3,7 +3,7 @@
 namespace quillmark {
 
 HRESULT convertVariant(VARIANT& target, const VARIANT& source, LCID locale, VARTYPE type) {
-    // The system reads the source only.
+    // The system function takes a non-const source but only reads it.
     return VariantChangeTypeEx(&target, const_cast<VARIANT*>(&source), locale, 0, type);
 }
 

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
+#include "foundation/growth.h"
 #include "host/document_observer.h"
 
 namespace quillmark {
@@ -74,7 +76,9 @@ HtmlTOCTag ContentsEntryList::tag(std::size_t index) const {
 /// so its texts never move. An entry larger than `chunkSize` gets a chunk of its own.
 std::string& ContentsEntryList::chunkFor(std::size_t bytes) {
     if (chunks_.empty() || chunks_.back().size() + bytes > chunkSize) {
-        chunks_.emplace_back().reserve(std::max(bytes, chunkSize));
+        std::string chunk;
+        chunk.reserve(std::max(bytes, chunkSize));
+        chunks_.push_back(std::move(chunk));
     }
     return chunks_.back();
 }
@@ -85,8 +89,10 @@ std::uint32_t ContentsEntryList::intern(std::string_view icon) {
         return known->second;
     }
     const std::uint32_t number = asLength(icons_.size());
-    icons_.emplace_back(icon);
+    makeRoomForOne(icons_);
+    std::string name(icon);
     iconNumbers_.emplace(icon, number);
+    icons_.push_back(std::move(name));
     return number;
 }
 

@@ -1,5 +1,7 @@
 #include "contents/tree/archiver.h"
 
+#include <vector>
+
 #include "platform/failure_lines.h"
 #include "platform/file_failure.h"
 #include "platform/sys_file.h"
@@ -9,9 +11,14 @@ namespace quillmark {
 
 namespace {
 
+/// A file name that the archiver cannot take for an option or a list of names.
+OrxString asFileName(const OrxString& name) {
+    return name.startsWith("-") || name.startsWith("@") ? ".\\" + name : name;
+}
+
 /// -m moves the file into the archive, -q is quiet, -j stores the name without its directory.
-OrxString archiverArguments(const OrxString& archive, const OrxString& dataFile) {
-    return "-m -q -j \"" + archive + "\" \"" + dataFile + "\"";
+std::vector<OrxString> archiverArguments(const OrxString& archive, const OrxString& dataFile) {
+    return {"-m", "-q", "-j", asFileName(archive), asFileName(dataFile)};
 }
 
 }  // namespace

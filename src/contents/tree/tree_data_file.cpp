@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
+#include <new>
 #include <span>
 #include <string>
 #include <string_view>
@@ -24,12 +25,15 @@ constexpr std::size_t bufferSize = std::size_t{64} * 1024;
 /// Streams the tree into one file through one buffer.
 class TreeWriter {
 public:
-    TreeWriter(const OrxString& path, bool showIcons)
-        : path_(path), showIcons_(showIcons), file_(open(path)) {
+    TreeWriter(const OrxString& path, bool showIcons) : path_(path), showIcons_(showIcons) {
+        // The file is not touched if there is no memory for the usual tree.
+        buffer_.reserve(bufferSize + bufferSize / 4);
+        buffer_ = "(TREE";
+        FileFailure::forget();
+        file_ = FileSystem::current().openForReplacing(path);
         if (file_ == nullptr) {
             OrxException::raise("Error opening file: " + path_);
         }
-        buffer_ = "(TREE";
     }
 
     void add(const ContentsEntryView& entry) {
@@ -57,11 +61,6 @@ public:
     }
 
 private:
-    [[nodiscard]] static std::unique_ptr<OutputFile> open(const OrxString& path) {
-        FileFailure::forget();
-        return FileSystem::current().openForReplacing(path);
-    }
-
     /// From 1 to one deeper than the previous node. The first node always gets level 1.
     [[nodiscard]] std::size_t correctedLevel(std::int32_t level) const {
         return level < 1 ? 1 : std::min(static_cast<std::size_t>(level), previous_ + 1);
@@ -119,11 +118,17 @@ private:
 }  // namespace
 
 void writeTreeDataFile(const OrxString& path, const ContentsEntryList& entries, bool showIcons) {
-    TreeWriter writer(path, showIcons);
-    for (const ContentsEntryView entry : entries) {
-        writer.add(entry);
+    try {
+        TreeWriter writer(path, showIcons);
+        for (const ContentsEntryView entry : entries) {
+            writer.add(entry);
+        }
+        writer.finish();
+    } catch (const std::bad_alloc&) {
+        // Better no tree than half of one.
+        FileSystem::current().deleteFile(path);
+        throw;
     }
-    writer.finish();
 }
 
 }  // namespace quillmark

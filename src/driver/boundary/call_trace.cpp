@@ -27,7 +27,9 @@ void CallTrace::write(std::string& line) {
 
 void CallTrace::pageBreak() {
     if (trace_.isTrace(Trace::calls)) {
-        trace_.write(Trace::calls, opening("insertPageBreak").append(callEnd).append("\n"));
+        survive(trace_, lostLine, [&] {
+            trace_.write(Trace::calls, opening("insertPageBreak").append(callEnd).append("\n"));
+        });
     }
 }
 

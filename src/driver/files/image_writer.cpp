@@ -4,6 +4,7 @@
 
 #include "contents/support_files.h"
 #include "driver/pages/picture_names.h"
+#include "platform/out_of_memory.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -44,10 +45,12 @@ void ImageWriter::insertImage(const OrxString& imageFile, const OrxString& linkT
     OrxString markup("<IMG SRC=\"");
     context_.out.writeOut(markup.append(source).append("\" ALIGN=\"BOTTOM\" BORDER=\"0\" "));
     // With a map, the picture's tag ends in the map's markup, and the ">" below ends "</MAP".
-    maps_.write(imageFile, {[this](std::string_view html) { context_.out.writeOut(html); },
-                            [this](const OrxString& bookmark, const OrxString& area) {
-                                bookmarks_.reference(bookmark, area);
-                            }});
+    survive(context_.trace, "an image map", [&] {
+        maps_.write(imageFile, {[this](std::string_view html) { context_.out.writeOut(html); },
+                                [this](const OrxString& bookmark, const OrxString& area) {
+                                    bookmarks_.reference(bookmark, area);
+                                }});
+    });
     context_.out.writeOut(">");
     if (linkEnd) {
         links_.close(linkTarget, *linkEnd);

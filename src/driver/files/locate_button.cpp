@@ -34,8 +34,8 @@ void LocateButton::insert() {
     OrxString button(buttonTemplate);
     text_.emitText(button.replaceStr("%s", path));
     if (locateImagesPending_) {
-        locateImagesPending_ = false;
         copyPictures();
+        locateImagesPending_ = false;
     }
 }
 

@@ -1,5 +1,6 @@
 #include "driver/links/bookmark_table.h"
 
+#include "foundation/growth.h"
 #include "platform/path_text.h"
 
 namespace quillmark {
@@ -8,6 +9,7 @@ BookmarkTable::Id BookmarkTable::add(std::string_view name) {
     if (lastAdded_ != unknown && names_.name(lastAdded_) == name) {
         return lastAdded_;
     }
+    makeRoomForOne(records_);
     lastAdded_ = names_.add(name);
     if (lastAdded_ == records_.size()) {
         records_.emplace_back();

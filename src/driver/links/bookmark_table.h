@@ -36,6 +36,8 @@ public:
     [[nodiscard]] bool isDefined(Id id) const noexcept { return records_[id].pageFile != none; }
     /// Defines the bookmark: its anchor is in that page file.
     void define(Id id, const OrxString& pageFile);
+    /// Takes the definition back.
+    void undefine(Id id) noexcept { records_[id].pageFile = none; }
     /// The page file with the anchor. The bookmark must be defined.
     [[nodiscard]] std::string_view pageFile(Id id) const noexcept;
     /// A number for that file: the same for bookmarks on the same page.

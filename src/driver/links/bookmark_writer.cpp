@@ -51,8 +51,13 @@ void BookmarkWriter::define(std::string_view name, Origin origin) {
 
 void BookmarkWriter::writeAnchor(BookmarkTable::Id id, std::string_view name) {
     anchor_.assign(anchorOpening).append(name).append(anchorEnd);
-    out_.page().append(anchor_);
     table_.define(id, out_.page().getFileName());
+    try {
+        out_.page().append(anchor_);
+    } catch (...) {
+        table_.undefine(id);
+        throw;
+    }
     if (trace_.isTrace(Trace::reports)) {
         OrxString line("created bookmark:");
         line.append(name).append(" as ").append(table_.reference(id)).append('\n');
@@ -109,7 +114,11 @@ std::string_view BookmarkWriter::relativeReference(BookmarkTable::Id id, const D
     const OrxString& fromPage = page.getFileName();
     if (lastRoute_.link.isEmpty() || toPage != lastRoute_.toPage ||
         fromPage != lastRoute_.fromPage) {
-        lastRoute_ = {fromPage, toPage, routeTo(OrxString(table_.pageFile(id)), fromPage)};
+        OrxString from = fromPage;
+        OrxString link = routeTo(OrxString(table_.pageFile(id)), fromPage);
+        lastRoute_.fromPage = std::move(from);
+        lastRoute_.toPage = toPage;
+        lastRoute_.link = std::move(link);
     }
     return reference_.assign(lastRoute_.link).append(table_.name(id));
 }

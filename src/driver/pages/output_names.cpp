@@ -1,8 +1,10 @@
 #include "driver/pages/output_names.h"
 
 #include <string>
+#include <string_view>
+#include <utility>
 
-#include "platform/sys_directory.h"
+#include "platform/path_text.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -18,10 +20,12 @@ constexpr std::ptrdiff_t directoryLimit = 210;
 void OutputNames::setDocument(const OrxString& fileName) {
     OrxString name = fileName;
     name.replaceStr("/", "\\");
-    const OrxString extension = SysFile::getExtension(name);
-    extension_ = extension.isEmpty() ? OrxString(".htm") : extension;
-    outputDir_ = SysFile::getDir(name);
-    baseName_ = name.remove(name.length() - extension.length());
+    OrxString extension = SysFile::getExtension(name);
+    OrxString outputDir = SysFile::getDir(name);
+    name.remove(name.length() - extension.length());
+    extension_ = extension.isEmpty() ? OrxString(".htm") : std::move(extension);
+    outputDir_ = std::move(outputDir);
+    baseName_ = std::move(name);
 }
 
 OrxString OutputNames::pageFileName(std::uint32_t number, const OrxString& subDirectory) const {
@@ -39,16 +43,20 @@ OrxString OutputNames::pageFileName(std::uint32_t number, const OrxString& subDi
     return name.append(extension_);
 }
 
-OrxString OutputNames::shortenedDirectory(OrxString subDirectory) const {
+OrxString OutputNames::shortenedDirectory(const OrxString& subDirectory) const {
     const auto taken = static_cast<std::ptrdiff_t>(outputDir_.length());
-    while (static_cast<std::ptrdiff_t>(subDirectory.length()) > directoryLimit - taken) {
-        OrxString parent = SysDirectory::getParentDirectory(subDirectory);
-        if (parent.isEmpty()) {
+    // Each step only moves the end of a view: a path may have as many components as a text can
+    // hold.
+    std::string_view shortened = subDirectory.view();
+    while (static_cast<std::ptrdiff_t>(shortened.size()) > directoryLimit - taken) {
+        const std::string_view parent = path_text::parent(shortened);
+        if (parent.empty()) {
             break;
         }
-        subDirectory = std::move(parent);
+        shortened = parent;
     }
-    return subDirectory;
+    const bool fits = shortened.size() == subDirectory.view().size();
+    return fits ? subDirectory : path_text::inDriverForm(shortened);
 }
 
 }  // namespace quillmark

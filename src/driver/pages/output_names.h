@@ -30,7 +30,7 @@ public:
 
     /// Shortens a subdirectory that would make a path too long: takes its parent until it fits, or
     /// until there is no parent.
-    [[nodiscard]] OrxString shortenedDirectory(OrxString subDirectory) const;
+    [[nodiscard]] OrxString shortenedDirectory(const OrxString& subDirectory) const;
 
 private:
     OrxString baseName_;

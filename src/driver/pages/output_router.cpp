@@ -2,26 +2,28 @@
 
 namespace quillmark {
 
+OutputRouter::OutputRouter()
+    : page_(OrxCountedPtr<DocHtmlPage>::make()),
+      header_{std::make_unique<DocHtmlSection>()},
+      footer_{std::make_unique<DocHtmlSection>()} {}
+
 DocHtmlSection* OutputRouter::section(SectionMode mode) const noexcept {
     switch (mode) {
         case SectionMode::header:
-            return header_.get();
+            return header_.wasOpened ? header_.section.get() : nullptr;
         case SectionMode::footer:
-            return footer_.get();
+            return footer_.wasOpened ? footer_.section.get() : nullptr;
         case SectionMode::body:
             break;
     }
     return nullptr;
 }
 
-void OutputRouter::openSection(SectionMode mode, int testLevel) {
-    std::unique_ptr<DocHtmlSection>& place = mode == SectionMode::header ? header_ : footer_;
-    if (place == nullptr) {
-        place = std::make_unique<DocHtmlSection>();
-    } else {
-        place->clear();
-    }
-    place->setTestLevel(testLevel);
+void OutputRouter::openSection(SectionMode mode, int testLevel) noexcept {
+    Section& place = mode == SectionMode::header ? header_ : footer_;
+    place.wasOpened = true;
+    place.section->clear();
+    place.section->setTestLevel(testLevel);
     makeCurrent(mode);
 }
 
@@ -31,8 +33,8 @@ void OutputRouter::returnToBody() noexcept {
 
 void OutputRouter::freeSections() noexcept {
     returnToBody();
-    header_.reset();
-    footer_.reset();
+    header_.wasOpened = false;
+    footer_.wasOpened = false;
 }
 
 void OutputRouter::makeCurrent(SectionMode mode) noexcept {

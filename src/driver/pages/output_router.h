@@ -19,7 +19,7 @@ enum class SectionMode { header = 0, body = 1, footer = 2 };
 /// It holds the current page with its number, both sections, and the text state in force.
 class OutputRouter {
 public:
-    OutputRouter() : page_(OrxCountedPtr<DocHtmlPage>::make()) {}
+    OutputRouter();
     OutputRouter(const OutputRouter&) = delete;
     OutputRouter& operator=(const OutputRouter&) = delete;
     ~OutputRouter() = default;
@@ -52,10 +52,10 @@ public:
     /// The section for a mode. Null for the body, and for a section that was never opened.
     [[nodiscard]] DocHtmlSection* section(SectionMode mode) const noexcept;
     /// Empties a section and makes it current.
-    void openSection(SectionMode mode, int testLevel);
+    void openSection(SectionMode mode, int testLevel) noexcept;
     /// Makes the body current.
     void returnToBody() noexcept;
-    /// Makes the body current and deletes both sections.
+    /// Makes the body current. Afterwards there are no sections.
     void freeSections() noexcept;
 
     /// Makes the body current for its lifetime, then the section that was open before.
@@ -79,8 +79,14 @@ private:
     SectionMode mode_ = SectionMode::body;
     OrxCountedPtr<DocHtmlPage> page_;
     std::uint32_t pageNumber_ = OutputNames::firstPageNumber;
-    std::unique_ptr<DocHtmlSection> header_;
-    std::unique_ptr<DocHtmlSection> footer_;
+    /// A section exists from the start, so that opening it cannot fail. It counts once it is
+    /// opened.
+    struct Section {
+        std::unique_ptr<DocHtmlSection> section;
+        bool wasOpened = false;
+    };
+    Section header_;
+    Section footer_;
     DocHtmlTextState bodyState_;
     DocHtmlTextState* state_ = &bodyState_;
 };

@@ -1,6 +1,7 @@
 #include "driver/text/contents_collector.h"
 
 #include <string>
+#include <utility>
 
 #include "contents/entries/entry_icons.h"
 #include "contents/static_listing.h"
@@ -22,13 +23,15 @@ void ContentsCollector::openAnchor() {
 }
 
 void ContentsCollector::startEntry() {
-    openAnchor();
     inTocEntry_ = true;
+    tocAnchor_.clear();
+    tocText_.clear();
+    openAnchor();
 }
 
 void ContentsCollector::endEntry() {
-    addEntry(tocAnchor_, tocText_, levelOfStyle());
     inTocEntry_ = false;
+    addEntry(tocAnchor_, tocText_, levelOfStyle());
 }
 
 void ContentsCollector::completeHeading() {
@@ -50,34 +53,51 @@ void ContentsCollector::addEntry(OrxString& anchor, const OrxString& text, std::
     if (anchor.isEmpty() || text.isEmpty()) {
         return;
     }
-    pageHasTocEntry_ = true;
+    // Without memory the entry is lost. Its anchor must not get the next entry's text.
+    const OrxString target = std::exchange(anchor, {});
     OrxString href = pageLink_.relativeFile(out_.page().getFileName(), outputDir_);
-    href.append('#').append(anchor);
+    href.append('#').append(target);
     const EntryIcons icons = showIcons_ ? entryIconsOf(currentElement_) : EntryIcons{};
     entries_.add(ContentsEntryView{href, text, level, icons.gif, icons.stereoGif});
-    anchor.clear();
+    pageHasTocEntry_ = true;
+}
+
+void ContentsCollector::addPageEntry(DocHtmlPage& page) {
+    if (pageHasTocEntry_) {
+        return;
+    }
+    OrxString anchor = "Page " + OrxString(std::to_string(out_.pageNumber()));
+    addEntry(anchor, OrxString(anchor), 1);
+    if (page.setInsertPoint(page_marks::topOfPage)) {
+        // This anchor stays open: the next heading's entry will point to the top of this page.
+        openAnchor();
+        page.clearInsertPoint();
+    }
 }
 
 void ContentsCollector::finishPage() {
     DocHtmlPage& page = out_.page();
-    if (!pageHasTocEntry_) {
-        OrxString anchor = "Page " + OrxString(std::to_string(out_.pageNumber()));
-        addEntry(anchor, OrxString(anchor), 1);
-        if (page.setInsertPoint(page_marks::topOfPage)) {
-            // This anchor stays open: the next heading's entry will point to the top of this page.
-            openAnchor();
-            page.clearInsertPoint();
-        }
+    try {
+        addPageEntry(page);
+    } catch (...) {
+        page.removeMarks(page_marks::topOfPage);
+        throw;
     }
     page.removeMarks(page_marks::topOfPage);
 }
 
 void ContentsCollector::fillListing(DocHtmlPage& page) const {
-    if (page.setInsertPoint(page_marks::contentsListing)) {
-        writeStaticListing(entries_, page);
-        page.clearInsertPoint();
-        page.removeMarks(page_marks::contentsListing);
+    if (!page.setInsertPoint(page_marks::contentsListing)) {
+        return;
     }
+    try {
+        writeStaticListing(entries_, page);
+    } catch (...) {
+        page.removeMarks(page_marks::contentsListing);
+        throw;
+    }
+    page.clearInsertPoint();
+    page.removeMarks(page_marks::contentsListing);
 }
 
 }  // namespace quillmark

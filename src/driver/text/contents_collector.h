@@ -17,7 +17,7 @@ namespace quillmark {
 /// An anchor that never gets an entry stays open, and the entry of the next heading points to it.
 class ContentsCollector {
 public:
-    ContentsCollector(OutputRouter& out, BookmarkWriter& bookmarks) noexcept
+    ContentsCollector(OutputRouter& out, BookmarkWriter& bookmarks)
         : out_(out), bookmarks_(bookmarks) {}
 
     /// Starts a new document. An open entry stays open.
@@ -57,6 +57,8 @@ public:
 
 private:
     void openAnchor();
+    /// Adds the entry of a page that has none.
+    void addPageEntry(DocHtmlPage& page);
     /// Adds an entry and clears `anchor`. Does nothing if anchor or text is empty.
     void addEntry(OrxString& anchor, const OrxString& text, std::int32_t level);
     [[nodiscard]] std::int32_t levelOfStyle() const;

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 
 namespace quillmark {
 
@@ -51,10 +52,10 @@ std::string_view fontAttributeWord(FontAttribute attribute) noexcept {
 }
 
 void FontWriter::setName(const OrxString& name) {
-    close();
     FontData font;
     font.name = name;
-    reopen(font);  // a fresh font has no size and no attribute: nothing is written
+    close();
+    reopen(std::move(font));  // a fresh font has no size and no attribute: nothing is written
 }
 
 void FontWriter::setSize(std::int16_t points) {
@@ -65,7 +66,7 @@ void FontWriter::setSize(std::int16_t points) {
     } else {
         writeBaseFont(points);
     }
-    store(font);
+    store(std::move(font));
 }
 
 void FontWriter::setAttribute(FontAttribute attribute, bool value) {
@@ -74,7 +75,7 @@ void FontWriter::setAttribute(FontAttribute attribute, bool value) {
         font.*(row->flag) = value;
         out_.writeOut(value ? row->opening : row->closing);
     }
-    store(font);
+    store(std::move(font));
 }
 
 FontData FontWriter::current() const {
@@ -85,11 +86,11 @@ FontData FontWriter::current() const {
     return state.font;
 }
 
-void FontWriter::store(const FontData& font) {
+void FontWriter::store(FontData font) {
     DocHtmlTextState& state = out_.state();
     state.fontOpen = font.size != 0 || font.hasAttribute();
     if (state.fontOpen) {
-        state.font = font;
+        state.font = std::move(font);
     }
 }
 
@@ -132,15 +133,16 @@ void FontWriter::close() {
 }
 
 void FontWriter::switchTo(const FontData& font) {
+    FontData next = font;
     close();
-    reopen(font);
+    reopen(std::move(next));
 }
 
-void FontWriter::reopen(const FontData& font) {
+void FontWriter::reopen(FontData font) {
     DocHtmlTextState& state = out_.state();
-    state.font = font;
+    state.font = std::move(font);
     state.fontOpen = true;
-    openTags(font);
+    openTags(state.font);
 }
 
 }  // namespace quillmark

@@ -32,10 +32,10 @@ public:
     /// Closes the current font, then stores `font` as the current one and opens its tags.
     void switchTo(const FontData& font);
     /// Stores `font` as the current one and opens its tags, without closing anything.
-    void reopen(const FontData& font);
+    void reopen(FontData font);
 
 private:
-    void store(const FontData& font);
+    void store(FontData font);
     void writeBaseFont(std::int16_t points);
 
     OutputRouter& out_;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "driver/text/style_names.h"
 
@@ -50,25 +51,32 @@ std::string headingClosing(std::int32_t level) {
                                    : std::string("</DIV>\n");
 }
 
+/// The level of a heading or list; 0 for any other style.
+std::int32_t levelOf(std::string_view name) noexcept {
+    for (const std::string_view kind :
+         {style_names::heading, style_names::numberedList, style_names::bulletedList}) {
+        if (name.starts_with(kind)) {
+            return style_names::levelAfter(kind, name);
+        }
+    }
+    return 0;
+}
+
 }  // namespace
 
-std::int32_t ParagraphStyle::openStyle(std::string_view name) {
-    std::int32_t level = 0;
+void ParagraphStyle::openStyle(std::string_view name) {
+    const std::int32_t level = levelOf(name);
     std::string tags;
     if (name.starts_with(style_names::heading)) {
-        level = style_names::levelAfter(style_names::heading, name);
         tags = headingOpening(level);
     } else if (name.starts_with(style_names::numberedList)) {
-        level = style_names::levelAfter(style_names::numberedList, name);
         tags = repeated("<OL>", level);
     } else if (name.starts_with(style_names::bulletedList)) {
-        level = style_names::levelAfter(style_names::bulletedList, name);
         tags = repeated("<UL>", level);
     }
     if (!tags.empty()) {
         out_.writeOut(tags);
     }
-    return level;
 }
 
 std::int32_t ParagraphStyle::closeStyle(std::string_view name) {
@@ -110,10 +118,16 @@ void ParagraphStyle::endAlign() {
 }
 
 void ParagraphStyle::endStyle() {
-    if (closeStyle(out_.state().styleName) != 0) {
-        contents_.completeHeading();
+    DocHtmlTextState& state = out_.state();
+    if (closeStyle(state.styleName) != 0) {
+        try {
+            contents_.completeHeading();
+        } catch (...) {
+            state.styleName.clear();
+            throw;
+        }
     }
-    out_.state().styleName.clear();
+    state.styleName.clear();
 }
 
 void ParagraphStyle::setStyle(const OrxString& name) {
@@ -122,15 +136,18 @@ void ParagraphStyle::setStyle(const OrxString& name) {
         font_.close();
         return;
     }
+    OrxString next = name;
     const TextAlign align = state.textAlign;
     endAlign();
     font_.close();
     endStyle();
-    headingLevel_ = static_cast<std::uint32_t>(openStyle(name));
-    if (name.startsWith(style_names::listWithBlank)) {
+    // The style counts as set even if there is no memory for its tags.
+    headingLevel_ = static_cast<std::uint32_t>(levelOf(next));
+    if (next.startsWith(style_names::listWithBlank)) {
         listItemOpen_ = false;
     }
-    state.styleName = name;
+    state.styleName = std::move(next);
+    openStyle(state.styleName);
     openAlign(align);
     state.textAlign = align;
 }

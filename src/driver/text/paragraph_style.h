@@ -27,9 +27,8 @@ public:
     void closeAll();
 
     /// Write only the tags and leave the state unchanged, for the start and the end of table cells.
-    /// `openStyle` returns the level of a heading or list, otherwise 0. `closeStyle` returns the
-    /// level of a heading, otherwise 0.
-    std::int32_t openStyle(std::string_view name);
+    /// `closeStyle` returns the level of a heading, otherwise 0.
+    void openStyle(std::string_view name);
     std::int32_t closeStyle(std::string_view name);
     void openAlign(TextAlign align);
     /// Writes the closing tag of the current alignment, if there is one.

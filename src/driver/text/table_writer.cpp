@@ -33,12 +33,13 @@ void TableWriter::addCell() {
         return;
     }
     if (tablePending_) {
-        out_.writeOut(tableStart);
+        // The table counts as open even if there is no memory for its tag: `endTable` will come.
         tablePending_ = false;
         ++tableDepth_;
         if (std::uint32_t* const cells = openCells(); cells != nullptr) {
             *cells = 0;
         }
+        out_.writeOut(tableStart);
     }
     if (rowPending_) {
         closeCell();
@@ -78,16 +79,21 @@ void TableWriter::closeCell() {
 }
 
 void TableWriter::endTable() {
+    inTable_ = false;
     if (ignoredTables_ != 0) {
         --ignoredTables_;
-    } else {
+        return;
+    }
+    try {
         if (!tablePending_) {
             closeCell();
         }
         out_.writeOut(tableEnd);
+    } catch (...) {
         --tableDepth_;
+        throw;
     }
-    inTable_ = false;
+    --tableDepth_;
 }
 
 std::uint32_t* TableWriter::openCells() noexcept {

@@ -14,7 +14,7 @@ namespace quillmark {
 /// calls.
 class SetFile {
 public:
-    explicit SetFile(const TextDecoder& decoder) noexcept : decoder_(decoder) {}
+    explicit SetFile(const TextDecoder& decoder) : decoder_(decoder) {}
 
     SetFile& text(std::string_view name, std::u16string_view value);
     /// A text in the document's encoding.

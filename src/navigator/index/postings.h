@@ -24,8 +24,8 @@ public:
             lastStart_.resize(std::size_t{word} + 1 + word / 2, 0);
         }
         if (lastStart_[word] != places_.size()) {
-            lastStart_[word] = static_cast<std::uint32_t>(places_.size());
             words_.push_back(word);
+            lastStart_[word] = static_cast<std::uint32_t>(places_.size());
         }
     }
 

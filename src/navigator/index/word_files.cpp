@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "foundation/surrogates.h"
 #include "foundation/utf8.h"
 #include "navigator/data/json_text.h"
 #include "navigator/data/number_list_text.h"
@@ -29,8 +30,10 @@ void WordFiles::add(std::string_view word, std::span<const std::uint32_t> entrie
 
 std::size_t WordFiles::sharedWithLast(std::u16string_view word) const noexcept {
     const auto [inWord, inLast] = std::ranges::mismatch(word, last_);
-    const auto shared = static_cast<std::size_t>(inWord - word.begin());
-    return std::min(shared, number_list_text::alphabet.size() - 1);
+    const auto same = static_cast<std::size_t>(inWord - word.begin());
+    const std::size_t shared = std::min(same, number_list_text::alphabet.size() - 1);
+    // The units of a surrogate pair stay together.
+    return shared > 0 && surrogates::isHigh(word[shared - 1]) ? shared - 1 : shared;
 }
 
 void WordFiles::startRecord(std::u16string_view word, std::size_t shared) {

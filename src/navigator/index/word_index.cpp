@@ -1,6 +1,7 @@
 #include "navigator/index/word_index.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <vector>
 
@@ -26,13 +27,16 @@ void WordIndex::startEntry(std::uint32_t entry, std::uint32_t page) {
     inEntry_ = true;
 }
 
-void WordIndex::word(const FoldedWord& word) {
-    const std::uint32_t number = words_.add(word);
-    if (onPage_) {
-        pages_.add(number);
-    }
-    if (inEntry_) {
-        entries_.add(number);
+void WordIndex::words(std::span<const FoldedWord> words) {
+    std::array<WordTable::Id, mostAtOnce> numbers{};
+    words_.add(words, numbers);
+    for (const WordTable::Id number : std::span(numbers).first(words.size())) {
+        if (onPage_) {
+            pages_.add(number);
+        }
+        if (inEntry_) {
+            entries_.add(number);
+        }
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 #include "navigator/data/data_files.h"
 #include "navigator/index/postings.h"
@@ -23,7 +24,8 @@ public:
     void startEntry(std::uint32_t entry);
     /// The following words are in the text of an entry, and on the page that it leads to.
     void startEntry(std::uint32_t entry, std::uint32_t page);
-    void word(const FoldedWord& word) override;
+    void word(const FoldedWord& word) override { words({&word, 1}); }
+    void words(std::span<const FoldedWord> words) override;
     /// Forgets the entries, but not the pages of their words.
     void clearEntries() noexcept { entries_.clear(); }
 

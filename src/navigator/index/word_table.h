@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -10,7 +11,7 @@
 namespace quillmark {
 
 /// Gives every distinct word a small number, in the order in which the words first come. Words are
-/// kept and compared in blocks of eight bytes, and the first block of a word lies in the table
+/// kept and compared in blocks of eight bytes, and the first two blocks of a word lie in the table
 /// itself: nearly every word of a page is found with one look.
 class WordTable {
 public:
@@ -20,6 +21,9 @@ public:
 
     /// The number of the word, given to it now when it is new.
     Id add(const FoldedWord& word);
+    /// Adds several words at once, at most `WordSink::mostAtOnce`. The looks into the table do not
+    /// wait for each other, so this is faster than adding them one by one.
+    void add(std::span<const FoldedWord> words, std::span<Id> ids);
     /// The word of a number. The view is valid until the next `add`.
     [[nodiscard]] std::string_view word(Id id) const noexcept;
     [[nodiscard]] std::size_t size() const noexcept { return ends_.size(); }
@@ -28,12 +32,16 @@ private:
     static constexpr Id none = 0xFFFFFFFF;
     struct Slot {
         std::uint64_t firstBlock = 0;
+        std::uint64_t secondBlock = 0;
         std::uint32_t hash = 0;
         Id id = none;
     };
 
-    [[nodiscard]] static std::uint32_t hashOf(const FoldedWord& word) noexcept;
+    [[nodiscard]] static Slot slotOf(const FoldedWord& word) noexcept;
+    [[nodiscard]] bool holds(const Slot& slot, const Slot& wanted,
+                             const FoldedWord& word) const noexcept;
     [[nodiscard]] bool hasRest(Id id, const FoldedWord& word) const noexcept;
+    Id add(Slot wanted, const FoldedWord& word);
     [[nodiscard]] std::size_t startOf(Id id) const noexcept { return id == 0 ? 0 : ends_[id - 1]; }
     Id append(const FoldedWord& word);
     void grow();

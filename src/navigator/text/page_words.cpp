@@ -48,7 +48,9 @@ void PageWords::read(std::span<const std::string_view> pieces) {
     bytes_.append(blockSize, '\0');
     html_ = std::string_view(bytes_).substr(0, size);
     at_ = html_tags::bodyStart(html_);
+    batch_.clear();
     readBody();
+    batch_.flush();
 }
 
 void PageWords::readBody() {
@@ -74,16 +76,17 @@ void PageWords::readBody() {
 }
 
 void PageWords::readWord() {
-    static_assert(WordSplitter::longestWord % blockSize == 0);
-    std::array<char, WordSplitter::longestWord> word{};
+    static_assert(WordBatch::longestWord == WordSplitter::longestWord);
+    static_assert(WordBatch::longestWord % blockSize == 0);
+    char* const word = batch_.next();
     const char* const html = html_.data();
     std::size_t at = at_;
     std::size_t length = 0;
     ascii_words::Block block{};
     do {
         block = ascii_words::classify(ascii_words::load(html + at));
-        if (length < word.size()) {
-            ascii_words::store(word.data() + length, block.letters);
+        if (length < WordBatch::longestWord) {
+            ascii_words::store(word + length, block.letters);
             length += block.length;
         }
         at += block.length;
@@ -95,7 +98,7 @@ void PageWords::readWord() {
         return;
     }
     at_ = at;
-    sink_.word({word.data(), length});
+    batch_.add(length);
 }
 
 /// Named references are separators.
@@ -117,6 +120,7 @@ void PageWords::readSlowly(std::size_t start) {
     decoder_.append(wide_, html_.substr(start, at_ - start));
     decoded_.clear();
     plain_text::appendDecoded(decoded_, wide_);
+    batch_.flush();
     splitter_.split(decoded_);
 }
 

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "navigator/text/text_decoder.h"
+#include "navigator/text/word_batch.h"
 #include "navigator/text/word_sink.h"
 #include "navigator/text/word_splitter.h"
 
@@ -17,7 +18,7 @@ class PageWords {
 public:
     /// The objects must outlive this one.
     PageWords(const TextDecoder& decoder, WordSink& sink) noexcept
-        : decoder_(decoder), sink_(sink), splitter_(sink) {}
+        : decoder_(decoder), batch_(sink), splitter_(sink) {}
 
     /// Passes the words behind the BODY tag to the sink. The pieces form one page.
     void read(std::span<const std::string_view> pieces);
@@ -32,7 +33,7 @@ private:
     [[nodiscard]] std::size_t slowEnd(std::size_t start) const noexcept;
 
     const TextDecoder& decoder_;
-    WordSink& sink_;
+    WordBatch batch_;
     WordSplitter splitter_;
     /// The page, with a few zero bytes at its end, so that eight bytes can be read anywhere.
     std::string bytes_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string_view>
 
 namespace quillmark {
@@ -11,6 +12,7 @@ class FoldedWord {
 public:
     static constexpr std::size_t blockSize = 8;
 
+    constexpr FoldedWord() noexcept = default;
     constexpr FoldedWord(const char* padded, std::size_t length) noexcept
         : padded_(padded), length_(length) {}
 
@@ -23,8 +25,8 @@ public:
     }
 
 private:
-    const char* padded_;
-    std::size_t length_;
+    const char* padded_ = nullptr;
+    std::size_t length_ = 0;
 };
 
 /// Takes the words of a text.
@@ -33,6 +35,13 @@ public:
     virtual ~WordSink() = default;
     /// The word is valid during the call.
     virtual void word(const FoldedWord& word) = 0;
+    /// Takes several words, at most `mostAtOnce`; a sink may be faster with them together.
+    virtual void words(std::span<const FoldedWord> words) {
+        for (const FoldedWord& one : words) {
+            word(one);
+        }
+    }
+    static constexpr std::size_t mostAtOnce = 16;
 };
 
 }  // namespace quillmark

@@ -15,6 +15,8 @@
 #include "platform/file_failure.h"
 #include "platform/file_system.h"
 #include "platform/posix/descriptor_io.h"
+#include "platform/posix/directory_lock.h"
+#include "platform/posix/file_rewriting.h"
 #include "platform/posix/whole_file.h"
 
 namespace quillmark {
@@ -255,6 +257,16 @@ public:
             static_cast<void>(chmod(from.c_str(), there->st_mode & allPermissions));
         }
         return noted(rename(from.c_str(), to.c_str()) == 0);
+    }
+
+    bool rewriteFile(const OrxString& name, std::string_view content) override {
+        const std::string path = nativePath(name);
+        return !path.empty() && file_rewriting::rewrite(path, content);
+    }
+
+    std::unique_ptr<FileLock> lockForChange(const OrxString& name) override {
+        const std::optional<std::string> path = file_rewriting::withoutLinks(nativePath(name));
+        return path ? lockDirectoryOf(*path) : nullptr;
     }
 };
 

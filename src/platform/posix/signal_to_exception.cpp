@@ -156,9 +156,10 @@ private:
             next->actions[i] = known ? last->actions[i] : current;
             next->spent[i] = known && last->spent[i];
         }
-        // Published first, so that a handler always has something to pass a signal on to.
-        hostActions.store(next.get(), std::memory_order_release);
+        // Published before the handlers are installed, so that they always have something to pass a
+        // signal on to.
         published_.push_back(std::move(next));
+        hostActions.store(published_.back().get(), std::memory_order_release);
         struct sigaction ours {};
         ours.sa_sigaction = onSignal;
         // Not deferred: the handler exits by a jump, and later signals must still arrive.

@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "platform/argument_text.h"
 #include "platform/drive_table.h"
 #include "platform/file_system.h"
 #include "platform/posix/launch.h"
@@ -27,6 +26,9 @@ std::string asPath(const std::string& name) {
 }  // namespace
 
 void SysShell::open(const OrxString& fileName) {
+    if (!FileSystem::current().mayStart("xdg-open")) {
+        return;
+    }
     if (SysFile::isHyperLink(fileName)) {
         static_cast<void>(launchDetached("xdg-open", {fileName.str()}));
         return;
@@ -38,18 +40,18 @@ void SysShell::open(const OrxString& fileName) {
     }
 }
 
-int SysShell::start(const OrxString& program, const OrxString& arguments) {
+int SysShell::start(const OrxString& program, const std::vector<OrxString>& arguments) {
     const std::string path = asPath(nativePath(program));
     if (!FileSystem::native().fileExists(program)) {
         return fileNotFound;
     }
-    if (access(path.c_str(), X_OK) != 0) {
+    if (access(path.c_str(), X_OK) != 0 || !FileSystem::current().mayStart(program)) {
         return accessDenied;
     }
     // Arguments may be file names in the driver's form, but programs expect the system's.
-    std::vector<std::string> list = splitArguments(arguments);
-    for (std::string& argument : list) {
-        argument = nativePath(argument);
+    std::vector<std::string> list;
+    for (const OrxString& argument : arguments) {
+        list.push_back(nativePath(argument));
     }
     return launchDetached(path, list) ? started : accessDenied;
 }

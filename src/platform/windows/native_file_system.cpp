@@ -6,6 +6,7 @@
 #include "foundation/module_lifetime.h"
 #include "platform/file_failure.h"
 #include "platform/file_system.h"
+#include "platform/windows/lock_file.h"
 #include "platform/windows/native_file.h"
 #include "platform/windows/whole_file.h"
 #include "platform/windows/wide_name.h"
@@ -180,6 +181,11 @@ public:
         const std::wstring from = wideName(source);
         return isFile(attributesOf(from)) && MoveFileExW(from.c_str(), wideName(target).c_str(),
                                                          MOVEFILE_REPLACE_EXISTING) != FALSE;
+    }
+
+    std::unique_ptr<FileLock> lockForChange(const OrxString& name) override {
+        const std::wstring wide = wideName(name);
+        return wide.empty() ? nullptr : lockBeside(wide);
     }
 };
 

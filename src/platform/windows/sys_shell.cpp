@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
+#include "platform/argument_text.h"
 #include "platform/drive_table.h"
 #include "platform/file_system.h"
 #include "platform/sys_file.h"
@@ -36,17 +38,24 @@ void SysShell::open(const OrxString& fileName) {
     const std::string target =
         SysFile::isHyperLink(fileName) ? fileName.str() : nativePath(fileName);
     // An empty name would open the current directory.
-    if (!target.empty()) {
+    if (!target.empty() && FileSystem::current().mayStart(fileName)) {
         execute(target.c_str(), nullptr, SW_SHOWNORMAL);
     }
 }
 
-int SysShell::start(const OrxString& program, const OrxString& arguments) {
+int SysShell::start(const OrxString& program, const std::vector<OrxString>& arguments) {
     // Checked first, because the shell would report a missing program in a window.
     if (!FileSystem::native().fileExists(program)) {
         return SE_ERR_FNF;
     }
-    return execute(nativePath(program).c_str(), arguments.data(), SW_HIDE);
+    if (!FileSystem::current().mayStart(program)) {
+        return SE_ERR_ACCESSDENIED;
+    }
+    std::vector<std::string> list;
+    for (const OrxString& argument : arguments) {
+        list.push_back(argument.str());
+    }
+    return execute(nativePath(program).c_str(), joinedArguments(list).c_str(), SW_HIDE);
 }
 
 }  // namespace quillmark

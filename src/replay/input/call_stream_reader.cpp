@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 #include <string>
 
 #include "foundation/utf8.h"
@@ -35,11 +36,8 @@ public:
         loneSurrogates_ =
             size != line.size() ? utf8::LoneSurrogates::accepted : utf8::LoneSurrogates::malformed;
         line.data()[size] = '\0';  // the byte after the line belongs to the buffer too
-        // A text never has more units than its line has bytes.
-        if (units_.size() < size) {
-            units_.resize(std::max(size, units_.size() * 2));
-        }
-        nextUnit_ = units_.data();
+        makeRoomForUnits(size);
+        nextUnit_ = units_.get();
 
         rapidjson::InsituStringStream stream(line.data());
         const rapidjson::ParseResult result =
@@ -96,11 +94,25 @@ public:
     }
 
 private:
-    rapidjson::Reader reader_;
+    /// A text never has more units than its line has bytes. The old units are freed first, and the
+    /// new ones are not touched before they are used, since a line may be very long.
+    void makeRoomForUnits(std::size_t count) {
+        if (unitCount_ < count) {
+            const std::size_t grown = std::max(count, unitCount_ * 2);
+            unitCount_ = 0;
+            units_.reset();
+            units_ = std::make_unique_for_overwrite<char16_t[]>(
+                grown);  // NOLINT(modernize-avoid-c-arrays)
+            unitCount_ = grown;
+        }
+    }
+
+    JsonReader reader_;
     CallBuilder builder_;
     Call* call_ = nullptr;
     std::string problem_;
-    std::u16string units_;
+    std::unique_ptr<char16_t[]> units_;  // NOLINT(modernize-avoid-c-arrays): not initialized
+    std::size_t unitCount_ = 0;
     char16_t* nextUnit_ = nullptr;
     bool isOpen_ = false;
     utf8::LoneSurrogates loneSurrogates_ = utf8::LoneSurrogates::malformed;

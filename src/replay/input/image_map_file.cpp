@@ -9,12 +9,12 @@ namespace quillmark::replay {
 
 namespace {
 
-std::vector<OrxString> readTexts(const rapidjson::Value& list, const std::string& place) {
+std::vector<OrxString> readTexts(const JsonValue& list, const std::string& place) {
     if (!list.IsArray()) {
         throw BadInput(place + ": the regions must be a list of strings");
     }
     std::vector<OrxString> texts;
-    for (const rapidjson::Value& text : list.GetArray()) {
+    for (const JsonValue& text : list.GetArray()) {
         if (!text.IsString()) {
             throw BadInput(place + ": the regions must be a list of strings");
         }
@@ -26,7 +26,7 @@ std::vector<OrxString> readTexts(const rapidjson::Value& list, const std::string
 }  // namespace
 
 ImageMapFile::ImageMapFile(const std::filesystem::path& file, std::string_view shown) {
-    const rapidjson::Document document = readJsonObject(file, shown);
+    const JsonDocument document = readJsonObject(file, shown);
     for (const auto& member : document.GetObject()) {
         const std::string place = std::string(shown) + ": " + std::string(utf8Text(member.name));
         pictures_[narrowText(member.name)] = readTexts(member.value, place);

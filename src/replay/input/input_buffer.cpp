@@ -1,6 +1,8 @@
 #include "replay/input/input_buffer.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <new>
 
 namespace quillmark::replay {
 
@@ -13,17 +15,33 @@ constexpr std::string_view whiteSpace = " \t\r\n";
 
 }  // namespace
 
-InputBuffer::InputBuffer(std::istream& input) : input_(input), bytes_(firstSize) {}
+void InputBuffer::Bytes::Free::operator()(char* memory) const noexcept {
+    std::free(memory);  // NOLINT(cppcoreguidelines-no-malloc): see grow
+}
+
+void InputBuffer::Bytes::grow(std::size_t size) {
+    // NOLINTNEXTLINE(cppcoreguidelines-no-malloc): nothing else grows without a copy.
+    void* const grown = std::realloc(memory_.get(), size);
+    if (grown == nullptr) {
+        throw std::bad_alloc();
+    }
+    static_cast<void>(memory_.release());
+    memory_.reset(static_cast<char*>(grown));
+    size_ = size;
+}
+
+InputBuffer::InputBuffer(std::istream& input) : input_(input) {
+    bytes_.grow(firstSize);
+}
 
 void InputBuffer::makeRoom() {
     if (begin_ > 0 && (begin_ == end_ || bytes_.size() - end_ <= leastRoom)) {
-        std::copy(bytes_.begin() + static_cast<std::ptrdiff_t>(begin_),
-                  bytes_.begin() + static_cast<std::ptrdiff_t>(end_), bytes_.begin());
+        std::copy(bytes_.data() + begin_, bytes_.data() + end_, bytes_.data());
         end_ -= begin_;
         begin_ = 0;
     }
     if (bytes_.size() - end_ <= leastRoom) {
-        bytes_.resize(bytes_.size() * 2);
+        bytes_.grow(bytes_.size() * 2);
     }
 }
 
@@ -39,7 +57,7 @@ bool InputBuffer::fill() {
             input_.rdbuf()->sgetn(bytes_.data() + end_, std::min(ready, room)));
     }
     end_ += count;
-    bytes_[end_] = '\0';
+    bytes_.data()[end_] = '\0';
     return count > 0;
 }
 

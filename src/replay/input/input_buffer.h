@@ -2,9 +2,9 @@
 
 #include <cstddef>
 #include <istream>
+#include <memory>
 #include <span>
 #include <string_view>
-#include <vector>
 
 namespace quillmark::replay {
 
@@ -30,10 +30,26 @@ public:
     [[nodiscard]] bool failed() const { return input_.bad(); }
 
 private:
+    /// Its memory is not copied when it grows and not touched before it is used: a line may have
+    /// hundreds of megabytes.
+    class Bytes {
+    public:
+        [[nodiscard]] char* data() const noexcept { return memory_.get(); }
+        [[nodiscard]] std::size_t size() const noexcept { return size_; }
+        void grow(std::size_t size);
+
+    private:
+        struct Free {
+            void operator()(char* memory) const noexcept;
+        };
+        std::unique_ptr<char, Free> memory_;
+        std::size_t size_ = 0;
+    };
+
     void makeRoom();
 
     std::istream& input_;
-    std::vector<char> bytes_;
+    Bytes bytes_;
     std::size_t begin_ = 0;
     std::size_t end_ = 0;
 };

@@ -18,9 +18,9 @@ namespace {
 
 }  // namespace
 
-rapidjson::Document readJsonObject(const std::filesystem::path& file, std::string_view shown) {
+JsonDocument readJsonObject(const std::filesystem::path& file, std::string_view shown) {
     const std::string text = readHostFile(file, shown);
-    rapidjson::Document document;
+    JsonDocument document;
     // Without recursion, so that a deeply nested file cannot exhaust the stack.
     document.Parse<rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag>(
         text.data(), text.size());
@@ -35,11 +35,11 @@ rapidjson::Document readJsonObject(const std::filesystem::path& file, std::strin
     return document;
 }
 
-std::string_view utf8Text(const rapidjson::Value& value) {
+std::string_view utf8Text(const JsonValue& value) {
     return {value.GetString(), value.GetStringLength()};
 }
 
-OrxString narrowText(const rapidjson::Value& value) {
+OrxString narrowText(const JsonValue& value) {
     return SysText::fromUtf8(utf8Text(value));
 }
 

@@ -11,11 +11,11 @@ namespace quillmark::replay {
 
 /// Reads a file that contains one JSON object. `shown` is its name in messages. Throws `BadInput`
 /// when it cannot be read or is malformed.
-[[nodiscard]] rapidjson::Document readJsonObject(const std::filesystem::path& file,
-                                                 std::string_view shown);
+[[nodiscard]] JsonDocument readJsonObject(const std::filesystem::path& file,
+                                          std::string_view shown);
 
 /// A JSON string in the driver's 8-bit form.
-[[nodiscard]] OrxString narrowText(const rapidjson::Value& value);
-[[nodiscard]] std::string_view utf8Text(const rapidjson::Value& value);
+[[nodiscard]] OrxString narrowText(const JsonValue& value);
+[[nodiscard]] std::string_view utf8Text(const JsonValue& value);
 
 }  // namespace quillmark::replay

@@ -73,7 +73,7 @@ private:
 
 namespace {
 
-const rapidjson::Value* memberOf(const rapidjson::Value& object, const char* name) {
+const JsonValue* memberOf(const JsonValue& object, const char* name) {
     const auto hit = object.FindMember(name);
     return hit != object.MemberEnd() ? &hit->value : nullptr;
 }
@@ -90,7 +90,7 @@ std::uint64_t readHandle(std::string_view text, const std::string& place) {
     return handle;
 }
 
-OrxString readAttribute(const rapidjson::Value& value, const std::string& place) {
+OrxString readAttribute(const JsonValue& value, const std::string& place) {
     if (value.IsString()) {
         return narrowText(value);
     }
@@ -108,24 +108,24 @@ OrxString readAttribute(const rapidjson::Value& value, const std::string& place)
     return std::string(text.data(), written.ptr);
 }
 
-const rapidjson::Value& elementsOf(const rapidjson::Document& document, std::string_view shown) {
-    const rapidjson::Value* const elements = memberOf(document, "elements");
+const JsonValue& elementsOf(const JsonDocument& document, std::string_view shown) {
+    const JsonValue* const elements = memberOf(document, "elements");
     if (elements == nullptr || !elements->IsObject()) {
         throw BadInput(std::string(shown) + ": the model has no \"elements\" object");
     }
     return *elements;
 }
 
-int readSchemaType(const rapidjson::Document& document, std::string_view shown, int fallback) {
-    const rapidjson::Value* const type = memberOf(document, "schemaType");
+int readSchemaType(const JsonDocument& document, std::string_view shown, int fallback) {
+    const JsonValue* const type = memberOf(document, "schemaType");
     if (type != nullptr && !type->IsInt()) {
         throw BadInput(std::string(shown) + ": \"schemaType\" must be an integer");
     }
     return type != nullptr ? type->GetInt() : fallback;
 }
 
-OrxString readClassName(const rapidjson::Value& element, const std::string& place) {
-    const rapidjson::Value* const name = element.IsObject() ? memberOf(element, "class") : nullptr;
+OrxString readClassName(const JsonValue& element, const std::string& place) {
+    const JsonValue* const name = element.IsObject() ? memberOf(element, "class") : nullptr;
     if (name == nullptr || !name->IsString()) {
         throw BadInput(place + ": the element has no \"class\" string");
     }
@@ -135,7 +135,7 @@ OrxString readClassName(const rapidjson::Value& element, const std::string& plac
 }  // namespace
 
 ModelFile::ModelFile(const std::filesystem::path& file, std::string_view shown) {
-    const rapidjson::Document document = readJsonObject(file, shown);
+    const JsonDocument document = readJsonObject(file, shown);
     schemaType_ = readSchemaType(document, shown, schemaType_);
     for (const auto& member : elementsOf(document, shown).GetObject()) {
         const std::string place = std::string(shown) + ": " + std::string(utf8Text(member.name));
@@ -146,7 +146,7 @@ ModelFile::ModelFile(const std::filesystem::path& file, std::string_view shown) 
             known = std::make_unique<Class>(className);
         }
         auto element = std::make_unique<Element>(*known);
-        const rapidjson::Value* const attributes = memberOf(member.value, "attributes");
+        const JsonValue* const attributes = memberOf(member.value, "attributes");
         if (attributes != nullptr && !attributes->IsObject()) {
             throw BadInput(place + ": \"attributes\" must be an object");
         }

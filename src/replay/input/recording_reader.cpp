@@ -7,7 +7,7 @@ namespace quillmark::replay {
 
 namespace {
 
-/// How far the search for the end of a call goes on after a possible end.
+/// How far the search for the end of a call continues after a possible end.
 constexpr std::size_t farEnough = std::size_t{1} << 20U;
 
 /// Removes the carriage returns of line ends. Some systems write them into logs; the driver wrote

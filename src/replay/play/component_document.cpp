@@ -2,6 +2,7 @@
 
 #include <array>
 #include <limits>
+#include <new>
 #include <vector>
 
 #include "dochtml/text.h"
@@ -64,6 +65,12 @@ private:
     DISPPARAMS parameters_{};
 };
 
+void requireMemory(HRESULT result) {
+    if (result == E_OUTOFMEMORY) {
+        throw std::bad_alloc();
+    }
+}
+
 InvokeStatus statusOf(HRESULT result) noexcept {
     switch (result) {
         case DISP_E_MEMBERNOTFOUND:
@@ -82,6 +89,7 @@ int ComponentDocument::idOf(std::string_view name) {
     std::array<LPOLESTR, 1> names = {wide.get()};
     DISPID id = DISPID_UNKNOWN;
     const HRESULT result = document_->GetIDsOfNames(IID_NULL, names.data(), 1, 0, &id);
+    requireMemory(result);
     return SUCCEEDED(result) ? static_cast<int>(id) : 0;
 }
 
@@ -89,6 +97,7 @@ InvokeStatus ComponentDocument::invoke(int id, std::span<const Argument> argumen
     VariantArguments variants(arguments);
     const HRESULT result = document_->Invoke(id, IID_NULL, 0, DISPATCH_METHOD,
                                              variants.parameters(), nullptr, nullptr, nullptr);
+    requireMemory(result);
     variants.takeOutTexts(arguments);
     return statusOf(result);
 }

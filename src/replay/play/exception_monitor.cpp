@@ -20,11 +20,13 @@ bool ExceptionMonitor::records(std::string_view category) const {
 }
 
 void ExceptionMonitor::write(std::string_view message) {
+    // Counted first: the handlers may run out of memory.
+    const bool isFailure = message.starts_with(catchOpening);
+    caught_ += isFailure ? 1 : 0;
     if (onMessage_) {
         onMessage_(message);
     }
-    if (message.starts_with(catchOpening)) {
-        ++caught_;
+    if (isFailure) {
         onFailure_(withoutLineEnds(message.substr(catchOpening.size())));
     }
 }

@@ -1,5 +1,7 @@
 #include "replay/play/loaded_component.h"
 
+#include <new>
+
 #include "command_line/installed_files.h"
 #include "replay/play/component_document.h"
 #include "replay/services/service_registration.h"
@@ -13,8 +15,15 @@ constexpr const char* programIdentifier = "DocHtml.DocHtml.2.1.0";
 }  // namespace
 
 std::unique_ptr<LateBoundDocument> LoadedComponent::makeDocument() {
-    auto dispatch = component().createDocument().query<IDispatch>(IID_IDispatch);
-    return std::make_unique<ComponentDocument>(std::move(dispatch));
+    try {
+        auto dispatch = component().createDocument().query<IDispatch>(IID_IDispatch);
+        return std::make_unique<ComponentDocument>(std::move(dispatch));
+    } catch (const ComponentError& failure) {
+        if (failure.result() == E_OUTOFMEMORY) {
+            throw std::bad_alloc();
+        }
+        throw;
+    }
 }
 
 std::shared_ptr<ProvidedServices> LoadedComponent::provide(const HostServices& services) {

@@ -1,6 +1,7 @@
 #include "replay/play/player.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "foundation/utf8.h"
@@ -50,8 +51,9 @@ Player::Player(Settings settings, Listeners listeners, TraceMonitor& trace,
 
 LateBoundDocument& Player::document() {
     if (document_ == nullptr) {
-        document_ = settings_.makeDocument();
-        lookUpIdentifiers();
+        std::unique_ptr<LateBoundDocument> made = settings_.makeDocument();
+        lookUpIdentifiers(*made);
+        document_ = std::move(made);
         if (settings_.traceLevel) {
             const Argument level = std::int64_t{*settings_.traceLevel};
             invoke(operationOf("trace"), {&level, 1});
@@ -60,9 +62,9 @@ LateBoundDocument& Player::document() {
     return *document_;
 }
 
-void Player::lookUpIdentifiers() {
-    std::ranges::transform(operations(), ids_.begin(), [this](const Operation& operation) {
-        const int id = document_->idOf(operation.name);
+void Player::lookUpIdentifiers(LateBoundDocument& made) {
+    std::ranges::transform(operations(), ids_.begin(), [&](const Operation& operation) {
+        const int id = made.idOf(operation.name);
         if (id == 0) {
             throw BadInput(std::string("the component does not have the operation ") +
                            operation.name);
@@ -163,6 +165,20 @@ bool Player::playCall(Call& call) {
     return true;
 }
 
+/// False for a call that is skipped. Without memory for its arguments a call is lost; after a lost
+/// `create` the calls up to the next one would go to another document.
+bool Player::tryCall(Call& call) {
+    try {
+        return playCall(call);
+    } catch (const std::bad_alloc&) {
+        skipping_ = skipping_ || call.operation == &createOperation();
+        if (listeners_.refused) {
+            listeners_.refused(call.line, "out of memory");
+        }
+        return false;
+    }
+}
+
 /// Describes a line that the driver wrote, for a message.
 std::string Player::describe(std::size_t line) const {
     return line < trace_.calls().size()
@@ -208,7 +224,7 @@ bool Player::play(CallSource& source) {
     ReadResult result = source.next(call);
     while (result == ReadResult::call) {
         trace_.forgetCalls();
-        const bool played = playCall(call);
+        const bool played = tryCall(call);
         ++calls_;
         if (listeners_.played) {
             listeners_.played(calls_);

@@ -43,7 +43,7 @@ public:
         std::function<void(WideText)> answer;
         /// Where a replay diverged from its recording, and how.
         std::function<void(std::size_t line, const std::string& how)> diverged;
-        /// Which call of `create` was refused, and why.
+        /// Which call was refused, and why: a `create`, or one for which there is no memory.
         std::function<void(std::size_t line, const std::string& why)> refused;
         /// After every call, with the number of calls so far.
         std::function<void(std::size_t calls)> played;
@@ -65,8 +65,9 @@ public:
 
 private:
     LateBoundDocument& document();
-    void lookUpIdentifiers();
+    void lookUpIdentifiers(LateBoundDocument& made);
     bool playCall(Call& call);
+    bool tryCall(Call& call);
     bool refuses(const Call& create) const;
     void countLost(const Call& call);
     void invoke(const Operation& operation, std::span<const Argument> arguments);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <atomic>
+#include <cstddef>
 #include <string_view>
 
 #include "dochtml/callbacks.h"
@@ -15,12 +17,16 @@ inline void answer(const DochtmlSink* sink, std::string_view text) {
     sink->put(sink->context, &passed);
 }
 
+/// How many callbacks of this process have failed. The component cannot tell the tool.
+inline std::atomic<std::size_t> failedCallbacks{0};
+
 /// Runs the body of a callback. If it throws, the result is `failed`.
 template <typename Result, typename Body>
 Result guarded(Result failed, Body body) noexcept {
     try {
         return body();
     } catch (...) {
+        ++failedCallbacks;
         return failed;
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -16,6 +17,14 @@
 
 namespace quillmark::replay {
 
+/// The files that the component may use, when it is confined. Names are the system's own.
+struct FilesInReach {
+    std::vector<std::string> writable;
+    std::vector<std::string> readable;
+    /// Hears what was refused, for the user ("read /etc/passwd").
+    std::function<void(const std::string& what)> refused;
+};
+
 /// The services that a host provides to the driver for a run. An absent one keeps its default. The
 /// caller owns what the pointers refer to and keeps it alive during the run.
 struct HostServices {
@@ -28,6 +37,7 @@ struct HostServices {
     TraceListener* traceListener = nullptr;
     OrxExceptionLog* exceptionLog = nullptr;
     DocumentObserver* observer = nullptr;
+    std::optional<FilesInReach> filesInReach;
 };
 
 }  // namespace quillmark::replay

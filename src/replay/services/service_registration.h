@@ -18,9 +18,12 @@ public:
 
 private:
     void provide();
+    void confine();
+    void takeBack() noexcept;
 
     ComPointer<IHostServices> component_;
     HostServices services_;
+    bool confined_ = false;
 };
 
 }  // namespace quillmark::replay

@@ -1,10 +1,14 @@
+#include <cstdio>
 #include <iostream>
+#include <new>
 
 #include "platform/console.h"
 #include "replay/play/loaded_component.h"
 #include "replay/tool/tool.h"
 
-int main(int argc, char** argv) {
+namespace {
+
+int runProgram(int argc, char** argv) {
     using quillmark::Console;
     std::ios::sync_with_stdio(false);
     Console::readInputAsBytes();
@@ -17,4 +21,16 @@ int main(int argc, char** argv) {
          [&component](const quillmark::replay::HostServices& services) {
              return component.provide(services);
          }});
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return runProgram(argc, argv);
+    } catch (const std::bad_alloc&) {
+        // Needs no memory: standard error has no buffer.
+        std::fputs("dochtml-replay: out of memory\n", stderr);
+        return quillmark::replay::exitFailed;
+    }
 }

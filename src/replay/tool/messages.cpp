@@ -1,6 +1,8 @@
 #include "replay/tool/messages.h"
 
 #include <algorithm>
+#include <array>
+#include <iomanip>
 
 namespace quillmark::replay {
 
@@ -9,6 +11,13 @@ namespace {
 constexpr std::chrono::milliseconds longRun{1000};
 constexpr std::chrono::milliseconds progressInterval{200};
 
+char shownCharacter(char c) noexcept {
+    if (c == '\n') {
+        return ' ';
+    }
+    return static_cast<unsigned char>(c) < ' ' || c == '\x7F' ? '?' : c;
+}
+
 }  // namespace
 
 Messages::Messages(std::ostream& stream, bool progress)
@@ -16,11 +25,15 @@ Messages::Messages(std::ostream& stream, bool progress)
 
 void Messages::write(std::string_view line) {
     clearProgress();
-    std::string shown(line);
-    std::ranges::replace(shown, '\n', ' ');
-    std::ranges::replace_if(
-        shown, [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, '?');
-    stream_ << shown << '\n' << std::flush;
+    // In pieces, because a message must also come out when there is no memory for a copy.
+    std::array<char, 512> piece{};
+    while (!line.empty()) {
+        const std::string_view next = line.substr(0, piece.size());
+        std::ranges::transform(next, piece.begin(), shownCharacter);
+        stream_.write(piece.data(), static_cast<std::streamsize>(next.size()));
+        line.remove_prefix(next.size());
+    }
+    stream_ << '\n' << std::flush;
 }
 
 void Messages::progress(std::size_t calls, std::size_t pages) {
@@ -36,7 +49,7 @@ void Messages::progress(std::size_t calls, std::size_t pages) {
 
 void Messages::clearProgress() {
     if (shown_ > 0) {
-        stream_ << '\r' << std::string(shown_, ' ') << '\r' << std::flush;
+        stream_ << '\r' << std::setw(static_cast<int>(shown_)) << "" << '\r' << std::flush;
         shown_ = 0;
     }
 }

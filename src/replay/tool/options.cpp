@@ -51,6 +51,15 @@ void addLogs(OptionParser& parser, Options& options) {
     addFile(parser, "--exceptions", options.exceptionFile, "write the exception log to FILE");
 }
 
+void addConfinement(OptionParser& parser, Options& options) {
+    parser.addFlag("--confine",
+                   "for calls from strangers: write only below the output directory, read only "
+                   "the support files and what --allow-read names",
+                   options.confine);
+    parser.addOption("--allow-read", "DIR", "let a confined run read below DIR (repeatable)",
+                     [&](const std::string& dir) { options.allowRead.push_back(dir); });
+}
+
 /// Lets `parser` write what it finds into `options`.
 void addOptions(OptionParser& parser, Options& options) {
     addFile(parser, "-o,--output", options.output, "name for the first document");
@@ -58,9 +67,9 @@ void addOptions(OptionParser& parser, Options& options) {
     addFile(parser, "--ini", options.iniFile, "ini file to read instead of Veltrano.ini");
     addFile(parser, "--model", options.modelFile, "model metadata for entry icons (JSON)");
     addFile(parser, "--image-maps", options.imageMapFile, "regions of pictures (JSON)");
-    parser.addOption("--drive", "X=DIR", "map drive X: to DIR (repeatable)",
-                     [&](const std::string& text) { options.drives.push_back(parseDrive(text)); });
+    addDriveOption(parser, options.drives);
     addLogs(parser, options);
+    addConfinement(parser, options);
     parser.addFlag("--strict", "let warnings and unresolved references fail", options.strict);
     parser.addFlag("-v,--verbose", "name all warnings, not only the first three", options.verbose);
     parser.addFlag("-q,--quiet", "show no progress and no summary", options.quiet);
@@ -77,6 +86,9 @@ Options parseOptions(std::span<const std::string> arguments) {
     options.inputs = parser.parse(arguments);
     if (options.inputs.empty() && !options.help && !options.version) {
         throw BadUsage("no calls given; try --help");
+    }
+    if (!options.allowRead.empty() && !options.confine) {
+        throw BadUsage("--allow-read is for runs with --confine");
     }
     return options;
 }

@@ -17,7 +17,7 @@ struct Options {
         std::string group;
         std::string name;
         std::string value;
-        /// The value is a file name, so it may lie on one of the drives.
+        /// The value is a file name, so it may be on one of the drives.
         bool isFileName = false;
     };
 
@@ -35,6 +35,9 @@ struct Options {
     std::optional<std::string> exceptionFile;
     bool strict = false;
     bool verbose = false;
+    /// Directories that a confined run may read.
+    std::vector<std::string> allowRead;
+    bool confine = false;
     bool quiet = false;
     bool help = false;
     bool version = false;

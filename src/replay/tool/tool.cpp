@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <new>
 #include <system_error>
 
 #include "command_line/scoped_drives.h"
@@ -14,6 +15,8 @@
 #include "replay/input/inputs.h"
 #include "replay/play/document_counts.h"
 #include "replay/play/player.h"
+#include "replay/services/callback_guard.h"
+#include "replay/tool/confinement_options.h"
 #include "replay/tool/findings.h"
 #include "replay/tool/lazy_file.h"
 #include "replay/tool/messages.h"
@@ -26,6 +29,18 @@ namespace quillmark::replay {
 namespace {
 
 constexpr std::string_view toolName = "dochtml-replay";
+constexpr std::string_view outOfMemory = "dochtml-replay: out of memory";
+
+/// Without memory for its message, an exception is one more of having no memory.
+int reportFailure(std::ostream& errors, const std::exception& failure) {
+    try {
+        Messages(errors, false).write(std::string(toolName) + ": " + failure.what());
+        return exitBadInput;
+    } catch (const std::bad_alloc&) {
+        Messages(errors, false).write(outOfMemory);
+        return exitFailed;
+    }
+}
 
 /// The characters of a text that the driver's code page cannot hold; of many only the first.
 std::string lostCharacters(WideText text) {
@@ -53,8 +68,9 @@ public:
           services_(options, files_, environment.executable),
           messages_(environment.errors, environment.errorsGoToTerminal && !options.quiet),
           trace_(inputs_.hasRecording(), traceHandlers()),
-          exceptions_([this](std::string_view failure) { reportFailure(failure, trace_.takeReason()); },
-                      exceptionWriter()) {
+          exceptions_(
+              [this](std::string_view failure) { reportDriver(failure, trace_.takeReason()); },
+              exceptionWriter()) {
         checkOutputName();
         counts_.unresolvedFound = [this] { hearReports(findings_.wantsUnresolved()); };
         trace_.hearReports(options_.verbose);
@@ -77,6 +93,10 @@ public:
         }
         provided_.reset();
         messages_.clearProgress();
+        if (const std::size_t failed = failedCallbacks - failedBefore_; failed > 0) {
+            errors_ += failed;
+            messages_.write(outOfMemory);
+        }
         checkOutput();
         if (!options_.quiet) {
             writeSummary();
@@ -108,7 +128,7 @@ private:
 
     TraceMonitor::Handlers traceHandlers() {
         return {[this](std::string_view failure, std::string_view reason) {
-                    reportFailure(failure, reason);
+                    reportDriver(failure, reason);
                 },
                 [this](std::string_view warning) {
                     findings_.addWarning(shown_.message(warning, {}));
@@ -136,6 +156,12 @@ private:
         services.traceListener = &trace_;
         services.exceptionLog = &exceptions_;
         services.observer = &counts_;
+        if (options_.confine) {
+            services.filesInReach = filesInReach(options_, files_, *services.settings);
+            services.filesInReach->refused = [this](const std::string& what) {
+                reportError("--confine: refused to " + what);
+            };
+        }
         return services;
     }
 
@@ -217,7 +243,7 @@ private:
         }
     }
 
-    /// An unknown setting is most likely misspelled. It does no harm, so the run goes on.
+    /// An unknown setting is most likely misspelled. It does no harm, so the run continues.
     void warnOfUnknownSettings() {
         for (const Options::Setting& setting : options_.settings) {
             if (findSetting(setting.group, setting.name) == nullptr) {
@@ -243,14 +269,17 @@ private:
     }
 
     /// Reports a failure in the driver's words. Callbacks of the driver may not throw.
-    void reportFailure(std::string_view what, std::string_view reason) {
-        reportError(shown_.message(what, reason));
+    void reportDriver(std::string_view what, std::string_view reason) {
+        ++errors_;
+        write(shown_.message(what, reason));
     }
 
     void reportError(const std::string& what) {
         ++errors_;
-        messages_.write(std::string(toolName) + ": " + what);
+        write(what);
     }
+
+    void write(const std::string& what) { messages_.write(std::string(toolName) + ": " + what); }
 
     void writeSummary() {
         std::string text = counted(counts_.pages, "page") + " written, " +
@@ -301,6 +330,7 @@ private:
     /// Removed before what it refers to.
     std::shared_ptr<ProvidedServices> provided_;
     const Inputs::Input* current_ = nullptr;
+    std::size_t failedBefore_ = failedCallbacks;
     std::size_t errors_ = 0;
     std::size_t charactersLost_ = 0;
     std::size_t unknownSettings_ = 0;
@@ -326,9 +356,11 @@ int runTool(std::span<const std::string> arguments, const ReplayEnvironment& env
             return exitFailed;
         }
         return exitDone;
+    } catch (const std::bad_alloc&) {
+        Messages(environment.errors, false).write(outOfMemory);
+        return exitFailed;
     } catch (const std::exception& failure) {
-        Messages(environment.errors, false).write(std::string(toolName) + ": " + failure.what());
-        return exitBadInput;
+        return reportFailure(environment.errors, failure);
     }
 }
 

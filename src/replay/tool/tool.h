@@ -30,7 +30,8 @@ struct ReplayEnvironment {
 enum ExitStatus { exitDone = 0, exitFailed = 1, exitBadInput = 2 };
 
 /// Runs the tool: parses the arguments (UTF-8, without the program's name), provides the host
-/// services that they ask for, plays the calls and reports the result. Returns the exit status.
+/// services that they ask for, plays the calls and reports the result. Returns the exit status. If
+/// memory runs out, that is 1, with a message.
 [[nodiscard]] int runTool(std::span<const std::string> arguments,
                           const ReplayEnvironment& environment);
 

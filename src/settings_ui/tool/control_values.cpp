@@ -4,6 +4,8 @@
 #include <array>
 #include <string_view>
 
+#include "platform/sys_text.h"
+
 namespace quillmark {
 
 namespace {
@@ -31,6 +33,19 @@ int highestOf(const SettingDescription& setting) {
 
 bool isChoice(const SettingDescription& setting) {
     return isOnPage(setting) && (setting.name == navigation || setting.name == diagramType);
+}
+
+bool isInteger(const SettingDescription& setting) {
+    return setting.type == SettingType::integer || setting.type == SettingType::shortInteger;
+}
+
+/// Whether the text is an integer, or empty where that is the default.
+bool isNumberFor(const SettingDescription& setting, std::string_view text) {
+    if (text.empty()) {
+        return std::string_view(setting.defaultText).empty();
+    }
+    text.remove_prefix(text.starts_with('-') ? 1 : 0);
+    return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
 bool isDigitUpTo(const OrxString& text, int highest) {
@@ -62,16 +77,35 @@ OrxString acceptedValues(const SettingDescription& setting) {
         return "true or false";
     }
     if (isChoice(setting)) {
-        return "a number from 0 to " + RegEntry::ofInt(highestOf(setting)).asString();
+        const bool isNavigation = setting.name == navigation;
+        return (isNavigation ? "a number from 1 to " : "a number from 0 to ") +
+               RegEntry::ofInt(highestOf(setting)).asString();
     }
-    return {};
+    return isInteger(setting) ? "a number" : "";
 }
 
 bool accepts(const SettingDescription& setting, const OrxString& value) {
     if (setting.type == SettingType::boolean) {
         return yesOrNo(value).has_value();
     }
-    return !isChoice(setting) || isDigitUpTo(value, highestOf(setting));
+    if (isChoice(setting)) {
+        // The page itself refuses 0 for the navigation, and says why.
+        return isDigitUpTo(value, highestOf(setting));
+    }
+    return !isInteger(setting) || isNumberFor(setting, value.view());
+}
+
+RegEntry storedForm(const SettingDescription& setting, const OrxString& value) {
+    return setting.type == SettingType::boolean ? RegEntry::ofBool(yesOrNo(value).value_or(false))
+                                                : RegEntry::ofString(value);
+}
+
+bool canBeStored(const std::string& utf8) {
+    return SysText::holdsUtf8(utf8);
+}
+
+std::string notStorable(const std::string& utf8) {
+    return "the driver's 8-bit code page cannot hold \"" + utf8 + "\"";
 }
 
 void putValue(MemoryControls& controls, const SettingDescription& setting, const OrxString& value) {

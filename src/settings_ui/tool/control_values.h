@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "settings/settings_table.h"
 #include "settings_ui/memory_controls.h"
@@ -16,6 +17,14 @@ namespace quillmark {
 
 /// Whether `value` is one of the accepted values.
 [[nodiscard]] bool accepts(const SettingDescription& setting, const OrxString& value);
+
+/// An accepted value as the page would store it: booleans as "true" and "false".
+[[nodiscard]] RegEntry storedForm(const SettingDescription& setting, const OrxString& value);
+
+/// Whether the settings can keep the text (UTF-8): the driver's names and texts have 8 bits.
+[[nodiscard]] bool canBeStored(const std::string& utf8);
+/// The message for a text that cannot be stored.
+[[nodiscard]] std::string notStorable(const std::string& utf8);
 
 /// Puts an accepted value into the setting's controls.
 void putValue(MemoryControls& controls, const SettingDescription& setting, const OrxString& value);

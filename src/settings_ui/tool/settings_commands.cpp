@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "command_line/bad_usage.h"
@@ -52,8 +53,8 @@ Assignment assignmentOf(const std::string& text) {
     }
     const SettingDescription& setting = settingNamed(text.substr(0, equals));
     const std::string given = text.substr(equals + 1);
-    if (!SysText::holdsUtf8(given)) {
-        throw BadUsage("the driver's 8-bit code page cannot hold \"" + given + "\"");
+    if (!canBeStored(given)) {
+        throw BadUsage(notStorable(given));
     }
     if (given.find_first_of("\r\n") != std::string::npos) {
         throw BadUsage(address(setting) + " must be a single line");
@@ -87,7 +88,7 @@ void writeOthers(const std::vector<Assignment>& assignments) {
         for (const Assignment& assignment : assignments) {
             if (assignment.setting == &setting && !isOnPage(setting)) {
                 RegisterDynamic().write(setting.group, setting.name,
-                                        RegEntry::ofString(assignment.value));
+                                        storedForm(setting, assignment.value));
             }
         }
     }
@@ -111,6 +112,7 @@ bool SettingsCommands::run(const ToolOptions& options) {
 }
 
 void SettingsCommands::list() const {
+    environment_.out << "Kept in " << location_ << "\n";
     for (const SettingDescription& setting : allSettings()) {
         OrxString fallback = defaultValue(setting).asString();
         if (&setting == findSetting(settingsGroup, "InstallDir")) {
@@ -146,25 +148,38 @@ bool SettingsCommands::set(const std::vector<std::string>& assignments) const {
 
 bool SettingsCommands::edit() const {
     LoadedPage loaded(environment_.errors);
-    TerminalForm form(loaded.controls, environment_.in, environment_.out);
-    environment_.out
-        << "HTML Settings, kept in " << location_
-        << "\nEnter keeps a value, \"\" empties it, the end of the input keeps the rest.\n\n";
+    const std::unique_ptr<AnswerSource> answers = answerSource();
+    TerminalForm form(loaded.controls, *answers, environment_.out,
+                      [&](std::string_view setting) { return loaded.page.accepts({&setting, 1}); });
+    environment_.out << "HTML Settings. Ctrl+C cancels: nothing is saved before the last answer.\n"
+                     << "Kept in " << location_
+                     << "\nEnter keeps a value, \"\" empties it, the end of the input keeps the "
+                        "rest.\n\n";
     if (!form.fillIn()) {
+        environment_.errors << "The input ended after an answer that was refused. Nothing changed.\n";
+        return false;
+    }
+    const std::vector<std::string_view> changed = form.changedSettings();
+    if (changed.empty()) {
         environment_.out << "\nNothing changed.\n";
         return true;
     }
-    while (!loaded.page.apply()) {
-        if (form.hasEnded()) {
-            return false;
-        }
-        environment_.out << '\n';
-        form.fillIn();
+    // Everything else stays as it is in the store: a default must not become a stored value.
+    if (!loaded.page.applyOnly(changed)) {
+        return false;
     }
     if (store_.failures().empty()) {
         environment_.out << "Saved.\n";
     }
     return true;
+}
+
+std::unique_ptr<AnswerSource> SettingsCommands::answerSource() const {
+    std::unique_ptr<AnswerSource> terminal =
+        environment_.makeTerminal ? environment_.makeTerminal() : nullptr;
+    return terminal != nullptr
+               ? std::move(terminal)
+               : std::make_unique<StreamAnswers>(environment_.in, environment_.out);
 }
 
 }  // namespace quillmark

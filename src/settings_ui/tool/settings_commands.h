@@ -1,6 +1,8 @@
 #pragma once
 
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "settings_ui/tool/failure_recording_store.h"
 #include "settings_ui/tool/settings_tool.h"
@@ -29,6 +31,8 @@ private:
     void get(const std::string& name) const;
     bool set(const std::vector<std::string>& assignments) const;
     bool edit() const;
+    /// The user's terminal, or else the input of the tool.
+    [[nodiscard]] std::unique_ptr<AnswerSource> answerSource() const;
 
     const FailureRecordingStore& store_;
     OrxString installDir_;

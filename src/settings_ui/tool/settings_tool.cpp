@@ -34,6 +34,11 @@ void report(std::ostream& errors, const std::string& line) {
     errors << "dochtml-settings: " << line << "\n";
 }
 
+/// The location of the store, for the user.
+std::string placeOf(const ToolOptions& options) {
+    return options.settingsFile ? *options.settingsFile : SysText::toUtf8(userSettingsLocation());
+}
+
 ToolStatus runCommand(const ToolOptions& options, const SettingsToolEnvironment& environment) {
     const auto defaults = std::make_shared<DefaultInstallDir>(
         options.settingsFile ? makeIniSettingsStore(driverPath(*options.settingsFile))
@@ -46,8 +51,7 @@ ToolStatus runCommand(const ToolOptions& options, const SettingsToolEnvironment&
         report(environment.errors, SysText::toUtf8(problem));
         return ToolStatus::failed;
     }
-    const std::string place =
-        options.settingsFile ? *options.settingsFile : SysText::toUtf8(userSettingsLocation());
+    const std::string place = placeOf(options);
     const bool accepted =
         SettingsCommands(*store, defaults->directory(), place, environment).run(options);
     for (const OrxString& name : store->failures()) {
@@ -60,7 +64,7 @@ ToolStatus runCommand(const ToolOptions& options, const SettingsToolEnvironment&
 ToolStatus run(std::span<const std::string> arguments, const SettingsToolEnvironment& environment) {
     const ToolOptions options = parseToolOptions(arguments);
     if (options.help) {
-        writeToolHelp(environment.out);
+        writeToolHelp(environment.out, placeOf(options));
         return ToolStatus::done;
     }
     if (options.version) {

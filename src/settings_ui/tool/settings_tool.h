@@ -1,9 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <istream>
+#include <memory>
 #include <ostream>
 #include <span>
 #include <string>
+
+#include "settings_ui/tool/answer_source.h"
 
 namespace quillmark {
 
@@ -14,6 +18,9 @@ struct SettingsToolEnvironment {
     std::ostream& errors;
     /// The path of the program (UTF-8), from which the support files are found.
     std::string executable;
+    /// Makes the source of answers on the user's terminal, or null. Without it, answers come from
+    /// `in`.
+    std::function<std::unique_ptr<AnswerSource>()> makeTerminal = {};
 };
 
 /// The exit status of the tool.

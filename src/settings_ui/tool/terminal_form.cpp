@@ -1,7 +1,9 @@
 #include "settings_ui/tool/terminal_form.h"
 
 #include <algorithm>
-#include <string>
+#include <optional>
+#include <span>
+#include <utility>
 
 #include "platform/sys_text.h"
 #include "settings_ui/tool/control_values.h"
@@ -19,89 +21,136 @@ bool isDigits(const OrxString& text) {
     return std::ranges::all_of(text.view(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
+bool isQuestion(const PageControl& row) {
+    return !row.hidden && (row.kind == ControlKind::edit || row.kind == ControlKind::numberEdit ||
+                           row.kind == ControlKind::checkBox);
+}
+
+bool edits(const PageControl& row, std::string_view setting) {
+    return row.setting != nullptr && row.setting == setting;
+}
+
+/// Whether no later row edits the same setting.
+bool isLastOfSetting(std::span<const PageControl> rows, std::size_t row) {
+    return std::ranges::none_of(rows.subspan(row + 1), [&](const PageControl& later) {
+        return edits(later, rows[row].setting);
+    });
+}
+
+/// The first row that edits the setting.
+std::size_t firstRowOf(std::span<const PageControl> rows, std::string_view setting) {
+    const auto found = std::ranges::find_if(
+        rows, [&](const PageControl& row) { return edits(row, setting); });
+    return static_cast<std::size_t>(found - rows.begin());
+}
+
 }  // namespace
 
 bool TerminalForm::fillIn() {
-    answered_ = false;
+    const std::span<const PageControl> rows = pageControls();
     OrxString label;
-    for (const PageControl& row : pageControls()) {
-        if (ended_) {
-            break;
+    bool refused = false;
+    for (std::size_t i = 0; i < rows.size();) {
+        const PageControl& row = rows[i];
+        if (row.kind == ControlKind::groupBox && !row.hidden) {
+            out_ << '\n' << row.text << '\n';
+        } else if (row.kind == ControlKind::label) {
+            label = plainText(row.text);
         }
-        if (row.hidden) {
-            continue;
-        }
-        switch (row.kind) {
-            case ControlKind::groupBox:
-                out_ << '\n' << row.text << '\n';
-                break;
-            case ControlKind::label:
-                label = plainText(row.text);
-                break;
-            case ControlKind::edit:
-            case ControlKind::numberEdit:
-                ask(row, label);
-                break;
-            case ControlKind::checkBox:
-                ask(row, plainText(row.text));
-                break;
-            default:
-                break;
-        }
-    }
-    return answered_;
-}
-
-void TerminalForm::ask(const PageControl& row, const OrxString& label) {
-    while (true) {
-        out_ << SysText::toUtf8(label + " [" + shown(row) + "]: ") << std::flush;
-        const std::optional<OrxString> answer = readLine();
-        if (!answer) {
-            ended_ = true;
+        const Answered answered = isQuestion(row) ? ask(row, label) : Answered::accepted;
+        if (answered == Answered::ended) {
             out_ << '\n';
-            return;
+            return !refused;
         }
-        if (answer->isEmpty()) {
-            return;
-        }
-        if (take(row, *answer)) {
-            answered_ = true;
-            return;
+        refused = answered == Answered::refused || isRefused(i);
+        if (refused) {
+            restore(row.setting);
+            i = firstRowOf(rows, row.setting);
+        } else {
+            ++i;
         }
     }
-}
-
-bool TerminalForm::take(const PageControl& row, const OrxString& answer) {
-    if (row.kind == ControlKind::checkBox) {
-        const std::optional<bool> wanted = yesOrNo(answer);
-        if (!wanted) {
-            out_ << "Please answer yes or no.\n";
-            return false;
-        }
-        if (*wanted != controls_.isChecked(row.id)) {
-            controls_.click(row.id);
-        }
-        return true;
-    }
-    const OrxString text = answer == "\"\"" ? OrxString() : answer;
-    if (row.kind == ControlKind::numberEdit) {
-        return takeLevel(text);
-    }
-    controls_.setText(row.id, text);
     return true;
 }
 
-bool TerminalForm::takeLevel(const OrxString& answer) {
-    if (answer == "+" || answer == "-") {
+TerminalForm::Answered TerminalForm::ask(const PageControl& row, const OrxString& label) {
+    const bool isCheckBox = row.kind == ControlKind::checkBox;
+    const std::string value = SysText::toUtf8(shown(row));
+    const std::optional<std::string> answer = answers_.ask(
+        SysText::toUtf8(isCheckBox ? plainText(row.text) : label) + " [" + value + "]: ", value);
+    if (!answer) {
+        return Answered::ended;
+    }
+    return answer->empty() || take(row, *answer) ? Answered::accepted : Answered::refused;
+}
+
+bool TerminalForm::take(const PageControl& row, const std::string& answer) {
+    if (!canBeStored(answer)) {
+        out_ << notStorable(answer) << ".\n";
+        return false;
+    }
+    const OrxString text = SysText::fromUtf8(answer);
+    if (row.kind != ControlKind::checkBox) {
+        return takeText(row, text == "\"\"" ? OrxString() : text);
+    }
+    const std::optional<bool> wanted = yesOrNo(text);
+    if (!wanted) {
+        out_ << "Please answer yes or no.\n";
+        return false;
+    }
+    if (*wanted != controls_.isChecked(row.id)) {
+        controls_.click(row.id);
+    }
+    return true;
+}
+
+bool TerminalForm::takeText(const PageControl& row, const OrxString& answer) {
+    const bool isNumber = row.kind == ControlKind::numberEdit;
+    if (isNumber && (answer == "+" || answer == "-")) {
         controls_.spin(answer == "+" ? 1 : -1);
         return true;
     }
-    if (!isDigits(answer)) {
+    if (isNumber && (answer.isEmpty() || !isDigits(answer))) {
         out_ << "Please give digits only, or + or - for a step.\n";
         return false;
     }
-    controls_.setText(control::headingLevel, answer);
+    controls_.setText(row.id, answer);
     return true;
+}
+
+bool TerminalForm::isRefused(std::size_t row) const {
+    const std::span<const PageControl> rows = pageControls();
+    // A setting of two check boxes is complete with the second one. A value that the user did not
+    // touch is none of the form's business.
+    return isQuestion(rows[row]) && isLastOfSetting(rows, row) &&
+           hasChanged(rows[row].setting) && !check_(rows[row].setting);
+}
+
+bool TerminalForm::hasChanged(std::string_view setting) const {
+    return std::ranges::any_of(pageControls(), [&](const PageControl& row) {
+        return edits(row, setting) && (controls_.text(row.id) != before_.text(row.id) ||
+                                       controls_.isChecked(row.id) != before_.isChecked(row.id));
+    });
+}
+
+void TerminalForm::restore(std::string_view setting) {
+    for (const PageControl& row : pageControls()) {
+        if (edits(row, setting)) {
+            controls_.setText(row.id, before_.text(row.id));
+            controls_.setChecked(row.id, before_.isChecked(row.id));
+        }
+    }
+}
+
+std::vector<std::string_view> TerminalForm::changedSettings() const {
+    std::vector<std::string_view> changed;
+    const std::span<const PageControl> rows = pageControls();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (rows[i].setting != nullptr && isLastOfSetting(rows, i) && hasChanged(rows[i].setting)) {
+            changed.emplace_back(rows[i].setting);
+        }
+    }
+    return changed;
 }
 
 OrxString TerminalForm::shown(const PageControl& row) const {
@@ -109,17 +158,6 @@ OrxString TerminalForm::shown(const PageControl& row) const {
         return controls_.isChecked(row.id) ? "yes" : "no";
     }
     return controls_.text(row.id);
-}
-
-std::optional<OrxString> TerminalForm::readLine() {
-    std::string line;
-    if (!std::getline(in_, line)) {
-        return std::nullopt;
-    }
-    if (line.ends_with('\r')) {
-        line.pop_back();
-    }
-    return SysText::fromUtf8(line);
 }
 
 }  // namespace quillmark

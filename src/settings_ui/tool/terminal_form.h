@@ -1,38 +1,59 @@
 #pragma once
 
-#include <istream>
+#include <cstddef>
+#include <functional>
 #include <optional>
 #include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "settings_ui/memory_controls.h"
+#include "settings_ui/tool/answer_source.h"
 
 namespace quillmark {
 
 /// The page as a form on a terminal. It asks for the fields in tab order and shows their current
 /// values. An empty answer keeps the value, `""` sets an empty text, "+" and "-" step the heading
-/// level. At the end of the input all remaining values are kept.
+/// level. An answer that is refused is asked for again, and the value stays until it is accepted. At
+/// the end of the input all remaining values are kept.
 class TerminalForm {
 public:
-    TerminalForm(MemoryControls& controls, std::istream& in, std::ostream& out)
-        : controls_(controls), in_(in), out_(out) {}
+    /// Shows a message and returns false if the page refuses the value that the controls of the
+    /// setting have now.
+    using Check = std::function<bool(std::string_view setting)>;
 
-    /// Asks for every field once. True if there was an answer other than "keep the value".
+    /// The controls have the current values. All arguments stay the caller's.
+    TerminalForm(MemoryControls& controls, AnswerSource& answers, std::ostream& out, Check check)
+        : controls_(controls),
+          before_(controls),
+          answers_(answers),
+          out_(out),
+          check_(std::move(check)) {}
+
+    /// Asks for every field once. False if the input ended at a question whose last answer was
+    /// refused.
     bool fillIn();
-    /// Whether the input has ended, so that asking again is useless.
-    [[nodiscard]] bool hasEnded() const noexcept { return ended_; }
+    /// The settings whose controls now have another value.
+    [[nodiscard]] std::vector<std::string_view> changedSettings() const;
 
 private:
-    void ask(const PageControl& row, const OrxString& label);
-    bool take(const PageControl& row, const OrxString& answer);
-    bool takeLevel(const OrxString& answer);
+    enum class Answered { accepted, refused, ended };
+
+    Answered ask(const PageControl& row, const OrxString& label);
+    bool take(const PageControl& row, const std::string& answer);
+    bool takeText(const PageControl& row, const OrxString& answer);
+    bool isRefused(std::size_t row) const;
+    [[nodiscard]] bool hasChanged(std::string_view setting) const;
+    void restore(std::string_view setting);
     [[nodiscard]] OrxString shown(const PageControl& row) const;
-    std::optional<OrxString> readLine();
 
     MemoryControls& controls_;
-    std::istream& in_;
+    /// The values at the start.
+    const MemoryControls before_;
+    AnswerSource& answers_;
     std::ostream& out_;
-    bool answered_ = false;
-    bool ended_ = false;
+    Check check_;
 };
 
 }  // namespace quillmark

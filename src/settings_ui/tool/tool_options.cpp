@@ -31,8 +31,7 @@ void addOptions(OptionParser& parser, ToolOptions& options) {
     parser.addOption("--settings", "FILE",
                      "INI file with one section per group (default: the user's own settings)",
                      [&](const std::string& file) { options.settingsFile = file; });
-    parser.addOption("--drive", "X=DIR", "map drive X: to DIR (repeatable)",
-                     [&](const std::string& text) { options.drives.push_back(parseDrive(text)); });
+    addDriveOption(parser, options.drives);
     parser.addFlag("-h,--help", "show this help", options.help);
     parser.addFlag("--version", "show the version", options.version);
 }
@@ -77,11 +76,12 @@ ToolOptions parseToolOptions(std::span<const std::string> arguments) {
     return options;
 }
 
-void writeToolHelp(std::ostream& out) {
+void writeToolHelp(std::ostream& out, const std::string& location) {
     ToolOptions unused;
     OptionParser parser;
     addOptions(parser, unused);
-    out << usage << parser.help() << exitStatus;
+    out << usage << parser.help() << "\nThe settings are kept in " << location << "\n"
+        << exitStatus;
 }
 
 }  // namespace quillmark

@@ -24,7 +24,7 @@ struct ToolOptions {
 /// Parses the arguments, without the program's name. Throws `BadUsage`.
 [[nodiscard]] ToolOptions parseToolOptions(std::span<const std::string> arguments);
 
-/// Writes the text that `--help` shows.
-void writeToolHelp(std::ostream& out);
+/// Writes the text that `--help` shows. `location` is that of the store.
+void writeToolHelp(std::ostream& out, const std::string& location);
 
 }  // namespace quillmark

@@ -10,9 +10,10 @@ namespace quillmark {
 
 namespace {
 
-/// The head of an extended dialog template as it lies in the resource, words packed.
+/// The header of an extended dialog template, laid out as in the resource: members are aligned to
+/// 16-bit words.
 #pragma pack(push, 2)
-struct TemplateHead {
+struct TemplateHeader {
     WORD version;
     WORD signature;
     DWORD helpId;
@@ -32,8 +33,8 @@ struct TemplateFont {
     std::wstring face;
 };
 
-/// Steps over a menu, class or title of the head: nothing, a number, or a text.
-const WORD* behindName(const WORD* at) {
+/// Skips a menu, class or title of the header, which is empty, a number or a text.
+const WORD* afterName(const WORD* at) {
     constexpr WORD numberFollows = 0xFFFF;
     if (*at == numberFollows) {
         return at + 2;
@@ -44,17 +45,17 @@ const WORD* behindName(const WORD* at) {
     return at + 1;
 }
 
-TemplateFont fontOf(const TemplateHead* head) {
-    const auto* at = reinterpret_cast<const WORD*>(head + 1);
-    constexpr int namesInHead = 3;
-    for (int i = 0; i < namesInHead; ++i) {
-        at = behindName(at);
+TemplateFont fontOf(const TemplateHeader* header) {
+    const auto* at = reinterpret_cast<const WORD*>(header + 1);
+    constexpr int namesInHeader = 3;
+    for (int i = 0; i < namesInHeader; ++i) {
+        at = afterName(at);
     }
     constexpr int wordsBeforeFace = 3;
     return {at[0], at[1], reinterpret_cast<const wchar_t*>(at + wordsBeforeFace)};
 }
 
-/// A screen device context with the font selected, for as long as it is measured.
+/// Selects the font into a screen device context in order to measure it.
 class FontMeasure {
 public:
     explicit FontMeasure(const TemplateFont& font) : screen_(GetDC(nullptr)) {
@@ -75,7 +76,7 @@ public:
         ReleaseDC(nullptr, screen_);
     }
 
-    /// Average width and height of a character: four by eight dialog units.
+    /// The average width and the height of a character, which are 4 and 8 dialog units.
     [[nodiscard]] SIZE baseUnits() const {
         constexpr std::wstring_view letters =
             L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
@@ -96,7 +97,7 @@ private:
 }  // namespace
 
 std::wstring resourceString(WORD id) {
-    // With no buffer the call hands out the text in place, without a closing zero.
+    // Without a buffer the call returns a pointer to the text, which has no terminating zero.
     const wchar_t* text = nullptr;
     const int length = LoadStringW(thisModule(), id, reinterpret_cast<wchar_t*>(&text), 0);
     return length > 0 ? std::wstring(text, static_cast<std::size_t>(length)) : std::wstring();
@@ -105,14 +106,15 @@ std::wstring resourceString(WORD id) {
 SIZE dialogPixels(WORD id) {
     const HRSRC found = FindResourceA(thisModule(), MAKEINTRESOURCEA(id), RT_DIALOG);
     const HGLOBAL loaded = found == nullptr ? nullptr : LoadResource(thisModule(), found);
-    const auto* const head = static_cast<const TemplateHead*>(LockResource(loaded));
-    if (head == nullptr) {
+    const auto* const header = static_cast<const TemplateHeader*>(LockResource(loaded));
+    if (header == nullptr) {
         return {};
     }
     constexpr int unitsAcross = 4;
     constexpr int unitsDown = 8;
-    const SIZE base = FontMeasure(fontOf(head)).baseUnits();
-    return {MulDiv(head->width, base.cx, unitsAcross), MulDiv(head->height, base.cy, unitsDown)};
+    const SIZE base = FontMeasure(fontOf(header)).baseUnits();
+    return {MulDiv(header->width, base.cx, unitsAcross),
+            MulDiv(header->height, base.cy, unitsDown)};
 }
 
 }  // namespace quillmark

@@ -6,7 +6,8 @@
 
 namespace quillmark {
 
-/// Identifiers of the resources that the settings page needs from the module it is linked into.
+/// Identifiers of the resources of the settings page. The module that the page is linked into
+/// contains them.
 namespace resource {
 
 inline constexpr WORD pageTitle = 5102;
@@ -15,11 +16,11 @@ inline constexpr WORD pageDialog = 5106;
 
 }  // namespace resource
 
-/// A string resource of the module; empty when there is none of that number.
+/// A string resource of the module; empty when there is none with that identifier.
 [[nodiscard]] std::wstring resourceString(WORD id);
 
-/// Pixels of a dialog template's client area in the font that the template names; zero when the
-/// module has no such template.
+/// The size in pixels of a dialog template's client area, in the font of the template. Zero when
+/// the module has no such template.
 [[nodiscard]] SIZE dialogPixels(WORD id);
 
 }  // namespace quillmark

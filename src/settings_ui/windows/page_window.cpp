@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/windows/this_module.h"
+#include "settings_ui/windows/browse_button.h"
 #include "settings_ui/windows/module_resources.h"
 
 namespace quillmark {
@@ -20,7 +21,8 @@ bool holdsCheck(const PageControl& row) {
     return row.kind == ControlKind::checkBox || row.kind == ControlKind::radioButton;
 }
 
-/// The page's event for a notification of that control; nothing for the others.
+/// The page's event for a notification of that control. Nothing for notifications that the page
+/// ignores.
 std::optional<ControlEvent> eventOf(const PageControl& row, int notification) {
     if (holdsText(row)) {
         switch (notification) {
@@ -32,7 +34,7 @@ std::optional<ControlEvent> eventOf(const PageControl& row, int notification) {
                 return std::nullopt;
         }
     }
-    // A bare command counts whatever code it comes with.
+    // A command without a control counts with any notification code.
     if (row.kind == ControlKind::command || notification == BN_CLICKED) {
         return ControlEvent::clicked;
     }
@@ -49,6 +51,11 @@ bool PageWindow::create(HWND parent) {
     if (window_ == nullptr) {
         return false;
     }
+    for (const PageControl& row : pageControls()) {
+        if (row.kind == ControlKind::button) {
+            pressOnReturn(GetDlgItem(window_, row.id));
+        }
+    }
     restoreState();
     return true;
 }
@@ -64,7 +71,7 @@ INT_PTR CALLBACK PageWindow::dialogProcedure(HWND window, UINT message, WPARAM w
                                              LPARAM lparam) {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrA(window, DWLP_USER, lparam);
-        // The frame decides about the focus.
+        // The frame sets the focus.
         return FALSE;
     }
     auto* const self = reinterpret_cast<PageWindow*>(GetWindowLongPtrA(window, DWLP_USER));
@@ -81,7 +88,7 @@ INT_PTR CALLBACK PageWindow::dialogProcedure(HWND window, UINT message, WPARAM w
 }
 
 void PageWindow::onDestroy(UINT message) noexcept {
-    // A window that the system did not finish making has nothing to keep.
+    // The controls of a window that was never completely created contain nothing to keep.
     if (window_ == nullptr) {
         return;
     }
@@ -92,13 +99,14 @@ void PageWindow::onDestroy(UINT message) noexcept {
     try {
         keepState();
     } catch (...) {
-        // Nothing may be thrown through the system; what the controls held is lost.
+        // No exception may pass through the system. The values of the controls are lost.
     }
 }
 
 bool PageWindow::onCommand(int id, int notification) noexcept {
     const PageControl* const row = findControl(id);
-    // While the window is being made or filled its boxes report texts that nobody typed.
+    // While the window is created or filled, its edit boxes report texts that the user did not
+    // type.
     if (row == nullptr || window_ == nullptr || restoring_) {
         return false;
     }
@@ -109,7 +117,7 @@ bool PageWindow::onCommand(int id, int notification) noexcept {
     try {
         listener_(id, *event);
     } catch (...) {
-        // Nothing may be thrown through the system's message loop; the edit is lost.
+        // No exception may pass through the system's message loop. The edit is lost.
         return false;
     }
     return true;

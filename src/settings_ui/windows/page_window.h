@@ -7,8 +7,8 @@
 
 namespace quillmark {
 
-/// The dialog of the settings page: a child window made from the template, whose controls it
-/// hands out and whose notifications it tells as the page's events.
+/// The dialog of the settings page: a child window created from the template. Gives access to its
+/// controls and reports their notifications as events of the page.
 class PageWindow : public PageControls {
 public:
     using Listener = std::function<void(int id, ControlEvent event)>;
@@ -18,12 +18,14 @@ public:
     PageWindow& operator=(const PageWindow&) = delete;
     ~PageWindow() override { destroy(); }
 
-    /// Makes the window, hidden, below `parent`. It shows what an earlier one of this object
-    /// showed when it was destroyed. False when the system makes none.
+    /// Creates the window, hidden, as a child of `parent`. Its controls start with the values that
+    /// the previous window of this object had when it was destroyed. False when the system cannot
+    /// create it.
     [[nodiscard]] bool create(HWND parent);
-    /// Destroys the window and keeps what its controls hold.
+    /// Destroys the window and keeps the values of its controls.
     void destroy();
-    /// Null while there is none, and after the parent took it along.
+    /// Null when there is no window: before `create`, after `destroy`, and after the parent window
+    /// was destroyed.
     [[nodiscard]] HWND handle() const noexcept { return window_; }
 
     [[nodiscard]] OrxString text(int id) const override;
@@ -36,15 +38,16 @@ private:
     static INT_PTR CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wparam,
                                             LPARAM lparam);
     bool onCommand(int id, int notification) noexcept;
-    /// The window goes, by `destroy` or with a parent that its owner destroyed: its controls are
-    /// still there with the first message, nothing is after the second.
+    /// The window is being destroyed, by `destroy` or together with its parent. When the first
+    /// message (WM_DESTROY) arrives its controls still exist; after the second (WM_NCDESTROY)
+    /// nothing does.
     void onDestroy(UINT message) noexcept;
     void keepState();
     void restoreState();
 
     HWND window_ = nullptr;
     Listener listener_;
-    /// What the controls held when the last window went.
+    /// The values of the controls when the last window was destroyed.
     MemoryControls kept_;
     bool hasKept_ = false;
     bool hasRange_ = false;

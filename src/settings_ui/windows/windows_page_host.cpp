@@ -17,7 +17,7 @@ struct TaskMemoryDeleter {
     void operator()(void* memory) const noexcept { CoTaskMemFree(memory); }
 };
 
-/// The filter of a file-open dialog: name and pattern, each with a zero behind it.
+/// The filter of a file-open dialog: name and pattern, each followed by a zero.
 std::string filterOf(const FileChoice& choice) {
     std::string filter = choice.filterName;
     filter += '\0';

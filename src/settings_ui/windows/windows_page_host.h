@@ -7,10 +7,11 @@
 
 namespace quillmark {
 
-/// The page's message boxes, pickers and help through the system, owned by the page's window.
+/// Shows the page's message boxes, pickers and help with the functions of the system. The page's
+/// window owns them.
 class WindowsPageHost : public PageHost {
 public:
-    /// `owner` tells the page's window at the time of asking; `onDirty` hears of the dirty flag.
+    /// `owner` returns the page's current window. `onDirty` is called when the dirty flag changes.
     WindowsPageHost(std::function<HWND()> owner, std::function<void(bool dirty)> onDirty)
         : owner_(std::move(owner)), onDirty_(std::move(onDirty)) {}
 

@@ -1,6 +1,6 @@
 // A host whose document is a global that it never closes: the document's last page is written when
-// the process ends, after the statics of the library have had their turn. The program answers 0
-// when the page is there.
+// the process ends, after the statics of the library have been destroyed. The program returns 0
+// when the page exists.
 
 #include <cstdlib>
 #include <filesystem>
@@ -18,7 +18,7 @@ using quillmark::Component;
 using quillmark::Text;
 namespace fs = std::filesystem;
 
-/// Looks at the page when the process ends.
+/// Checks the page when the process ends.
 class PageCheck {
 public:
     PageCheck() = default;
@@ -42,7 +42,7 @@ public:
     fs::path directory;
 };
 
-// The later one goes first.
+// The last one is destroyed first.
 PageCheck pageCheck;
 ComPointer<::IDocument> document;
 

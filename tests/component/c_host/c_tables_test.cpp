@@ -1,4 +1,4 @@
-// The tables that C hosts call through are those of the C++ interfaces.
+// The tables of functions of C hosts are those of the C++ interfaces.
 
 #include <gmock/gmock.h>
 
@@ -26,7 +26,7 @@ protected:
     DochtmlHostServices* services_ = nullptr;
 };
 
-TEST_F(CTables, leadToTheOperations) {
+TEST_F(CTables, LeadToTheOperations) {
     Text type;
     EXPECT_EQ(document_->table->getDocType(document_, type.receive()), S_OK);
     EXPECT_EQ(type.view(), u"Html");
@@ -35,7 +35,7 @@ TEST_F(CTables, leadToTheOperations) {
     EXPECT_EQ(document_->table->popDirectory(document_), S_OK);
 }
 
-TEST_F(CTables, leadToNamesAndIdentifiers) {
+TEST_F(CTables, LeadToNamesAndIdentifiers) {
     Text name(u"popDirectory");
     LPOLESTR names[] = {name.get()};
     DISPID id = 0;
@@ -47,7 +47,7 @@ TEST_F(CTables, leadToNamesAndIdentifiers) {
               S_OK);
 }
 
-TEST_F(CTables, takeANullReservedIdentifierForNone) {
+TEST_F(CTables, TreatANullReservedIdentifierAsNone) {
     Text name(u"popDirectory");
     LPOLESTR names[] = {name.get()};
     DISPID id = 0;
@@ -59,19 +59,19 @@ TEST_F(CTables, takeANullReservedIdentifierForNone) {
               S_OK);
 }
 
-TEST_F(CTables, leadFromInterfaceToInterface) {
+TEST_F(CTables, LeadFromInterfaceToInterface) {
     void* same = nullptr;
     EXPECT_EQ(document_->table->QueryInterface(document_, &IID_IDocument, &same), S_OK);
     EXPECT_EQ(same, document_);
     EXPECT_EQ(document_->table->Release(document_), 1U);
 }
 
-TEST_F(CTables, areReachedFromPlainCByTheIdentifiersOfTheHeaders) {
+TEST_F(CTables, AreReachedFromPlainCByTheIdentifiersOfTheHeaders) {
     EXPECT_EQ(plain_c_call_by_name(document_), S_OK);
     EXPECT_EQ(plain_c_find_services(services_), S_OK);
 }
 
-TEST_F(CTables, lendServices) {
+TEST_F(CTables, AcceptServices) {
     std::string heard;
     const DochtmlTraceListener listener{
         &heard, 10, [](void* context, int32_t, const DochtmlText* text) {

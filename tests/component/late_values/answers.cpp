@@ -14,7 +14,7 @@ namespace {
 struct AskedOperation {
     DISPID id;
     UINT parameters;
-    /// What the recording has in front of that parameter.
+    /// What the recording contains before that parameter.
     std::string front;
 };
 
@@ -38,7 +38,7 @@ std::string failureName(HRESULT result) {
     return name == names.end() ? "result " + std::to_string(result) : name->second;
 }
 
-/// The text with every unit beyond plain ASCII as its number.
+/// The text with every unit outside printable ASCII as its number.
 std::string escaped(const std::string& utf8) {
     std::string shown;
     const Text text = textFromUtf8(utf8);

@@ -7,8 +7,8 @@
 
 namespace quillmark::testing {
 
-/// What parameters of each kind get of a value in a late-bound call, in the order and the form of
-/// the table.
+/// What parameters of each kind receive for a value in a late-bound call, in the order and format
+/// of the table.
 std::array<std::string, ValueRow::parameterCount> answersTo(const std::string& type,
                                                             const std::string& value);
 

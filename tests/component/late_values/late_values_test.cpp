@@ -1,5 +1,5 @@
-// What becomes of every kind of value that a host can pass: on Windows by the system's conversion,
-// elsewhere by ours, held against one table.
+// Compares the conversion of every kind of value that a host can pass with one table. On Windows
+// the system converts, elsewhere our own code.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@ std::vector<ValueRow> table() {
     return readValueTable(in);
 }
 
-/// The system that the tests run on may be the one that a row says differs, or the right one.
+/// The tests may run on Wine, whose answer a row lists separately, or on a correct system.
 bool isExpected(const ExpectedAnswer& expected, const std::string& answer) {
 #ifdef _WIN32
     return answer == expected.right || answer == expected.systemAnswer();
@@ -25,7 +25,7 @@ bool isExpected(const ExpectedAnswer& expected, const std::string& answer) {
 #endif
 }
 
-TEST(LateValues, becomeWhatTheTableSays) {
+TEST(LateValues, BecomeWhatTheTableSays) {
     for (const ValueRow& row : table()) {
         const auto answers = answersTo(row.type, row.value);
         for (std::size_t i = 0; i < answers.size(); ++i) {
@@ -35,16 +35,16 @@ TEST(LateValues, becomeWhatTheTableSays) {
     }
 }
 
-TEST(LateValues, comeInManyKinds) {
+TEST(LateValues, AreDistinctAndOfManyKinds) {
     std::set<std::string> values;
     for (const ValueRow& row : table()) {
         values.insert(row.type + ' ' + row.value);
     }
-    EXPECT_EQ(values.size(), table().size()) << "a row stands twice";
+    EXPECT_EQ(values.size(), table().size()) << "a row occurs twice";
     EXPECT_GE(values.size() * ValueRow::parameterCount, 1500U);
 }
 
-TEST(LateValues, haveAReasonWhereWineIsNotWindows) {
+TEST(LateValues, HaveAReasonWhereWineDiffersFromWindows) {
     for (const ValueRow& row : table()) {
         bool differs = false;
         for (const ExpectedAnswer& answer : row.answers) {

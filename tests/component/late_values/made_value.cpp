@@ -33,7 +33,7 @@ VARTYPE typeNamed(const std::string& name) {
     return static_cast<VARTYPE>(type->second);
 }
 
-/// Takes `suffix` off the end of `name`, if it is there.
+/// Removes `suffix` from the end of `name`, if it is there.
 bool takeSuffix(std::string& name, const std::string& suffix) {
     const bool found = name.ends_with(suffix);
     name.erase(found ? name.size() - suffix.size() : name.size());
@@ -106,7 +106,7 @@ void MadeValue::keep(Value value) noexcept {
     std::memcpy(memory_.data(), &value, sizeof value);
 }
 
-/// Puts the bytes of the value into the variant itself.
+/// Copies the bytes of the value into the variant itself.
 void MadeValue::point(VARTYPE base) noexcept {
     if (base == VT_DECIMAL) {
         std::memcpy(&variant_, memory_.data(), sizeof(DECIMAL));

@@ -10,10 +10,10 @@
 
 namespace quillmark::testing {
 
-/// A value of a host's, made from the first two cells of a row of the table.
+/// A value of a host, created from the first two cells of a row of the table.
 ///
 /// The type is the name of a kind of variant without its "VT_", or its number such as `0x1002`;
-/// `&` behind it makes a reference, `[]` an array. The value is written by its type:
+/// `&` after it makes a reference, `[]` an array. The value is written by its type:
 ///
 /// - whole numbers, currency (in ten-thousandths) and errors: an integer, also `0x80020004`,
 /// - real numbers and dates: `-2.5`, `nan`, `-nan`, `inf`, `-inf`,
@@ -21,11 +21,11 @@ namespace quillmark::testing {
 /// - `BSTR`: a quoted text in which `\u00A0` is a unit, or `null`,
 /// - `DISPATCH`: `null`, `bare` (an object without a value), or the type and value of its default
 ///   property, as in `I4 5`,
-/// - `VARIANT&`: the type and value of the variant it leads to,
+/// - `VARIANT&`: the type and value of the variant that it refers to,
 /// - `-` for a kind without a value, and `nowhere` for a reference that is null.
 class MadeValue {
 public:
-    /// Throws `std::runtime_error` for a row that cannot be made.
+    /// Throws `std::runtime_error` for a malformed row.
     MadeValue(std::string type, const std::string& value);
     ~MadeValue();
     MadeValue(const MadeValue&) = delete;
@@ -41,7 +41,7 @@ private:
     void point(VARTYPE base) noexcept;
 
     VARIANT variant_;
-    /// The bytes of the value, as a reference finds them.
+    /// The bytes of the value, to which a reference points.
     alignas(std::max_align_t) std::array<std::byte, sizeof(VARIANT)> memory_{};
     Text text_;
     std::unique_ptr<MadeValue> inner_;

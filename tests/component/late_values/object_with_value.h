@@ -4,7 +4,7 @@
 
 namespace quillmark::testing {
 
-/// An object of a host's whose only member is its default property; its owner deletes it.
+/// An object of a host whose only member is its default property; its owner deletes it.
 class ObjectWithValue final : public IDispatch {
 public:
     /// `value` may be null for an object without one; else it must outlive the object.

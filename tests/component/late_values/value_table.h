@@ -8,10 +8,11 @@
 
 namespace quillmark::testing {
 
-/// What one parameter gets of a value, such as `-1`, `true`, `"text"`, or the name of a failure.
+/// What one parameter receives for a value, such as `-1`, `true`, `"text"`, or the name of a
+/// failure.
 struct ExpectedAnswer {
     std::string right;
-    /// What Wine gives, where that is something else.
+    /// The answer of Wine, if it differs.
     std::string underWine;
 
     [[nodiscard]] const std::string& systemAnswer() const {
@@ -19,7 +20,8 @@ struct ExpectedAnswer {
     }
 };
 
-/// One row of the table: a value that a host passes, and what parameters of each kind get of it.
+/// One row of the table: a value that a host passes, and what parameters of each kind receive for
+/// it.
 ///
 ///     BSTR  "&HFFFF"  -1  65535  true  "&HFFFF"
 ///
@@ -35,8 +37,8 @@ struct ValueRow {
     std::string reason;
 };
 
-/// Reads a table; lines that are empty or begin with "#" are passed over. A row may end behind its
-/// value. Throws `std::runtime_error` for a row with too many cells.
+/// Reads a table. Skips empty lines and lines that begin with "#". A row may end after its value.
+/// Throws `std::runtime_error` for a row with too many cells.
 std::vector<ValueRow> readValueTable(std::istream& in);
 std::ostream& operator<<(std::ostream& out, const ValueRow& row);
 

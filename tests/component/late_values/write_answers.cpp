@@ -3,7 +3,7 @@
 //     component_late_answers TABLE > NEW-TABLE
 //
 // Run it under Wine, after a row with only its type and its value was added. Remarks stay. A row
-// with a reason keeps its answers for Windows and gets Wine's behind them where they differ.
+// with a reason keeps its answers for Windows; Wine's are added after them where they differ.
 
 #include <fstream>
 #include <iostream>

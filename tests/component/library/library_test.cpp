@@ -1,4 +1,4 @@
-// The library from outside: what it serves, how long it must stay, and several objects at once.
+// The library from outside: its classes, how long it must stay loaded, and several objects at once.
 
 #include <gmock/gmock.h>
 
@@ -32,7 +32,7 @@ protected:
     LoadedLibrary library_{DOCHTML_TEST_LIBRARY};
 };
 
-TEST_F(Library, servesBothClasses) {
+TEST_F(Library, ContainsBothClasses) {
     for (const CLSID& classId : {CLSID_DocHtml, CLSID_HtmlComPage}) {
         ComPointer<IClassFactory> factory;
         EXPECT_EQ(classObject(classId, IID_IClassFactory, factory.receive()), S_OK);
@@ -40,20 +40,20 @@ TEST_F(Library, servesBothClasses) {
     }
 }
 
-TEST_F(Library, doesNotKnowOtherClasses) {
+TEST_F(Library, DoesNotKnowOtherClasses) {
     void* object = &object;
     EXPECT_EQ(classObject(unknownClass, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE);
     EXPECT_EQ(object, nullptr);
 }
 
-TEST_F(Library, doesNotKnowOtherInterfacesOfAClass) {
+TEST_F(Library, DoesNotKnowOtherInterfacesOfAClass) {
     void* object = &object;
     EXPECT_EQ(classObject(CLSID_DocHtml, IID_IDocument, &object), E_NOINTERFACE);
     EXPECT_EQ(object, nullptr);
     EXPECT_EQ(classObject(CLSID_DocHtml, IID_IClassFactory, nullptr), E_POINTER);
 }
 
-TEST_F(Library, mayBeUnloadedWhenNothingOfItIsAlive) {
+TEST_F(Library, MayBeUnloadedWhenNoneOfItsObjectsIsAlive) {
     EXPECT_EQ(canUnload(), S_OK);
     ComPointer<IClassFactory> factory;
     ASSERT_EQ(classObject(CLSID_DocHtml, IID_IClassFactory, factory.receive()), S_OK);
@@ -69,7 +69,7 @@ TEST_F(Library, mayBeUnloadedWhenNothingOfItIsAlive) {
     EXPECT_EQ(canUnload(), S_OK);
 }
 
-TEST_F(Library, staysForALock) {
+TEST_F(Library, StaysLoadedForALock) {
     ComPointer<IClassFactory> factory;
     ASSERT_EQ(classObject(CLSID_DocHtml, IID_IClassFactory, factory.receive()), S_OK);
     EXPECT_EQ(factory->LockServer(1), S_OK);
@@ -81,7 +81,7 @@ TEST_F(Library, staysForALock) {
     EXPECT_EQ(canUnload(), S_OK);
 }
 
-TEST_F(Library, makesNoObjectWithAnInterfaceThatItsClassDoesNotOffer) {
+TEST_F(Library, CreatesNoObjectForAnInterfaceThatItsClassDoesNotOffer) {
     for (const CLSID& classId : {CLSID_DocHtml, CLSID_HtmlComPage}) {
         ComPointer<IClassFactory> factory;
         ASSERT_EQ(classObject(classId, IID_IClassFactory, factory.receive()), S_OK);
@@ -93,7 +93,7 @@ TEST_F(Library, makesNoObjectWithAnInterfaceThatItsClassDoesNotOffer) {
 }
 
 #ifndef _WIN32
-TEST_F(Library, hasNoSettingsPageWhereThereAreNoPropertyPages) {
+TEST_F(Library, HasNoSettingsPageWhereThereAreNoPropertyPages) {
     ComPointer<IClassFactory> factory;
     ASSERT_EQ(classObject(CLSID_HtmlComPage, IID_IClassFactory, factory.receive()), S_OK);
     ComPointer<IUnknown> page;
@@ -103,7 +103,7 @@ TEST_F(Library, hasNoSettingsPageWhereThereAreNoPropertyPages) {
 #endif
 
 #ifndef _WIN32
-/// Loads the library, has it write a document, and unloads it.
+/// Loads the library, writes a document with it, and unloads it.
 void writeDocumentAndUnload(const TempDir& dir) {
     const LoadedLibrary library(DOCHTML_TEST_LIBRARY);
     ComPointer<IClassFactory> factory;
@@ -119,7 +119,7 @@ void writeDocumentAndUnload(const TempDir& dir) {
     document->close();
 }
 
-TEST(UnloadedLibrary, leavesNoSignalHandlerBehind) {
+TEST(UnloadedLibrary, LeavesNoSignalHandlerInstalled) {
     struct sigaction before {};
     struct sigaction after {};
     ASSERT_EQ(sigaction(SIGSEGV, nullptr, &before), 0);
@@ -148,7 +148,7 @@ std::string writeDocument(const Component& component, const TempDir& dir,
     return dir.content("rep_dtl.htm").value_or("");
 }
 
-TEST(Apartments, writeDocumentsSideBySide) {
+TEST(Apartments, WriteDocumentsSideBySide) {
     const TempDir config;
     const EnvironmentVariable settings("XDG_CONFIG_HOME", config.native());
     const Apartment apartment;
@@ -177,7 +177,7 @@ bool isRefused(const std::string& file, const CLSID& classId = CLSID_DocHtml) {
     }
 }
 
-TEST(LoadedComponent, refusesALibraryThatIsNone) {
+TEST(LoadedComponent, RefusesALibraryThatIsNotAComponent) {
     const TempDir dir;
     dir.put("no.so", "not a library");
     EXPECT_TRUE(isRefused(dir.nativeFile("no.so")));

@@ -12,7 +12,7 @@
 
 namespace quillmark::testing {
 
-/// A library loaded by hand, as a host without any helper does.
+/// A library loaded with the functions of the system, as a host without the client library does.
 class LoadedLibrary {
 public:
 #ifdef _WIN32

@@ -1,5 +1,5 @@
-// The library as hosts load it: a document of all 42 operations, driven in every way, is the one
-// that the driver itself makes.
+// The library as hosts load it: a document of all 42 operations, called in every way, is the same
+// as the one that the driver itself writes.
 
 #include <gmock/gmock.h>
 
@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Everything that a document leaves behind that somebody can see.
+/// Every visible result of a document.
 struct Outcome {
     std::map<std::string, std::string> files;
     std::vector<std::string> calls;
@@ -27,7 +27,7 @@ struct Outcome {
     friend bool operator==(const Outcome&, const Outcome&) = default;
 };
 
-/// The directory of one document, the same name for each, so that outcomes can be compared.
+/// The directory of one document. All documents use the same name, so that results can be compared.
 class Workplace {
 public:
     Workplace() {
@@ -48,7 +48,7 @@ public:
         }
         return all;
     }
-    /// The place differs from run to run.
+    /// The directory differs from run to run.
     [[nodiscard]] std::string withoutDirectory(std::string text) const {
         return OrxString(text).replaceStr(dir_.path(), "HERE").str();
     }
@@ -103,7 +103,7 @@ protected:
     EnvironmentVariable settings_{"XDG_CONFIG_HOME", config_.native()};
 };
 
-TEST_F(WholeDocument, holdsEveryOperation) {
+TEST_F(WholeDocument, ContainsEveryOperation) {
     std::set<std::string> names;
     for (const Step& step : wholeDocument("")) {
         names.insert(step.name);
@@ -111,19 +111,19 @@ TEST_F(WholeDocument, holdsEveryOperation) {
     EXPECT_EQ(names.size(), 42U);
 }
 
-TEST_F(WholeDocument, isTheDriversOwnThroughTheTable) {
+TEST_F(WholeDocument, IsTheSameThroughTheTableAsFromTheDriver) {
     EXPECT_EQ(throughComponent(&callByTable), withoutComponent());
 }
 
-TEST_F(WholeDocument, isTheDriversOwnByDispatchIdentifier) {
+TEST_F(WholeDocument, IsTheSameByDispatchIdentifierAsFromTheDriver) {
     EXPECT_EQ(throughComponent(&callById), withoutComponent());
 }
 
-TEST_F(WholeDocument, isTheDriversOwnByName) {
+TEST_F(WholeDocument, IsTheSameByNameAsFromTheDriver) {
     EXPECT_EQ(throughComponent(&callByName), withoutComponent());
 }
 
-TEST_F(WholeDocument, isOnTheDisk) {
+TEST_F(WholeDocument, IsOnTheDisk) {
     const Outcome outcome = throughComponent(&callById);
     std::vector<std::string> names;
     for (const auto& [name, content] : outcome.files) {
@@ -140,10 +140,9 @@ TEST_F(WholeDocument, isOnTheDisk) {
                                          std::u16string(u"Html")}));
 }
 
-/// Without any of the operations the document is another one, but for those whose effect does not
-/// show in it: some are accepted and do nothing, `showLast` looks at the document, and a diagram
-/// and a mark need a model.
-TEST_F(WholeDocument, showsTheEffectOfEveryOperationThatHasOne) {
+/// The operations that can be left out without changing the document: some are accepted and do
+/// nothing, `showLast` only shows the document, and a diagram and a mark need a model.
+TEST_F(WholeDocument, ShowsTheEffectOfEveryOperationThatHasOne) {
     const std::set<std::string> withoutEffect = {"start",         "stop",      "setOrientation",
                                                  "showLast",      "startFile", "setTableRowHeight",
                                                  "insertDiagram", "insertMark"};
@@ -169,7 +168,7 @@ HRESULT knowsNothing(void* /*context*/, Arguments...) {
     return E_FAIL;
 }
 
-/// A model that knows nothing and writes down what it is asked for.
+/// An empty model that records what it is asked for.
 DochtmlModel askedModel(Handles& asked) {
     DochtmlModel model{};
     model.context = &asked;
@@ -196,7 +195,7 @@ DochtmlModel askedModel(Handles& asked) {
     return model;
 }
 
-TEST_F(WholeDocument, asksTheHostsModelForTheMarkedElement) {
+TEST_F(WholeDocument, AsksTheModelOfTheHostForTheMarkedElement) {
     const Apartment apartment;
     const Workplace place;
     Handles asked;
@@ -213,7 +212,7 @@ TEST_F(WholeDocument, asksTheHostsModelForTheMarkedElement) {
     EXPECT_THAT(asked, ::testing::Contains(0xFFFFFFFB00000000U));
 }
 
-TEST_F(WholeDocument, isHeardByTheHostCallByCall) {
+TEST_F(WholeDocument, IsReportedToTheHostCallByCall) {
     const Apartment apartment;
     const Workplace place;
     std::string heard;

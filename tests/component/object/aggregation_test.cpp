@@ -1,8 +1,8 @@
-// Who an object is and how long it lives, alone and inside an outer object.
+// An object's identity and lifetime, alone and inside an outer object.
 
 #include <gtest/gtest.h>
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "component/object/recorded_object.h"
 
 namespace quillmark::testing {
@@ -10,7 +10,8 @@ namespace {
 
 constexpr IID unknownInterface = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
 
-/// An outer object that counts, and passes on what it does not know to its inner object.
+/// An outer object that counts references and passes requests for unknown interfaces on to its
+/// inner object.
 class Outer final : public IUnknown {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
@@ -32,7 +33,7 @@ std::unique_ptr<IDocument> makeRecording() {
     return std::make_unique<RecordingDocument>();
 }
 
-TEST(DocumentAlone, isOneIdentityBehindAllItsInterfaces) {
+TEST(DocumentAlone, HasOneIdentityForAllItsInterfaces) {
     const RecordedObject object;
     ComPointer<IUnknown> first;
     ComPointer<IUnknown> second;
@@ -43,7 +44,7 @@ TEST(DocumentAlone, isOneIdentityBehindAllItsInterfaces) {
     EXPECT_EQ(first.get(), second.get());
 }
 
-TEST(DocumentAlone, leadsFromEveryInterfaceToEveryOther) {
+TEST(DocumentAlone, LeadsFromEveryInterfaceToEveryOther) {
     const RecordedObject object;
     const IID interfaces[] = {IID_IUnknown, IID_IDispatch, IID_IDocument};
     for (const IID& from : interfaces) {
@@ -56,7 +57,7 @@ TEST(DocumentAlone, leadsFromEveryInterfaceToEveryOther) {
     }
 }
 
-TEST(DocumentAlone, hasNoOtherInterface) {
+TEST(DocumentAlone, HasNoOtherInterface) {
     const RecordedObject object;
     void* found = &found;
     EXPECT_EQ(object.document().QueryInterface(unknownInterface, &found), E_NOINTERFACE);
@@ -64,7 +65,7 @@ TEST(DocumentAlone, hasNoOtherInterface) {
     EXPECT_EQ(object.document().QueryInterface(IID_IDispatch, nullptr), E_POINTER);
 }
 
-TEST(DocumentAlone, livesAsLongAsItIsCounted) {
+TEST(DocumentAlone, LivesAsLongAsAReferenceIsCounted) {
     RecordedObject object;
     EXPECT_EQ(object.document().AddRef(), 2U);
     EXPECT_EQ(object.document().Release(), 1U);
@@ -73,7 +74,7 @@ TEST(DocumentAlone, livesAsLongAsItIsCounted) {
     EXPECT_TRUE(moduleIsIdle());
 }
 
-TEST(DocumentInside, isMadeWithTheUnknownInterfaceOnly) {
+TEST(DocumentInside, IsCreatedWithTheUnknownInterfaceOnly) {
     Outer outer;
     void* object = &object;
     EXPECT_EQ(DocumentObject::make(&makeRecording, &outer, IID_IDocument, &object),
@@ -82,7 +83,7 @@ TEST(DocumentInside, isMadeWithTheUnknownInterfaceOnly) {
     EXPECT_TRUE(moduleIsIdle());
 }
 
-TEST(DocumentInside, takesTheOuterObjectsIdentity) {
+TEST(DocumentInside, TakesTheOuterObjectsIdentity) {
     Outer outer;
     ASSERT_EQ(DocumentObject::make(&makeRecording, &outer, IID_IUnknown, outer.inner.receive()),
               S_OK);
@@ -97,7 +98,7 @@ TEST(DocumentInside, takesTheOuterObjectsIdentity) {
     EXPECT_EQ(outer.count, 1U);
 }
 
-TEST(DocumentInside, countsItsInterfacesOnTheOuterObject) {
+TEST(DocumentInside, CountsItsInterfacesOnTheOuterObject) {
     Outer outer;
     ASSERT_EQ(DocumentObject::make(&makeRecording, &outer, IID_IUnknown, outer.inner.receive()),
               S_OK);
@@ -111,7 +112,7 @@ TEST(DocumentInside, countsItsInterfacesOnTheOuterObject) {
     EXPECT_EQ(outer.count, 1U);
 }
 
-TEST(DocumentInside, isCountedByItselfAsTheInnerObject) {
+TEST(DocumentInside, IsCountedByItselfAsTheInnerObject) {
     Outer outer;
     ASSERT_EQ(DocumentObject::make(&makeRecording, &outer, IID_IUnknown, outer.inner.receive()),
               S_OK);
@@ -123,7 +124,7 @@ TEST(DocumentInside, isCountedByItselfAsTheInnerObject) {
     EXPECT_TRUE(moduleIsIdle());
 }
 
-TEST(DocumentInside, answersForItsInnerUnknownItself) {
+TEST(DocumentInside, AnswersForItsInnerUnknownItself) {
     Outer outer;
     ASSERT_EQ(DocumentObject::make(&makeRecording, &outer, IID_IUnknown, outer.inner.receive()),
               S_OK);

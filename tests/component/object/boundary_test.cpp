@@ -1,12 +1,12 @@
-// Whatever happens behind the boundary, the host hears 0.
+// Whatever happens inside the component, an operation returns 0 to the host.
 
 #include <gmock/gmock.h>
 
 #include <new>
 #include <stdexcept>
 
+#include "component/module/module_state.h"
 #include "component/object/document_object.h"
-#include "component/object/module_state.h"
 #include "component/object/operation_calls.h"
 #include "dochtml/com_pointer.h"
 #include "support/capturing_exception_log.h"
@@ -39,7 +39,7 @@ ComPointer<::IDocument> makeFailing() {
     return object;
 }
 
-TEST(Boundary, answersZeroForAnExceptionAndLogsIt) {
+TEST(Boundary, ReturnsZeroForAnExceptionAndLogsIt) {
     const CapturingExceptionLog log;
     const auto document = makeFailing();
     EXPECT_EQ(document->create(nullptr), S_OK);
@@ -51,7 +51,7 @@ TEST(Boundary, answersZeroForAnExceptionAndLogsIt) {
                     "Exception catch: out of paper\n", "Exception catch: unknown exception\n"));
 }
 
-TEST(Boundary, isTheSameForLateBoundCalls) {
+TEST(Boundary, IsTheSameForLateBoundCalls) {
     const CapturingExceptionLog log(CapturingExceptionLog::Records::catchesOnly);
     const auto document = makeFailing();
     LateArguments none({});
@@ -59,7 +59,7 @@ TEST(Boundary, isTheSameForLateBoundCalls) {
     EXPECT_THAT(log.messages(), ElementsAre("Exception catch: out of paper\n"));
 }
 
-TEST(Boundary, handsOutNoTextOfAFailedOperation) {
+TEST(Boundary, ReturnsNoTextFromAFailedOperation) {
     const auto document = makeFailing();
     BSTR text = reinterpret_cast<BSTR>(&text);
     EXPECT_EQ(document->getDocType(&text), S_OK);
@@ -70,13 +70,13 @@ TEST(Boundary, handsOutNoTextOfAFailedOperation) {
     EXPECT_THAT(out.outText(), IsEmpty());
 }
 
-TEST(Boundary, goesOnAfterAFailure) {
+TEST(Boundary, ContinuesAfterAFailure) {
     const auto document = makeFailing();
     document->create(nullptr);
     EXPECT_EQ(document->insertEndl(), S_OK);
 }
 
-TEST(Boundary, answersAFailureToMakeADriver) {
+TEST(Boundary, ReportsAFailureToCreateADriver) {
     void* object = &object;
     EXPECT_EQ(DocumentObject::make([]() -> std::unique_ptr<IDocument> { throw std::bad_alloc(); },
                                    nullptr, IID_IDocument, &object),
@@ -89,7 +89,7 @@ TEST(Boundary, answersAFailureToMakeADriver) {
     EXPECT_TRUE(moduleIsIdle());
 }
 
-TEST(Boundary, wantsAPlaceForTheObject) {
+TEST(Boundary, NeedsAPlaceForTheObject) {
     EXPECT_EQ(
         DocumentObject::make(
             []() -> std::unique_ptr<IDocument> { return std::make_unique<FailingDocument>(); },

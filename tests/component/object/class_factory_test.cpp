@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "component/module/module_state.h"
 #include "component/object/document_object.h"
-#include "component/object/module_state.h"
 #include "dochtml/com_pointer.h"
 #include "dochtml/document.h"
 #include "support/recording_document.h"
@@ -23,7 +23,7 @@ ComPointer<IClassFactory> makeFactory() {
     return factory;
 }
 
-TEST(ClassFactory, makesAFreshObjectForEveryRequest) {
+TEST(ClassFactory, CreatesANewObjectForEveryRequest) {
     const auto factory = makeFactory();
     ComPointer<IUnknown> first;
     ComPointer<IUnknown> second;
@@ -32,7 +32,7 @@ TEST(ClassFactory, makesAFreshObjectForEveryRequest) {
     EXPECT_NE(first.get(), second.get());
 }
 
-TEST(ClassFactory, refusesAnInterfaceThatTheClassDoesNotOffer) {
+TEST(ClassFactory, RefusesAnInterfaceThatTheClassDoesNotOffer) {
     const auto factory = makeFactory();
     void* object = &object;
     EXPECT_EQ(factory->CreateInstance(nullptr, IID_IClassFactory, &object), E_NOINTERFACE);
@@ -40,7 +40,7 @@ TEST(ClassFactory, refusesAnInterfaceThatTheClassDoesNotOffer) {
     EXPECT_EQ(factory->CreateInstance(nullptr, IID_IDocument, nullptr), E_POINTER);
 }
 
-TEST(ClassFactory, isOneIdentityWithTheHostServices) {
+TEST(ClassFactory, IsOneIdentityWithTheHostServices) {
     const auto factory = makeFactory();
     const auto services = factory.query<IHostServices>(IID_IHostServices);
     ASSERT_TRUE(services);
@@ -49,7 +49,7 @@ TEST(ClassFactory, isOneIdentityWithTheHostServices) {
     EXPECT_TRUE(services.query<IClassFactory>(IID_IClassFactory));
 }
 
-TEST(ClassFactory, offersNothingElse) {
+TEST(ClassFactory, OffersNothingElse) {
     void* object = &object;
     EXPECT_EQ(ClassFactory::make(&makeRecorded, IID_IDocument, &object), E_NOINTERFACE);
     EXPECT_EQ(object, nullptr);
@@ -57,7 +57,7 @@ TEST(ClassFactory, offersNothingElse) {
     EXPECT_TRUE(moduleIsIdle());
 }
 
-TEST(Module, isIdleWithoutObjectsAndLocks) {
+TEST(Module, IsIdleWithoutObjectsAndLocks) {
     EXPECT_TRUE(moduleIsIdle());
     auto factory = makeFactory();
     EXPECT_FALSE(moduleIsIdle());
@@ -73,7 +73,7 @@ TEST(Module, isIdleWithoutObjectsAndLocks) {
     EXPECT_TRUE(moduleIsIdle());
 }
 
-TEST(Module, staysLoadedForALockAlone) {
+TEST(Module, StaysLoadedForALockAlone) {
     auto factory = makeFactory();
     EXPECT_EQ(factory->LockServer(1), S_OK);
     factory.reset();

@@ -17,22 +17,22 @@ protected:
     RecordedObject object_;
 };
 
-TEST_P(EveryOperation, reachesTheDriverThroughTheTable) {
+TEST_P(EveryOperation, ReachesTheDriverThroughTheTable) {
     EXPECT_EQ(call().byTable(object_.document()), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre(call().recorded));
 }
 
-TEST_P(EveryOperation, reachesTheDriverByItsDispatchIdentifier) {
+TEST_P(EveryOperation, ReachesTheDriverByItsDispatchIdentifier) {
     EXPECT_EQ(invokeById(object_.document(), call()), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre(call().recorded));
 }
 
-TEST_P(EveryOperation, reachesTheDriverByItsName) {
+TEST_P(EveryOperation, ReachesTheDriverByItsName) {
     EXPECT_EQ(invokeByName(object_.document(), call()), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre(call().recorded));
 }
 
-TEST_P(EveryOperation, refusesEveryOtherNumberOfArguments) {
+TEST_P(EveryOperation, RefusesEveryOtherNumberOfArguments) {
     const std::size_t right = call().arguments.size();
     for (std::size_t count = 0; count <= right + 1; ++count) {
         if (count == right) {
@@ -46,10 +46,10 @@ TEST_P(EveryOperation, refusesEveryOtherNumberOfArguments) {
     EXPECT_THAT(object_.calls(), IsEmpty());
 }
 
-TEST_P(EveryOperation, namesTheArgumentOfAWrongKindAndGoesOn) {
+TEST_P(EveryOperation, ReportsTheArgumentOfAWrongKindAndContinues) {
     for (std::size_t position = 0; position < call().arguments.size(); ++position) {
         LateArguments late(call().arguments);
-        // A reference to an object is no text, no number and no boolean.
+        // A reference to an object is not a text, a number or a boolean.
         VARIANT& wrong = late.argument(position);
         VariantInit(&wrong);
         wrong.vt = VT_UNKNOWN;
@@ -63,7 +63,7 @@ TEST_P(EveryOperation, namesTheArgumentOfAWrongKindAndGoesOn) {
     EXPECT_THAT(object_.calls(), ElementsAre(call().recorded));
 }
 
-TEST_P(EveryOperation, wantsEveryArgument) {
+TEST_P(EveryOperation, NeedsEveryArgument) {
     for (std::size_t position = 0; position < call().arguments.size(); ++position) {
         LateArguments late(call().arguments);
         VARIANT& leftOut = late.argument(position);
@@ -81,7 +81,7 @@ TEST_P(EveryOperation, wantsEveryArgument) {
 INSTANTIATE_TEST_SUITE_P(Document, EveryOperation, ::testing::ValuesIn(operationCalls()),
                          [](const auto& row) { return std::string(row.param.name); });
 
-TEST(DocumentObject, hasFortyTwoOperations) {
+TEST(DocumentObject, HasFortyTwoOperations) {
     EXPECT_EQ(operationCalls().size(), 42U);
 }
 

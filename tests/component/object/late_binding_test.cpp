@@ -1,4 +1,4 @@
-// What a host that knows only names may do, and what it hears when it errs.
+// What a host that knows only names may do, and the results of its mistakes.
 
 #include <gmock/gmock.h>
 
@@ -28,7 +28,7 @@ protected:
     HRESULT call(DISPID id, LateArguments& arguments, UINT* bad = nullptr) const {
         return invoke(document(), id, arguments.parameters(), bad);
     }
-    /// Calls with one argument of the test's own making.
+    /// Calls with one argument that the test has prepared.
     HRESULT callWith(DISPID id, VARIANT argument, UINT* bad = nullptr) const {
         DISPPARAMS parameters{&argument, nullptr, 1, 0};
         return invoke(document(), id, parameters, bad);
@@ -53,19 +53,19 @@ protected:
     RecordedObject object_;
 };
 
-TEST_F(LateBinding, findsOperationsInAnyCase) {
+TEST_F(LateBinding, FindsOperationsInAnyCase) {
     EXPECT_EQ(idOf(document(), u"insertText"), insertText);
     EXPECT_EQ(idOf(document(), u"INSERTTEXT"), insertText);
     EXPECT_EQ(idOf(document(), u"inserttoc"), 26);
 }
 
-TEST_F(LateBinding, doesNotKnowOtherNames) {
+TEST_F(LateBinding, DoesNotKnowOtherNames) {
     EXPECT_EQ(idOf(document(), u"insertTex"), DISPID_UNKNOWN);
     EXPECT_EQ(idOf(document(), u"insertTextx"), DISPID_UNKNOWN);
     EXPECT_EQ(idOf(document(), u""), DISPID_UNKNOWN);
 }
 
-TEST_F(LateBinding, namesParametersByTheirPositions) {
+TEST_F(LateBinding, NamesParametersByTheirPositions) {
     Text operation(u"insertDiagram");
     Text first(u"ptr");
     Text second(u"WIDTH");
@@ -76,7 +76,7 @@ TEST_F(LateBinding, namesParametersByTheirPositions) {
     EXPECT_THAT(ids, ElementsAre(insertDiagram, 2, 0, 1));
 }
 
-TEST_F(LateBinding, tellsWhichNameIsUnknown) {
+TEST_F(LateBinding, ReportsWhichNameIsUnknown) {
     Text operation(u"insertDiagram");
     Text stranger(u"depth");
     Text known(u"width");
@@ -86,7 +86,7 @@ TEST_F(LateBinding, tellsWhichNameIsUnknown) {
     EXPECT_THAT(ids, ElementsAre(insertDiagram, DISPID_UNKNOWN, 1));
 }
 
-TEST_F(LateBinding, answersNamesOfAnUnknownOperationWithNothing) {
+TEST_F(LateBinding, FindsNoParametersOfAnUnknownOperation) {
     Text operation(u"insertSound");
     Text parameter(u"text");
     LPOLESTR names[] = {operation.get(), parameter.get()};
@@ -95,7 +95,7 @@ TEST_F(LateBinding, answersNamesOfAnUnknownOperationWithNothing) {
     EXPECT_THAT(ids, ElementsAre(DISPID_UNKNOWN, DISPID_UNKNOWN));
 }
 
-TEST_F(LateBinding, refusesANullPointerAmongTheNames) {
+TEST_F(LateBinding, RefusesANullPointerAmongTheNames) {
     Text operation(u"insertDiagram");
     Text parameter(u"width");
     LPOLESTR lists[][3] = {{nullptr, parameter.get(), parameter.get()},
@@ -107,7 +107,7 @@ TEST_F(LateBinding, refusesANullPointerAmongTheNames) {
     }
 }
 
-TEST_F(LateBinding, keepsTheReservedIdentifierReserved) {
+TEST_F(LateBinding, RefusesAReservedIdentifierThatIsNotNull) {
     Text name(u"close");
     LPOLESTR names[] = {name.get()};
     DISPID id = 0;
@@ -119,14 +119,14 @@ TEST_F(LateBinding, keepsTheReservedIdentifierReserved) {
     EXPECT_THAT(object_.calls(), IsEmpty());
 }
 
-TEST_F(LateBinding, hasNoMembersOutsideOneToFortyTwo) {
+TEST_F(LateBinding, HasNoMembersOutsideOneToFortyTwo) {
     DISPPARAMS none{};
     for (const DISPID id : {-1, 0, 43, 1000}) {
         EXPECT_EQ(invoke(document(), id, none), DISP_E_MEMBERNOTFOUND) << id;
     }
 }
 
-TEST_F(LateBinding, hasNoProperties) {
+TEST_F(LateBinding, HasNoProperties) {
     DISPPARAMS none{};
     EXPECT_EQ(document().Invoke(insertEndl, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, nullptr,
                                 nullptr, nullptr),
@@ -134,7 +134,7 @@ TEST_F(LateBinding, hasNoProperties) {
     EXPECT_THAT(object_.calls(), IsEmpty());
 }
 
-TEST_F(LateBinding, takesACallThatMayAlsoBeAProperty) {
+TEST_F(LateBinding, AcceptsACallThatMayAlsoBeAProperty) {
     DISPPARAMS none{};
     EXPECT_EQ(document().Invoke(insertEndl, IID_NULL, 0, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
                                 &none, nullptr, nullptr, nullptr),
@@ -142,7 +142,7 @@ TEST_F(LateBinding, takesACallThatMayAlsoBeAProperty) {
     EXPECT_THAT(object_.calls(), ElementsAre("insertEndl()"));
 }
 
-TEST_F(LateBinding, leavesTheResultEmpty) {
+TEST_F(LateBinding, LeavesTheResultEmpty) {
     VARIANT result = number(5);
     DISPPARAMS none{};
     EXPECT_EQ(document().Invoke(insertEndl, IID_NULL, 0, DISPATCH_METHOD, &none, &result, nullptr,
@@ -151,13 +151,13 @@ TEST_F(LateBinding, leavesTheResultEmpty) {
     EXPECT_EQ(result.vt, VT_EMPTY);
 }
 
-TEST_F(LateBinding, wantsParameters) {
+TEST_F(LateBinding, NeedsParameters) {
     EXPECT_EQ(document().Invoke(insertEndl, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr,
                                 nullptr),
               E_INVALIDARG);
 }
 
-TEST_F(LateBinding, takesNamedArgumentsInAnyOrder) {
+TEST_F(LateBinding, AcceptsNamedArgumentsInAnyOrder) {
     // height, ptr, width
     LateArguments arguments({std::int16_t{20}, std::int32_t{7}, std::int16_t{30}});
     DISPID names[] = {2, 0, 1};
@@ -167,7 +167,7 @@ TEST_F(LateBinding, takesNamedArgumentsInAnyOrder) {
     EXPECT_THAT(object_.calls(), ElementsAre("insertDiagram(7,20,30)"));
 }
 
-TEST_F(LateBinding, takesNamedArgumentsBehindOthers) {
+TEST_F(LateBinding, AcceptsNamedArgumentsAfterOthers) {
     LateArguments arguments({std::int32_t{7}, std::int16_t{20}, std::int16_t{30}});
     // The named one first (height), then the others from the last to the first.
     DISPID names[] = {2};
@@ -177,7 +177,7 @@ TEST_F(LateBinding, takesNamedArgumentsBehindOthers) {
     EXPECT_THAT(object_.calls(), ElementsAre("insertDiagram(7,20,30)"));
 }
 
-TEST_F(LateBinding, refusesANameThatIsNoParameter) {
+TEST_F(LateBinding, RefusesANameThatIsNotAParameter) {
     LateArguments arguments({u"title"s, u"x"s});
     DISPID names[] = {0, 2};
     DISPPARAMS parameters = arguments.parameters();
@@ -188,7 +188,7 @@ TEST_F(LateBinding, refusesANameThatIsNoParameter) {
     EXPECT_EQ(bad, 1U);
 }
 
-TEST_F(LateBinding, refusesAParameterNamedTwice) {
+TEST_F(LateBinding, RefusesAParameterNamedTwice) {
     LateArguments arguments({u"title"s, u"x"s});
     DISPID names[] = {1, 1};
     DISPPARAMS parameters = arguments.parameters();
@@ -198,7 +198,7 @@ TEST_F(LateBinding, refusesAParameterNamedTwice) {
     EXPECT_THAT(object_.calls(), IsEmpty());
 }
 
-TEST_F(LateBinding, refusesMoreNamesThanArguments) {
+TEST_F(LateBinding, RefusesMoreNamesThanArguments) {
     LateArguments arguments({u"x"s});
     DISPID names[] = {0, 0};
     DISPPARAMS parameters = arguments.parameters();
@@ -207,13 +207,13 @@ TEST_F(LateBinding, refusesMoreNamesThanArguments) {
     EXPECT_EQ(invoke(document(), insertText, parameters), DISP_E_BADPARAMCOUNT);
 }
 
-TEST_F(LateBinding, readsNumbersFromTexts) {
+TEST_F(LateBinding, ReadsNumbersFromTexts) {
     const Text twelve(u" 12 ");
     EXPECT_EQ(callWith(insertField, text(twelve)), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre("insertField(12)"));
 }
 
-TEST_F(LateBinding, readsTextsFromNumbers) {
+TEST_F(LateBinding, ReadsTextsFromNumbers) {
     VARIANT value = variant(VT_I4);
     value.lVal = -42;
     EXPECT_EQ(callWith(insertText, value), S_OK);
@@ -221,14 +221,14 @@ TEST_F(LateBinding, readsTextsFromNumbers) {
     EXPECT_THAT(object_.calls(), ElementsAre("insertText(\"-42\")", "insertText(\"2.5\")"));
 }
 
-TEST_F(LateBinding, roundsRealNumbersHalvesToTheEvenNeighbour) {
+TEST_F(LateBinding, RoundsHalvesToTheEvenNeighbour) {
     for (const double real : {2.5, 3.5, -0.4}) {
         EXPECT_EQ(callWith(insertField, number(real)), S_OK);
     }
     EXPECT_THAT(object_.calls(), ElementsAre("insertField(2)", "insertField(4)", "insertField(0)"));
 }
 
-TEST_F(LateBinding, refusesANumberThatDoesNotFit) {
+TEST_F(LateBinding, RefusesANumberThatDoesNotFit) {
     VARIANT value = variant(VT_I4);
     value.lVal = 32768;
     UINT bad = 99;
@@ -240,14 +240,14 @@ TEST_F(LateBinding, refusesANumberThatDoesNotFit) {
     EXPECT_THAT(object_.calls(), ElementsAre("insertField(-32768)"));
 }
 
-TEST_F(LateBinding, refusesATextThatIsNoNumber) {
+TEST_F(LateBinding, RefusesATextThatIsNotANumber) {
     const Text word(u"three");
     EXPECT_EQ(callWith(insertField, text(word)), DISP_E_TYPEMISMATCH);
     const Text nothing(u"");
     EXPECT_EQ(callWith(insertField, text(nothing)), DISP_E_TYPEMISMATCH);
 }
 
-TEST_F(LateBinding, takesAnythingButZeroAsTrue) {
+TEST_F(LateBinding, TakesAnythingButZeroAsTrue) {
     for (const std::int32_t value : {2, -1, 0}) {
         LateArguments arguments({std::int16_t{1}, value});
         EXPECT_EQ(call(setFontAttribute, arguments), S_OK);
@@ -256,7 +256,7 @@ TEST_F(LateBinding, takesAnythingButZeroAsTrue) {
                                              "setFontAttribute(1,false)"));
 }
 
-TEST_F(LateBinding, takesTheWordsOfBooleans) {
+TEST_F(LateBinding, AcceptsTheWordsOfBooleans) {
     for (const auto& word : {u"True"s, u"FALSE"s}) {
         LateArguments arguments({std::int32_t{5}, word});
         EXPECT_EQ(call(insertMark, arguments), S_OK);
@@ -264,37 +264,37 @@ TEST_F(LateBinding, takesTheWordsOfBooleans) {
     EXPECT_THAT(object_.calls(), ElementsAre("insertMark(5,true)", "insertMark(5,false)"));
 }
 
-TEST_F(LateBinding, givesABooleanToANumberAsMinusOne) {
+TEST_F(LateBinding, ConvertsTrueToMinusOne) {
     VARIANT value = variant(VT_BOOL);
     value.boolVal = VARIANT_TRUE;
     EXPECT_EQ(callWith(insertField, value), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre("insertField(-1)"));
 }
 
-TEST_F(LateBinding, takesAnEmptyValueAsZeroOrNoText) {
+TEST_F(LateBinding, TakesAnEmptyValueAsZeroOrAnEmptyText) {
     EXPECT_EQ(callWith(insertField, variant(VT_EMPTY)), S_OK);
     EXPECT_EQ(callWith(insertText, variant(VT_EMPTY)), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre("insertField(0)", "insertText(\"\")"));
 }
 
-TEST_F(LateBinding, refusesNullValues) {
+TEST_F(LateBinding, RefusesNullValues) {
     EXPECT_EQ(callWith(insertField, variant(VT_NULL)), DISP_E_TYPEMISMATCH);
     EXPECT_EQ(callWith(insertText, variant(VT_NULL)), DISP_E_TYPEMISMATCH);
 }
 
-TEST_F(LateBinding, takesTheNullTextAsEmpty) {
+TEST_F(LateBinding, TakesTheNullTextAsEmpty) {
     EXPECT_EQ(callWith(insertText, variant(VT_BSTR)), S_OK);
     EXPECT_EQ(document().insertText(nullptr), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre("insertText(\"\")", "insertText(\"\")"));
 }
 
-TEST_F(LateBinding, keepsZerosInsideATextAndItsLength) {
+TEST_F(LateBinding, KeepsZerosInsideATextAndItsLength) {
     const Text units(std::u16string_view(u"a\0b", 3));
     EXPECT_EQ(callWith(insertText, text(units)), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre("insertText(\"a\0b\")"s));
 }
 
-TEST_F(LateBinding, followsReferencesToValues) {
+TEST_F(LateBinding, FollowsReferencesToValues) {
     std::int16_t field = 3;
     VARIANT reference = variant(VT_BYREF | VT_I2);
     reference.piVal = &field;
@@ -314,7 +314,7 @@ TEST_F(LateBinding, followsReferencesToValues) {
                                              "insertText(\"by reference\")"));
 }
 
-TEST_F(LateBinding, doesNotCallWithAReferenceThatLeadsNowhere) {
+TEST_F(LateBinding, DoesNotCallWithANullReference) {
     for (const int type : {VT_I2, VT_BSTR, VT_VARIANT}) {
         EXPECT_EQ(callWith(insertField, variant(static_cast<VARTYPE>(VT_BYREF | type))),
                   DISP_E_TYPEMISMATCH);
@@ -322,13 +322,13 @@ TEST_F(LateBinding, doesNotCallWithAReferenceThatLeadsNowhere) {
     EXPECT_THAT(object_.calls(), IsEmpty());
 }
 
-TEST_F(LateBinding, handsATextOutThroughAReferenceToAText) {
+TEST_F(LateBinding, ReturnsATextThroughAReferenceToAText) {
     LateArguments arguments({OutText{}});
     EXPECT_EQ(call(getDocType, arguments), S_OK);
     EXPECT_EQ(arguments.outText(), u"Recording");
 }
 
-TEST_F(LateBinding, handsATextOutThroughAReferenceToAVariant) {
+TEST_F(LateBinding, ReturnsATextThroughAReferenceToAVariant) {
     VARIANT out = number(1);
     VARIANT reference = variant(VT_BYREF | VT_VARIANT);
     reference.pvarVal = &out;
@@ -338,18 +338,18 @@ TEST_F(LateBinding, handsATextOutThroughAReferenceToAVariant) {
     VariantClear(&out);
 }
 
-TEST_F(LateBinding, letsAHostCallWithoutAPlaceForTheText) {
+TEST_F(LateBinding, AcceptsACallWithoutAPlaceForTheText) {
     const Text value(u"");
     EXPECT_EQ(callWith(getDocType, text(value)), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre("getDocType()"));
 }
 
-TEST_F(LateBinding, runsAnOutOperationThroughTheTableWithoutAPlaceForTheText) {
+TEST_F(LateBinding, RunsAnOutOperationThroughTheTableWithoutAPlaceForTheText) {
     EXPECT_EQ(document().getDocType(nullptr), S_OK);
     EXPECT_THAT(object_.calls(), ElementsAre("getDocType()"));
 }
 
-TEST_F(LateBinding, saysWhetherItHasTypeInformation) {
+TEST_F(LateBinding, SaysWhetherItHasTypeInformation) {
     UINT count = 99;
     EXPECT_EQ(document().GetTypeInfoCount(&count), S_OK);
     ITypeInfo* info = nullptr;

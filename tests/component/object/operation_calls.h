@@ -16,13 +16,13 @@ namespace quillmark::testing {
 struct OutText {};
 using CallArgument = std::variant<std::u16string, std::int16_t, std::int32_t, bool, OutText>;
 
-/// One call of one operation, in the forms that a host can make it in.
+/// One call of one operation, in each form that a host can use.
 struct OperationCall {
     DISPID id;
     const char* name;
     std::vector<CallArgument> arguments;
     std::function<HRESULT(::IDocument&)> byTable;
-    /// What a document that writes down its calls has then.
+    /// What `RecordingDocument` records for it.
     std::string recorded;
 
     friend void PrintTo(const OperationCall& call, std::ostream* out) { *out << call.name; }
@@ -56,7 +56,7 @@ HRESULT invoke(IDispatch& object, DISPID id, DISPPARAMS& parameters, UINT* badAr
 HRESULT invokeById(IDispatch& object, const OperationCall& call);
 /// Looks the name up first.
 HRESULT invokeByName(IDispatch& object, const OperationCall& call);
-/// The identifier behind a name, `DISPID_UNKNOWN` when there is none.
+/// The identifier for a name; `DISPID_UNKNOWN` when there is none.
 DISPID idOf(IDispatch& object, const std::u16string& name);
 
 }  // namespace quillmark::testing

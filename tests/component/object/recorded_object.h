@@ -10,7 +10,7 @@
 
 namespace quillmark::testing {
 
-/// A document object in front of a document that writes down its calls.
+/// A document object whose driver records its calls.
 class RecordedObject {
 public:
     explicit RecordedObject(IUnknown* outer = nullptr) {

@@ -32,7 +32,7 @@ protected:
     EnvironmentVariable data_{"XDG_DATA_HOME", dir_.native()};
 };
 
-TEST_F(ClassFile, liesInTheUsersDataDirectory) {
+TEST_F(ClassFile, IsInTheDataDirectoryOfTheUser) {
     EXPECT_EQ(classFilePath(), file());
     const EnvironmentVariable home("HOME", "/home/somebody");
     const EnvironmentVariable none("XDG_DATA_HOME", std::nullopt);
@@ -41,11 +41,11 @@ TEST_F(ClassFile, liesInTheUsersDataDirectory) {
     EXPECT_EQ(classFilePath(), "/home/somebody/.local/share/quillmark/classes.ini");
 }
 
-TEST_F(ClassFile, isAnEmptyTreeWhenItIsNotThere) {
+TEST_F(ClassFile, IsAnEmptyTreeWhenItDoesNotExist) {
     EXPECT_EQ(tree(), KeyTree());
 }
 
-TEST_F(ClassFile, keepsEveryKeyAndValue) {
+TEST_F(ClassFile, KeepsEveryKeyAndValue) {
     KeyTree root;
     makeKey(root, "A\\B\\C").values[""] = {KeyValue::textType, "path=\\with\nall; sorts"};
     makeKey(root, "A").values["Name"] = {KeyValue::textType, ""};
@@ -56,7 +56,7 @@ TEST_F(ClassFile, keepsEveryKeyAndValue) {
                                                "@=path=\\\\with\\nall; sorts\n[Empty]\n"));
 }
 
-TEST_F(ClassFile, passesOverWhatIsNothing) {
+TEST_F(ClassFile, IgnoresMalformedLines) {
     fs::create_directories(file().parent_path());
     std::ofstream(file()) << "stray=1\n\n; a remark=\n[Key]\nno value\n;x=1\n@=y\n[]\n";
     KeyTree expected;
@@ -64,7 +64,7 @@ TEST_F(ClassFile, passesOverWhatIsNothing) {
     EXPECT_EQ(tree(), expected);
 }
 
-TEST_F(ClassFile, isUnderstoodWithTheLineEndsOfAnotherSystem) {
+TEST_F(ClassFile, IsUnderstoodWithTheLineEndsOfAnotherSystem) {
     fs::create_directories(file().parent_path());
     std::ofstream(file()) << "[Key]\r\n@=y\r\nName=z\r\n";
     KeyTree expected;
@@ -73,7 +73,7 @@ TEST_F(ClassFile, isUnderstoodWithTheLineEndsOfAnotherSystem) {
     EXPECT_EQ(tree(), expected);
 }
 
-TEST_F(ClassFile, keepsTheCommentsOfWhoEditedIt) {
+TEST_F(ClassFile, KeepsTheCommentsOfWhoEditedIt) {
     fs::create_directories(file().parent_path());
     std::ofstream(file()) << "; mine\r\n[A]\r\n; of A\r\n@=1\r\n[Gone]\n# of Gone\n";
     KeyTree root;
@@ -81,13 +81,13 @@ TEST_F(ClassFile, keepsTheCommentsOfWhoEditedIt) {
     for (int i = 0; i < 2; ++i) {
         ASSERT_TRUE(writeClassFile(file(), root));
         EXPECT_THAT(content(),
-                    ::testing::EndsWith("; mine\n[a]\n; of A\n@=2\n# of Gone\n"));
+                    ::testing::EndsWith("; mine\n# of Gone\n[a]\n; of A\n@=2\n"));
         EXPECT_THAT(content(), StartsWith("; The components"));
         root = tree();
     }
 }
 
-TEST_F(ClassFile, isNotReplacedWhenItIsSomethingElse) {
+TEST_F(ClassFile, IsNotReplacedWhenItIsSomethingElse) {
     fs::create_directories(file().parent_path());
     for (const std::string& foreign : {std::string("a letter\n"), std::string("[A]\n@=\0\n", 8)}) {
         std::ofstream(file(), std::ios::trunc) << foreign;
@@ -97,7 +97,7 @@ TEST_F(ClassFile, isNotReplacedWhenItIsSomethingElse) {
     }
 }
 
-TEST_F(ClassFile, isNotReadFromAPipe) {
+TEST_F(ClassFile, IsNotReadFromAPipe) {
     fs::create_directories(file().parent_path());
     ASSERT_EQ(mkfifo(file().c_str(), 0600), 0);
     EXPECT_EQ(readClassFile(file()), std::nullopt);
@@ -105,7 +105,34 @@ TEST_F(ClassFile, isNotReadFromAPipe) {
     EXPECT_TRUE(fs::is_fifo(file()));
 }
 
-TEST_F(ClassFile, holdsAKeyOnceInAnyCase) {
+TEST_F(ClassFile, PassesOverKeysWithoutAName) {
+    fs::create_directories(file().parent_path());
+    std::ofstream(file()) << "[A]\n@=a\n[\\B]\n@=b\n[C\\]\n@=c\n[D\\\\E]\n@=e\n[]\n@=f\n";
+    KeyTree expected;
+    makeKey(expected, "A").values[""] = {KeyValue::textType, "a"};
+    EXPECT_EQ(tree(), expected);
+}
+
+TEST_F(ClassFile, PassesOverKeysThatLieTooDeep) {
+    fs::create_directories(file().parent_path());
+    std::string deep = "K";
+    for (int level = 1; level < 512; ++level) {
+        deep += "\\K";
+    }
+    std::string endless = "K";
+    for (int level = 1; level < 300'000; ++level) {
+        endless += "\\K";
+    }
+    std::ofstream(file()) << "[" << deep << "\\K]\n@=x\n[" << endless << "]\n@=y\n";
+    EXPECT_EQ(tree(), KeyTree());
+    std::ofstream(file()) << "[" << deep << "]\n@=z\n";
+    const KeyTree read = tree();
+    const KeyTree* const deepest = findKey(read, deep);
+    ASSERT_NE(deepest, nullptr);
+    EXPECT_EQ(deepest->values.at("").data, "z");
+}
+
+TEST_F(ClassFile, ContainsAKeyOnceInAnyCase) {
     KeyTree root;
     makeKey(root, "clsid\\A").values["Name"] = {KeyValue::textType, "kept"};
     makeKey(root, "CLSID\\a\\Below");
@@ -117,13 +144,13 @@ TEST_F(ClassFile, holdsAKeyOnceInAnyCase) {
     EXPECT_EQ(found->values.count("NAME"), 1U);
 }
 
-TEST_F(ClassFile, cannotBeWrittenWhereAFileStandsForItsDirectory) {
+TEST_F(ClassFile, CannotBeWrittenWhenAFileHasTheNameOfItsDirectory) {
     dir_.put("quillmark", "in the way");
     EXPECT_FALSE(writeClassFile(file(), KeyTree()));
     EXPECT_EQ(registerServer(), REGDB_E_WRITEREGDB);
 }
 
-TEST_F(ClassFile, holdsTheRegisteredClasses) {
+TEST_F(ClassFile, ContainsTheRegisteredClasses) {
     ASSERT_EQ(registerServer(), S_OK);
     const std::string once = content();
     ASSERT_EQ(registerServer(), S_OK);
@@ -170,7 +197,7 @@ TEST_F(ClassFile, holdsTheRegisteredClasses) {
                   "@={474BDD93-0170-11d3-A6BF-00104B2AEFE1}\n");
 }
 
-TEST_F(ClassFile, keepsTheSharedKeyAndOthersClassesWhenUnregistered) {
+TEST_F(ClassFile, KeepsTheSharedKeyAndOtherClassesWhenUnregistered) {
     KeyTree others;
     makeKey(others, "CLSID\\{1}").values[""] = {KeyValue::textType, "Another"};
     ASSERT_TRUE(writeClassFile(file(), others));
@@ -179,7 +206,7 @@ TEST_F(ClassFile, keepsTheSharedKeyAndOthersClassesWhenUnregistered) {
     EXPECT_EQ(tree(), others);
 }
 
-/// A file that is there and cannot be read, whoever asks: it is a link to itself.
+/// A file that exists but cannot be read by any user: it is a link to itself.
 class UnreadableClassFile : public ClassFile {
 protected:
     void SetUp() override {
@@ -188,18 +215,18 @@ protected:
     }
 };
 
-TEST_F(UnreadableClassFile, isNotTakenForAnEmptyOne) {
+TEST_F(UnreadableClassFile, IsNotTreatedAsAnEmptyOne) {
     EXPECT_EQ(readClassFile(file()), std::nullopt);
 }
 
-TEST_F(UnreadableClassFile, isLeftAsItIsByRegistration) {
+TEST_F(UnreadableClassFile, IsNotChangedByRegistration) {
     EXPECT_EQ(registerServer(), REGDB_E_READREGDB);
     EXPECT_TRUE(fs::is_symlink(file()));
     EXPECT_EQ(unregisterServer(), REGDB_E_READREGDB);
     EXPECT_TRUE(fs::is_symlink(file()));
 }
 
-TEST_F(UnreadableClassFile, isNamedToWhoeverLooksForAClass) {
+TEST_F(UnreadableClassFile, IsNamedInTheErrorOfALookup) {
     try {
         static_cast<void>(findRegisteredClass("DocHtml.DocHtml"));
         FAIL() << "nothing was thrown";
@@ -210,20 +237,20 @@ TEST_F(UnreadableClassFile, isNamedToWhoeverLooksForAClass) {
     }
 }
 
-TEST_F(ClassFile, cannotBeReadWhereADirectoryLies) {
-    // It opens; only reading it fails.
+TEST_F(ClassFile, CannotBeReadWhenItIsADirectory) {
+    // Opening it succeeds; only reading fails.
     fs::create_directories(file());
     EXPECT_EQ(readClassFile(file()), std::nullopt);
     EXPECT_EQ(registerServer(), REGDB_E_READREGDB);
 }
 
-TEST_F(ClassFile, isNotThereWhereAFileIsInTheWay) {
+TEST_F(ClassFile, DoesNotExistWhenAFileHasTheNameOfItsDirectory) {
     std::ofstream(file().parent_path()) << "in the way";
     EXPECT_EQ(tree(), KeyTree());
     EXPECT_EQ(registerServer(), REGDB_E_WRITEREGDB);
 }
 
-TEST_F(ClassFile, isChangedByOneAtATime) {
+TEST_F(ClassFile, IsChangedByOneWriterAtATime) {
     std::unique_ptr<ClassKeyStore> store;
     ASSERT_EQ(openClassKeyStore(store), S_OK);
     const Descriptor other = descriptor_io::openFile(lockFile().c_str(), O_RDWR);
@@ -233,7 +260,7 @@ TEST_F(ClassFile, isChangedByOneAtATime) {
     EXPECT_EQ(flock(other.number(), LOCK_EX | LOCK_NB), 0);
 }
 
-TEST_F(ClassFile, losesNothingOfThoseWhoRegisterAtOnce) {
+TEST_F(ClassFile, LosesNothingOfConcurrentRegistrations) {
     constexpr int writers = 8;
     const auto registerOne = [](int number) {
         std::unique_ptr<ClassKeyStore> store;
@@ -252,7 +279,7 @@ TEST_F(ClassFile, losesNothingOfThoseWhoRegisterAtOnce) {
     EXPECT_THAT(tree().children, ::testing::SizeIs(writers));
 }
 
-TEST_F(ClassFile, leadsFromEveryNameToTheClass) {
+TEST_F(ClassFile, LeadsFromEveryNameToTheClass) {
     ASSERT_EQ(registerServer(), S_OK);
     for (const char* name :
          {"DocHtml.DocHtml.2.1.0", "DocHtml.DocHtml", "dochtml.dochtml.2.1.0", "DOCHTML.DOCHTML",
@@ -272,7 +299,7 @@ HRESULT failureOf(const std::string& name) {
     }
 }
 
-TEST_F(ClassFile, saysWhenANameLeadsNowhere) {
+TEST_F(ClassFile, ReportsANameThatLeadsNowhere) {
     EXPECT_EQ(failureOf("DocHtml.DocHtml"), CO_E_CLASSSTRING);
     EXPECT_EQ(failureOf("{474BDD91-0170-11D3-A6BF-00104B2AEFE1}"), REGDB_E_CLASSNOTREG);
     EXPECT_EQ(failureOf("{474BDD91}"), CO_E_CLASSSTRING);
@@ -282,7 +309,7 @@ TEST_F(ClassFile, saysWhenANameLeadsNowhere) {
     EXPECT_EQ(failureOf("{474BDD92-0170-11D3-A6BF-00104B2AEFE1}"), REGDB_E_CLASSNOTREG);
 }
 
-TEST(Guid, readsOnlyItsOneForm) {
+TEST(Guid, HasExactlyOneForm) {
     EXPECT_EQ(parseGuid("{474BDD91-0170-11d3-A6BF-00104B2AEFE1}"), CLSID_DocHtml);
     for (const char* text :
          {"", "474BDD91-0170-11d3-A6BF-00104B2AEFE1", "{474BDD91-0170-11d3-A6BF-00104B2AEFE1",

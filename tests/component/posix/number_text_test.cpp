@@ -1,4 +1,4 @@
-// What a text means as a number, where it goes beyond what other systems can be asked for.
+// The number that a text means, in cases that the table of late-bound values cannot cover.
 
 #include "component/posix/conversion/number_text.h"
 
@@ -15,7 +15,7 @@ DecimalValue decimalIn(const std::u16string& text) {
     return std::get<DecimalValue>(*number);
 }
 
-TEST(NumberText, mayHaveAnyNumberOfDigits) {
+TEST(NumberText, MayHaveAnyNumberOfDigits) {
     const std::u16string zeros(5000, u'0');
     EXPECT_EQ(roundedToWhole(decimalIn(zeros + u"12")), 12);
     EXPECT_EQ(roundedToWhole(decimalIn(u"2.5" + zeros)), 2);
@@ -25,7 +25,7 @@ TEST(NumberText, mayHaveAnyNumberOfDigits) {
     EXPECT_EQ(realOf(decimalIn(u"0." + zeros + u"1")), 0.0);
 }
 
-TEST(NumberText, mayHaveAnExponentOfAnySize) {
+TEST(NumberText, MayHaveAnExponentOfAnySize) {
     const std::u16string large = u"99999999999999999999";
     EXPECT_EQ(realOf(decimalIn(u"1e" + large)), std::numeric_limits<double>::infinity());
     EXPECT_EQ(realOf(decimalIn(u"1e-" + large)), 0.0);
@@ -34,13 +34,13 @@ TEST(NumberText, mayHaveAnExponentOfAnySize) {
     EXPECT_EQ(roundedToWhole(decimalIn(u"1e-" + large)), 0);
 }
 
-TEST(NumberText, hasNoMoreBitsThanAnyNumber) {
+TEST(NumberText, LimitsABitPatternToTheLargestNumber) {
     const auto number = readNumber(u"&H" + std::u16string(100, u'F'));
     ASSERT_TRUE(number && std::holds_alternative<BitPattern>(*number));
     EXPECT_EQ(std::get<BitPattern>(*number).bits, std::numeric_limits<std::uint64_t>::max());
 }
 
-TEST(DecimalValue, isShownWithAllItsDigits) {
+TEST(DecimalValue, IsShownWithAllItsDigits) {
     EXPECT_EQ(shownInFull(decimalOf(false, "0012", 3)), "12000");
     EXPECT_EQ(shownInFull(decimalOf(true, "5", -2)), "-0.05");
     EXPECT_EQ(shownInFull(decimalOf(false, "1200", -2)), "12");

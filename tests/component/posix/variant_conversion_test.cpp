@@ -1,4 +1,4 @@
-// How numbers become texts where the system brings no conversion of its own.
+// How numbers become texts on systems without a conversion of their own.
 
 #include <gtest/gtest.h>
 
@@ -36,7 +36,7 @@ std::string textOf(float real) {
     return textOf(value);
 }
 
-TEST(RealNumber, isShownWithFifteenDigits) {
+TEST(RealNumber, IsShownWithFifteenDigits) {
     EXPECT_EQ(textOf(0.0), "0");
     EXPECT_EQ(textOf(-0.0), "0");
     EXPECT_EQ(textOf(1.0), "1");
@@ -47,7 +47,7 @@ TEST(RealNumber, isShownWithFifteenDigits) {
     EXPECT_EQ(textOf(0.0001), "0.0001");
 }
 
-TEST(RealNumber, hasAnExponentWhenItIsVeryLargeOrSmall) {
+TEST(RealNumber, HasAnExponentWhenItIsVeryLargeOrSmall) {
     EXPECT_EQ(textOf(1e15), "1E+15");
     EXPECT_EQ(textOf(1234567890123456.0), "1.23456789012346E+15");
     EXPECT_EQ(textOf(0.00001), "1E-05");
@@ -55,13 +55,13 @@ TEST(RealNumber, hasAnExponentWhenItIsVeryLargeOrSmall) {
     EXPECT_EQ(textOf(std::numeric_limits<double>::denorm_min()), "4.94065645841247E-324");
 }
 
-TEST(RealNumber, mayBeNone) {
+TEST(RealNumber, MayBeNoNumber) {
     EXPECT_EQ(textOf(std::numeric_limits<double>::infinity()), "INF");
     EXPECT_EQ(textOf(-std::numeric_limits<double>::infinity()), "-INF");
     EXPECT_EQ(textOf(std::numeric_limits<double>::quiet_NaN()), "NAN");
 }
 
-TEST(ShortRealNumber, isShownWithSevenDigits) {
+TEST(ShortRealNumber, IsShownWithSevenDigits) {
     EXPECT_EQ(textOf(0.1F), "0.1");
     EXPECT_EQ(textOf(1.0F / 3), "0.3333333");
     EXPECT_EQ(textOf(16777216.0F), "1.677722E+07");

@@ -1,4 +1,4 @@
-// A C host by the component's name: the class objects are the system's, and so is the library.
+// A C host that creates the component by name: the system manages class objects and library.
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace {
 
 const char* const driverProgram = "DocHtml.DocHtml.2.1.0";
 
-/// Makes a document by name, asks it something and lets go of it.
+/// Creates a document by name, calls it and releases it.
 HRESULT useDocument() {
     DochtmlDocument* document = nullptr;
     const HRESULT made = dochtml_create_document(driverProgram, &document);
@@ -28,19 +28,19 @@ bool isLoaded() {
     return GetModuleHandleW(L"dochtmlcom.dll") != nullptr;
 }
 
-TEST(CClient, findsTheComponentAgainInALaterApartment) {
+TEST(CClient, FindsTheComponentAgainInALaterApartment) {
     for (int apartment = 0; apartment < 3; ++apartment) {
         ASSERT_EQ(dochtml_initialize(), S_OK);
         EXPECT_EQ(useDocument(), S_OK);
         EXPECT_TRUE(isLoaded());
         CoFreeUnusedLibraries();
         dochtml_uninitialize();
-        // Nothing of the client's keeps it.
+        // The client does not keep it loaded.
         EXPECT_FALSE(isLoaded());
     }
 }
 
-TEST(CClient, lendsServicesThatKeepTheLibrary) {
+TEST(CClient, KeepsTheLibraryLoadedWhileItHoldsTheServices) {
     ASSERT_EQ(dochtml_initialize(), S_OK);
     DochtmlHostServices* services = nullptr;
     ASSERT_EQ(dochtml_host_services(driverProgram, &services), S_OK);
@@ -51,7 +51,7 @@ TEST(CClient, lendsServicesThatKeepTheLibrary) {
     dochtml_uninitialize();
 }
 
-TEST(CClient, staysInItsApartmentUntilTheLastOfItsCalls) {
+TEST(CClient, StaysInItsApartmentUntilTheLastOfItsCalls) {
     ASSERT_EQ(dochtml_initialize(), S_OK);
     DochtmlDocument* document = nullptr;
     ASSERT_EQ(dochtml_create_document(driverProgram, &document), S_OK);
@@ -67,7 +67,7 @@ TEST(CClient, staysInItsApartmentUntilTheLastOfItsCalls) {
     EXPECT_EQ(useDocument(), CO_E_NOTINITIALIZED);
 }
 
-TEST(CClient, beginsAnewAfterOneCallTooMany) {
+TEST(CClient, ToleratesOneCallTooMany) {
     dochtml_uninitialize();
     ASSERT_EQ(dochtml_initialize(), S_OK);
     EXPECT_EQ(useDocument(), S_OK);

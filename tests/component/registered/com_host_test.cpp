@@ -1,4 +1,4 @@
-// The registered component as a Windows host sees it that knows nothing but the system's own
+// The registered component from the view of a Windows host that uses only the system's own
 // functions and the header compiled from the interface description.
 
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ class Apartment : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_EQ(CoInitialize(nullptr), S_OK); }
     void TearDown() override {
-        // What was loaded goes again: nothing keeps it.
+        // The library can be unloaded again: nothing keeps it.
         CoFreeUnusedLibraries();
         CoUninitialize();
     }
@@ -40,11 +40,11 @@ Interface* create(const CLSID& classId, const IID& iid) {
     return static_cast<Interface*>(object);
 }
 
-TEST_F(RegisteredComponent, hasTheClassOfTheDescription) {
+TEST_F(RegisteredComponent, HasTheClassOfTheDescription) {
     EXPECT_TRUE(IsEqualCLSID(driverClass(), CLSID_DocHtml));
 }
 
-TEST_F(RegisteredComponent, isMadeAndCalledThroughTheTable) {
+TEST_F(RegisteredComponent, IsCreatedAndCalledThroughTheTable) {
     auto* document = create<IDocument>(CLSID_DocHtml, IID_IDocument);
     ASSERT_NE(document, nullptr);
     BSTR text = nullptr;
@@ -57,7 +57,7 @@ TEST_F(RegisteredComponent, isMadeAndCalledThroughTheTable) {
     EXPECT_EQ(document->Release(), 0U);
 }
 
-TEST_F(RegisteredComponent, answersFailuresOfTheDriverWithZero) {
+TEST_F(RegisteredComponent, ReturnsZeroForFailuresOfTheDriver) {
     auto* document = create<IDocument>(CLSID_DocHtml, IID_IDocument);
     BSTR group = SysAllocString(L"Html");
     BSTR name = SysAllocString(L"StyleSheet");
@@ -73,7 +73,7 @@ TEST_F(RegisteredComponent, answersFailuresOfTheDriverWithZero) {
     document->Release();
 }
 
-TEST_F(RegisteredComponent, describesItselfToLateBoundHosts) {
+TEST_F(RegisteredComponent, DescribesItselfToLateBoundHosts) {
     auto* document = create<IDispatch>(CLSID_DocHtml, IID_IDispatch);
     UINT count = 0;
     EXPECT_EQ(document->GetTypeInfoCount(&count), S_OK);
@@ -88,13 +88,13 @@ TEST_F(RegisteredComponent, describesItselfToLateBoundHosts) {
     document->Release();
 }
 
-TEST_F(RegisteredComponent, hasItsPropertyPage) {
+TEST_F(RegisteredComponent, HasItsPropertyPage) {
     auto* page = create<IPropertyPage>(CLSID_HtmlComPage, IID_IPropertyPage);
     ASSERT_NE(page, nullptr);
     EXPECT_EQ(page->Release(), 0U);
 }
 
-TEST_F(RegisteredComponent, doesNotMakeUnknownClassesAndInterfaces) {
+TEST_F(RegisteredComponent, CreatesNoUnknownClassesAndInterfaces) {
     CLSID unknownClass = CLSID_DocHtml;
     unknownClass.Data1 = 0x474BDD92;
     void* object = nullptr;
@@ -107,7 +107,7 @@ TEST_F(RegisteredComponent, doesNotMakeUnknownClassesAndInterfaces) {
     EXPECT_EQ(object, nullptr);
 }
 
-/// An outer object that passes on what it does not know.
+/// An outer object that passes requests for unknown interfaces on.
 class Outer final : public IUnknown {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
@@ -135,7 +135,7 @@ protected:
     }
 };
 
-TEST_P(AggregatedClass, keepsTheRulesOfIdentity) {
+TEST_P(AggregatedClass, FollowsTheRulesOfIdentity) {
     Outer outer;
     ASSERT_EQ(CoCreateInstance(classId(), &outer, CLSCTX_INPROC_SERVER, IID_IUnknown,
                                reinterpret_cast<void**>(&outer.inner)),
@@ -153,7 +153,7 @@ TEST_P(AggregatedClass, keepsTheRulesOfIdentity) {
     EXPECT_EQ(outer.inner->Release(), 0U);
 }
 
-TEST_P(AggregatedClass, isMadeWithTheUnknownInterfaceOnly) {
+TEST_P(AggregatedClass, IsCreatedWithTheUnknownInterfaceOnly) {
     Outer outer;
     void* object = nullptr;
     EXPECT_EQ(CoCreateInstance(classId(), &outer, CLSCTX_INPROC_SERVER, interfaceId(), &object),

@@ -1,4 +1,4 @@
-// The texts and the version that the library carries.
+// The texts and the version in the resources of the library.
 
 #include <gtest/gtest.h>
 
@@ -23,14 +23,14 @@ protected:
     HMODULE library_ = LoadLibraryA(DOCHTML_TEST_LIBRARY);
 };
 
-TEST_F(Resources, holdTheTexts) {
+TEST_F(Resources, ContainTheTexts) {
     EXPECT_EQ(text(5100), "Dochtmlcom");
     EXPECT_EQ(text(5102), "&HTML");
     EXPECT_EQ(text(5104), "HTML Settings");
     EXPECT_EQ(text(5103), "");
 }
 
-TEST_F(Resources, holdScriptsDialogAndTypeLibrary) {
+TEST_F(Resources, ContainScriptsDialogAndTypeLibrary) {
     EXPECT_NE(FindResourceA(library_, MAKEINTRESOURCEA(5101), "REGISTRY"), nullptr);
     EXPECT_NE(FindResourceA(library_, MAKEINTRESOURCEA(5105), "REGISTRY"), nullptr);
     EXPECT_NE(FindResourceA(library_, MAKEINTRESOURCEA(5106), MAKEINTRESOURCEA(5)), nullptr);
@@ -59,14 +59,14 @@ protected:
     std::vector<char> block_;
 };
 
-TEST_F(VersionInformation, namesTheModule) {
+TEST_F(VersionInformation, NamesTheModule) {
     EXPECT_EQ(value("FileDescription"), "dochtmlcom Module");
     EXPECT_EQ(value("InternalName"), "DOCHTMLCOM");
     EXPECT_EQ(value("OriginalFilename"), "dochtmlcom.dll");
     EXPECT_EQ(value("FileVersion"), "2.1.0");
 }
 
-TEST_F(VersionInformation, saysThatTheLibraryRegistersItself) {
+TEST_F(VersionInformation, SaysThatTheLibraryRegistersItself) {
     EXPECT_EQ(value("OLESelfRegister"), "");
 }
 

@@ -1,4 +1,4 @@
-// The type library inside the library, walked from end to end.
+// The complete contents of the type library inside the library.
 
 #include <gmock/gmock.h>
 
@@ -59,7 +59,7 @@ protected:
     ComPointer<ITypeLib> library_;
 };
 
-TEST_F(TypeLibrary, hasItsNameIdentifierVersionAndLocale) {
+TEST_F(TypeLibrary, HasItsNameIdentifierVersionAndLocale) {
     TLIBATTR* attributes = nullptr;
     ASSERT_EQ(library_->GetLibAttr(&attributes), S_OK);
     EXPECT_TRUE(IsEqualGUID(attributes->guid, LIBID_DOCHTMLCOMLib));
@@ -71,14 +71,14 @@ TEST_F(TypeLibrary, hasItsNameIdentifierVersionAndLocale) {
     EXPECT_EQ(helpOf(*library_.get(), MEMBERID_NIL), "Document HTML 2.0 Type Library");
 }
 
-TEST_F(TypeLibrary, isResourceOne) {
+TEST_F(TypeLibrary, IsResourceOne) {
     ComPointer<ITypeLib> first;
     EXPECT_EQ(LoadTypeLib((libraryFile() + L"\\1").c_str(),
                           reinterpret_cast<ITypeLib**>(first.receive())),
               S_OK);
 }
 
-TEST_F(TypeLibrary, holdsTheInterfaceAndTheTwoClasses) {
+TEST_F(TypeLibrary, ContainsTheInterfaceAndTheTwoClasses) {
     std::vector<std::string> names;
     for (UINT i = 0; i < library_->GetTypeInfoCount(); ++i) {
         names.push_back(nameOf(*library_.get(), static_cast<LONG>(i)));
@@ -86,7 +86,7 @@ TEST_F(TypeLibrary, holdsTheInterfaceAndTheTwoClasses) {
     EXPECT_THAT(names, ElementsAre("IDocument", "DocHtml", "HtmlComPage"));
 }
 
-TEST_F(TypeLibrary, describesTheInterface) {
+TEST_F(TypeLibrary, DescribesTheInterface) {
     const auto info = typeOf(IID_IDocument);
     EXPECT_EQ(helpOf(*info.get(), MEMBERID_NIL), "IDocument Interface");
     TYPEATTR* attributes = nullptr;
@@ -97,7 +97,7 @@ TEST_F(TypeLibrary, describesTheInterface) {
     info->ReleaseTypeAttr(attributes);
 }
 
-TEST_F(TypeLibrary, describesTheDriversClass) {
+TEST_F(TypeLibrary, DescribesTheClassOfTheDriver) {
     const auto info = typeOf(CLSID_DocHtml);
     EXPECT_EQ(helpOf(*info.get(), MEMBERID_NIL), "DocHtml Class");
     TYPEATTR* attributes = nullptr;
@@ -117,7 +117,7 @@ TEST_F(TypeLibrary, describesTheDriversClass) {
     EXPECT_EQ(nameOf(*implemented.get(), MEMBERID_NIL), "IDocument");
 }
 
-TEST_F(TypeLibrary, describesThePagesClass) {
+TEST_F(TypeLibrary, DescribesTheClassOfThePage) {
     const auto info = typeOf(CLSID_HtmlComPage);
     EXPECT_EQ(helpOf(*info.get(), MEMBERID_NIL), "HtmlComPage Class");
     TYPEATTR* attributes = nullptr;
@@ -128,7 +128,7 @@ TEST_F(TypeLibrary, describesThePagesClass) {
     info->ReleaseTypeAttr(attributes);
 }
 
-/// The table of operations behind the dispatch description.
+/// The function table that belongs to the dispatch description.
 ComPointer<ITypeInfo> tableOf(const ComPointer<ITypeInfo>& dispatch) {
     HREFTYPE reference = 0;
     ComPointer<ITypeInfo> table;
@@ -174,7 +174,7 @@ std::vector<std::string> namesOf(ITypeInfo& info, MEMBERID id) {
     return all;
 }
 
-TEST_F(TypeLibrary, derivesTheTableFromTheDispatchInterface) {
+TEST_F(TypeLibrary, DerivesTheTableFromTheDispatchInterface) {
     const auto table = tableOf(typeOf(IID_IDocument));
     TYPEATTR* attributes = nullptr;
     ASSERT_EQ(table->GetTypeAttr(&attributes), S_OK);
@@ -192,7 +192,7 @@ TEST_F(TypeLibrary, derivesTheTableFromTheDispatchInterface) {
     EXPECT_EQ(nameOf(*base.get(), MEMBERID_NIL), "IDispatch");
 }
 
-TEST_F(TypeLibrary, listsTheOperationsInTheirOrder) {
+TEST_F(TypeLibrary, ListsTheOperationsInTheirOrder) {
     constexpr std::size_t inherited = 7;
     const auto table = tableOf(typeOf(IID_IDocument));
     for (const Operation& operation : operations()) {
@@ -216,7 +216,7 @@ TEST_F(TypeLibrary, listsTheOperationsInTheirOrder) {
     }
 }
 
-TEST_F(TypeLibrary, isKnownToTheSystemWhenRegistered) {
+TEST_F(TypeLibrary, IsKnownToTheSystemWhenRegistered) {
     ComPointer<ITypeLib> registered;
     EXPECT_EQ(LoadRegTypeLib(LIBID_DOCHTMLCOMLib, 2, 0, 1033,
                              reinterpret_cast<ITypeLib**>(registered.receive())),

@@ -6,11 +6,11 @@
 
 namespace quillmark::testing {
 
-/// Keys in memory; any one change can be made to fail.
+/// Stores keys in memory. Any one change can be made to fail.
 class MemoryKeyStore final : public ClassKeyStore {
 public:
     KeyTree root;
-    /// The number of the change that fails, counted from 1; 0 for none. Later ones work again.
+    /// The number of the change that fails, counted from 1; 0 for none. Later ones succeed again.
     int failAt = 0;
     int changes = 0;
 

@@ -33,7 +33,7 @@ KeyTree registered() {
     return {{}, {{"Prog.1", program}, {"CLSID", {{}, {{"{1}", classKey}}}}}};
 }
 
-/// A store in which others have keys, and an earlier version of ours too.
+/// A store with keys of other programs and of an earlier version of ours.
 KeyTree usedStore() {
     KeyTree old = leaf("Older Class");
     old.children = {{"Leftover", leaf("x")}};
@@ -53,20 +53,20 @@ HRESULT unregisterAll(MemoryKeyStore& store) {
     return SUCCEEDED(result) ? registrar.keep() : result;
 }
 
-TEST(Registrar, writesTheKeysOfTheScriptAndNoOthers) {
+TEST(Registrar, WritesTheKeysOfTheScriptAndNoOthers) {
     MemoryKeyStore store;
     EXPECT_EQ(registerAll(store), S_OK);
     EXPECT_EQ(store.root, registered());
 }
 
-TEST(Registrar, leavesOneCopyWhenRegisteringTwice) {
+TEST(Registrar, LeavesOneCopyWhenRegisteringTwice) {
     MemoryKeyStore store;
     EXPECT_EQ(registerAll(store), S_OK);
     EXPECT_EQ(registerAll(store), S_OK);
     EXPECT_EQ(store.root, registered());
 }
 
-TEST(Registrar, replacesAnOldClassKeyWhole) {
+TEST(Registrar, ReplacesAnOldClassKeyCompletely) {
     MemoryKeyStore store;
     store.root = usedStore();
     EXPECT_EQ(registerAll(store), S_OK);
@@ -74,14 +74,14 @@ TEST(Registrar, replacesAnOldClassKeyWhole) {
     EXPECT_EQ(store.read("CLSID\\{2}"), leaf("Another"));
 }
 
-TEST(Registrar, removesAllButTheSharedKey) {
+TEST(Registrar, RemovesAllButTheSharedKey) {
     MemoryKeyStore store;
     EXPECT_EQ(registerAll(store), S_OK);
     EXPECT_EQ(unregisterAll(store), S_OK);
     EXPECT_EQ(store.root, (KeyTree{{}, {{"CLSID", {}}}}));
 }
 
-TEST(Registrar, removesNothingOfOthers) {
+TEST(Registrar, RemovesNothingOfOthers) {
     MemoryKeyStore store;
     store.root = usedStore();
     EXPECT_EQ(unregisterAll(store), S_OK);
@@ -90,13 +90,13 @@ TEST(Registrar, removesNothingOfOthers) {
     EXPECT_EQ(store.root, left);
 }
 
-TEST(Registrar, unregistersWhatIsNotRegistered) {
+TEST(Registrar, SucceedsInUnregisteringWhatIsNotRegistered) {
     MemoryKeyStore store;
     EXPECT_EQ(unregisterAll(store), S_OK);
     EXPECT_EQ(store.root, KeyTree());
 }
 
-TEST(Registrar, takesEverythingBackWhereverRegistrationFails) {
+TEST(Registrar, RestoresEverythingWhereverRegistrationFails) {
     MemoryKeyStore whole;
     whole.root = usedStore();
     ASSERT_EQ(registerAll(whole), S_OK);
@@ -109,7 +109,7 @@ TEST(Registrar, takesEverythingBackWhereverRegistrationFails) {
     }
 }
 
-TEST(Registrar, takesASharedKeyBackThatItMade) {
+TEST(Registrar, RemovesASharedKeyThatItCreatedWhenRegistrationFails) {
     MemoryKeyStore whole;
     ASSERT_EQ(registerAll(whole), S_OK);
     for (int change = 1; change <= whole.changes; ++change) {
@@ -120,7 +120,7 @@ TEST(Registrar, takesASharedKeyBackThatItMade) {
     }
 }
 
-TEST(Registrar, takesEverythingBackWhereverUnregistrationFails) {
+TEST(Registrar, RestoresEverythingWhereverUnregistrationFails) {
     MemoryKeyStore whole;
     ASSERT_EQ(registerAll(whole), S_OK);
     whole.changes = 0;
@@ -134,7 +134,7 @@ TEST(Registrar, takesEverythingBackWhereverUnregistrationFails) {
     }
 }
 
-TEST(Registrar, takesBackWhatNobodyKeeps) {
+TEST(Registrar, RestoresEverythingUnlessItIsKept) {
     MemoryKeyStore store;
     store.root = usedStore();
     {

@@ -20,19 +20,19 @@ std::vector<std::string> paths(const std::vector<RegisteredKey>& keys) {
     return all;
 }
 
-TEST(RegistrationScript, listsKeysParentsFirst) {
+TEST(RegistrationScript, ListsKeysParentsFirst) {
     const auto keys =
         readRegistrationScript("HKCR\n{\n A = s 'a'\n {\n B\n { C\n }\n D\n }\n E\n}\n", "");
     EXPECT_THAT(paths(keys), ElementsAre("A", "A\\B", "A\\B\\C", "A\\D", "E"));
 }
 
-TEST(RegistrationScript, reservesTheDefaultValueOfAKeyWithoutOne) {
+TEST(RegistrationScript, SetsNoDefaultValueForAKeyWithoutOne) {
     const auto keys = readRegistrationScript("HKCR { A = s '' B }", "");
     EXPECT_EQ(keys[0].value, "");
     EXPECT_EQ(keys[1].value, std::nullopt);
 }
 
-TEST(RegistrationScript, marksSharedAndReplacedKeys) {
+TEST(RegistrationScript, MarksSharedAndReplacedKeys) {
     const auto keys = readRegistrationScript("HKCR { NoRemove CLSID { ForceRemove {1} } A }", "");
     EXPECT_TRUE(keys[0].isShared);
     EXPECT_FALSE(keys[0].replacesOld);
@@ -42,25 +42,25 @@ TEST(RegistrationScript, marksSharedAndReplacedKeys) {
     EXPECT_FALSE(keys[2].isShared || keys[2].replacesOld);
 }
 
-TEST(RegistrationScript, readsNamedValues) {
+TEST(RegistrationScript, ReadsNamedValues) {
     const auto keys = readRegistrationScript(
         "HKCR { A = s 'x' { val One = s '1' val 'Number Two' = s '2' B } }", "");
     EXPECT_THAT(keys[0].namedValues, ElementsAre(Pair("Number Two", "2"), Pair("One", "1")));
     EXPECT_EQ(keys[1].path, "A\\B");
 }
 
-TEST(RegistrationScript, putsTheModulesPathIntoValues) {
+TEST(RegistrationScript, InsertsThePathOfTheModuleIntoValues) {
     const auto keys = readRegistrationScript("HKCR { A = s '%MODULE%,%MODULE%' }", "C:\\%MODULE%");
     EXPECT_EQ(keys[0].value, "C:\\%MODULE%,C:\\%MODULE%");
 }
 
-TEST(RegistrationScript, readsADoubledQuoteAsOne) {
+TEST(RegistrationScript, ReadsADoubledQuoteAsOne) {
     const auto keys = readRegistrationScript("HKCR { 'it''s' = s 'a''b' }", "");
     EXPECT_EQ(keys[0].path, "it's");
     EXPECT_EQ(keys[0].value, "a'b");
 }
 
-TEST(RegistrationScript, refusesWhatItCannotRead) {
+TEST(RegistrationScript, RefusesAMalformedScript) {
     for (const char* script :
          {"", "HKLM { }", "HKCR", "HKCR {", "HKCR { A", "HKCR { A = s", "HKCR { A = s bare }",
           "HKCR { A = d '5' }", "HKCR { A = s 'open }", "HKCR { = s 'x' }", "HKCR { } B",
@@ -70,9 +70,9 @@ TEST(RegistrationScript, refusesWhatItCannotRead) {
 }
 
 #ifndef _WIN32
-// On Windows the scripts are resources of the library, which its own tests look into.
+// On Windows the scripts are resources of the library. Other tests read them there.
 
-TEST(DriverScript, holdsTheDriversKeys) {
+TEST(DriverScript, ContainsTheKeysOfTheDriver) {
     const auto keys = readRegistrationScript(registrationScript(driverScript), "/lib/x.so");
     EXPECT_THAT(
         paths(keys),
@@ -87,7 +87,7 @@ TEST(DriverScript, holdsTheDriversKeys) {
     EXPECT_THAT(keys.back().namedValues, ElementsAre(Pair("ThreadingModel", "Apartment")));
 }
 
-TEST(PageScript, givesThePagesClassNoProgramIdentifier) {
+TEST(PageScript, GivesTheClassOfThePageNoProgramIdentifier) {
     const auto keys = readRegistrationScript(registrationScript(pageScript), "/lib/x.so");
     EXPECT_THAT(paths(keys),
                 ElementsAre("HtmlComPage.HtmlComPage.2.1.0", "HtmlComPage.HtmlComPage.2.1.0\\CLSID",

@@ -1,4 +1,4 @@
-// What a host lends through callbacks reaches the driver behind its own contracts.
+// The services that a host provides through callbacks reach the driver through its own interfaces.
 
 #include "component/services/lent_services.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-/// The host's side: writes down what it is asked and answers from its members.
+/// The host's side: records what it is asked and answers from its members.
 struct Host {
     std::vector<std::string> heard;
     bool fails = false;
@@ -55,7 +55,7 @@ DochtmlSettingsStore settingsOf(Host& host) {
             }};
 }
 
-TEST(LentSettings, areTheStoreInForce) {
+TEST(LentSettings, AreTheStoreInForce) {
     Host host;
     const DochtmlSettingsStore store = settingsOf(host);
     ASSERT_EQ(services().setSettingsStore(&store), S_OK);
@@ -68,7 +68,7 @@ TEST(LentSettings, areTheStoreInForce) {
                                         "write Html.Kept=1", "write Html.Lost=2"));
 }
 
-TEST(LentProfilePath, standsForTheIniFile) {
+TEST(LentProfilePath, ReplacesTheIniFile) {
     const DochtmlText path = lend("C:\\my.ini");
     ASSERT_EQ(services().setProfilePath(&path), S_OK);
     ASSERT_NE(AppProfileInterface::getInterface(), nullptr);
@@ -77,7 +77,7 @@ TEST(LentProfilePath, standsForTheIniFile) {
     EXPECT_EQ(AppProfileInterface::getInterface(), nullptr);
 }
 
-TEST(LentImageMaps, answerWithTheRegionsOfAPicture) {
+TEST(LentImageMaps, AnswerWithTheRegionsOfAPicture) {
     Host host;
     const DochtmlImageMaps maps{&host,
                                 [](void*, const DochtmlText* picture, const DochtmlSink* texts) {
@@ -93,7 +93,7 @@ TEST(LentImageMaps, answerWithTheRegionsOfAPicture) {
     EXPECT_EQ(CImageMapInterface::getInterface(), nullptr);
 }
 
-TEST(LentTraceListener, hearsLinesUpToItsLevel) {
+TEST(LentTraceListener, ReceivesLinesUpToItsLevel) {
     Host host;
     const DochtmlTraceListener listener{
         &host, Trace::calls, [](void* context, std::int32_t level, const DochtmlText* text) {
@@ -108,7 +108,7 @@ TEST(LentTraceListener, hearsLinesUpToItsLevel) {
     EXPECT_THAT(host.heard, ElementsAre("1 ERR one\n"));
 }
 
-TEST(LentExceptionLog, isAskedThenTold) {
+TEST(LentExceptionLog, IsAskedBeforeItReceivesAMessage) {
     Host host;
     const DochtmlExceptionLog log{
         &host,
@@ -125,7 +125,7 @@ TEST(LentExceptionLog, isAskedThenTold) {
                 ElementsAre("records Throw", "records Catch", "Exception catch: boom\n"));
 }
 
-TEST(LentObserver, hearsWhatBecameOfADocument) {
+TEST(LentObserver, ReceivesTheEventsOfADocument) {
     Host host;
     DochtmlObserver observer{};
     observer.context = &host;
@@ -148,7 +148,7 @@ TEST(LentObserver, hearsWhatBecameOfADocument) {
     EXPECT_THAT(host.heard, ElementsAre("page a.htm", "file b.gif", "entry", "3 in a.htm"));
 }
 
-TEST(LentObserver, mayLackCallbacks) {
+TEST(LentObserver, MayLackCallbacks) {
     const DochtmlObserver deaf{};
     ASSERT_EQ(services().setObserver(&deaf), S_OK);
     EXPECT_NO_FATAL_FAILURE({
@@ -160,14 +160,14 @@ TEST(LentObserver, mayLackCallbacks) {
     EXPECT_EQ(services().setObserver(nullptr), S_OK);
 }
 
-TEST(LentMode, setsTheSchemaType) {
+TEST(LentMode, SetsTheSchemaType) {
     EXPECT_EQ(LentServices::setSchemaType(2), S_OK);
     EXPECT_EQ(CQuillmarkMode::GetSchemaType(), 2);
     EXPECT_EQ(LentServices::setSchemaType(0), S_OK);
     EXPECT_EQ(CQuillmarkMode::GetSchemaType(), 0);
 }
 
-TEST(LentDrives, areLettersOnly) {
+TEST(LentDrives, AreLettersOnly) {
     const DochtmlText directory = lend("/srv/out");
     EXPECT_EQ(LentServices::setDrive('Q', &directory), S_OK);
     EXPECT_EQ(DriveTable::find('Q'), "/srv/out");
@@ -257,14 +257,14 @@ protected:
     Host host_;
 };
 
-TEST_F(LentModel, knowsItsObjectsAndNoOthers) {
+TEST_F(LentModel, KnowsItsObjectsAndNoOthers) {
     EXPECT_NE(schema().object(1), nullptr);
     EXPECT_EQ(schema().object(1), schema().object(1));
     EXPECT_NE(schema().object(1), schema().object(2));
     EXPECT_EQ(schema().object(3), nullptr);
 }
 
-TEST_F(LentModel, tellsOfClasses) {
+TEST_F(LentModel, DescribesClasses) {
     const MMClass* found = schema().object(1)->getClass();
     ASSERT_NE(found, nullptr);
     EXPECT_EQ(found, schema().findClass("Operation"));
@@ -276,7 +276,7 @@ TEST_F(LentModel, tellsOfClasses) {
     EXPECT_FALSE(found->associationExists("visibility"));
 }
 
-TEST_F(LentModel, tellsOfAttributes) {
+TEST_F(LentModel, DescribesAttributes) {
     const MMAttribute* attribute = (*schema().object(1))["visibility"];
     ASSERT_NE(attribute, nullptr);
     EXPECT_EQ(attribute->asString(), "public");
@@ -286,13 +286,13 @@ TEST_F(LentModel, tellsOfAttributes) {
     EXPECT_EQ((*schema().object(2))["visibility"], nullptr);
 }
 
-TEST_F(LentModel, followsAssociationsInOrder) {
+TEST_F(LentModel, FollowsAssociationsInOrder) {
     const MMObject* second = schema().object(2);
     EXPECT_THAT(schema().object(1)->objects("next"), ElementsAre(second, second));
     EXPECT_THAT(second->objects("next"), ElementsAre());
 }
 
-TEST_F(LentModel, throwsWhatTheHostReportsAsFailure) {
+TEST_F(LentModel, ThrowsWhenTheHostReportsAFailure) {
     const MMAttribute* attribute = (*schema().object(1))["visibility"];
     host_.fails = true;
     EXPECT_THROW(static_cast<void>(schema().object(1)), OrxException);
@@ -304,7 +304,7 @@ TEST_F(LentModel, throwsWhatTheHostReportsAsFailure) {
     }
 }
 
-TEST(LentServices, refusesRecordsWithoutTheirCallbacks) {
+TEST(LentServices, RefuseRecordsWithoutTheirCallbacks) {
     const DochtmlSettingsStore store{};
     const DochtmlImageMaps maps{};
     const DochtmlModel model{};

@@ -1,11 +1,11 @@
-// A lent service that is replaced while others may be calling it.
+// A service of the host that is replaced while others may be calling it.
 
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <thread>
 
-#include "component/object/module_state.h"
+#include "component/module/module_state.h"
 #include "component/object/recorded_object.h"
 #include "component/services/lent_services.h"
 
@@ -23,13 +23,13 @@ DochtmlObserver observerOf(int& calls) {
 class ReplacedService : public ::testing::Test {
 protected:
     void TearDown() override {
-        // Without a user this also lets go of what a test has left.
+        // Without a user this also releases the services that a test has left.
         EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
         EXPECT_EQ(LentServices::module().retiredCount(), 0U);
     }
 };
 
-TEST_F(ReplacedService, canStillBeCalledByWhoTookItUpBefore) {
+TEST_F(ReplacedService, CanStillBeCalledByWhoeverFetchedItBefore) {
     const ServiceUser another;
     int calls = 0;
     const DochtmlObserver observer = observerOf(calls);
@@ -40,7 +40,7 @@ TEST_F(ReplacedService, canStillBeCalledByWhoTookItUpBefore) {
     EXPECT_EQ(calls, 1);
 }
 
-TEST_F(ReplacedService, isLetGoOfWhenNobodyCanHaveTakenItUp) {
+TEST_F(ReplacedService, IsReleasedWhenNobodyCanHaveFetchedIt) {
     const DochtmlObserver deaf{};
     {
         const ServiceUser another;
@@ -53,7 +53,7 @@ TEST_F(ReplacedService, isLetGoOfWhenNobodyCanHaveTakenItUp) {
     EXPECT_EQ(LentServices::module().retiredCount(), 0U);
 }
 
-TEST_F(ReplacedService, isKeptForADocument) {
+TEST_F(ReplacedService, IsKeptForADocument) {
     const DochtmlObserver deaf{};
     {
         const RecordedObject document;
@@ -65,7 +65,7 @@ TEST_F(ReplacedService, isKeptForADocument) {
     EXPECT_EQ(LentServices::module().retiredCount(), 0U);
 }
 
-TEST_F(ReplacedService, mayBeReplacedWhileAnotherThreadWritesItsTrace) {
+TEST_F(ReplacedService, MayBeReplacedWhileAnotherThreadWritesItsTrace) {
     constexpr int rounds = 2000;
     std::atomic<int> heard{0};
     const DochtmlTraceListener listener{&heard, Trace::calls,

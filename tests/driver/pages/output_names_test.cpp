@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace quillmark {
 namespace {
 
@@ -87,6 +89,26 @@ TEST(OutputNames, AreTakenAfreshForEveryDocument) {
     OutputNames names = namesOf("C:\\out\\rep.html");
     names.setDocument("D:\\x\\other");
     EXPECT_EQ(names.pageFileName(1, ""), "D:\\x\\other.htm");
+}
+
+TEST(OutputNames, ShortenADirectoryToItsLastParentThatFits) {
+    const OutputNames names = namesOf("C:\\out\\rep.htm");
+    const std::string fits(200, 'd');
+    EXPECT_EQ(names.shortenedDirectory("a/b"), "a/b");
+    EXPECT_EQ(names.shortenedDirectory(fits + "/sub\\deeper"), fits + "\\sub");
+    EXPECT_EQ(names.shortenedDirectory(std::string(300, 'd')), std::string(300, 'd'));
+}
+
+// A step that copied the path would take hours here.
+TEST(OutputNames, ShortenADirectoryOfMillionsOfComponents) {
+    const OutputNames names = namesOf("C:\\out\\rep.htm");
+    std::string deep;
+    for (int i = 0; i < 4'000'000; ++i) {
+        deep += "d\\";
+    }
+    const OrxString shortened = names.shortenedDirectory(deep);
+    EXPECT_EQ(shortened.length(), 203U);
+    EXPECT_EQ(shortened, deep.substr(0, 203));
 }
 
 }  // namespace

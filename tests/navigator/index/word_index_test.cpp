@@ -62,6 +62,13 @@ TEST_F(WordIndexTest, wordsAreInTheOrderOfTheirCodePoints) {
         "repNav(\"word0\",'\"Az,,A;A\\\\u6771,,A;A\\\\uff9e,,A;A\\\\ud842\\\\udfb7,,A;\"');\n");
 }
 
+TEST_F(WordIndexTest, wordsShareNoHalfOfAPair) {
+    index.startPage(0);
+    add(u"a\U00010400 a\U00010401");
+    EXPECT_EQ(written("word0.js"),
+              "repNav(\"word0\",'\"Aa\\\\ud801\\\\udc00,,A;B\\\\ud801\\\\udc01,,A;\"');\n");
+}
+
 TEST_F(WordIndexTest, entriesCanBeTakenUpAgain) {
     index.startEntry(3, 0);
     add(u"word");

@@ -7,7 +7,7 @@ namespace quillmark {
 
 namespace {
 
-/// Stands between the frame and the page; it is the page's site too.
+/// A layer between the frame and the page. It is also the page's site.
 class CompletedPage final : public IPropertyPage, public IPropertyPageSite {
 public:
     CompletedPage() {
@@ -82,7 +82,7 @@ public:
         *container = nullptr;
         return E_NOTIMPL;
     }
-    // The site's operation of this name has the signature of the page's, and is the same here.
+    // The site's function of this name has the signature of the page's, and one body serves both.
 
 private:
     ~CompletedPage() {
@@ -95,7 +95,7 @@ private:
                                                LPARAM lparam) {
         if (message == WM_NOTIFY && applying != nullptr &&
             reinterpret_cast<const NMHDR*>(lparam)->code == static_cast<UINT>(PSN_APPLY)) {
-            // A frame applies only what is dirty.
+            // A frame applies only dirty pages.
             const bool refused =
                 applying->IsPageDirty() == S_OK && FAILED(applying->page_->Apply());
             SetWindowLongPtrW(window, DWLP_MSGRESULT,

@@ -12,9 +12,9 @@ namespace quillmark {
 inline constexpr CLSID settingsPageClass{
     0x474BDD93, 0x0170, 0x11D3, {0xA6, 0xBF, 0x00, 0x10, 0x4B, 0x2A, 0xEF, 0xE1}};
 
-/// A page class of the test's own, which passes everything on to a settings page made from the
-/// registered class, and does what Wine's property frame leaves out: it enables Apply when the
-/// page says that it is dirty, and applies the page when Apply or OK is pressed.
+/// A page class of the tests, which passes all calls on to a settings page of the registered class
+/// and does what Wine's property frame omits: it enables Apply when the page reports that it is
+/// dirty, and applies the page when Apply or OK is pressed.
 inline constexpr CLSID completedPageClass{
     0x9C1F5A30, 0x6D0B, 0x4C8E, {0x9A, 0x41, 0x5B, 0x1E, 0x0C, 0x77, 0x21, 0x5D}};
 

@@ -62,7 +62,7 @@ UINT markMessage() {
     return message;
 }
 
-/// Sees every message that the frame's thread takes out of its queue.
+/// Receives every message that the frame's thread takes from its queue.
 LRESULT CALLBACK noticeMarks(int code, WPARAM wparam, LPARAM lparam) {
     const auto* const message = reinterpret_cast<const MSG*>(lparam);
     if (code == HC_ACTION && wparam == PM_REMOVE && message->message == markMessage()) {
@@ -81,7 +81,7 @@ HWND iconIn(HWND box) {
     return nullptr;
 }
 
-/// Something that the frame may be about; the page wants nothing of it.
+/// An object for the frame to show. The page does not use it.
 class Nothing final : public IUnknown {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
@@ -130,7 +130,7 @@ FrameDriver::FrameDriver(const CLSID& pageClass) : pageClass_(pageClass) {
         });
         waitUntilIdle();
     } catch (...) {
-        // A frame that does not come cannot be closed: its thread ends with the program.
+        // A frame that does not appear cannot be closed. Its thread ends with the program.
         thread_.detach();
         throw;
     }
@@ -217,8 +217,8 @@ void FrameDriver::press(WPARAM key) const {
 }
 
 void FrameDriver::waitUntilIdle() const {
-    // A message behind all that was posted before: when the frame's loop has taken it out of the
-    // queue, those are done.
+    // This message comes after all that were posted before. When the frame's loop has taken it from
+    // the queue, those have been processed.
     static WPARAM count = 0;
     const WPARAM mark = ++count;
     PostMessageA(frame_, markMessage(), mark, 0);
@@ -263,6 +263,11 @@ void FrameDriver::pressCancel() {
 void FrameDriver::withDialog(int button, const std::string& title,
                              const std::function<void(HWND)>& play) const {
     PostMessageA(control(button), BM_CLICK, 0, 0);
+    playDialog(title, play);
+}
+
+void FrameDriver::playDialog(const std::string& title,
+                             const std::function<void(HWND)>& play) const {
     HWND dialog = nullptr;
     waitFor(title.c_str(), [&] {
         dialog = findWindow(title);

@@ -13,29 +13,29 @@ namespace quillmark {
 /// The frame's Apply button.
 inline constexpr int applyButton = 0x3021;
 
-/// A message box as a person sees it.
+/// The visible parts of a message box.
 struct MessageBoxSeen {
     std::string title;
     std::string text;
     bool hasExclamation = false;
 };
 
-/// Plays a person in front of the property frame: the frame runs in a thread of its own, and
-/// everything reaches it by control identifiers and window messages.
+/// Acts as the user of a property frame. The frame runs in a thread of its own, and all actions are
+/// window messages to controls, found by identifier.
 class FrameDriver {
 public:
-    /// Opens the frame with a page of that class and waits until the page is there.
+    /// Opens the frame with a page of that class and waits until the page exists.
     explicit FrameDriver(const CLSID& pageClass = completedPageClass);
     FrameDriver(const FrameDriver&) = delete;
     FrameDriver& operator=(const FrameDriver&) = delete;
-    /// Cancels what is still open.
+    /// Cancels the frame if it is still open.
     ~FrameDriver();
 
     [[nodiscard]] HWND frame() const { return frame_; }
     [[nodiscard]] HWND page() const { return page_; }
     [[nodiscard]] HWND control(int id) const { return GetDlgItem(page_, id); }
 
-    /// What the box shows.
+    /// The text of the box.
     [[nodiscard]] std::string text(int id) const;
     [[nodiscard]] bool isChecked(int id) const;
     /// The identifier of the control that has the focus.
@@ -45,25 +45,27 @@ public:
 
     /// Replaces the text of the box, key by key.
     void type(int id, const std::string& text) const;
-    /// Replaces the text as a paste would, past what the box takes from the keys.
+    /// Replaces the text as pasting does, without the checks on typed keys.
     void paste(int id, const std::string& text) const;
     void click(int id) const;
     void giveFocus(int id) const;
     /// A key that the frame's message loop sees.
     void press(WPARAM key) const;
-    /// Presses Apply and waits until it is done; a message box that came up is confirmed and
-    /// told. An empty title: none came.
+    /// Presses Apply and waits until it is done. Confirms a message box and returns it; the title
+    /// is empty when there was none.
     [[nodiscard]] MessageBoxSeen pressApply() const;
-    /// Presses OK or Cancel and waits for the frame to go.
+    /// Presses OK or Cancel and waits until the frame is closed.
     void pressOk();
     void pressCancel();
 
-    /// Clicks the button, waits for the dialog of that title and runs `play` on it, then waits
-    /// until it is gone.
+    /// Waits for the dialog of that title, which an action has opened, and runs `play` on it, then
+    /// waits until it is closed.
+    void playDialog(const std::string& title, const std::function<void(HWND)>& play) const;
+    /// Clicks the button and plays the dialog that it opens.
     void withDialog(int button, const std::string& title,
                     const std::function<void(HWND)>& play) const;
 
-    /// A top-level window of the frame's thread whose title holds that text, or null.
+    /// A top-level window of the frame's thread whose title contains that text, or null.
     [[nodiscard]] HWND findWindow(const std::string& title) const;
 
 private:

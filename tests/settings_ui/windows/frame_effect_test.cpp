@@ -13,7 +13,8 @@ namespace quillmark {
 
 namespace {
 
-/// A person changes the page, and the replay tool makes the report from the registry.
+/// The user changes the page, and the replay tool writes the report with the settings in the
+/// registry.
 class FrameEffect : public testing::TestWithParam<Effect> {
 protected:
     FrameEffect() {
@@ -37,7 +38,7 @@ protected:
         // The documents directory does not enable Apply, a box clicked twice does.
         driver.click(control::showIcons);
         driver.click(control::showIcons);
-        // Another way through the pages must stay when the contents go.
+        // One navigation method must stay on when the contents are turned off.
         if (row.id == control::contents) {
             driver.click(control::arrows);
         }

@@ -8,8 +8,8 @@
 
 namespace {
 
-/// Tells Wine to draw the frames of windows itself: no window manager is there. It is read when
-/// the first window is made.
+/// Makes Wine draw the frames of windows itself, because there is no window manager. Wine reads
+/// this when it creates the first window.
 void drawWindowFrames() {
     constexpr char no[] = "N";
     RegSetKeyValueA(HKEY_CURRENT_USER, "Software\\Wine\\X11 Driver", "Managed", REG_SZ, no,

@@ -52,7 +52,7 @@ protected:
     HWND parent_ = nullptr;
 };
 
-TEST_F(PageObjectTest, TellsItsTitleDescriptionAndSizeAndNamesNoHelpFile) {
+TEST_F(PageObjectTest, ReportsItsTitleDescriptionAndSizeButNoHelpFile) {
     PROPPAGEINFO info{};
     EXPECT_EQ(page_->GetPageInfo(&info), S_OK);
     EXPECT_EQ(info.cb, sizeof(info));
@@ -74,7 +74,7 @@ TEST_F(PageObjectTest, ItsSizeIsTheTemplatesInPixels) {
     EXPECT_EQ(size.cy, units.bottom);
 }
 
-TEST_F(PageObjectTest, ItsWindowHoldsTheControlsOfTheTableInOrder) {
+TEST_F(PageObjectTest, ItsWindowContainsTheControlsOfTheTableInOrder) {
     const HWND window = activate();
     HWND child = GetWindow(window, GW_CHILD);
     for (const PageControl& row : pageControls()) {
@@ -105,7 +105,7 @@ std::vector<Placed> visibleControls(HWND window) {
     for (HWND child = GetWindow(window, GW_CHILD); child != nullptr;
          child = GetWindow(child, GW_HWNDNEXT)) {
         const LONG style = GetWindowLongA(child, GWL_STYLE);
-        // The up-down control lies inside its buddy's frame.
+        // The up-down control is inside its buddy's frame.
         if ((style & WS_VISIBLE) == 0 || GetDlgCtrlID(child) == control::headingLevelSpin) {
             continue;
         }
@@ -121,7 +121,7 @@ std::vector<Placed> visibleControls(HWND window) {
     return placed;
 }
 
-TEST_F(PageObjectTest, ItsControlsLieInsideTheWindowAndNoTwoOverlap) {
+TEST_F(PageObjectTest, ItsControlsAreInsideTheWindowAndNoTwoOverlap) {
     const HWND window = activate();
     RECT inside{};
     GetClientRect(window, &inside);
@@ -163,7 +163,7 @@ TEST_F(PageObjectTest, ItsTextsFitTheirControls) {
     ReleaseDC(window, screen);
 }
 
-TEST_F(PageObjectTest, IsShownMovedAndTakenDown) {
+TEST_F(PageObjectTest, IsShownMovedHiddenAndDestroyed) {
     const HWND window = activate();
     EXPECT_EQ(page_->Show(SW_SHOWNA), S_OK);
     EXPECT_NE(GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE, 0);
@@ -179,7 +179,7 @@ TEST_F(PageObjectTest, IsShownMovedAndTakenDown) {
     EXPECT_FALSE(IsWindow(window));
 }
 
-TEST_F(PageObjectTest, ASecondWindowShowsWhatTheFirstOneHeld) {
+TEST_F(PageObjectTest, ASecondWindowShowsTheValuesOfTheFirst) {
     HWND window = activate();
     SetDlgItemTextA(window, 5205, "mine.css");
     CheckDlgButton(window, 5219, BST_CHECKED);
@@ -191,7 +191,7 @@ TEST_F(PageObjectTest, ASecondWindowShowsWhatTheFirstOneHeld) {
     EXPECT_EQ(IsDlgButtonChecked(window, 5219), static_cast<UINT>(BST_CHECKED));
 }
 
-TEST_F(PageObjectTest, GoesWithAParentThatIsDestroyedAndComesAgainBelowAnother) {
+TEST_F(PageObjectTest, IsDestroyedWithItsParentAndKeepsItsValuesForAnother) {
     HWND window = activate();
     SetDlgItemTextA(window, 5205, "mine.css");
     CheckDlgButton(window, 5219, BST_CHECKED);
@@ -229,13 +229,43 @@ TEST_F(PageObjectTest, RefusesWhatNeedsAWindowWhileThereIsNone) {
     EXPECT_EQ(page_->SetObjects(0, nullptr), S_OK);
 }
 
+TEST_F(PageObjectTest, ReturnPressesItsButtonsInAHostsOwnDialog) {
+    ShowWindow(parent_, SW_SHOW);
+    const HWND window = activate();
+    EXPECT_EQ(page_->Show(SW_SHOWNA), S_OK);
+    for (const int id : {5602, 5212, 5206, 5216}) {
+        const HWND button = GetDlgItem(window, id);
+        SetFocus(button);
+        MSG key{};
+        key.hwnd = button;
+        key.message = WM_KEYDOWN;
+        key.wParam = VK_RETURN;
+        key.lParam = 1;
+        MSG click{};
+        EXPECT_EQ(page_->TranslateAccelerator(&key), S_OK);
+        EXPECT_TRUE(PeekMessageA(&click, button, BM_CLICK, BM_CLICK, PM_REMOVE)) << id;
+        // A host need not ask the page first.
+        EXPECT_TRUE(IsDialogMessageA(parent_, &key));
+        EXPECT_TRUE(PeekMessageA(&click, button, BM_CLICK, BM_CLICK, PM_REMOVE)) << id;
+    }
+}
+
+TEST_F(PageObjectTest, ReturnInABoxIsForTheHost) {
+    const HWND window = activate();
+    MSG key{};
+    key.hwnd = GetDlgItem(window, 5601);
+    key.message = WM_KEYDOWN;
+    key.wParam = VK_RETURN;
+    EXPECT_EQ(page_->TranslateAccelerator(&key), S_FALSE);
+}
+
 TEST_F(PageObjectTest, IsNotActivatedTwice) {
     static_cast<void>(activate());
     const RECT place{};
     EXPECT_EQ(page_->Activate(parent_, &place, FALSE), E_UNEXPECTED);
 }
 
-/// An outer object that counts what reaches it.
+/// An outer object that counts its calls.
 class Outer final : public IUnknown {
 public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
@@ -253,7 +283,7 @@ public:
     ULONG count = 1;
 };
 
-TEST_F(PageObjectTest, InsideAnOuterObjectItsIdentityAndLifeAreTheOuterOnes) {
+TEST_F(PageObjectTest, InsideAnOuterObjectItHasTheOuterIdentityAndLifetime) {
     Outer outer;
     ASSERT_EQ(CoCreateInstance(settingsPageClass, &outer, CLSCTX_INPROC_SERVER, IID_IUnknown,
                                reinterpret_cast<void**>(&outer.inner)),

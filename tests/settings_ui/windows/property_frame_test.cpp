@@ -3,6 +3,7 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 #include "settings/register_dynamic.h"
 #include "settings/settings_store.h"
@@ -17,7 +18,7 @@ namespace quillmark {
 
 namespace {
 
-/// A person in front of the frame, with a registry in which everything is acceptable.
+/// A user of the frame, with a registry in which every value is valid.
 class PropertyFrameTest : public testing::Test {
 protected:
     PropertyFrameTest() {
@@ -39,7 +40,7 @@ protected:
         EXPECT_TRUE(seen.hasExclamation);
         EXPECT_TRUE(driver.isOpen());
         EXPECT_TRUE(driver.applyIsEnabled());
-        // The page moves the focus nowhere: the button that was pressed has it.
+        // The page does not move the focus: the button that was pressed has it.
         EXPECT_EQ(driver.focused(), applyButton);
     }
     static void expectAccepted(const FrameDriver& driver) {
@@ -70,7 +71,7 @@ TEST_F(PropertyFrameTest, LoadsWhenTheFirstBoxGetsTheFocusAndLeavesApplyDisabled
     EXPECT_FALSE(driver.applyIsEnabled());
 }
 
-TEST_F(PropertyFrameTest, TheTabCarriesTheTitleWithoutItsAccessMark) {
+TEST_F(PropertyFrameTest, TheTabShowsTheTitleWithoutItsAccessMark) {
     const FrameDriver driver;
     const HWND tabs = GetDlgItem(driver.frame(), 0x3020);
     std::array<char, 64> title{};
@@ -82,7 +83,7 @@ TEST_F(PropertyFrameTest, TheTabCarriesTheTitleWithoutItsAccessMark) {
     EXPECT_STREQ(item.pszText, "&HTML");
 }
 
-TEST_F(PropertyFrameTest, AFrameMakesThePageFromItsRegisteredClass) {
+TEST_F(PropertyFrameTest, AFrameCreatesThePageFromItsRegisteredClass) {
     put("HtmlPixDir", "images");
     const FrameDriver driver(settingsPageClass);
     EXPECT_EQ(driver.focused(), 5601);
@@ -155,7 +156,7 @@ TEST_F(PropertyFrameTest, WithoutANavigationMethodApplyIsRefusedAndNothingIsWrit
     EXPECT_EQ(kept("UseRelative"), "(nothing)");
 }
 
-TEST_F(PropertyFrameTest, AHeadingLevelOutsideItsRangeIsRefusedBehindTheChecks) {
+TEST_F(PropertyFrameTest, AHeadingLevelOutsideItsRangeIsRefusedAfterTheChecks) {
     const FrameDriver driver;
     driver.click(5219);
     driver.type(5202, "51");
@@ -188,7 +189,7 @@ TEST_F(PropertyFrameTest, TheHeadingLevelWrapsAroundAtBothEnds) {
     EXPECT_TRUE(driver.applyIsEnabled());
 }
 
-TEST_F(PropertyFrameTest, DirectoriesAndFilesThatAreNotThereAreRefused) {
+TEST_F(PropertyFrameTest, DirectoriesAndFilesThatDoNotExistAreRefused) {
     const FrameDriver driver;
     driver.type(5601, "C:\\no such");
     expectRefusal(driver,
@@ -267,6 +268,30 @@ TEST_F(PropertyFrameTest, BrowsingForADirectoryCanBeCancelled) {
     EXPECT_FALSE(driver.applyIsEnabled());
 }
 
+TEST_F(PropertyFrameTest, ReturnOpensTheDialogOfTheButtonThatHasTheFocus) {
+    const FrameDriver driver;
+    const auto cancel = [](HWND dialog) { PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0); };
+    const std::array<std::pair<int, const char*>, 4> dialogs{{{5602, "Browse"},
+                                                              {5212, "Browse"},
+                                                              {5206, "Select Html Style Sheet"},
+                                                              {5216, "Select Icon Zip File"}}};
+    for (const auto& [button, title] : dialogs) {
+        driver.giveFocus(button);
+        driver.press(VK_RETURN);
+        driver.playDialog(title, cancel);
+        EXPECT_TRUE(driver.isOpen()) << button;
+        EXPECT_EQ(driver.focused(), button);
+    }
+}
+
+TEST_F(PropertyFrameTest, ReturnElsewhereIsForTheFrame) {
+    put("HtmlPixDir", "images");
+    const FrameDriver driver;
+    driver.giveFocus(5601);
+    driver.press(VK_RETURN);
+    waitFor("the frame to go", [&] { return !driver.isOpen(); });
+}
+
 TEST_F(PropertyFrameTest, AStyleSheetCanBePicked) {
     const std::filesystem::path sheet = std::filesystem::temp_directory_path() / "picked.css";
     std::ofstream(sheet) << "x";
@@ -285,7 +310,7 @@ TEST_F(PropertyFrameTest, AStyleSheetCanBePicked) {
 TEST_F(PropertyFrameTest, IsSavedAsAPicture) {
     put("Navig", "3");
     const FrameDriver driver;
-    // A box would show a blinking caret.
+    // An edit box would show a blinking caret.
     driver.giveFocus(5213);
     saveScreenshot(driver.frame(), "settings-page.bmp");
     EXPECT_GT(std::filesystem::file_size("settings-page.bmp"), 100000U);

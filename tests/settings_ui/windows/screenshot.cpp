@@ -40,7 +40,7 @@ Picture capture(HWND window) {
     return picture;
 }
 
-/// What is drawn reaches the screen a little later: waits until it changes no more.
+/// Drawing reaches the screen with a delay. Waits until the screen no longer changes.
 Picture captureWhenStill(HWND window) {
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     constexpr DWORD pause = 500;

@@ -6,7 +6,7 @@
 
 namespace quillmark {
 
-/// Saves what the screen shows where the window is, once it has been drawn, as a bitmap file.
+/// Saves the part of the screen that the window covers as a bitmap file, once it has been drawn.
 void saveScreenshot(HWND window, const std::string& file);
 
 }  // namespace quillmark

@@ -18,7 +18,7 @@ TEST(SettingsToolOnWindows, KeepsTheSettingsInTheUsersRegistry) {
     EXPECT_EQ(store->read("Log", "LogName"), OrxString("C:\\t.log"));
 }
 
-TEST(SettingsToolOnWindows, ShowsWhatTheRegistryHolds) {
+TEST(SettingsToolOnWindows, ShowsTheValuesOfTheRegistry) {
     removeUserSettings();
     EXPECT_TRUE(makeUserSettingsStore()->write("Html", "HtmlPixDir", "caf\xE9"));
     std::string output;

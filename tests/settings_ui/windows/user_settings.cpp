@@ -8,7 +8,7 @@
 namespace quillmark {
 
 void removeUserSettings() {
-    // The place is told with the name of the root key in front.
+    // The location begins with the name of the root key.
     const std::string place = userSettingsLocation().str();
     RegDeleteTreeA(HKEY_CURRENT_USER, place.substr(place.find('\\') + 1).c_str());
 }

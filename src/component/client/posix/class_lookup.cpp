@@ -18,7 +18,7 @@ int hexDigit(char character) noexcept {
     return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
-/// The key's default value, when the key is there and has one.
+/// The default value of a key; nothing when there is no such key or value.
 std::optional<std::string> defaultValue(const KeyTree& root, const std::string& path) {
     const KeyTree* key = findKey(root, path);
     if (key == nullptr) {
@@ -36,7 +36,7 @@ std::optional<std::string> classOfProgram(const KeyTree& root, const std::string
     return current ? defaultValue(root, *current + "\\CLSID") : std::nullopt;
 }
 
-/// Class identifiers are the same in either case of their letters.
+/// Class identifiers are not case-sensitive.
 const KeyTree* findClassKey(const KeyTree& root, const GUID& classId) {
     const KeyTree* classes = findKey(root, "CLSID");
     if (classes == nullptr) {
@@ -50,7 +50,7 @@ const KeyTree* findClassKey(const KeyTree& root, const GUID& classId) {
     return found == classes->children.end() ? nullptr : &found->second;
 }
 
-/// All classes that the user's programs find by name.
+/// All classes that are registered for the user.
 KeyTree registeredClasses() {
     const std::filesystem::path file = classFilePath();
     std::optional<KeyTree> root = readClassFile(file);
@@ -74,6 +74,13 @@ RegisteredClass findRegisteredClass(const std::string& identifier) {
     if (!library) {
         throw ComponentError("the class of " + identifier + " is not registered",
                              REGDB_E_CLASSNOTREG);
+    }
+    // The system would look for it in the current directory or on its search path, where others may
+    // have put a library of that name.
+    if (!library->starts_with('/')) {
+        throw ComponentError("the library of " + identifier + ", \"" + *library + "\" in " +
+                                 classFilePath().string() + ", is not an absolute path",
+                             CO_E_DLLNOTFOUND);
     }
     return {*classId, *library};
 }

@@ -40,7 +40,7 @@ std::optional<std::string> shownDate(double date) {
     const double time = std::fabs(std::modf(date, &wholeDay));
     const auto second =
         static_cast<std::int64_t>(std::floor(time * static_cast<double>(secondsOfDay) + 0.5));
-    // The last half second belongs to the next day.
+    // The last half second of a day is rounded up to the next day.
     const std::int64_t day = static_cast<std::int64_t>(wholeDay) + second / secondsOfDay;
     if (wholeDay == 0) {
         return shownTime(second % secondsOfDay);

@@ -8,12 +8,12 @@
 namespace quillmark {
 namespace {
 
-/// How many digits stand in front of the point; not positive for a number below 1.
+/// The number of digits before the decimal point. Zero or negative for a number below 1.
 std::int64_t wholeDigits(const DecimalValue& value) noexcept {
     return static_cast<std::int64_t>(value.digits.size()) + value.exponent;
 }
 
-/// Whether the whole number goes up for the fraction behind it, which begins with its tenths.
+/// Whether the fraction, given by its digits after the decimal point, rounds the whole number up.
 bool roundsUp(std::string_view fraction, bool wholeIsOdd) noexcept {
     if (fraction.empty() || fraction.front() != '5') {
         return !fraction.empty() && fraction.front() > '5';

@@ -10,7 +10,7 @@
 namespace quillmark {
 namespace {
 
-/// The blanks of every script.
+/// The blanks of Unicode.
 bool isBlank(char16_t unit) noexcept {
     constexpr std::u16string_view others =
         u"\u0020\u0085\u00A0\u1680\u2028\u2029\u202F\u205F\u3000";
@@ -18,7 +18,7 @@ bool isBlank(char16_t unit) noexcept {
            others.find(unit) != std::u16string_view::npos;
 }
 
-/// Reads one text from its front to its end.
+/// Reads one text from start to end.
 class NumberReader {
 public:
     explicit NumberReader(std::u16string_view text) : rest_(text.substr(0, text.find(u'\0'))) {}
@@ -48,7 +48,7 @@ private:
         rest_.remove_prefix(found ? 1 : 0);
         return found;
     }
-    /// Takes what may come once only.
+    /// Takes a unit that may occur only once.
     bool takeOnce(char16_t unit, bool& taken) noexcept {
         if (taken || !take(unit)) {
             return false;
@@ -56,7 +56,7 @@ private:
         taken = true;
         return true;
     }
-    /// Takes what may be repeated, and notes that it was there.
+    /// Takes a unit that may be repeated, and records in `taken` that it occurred.
     bool takeNoting(char16_t unit, bool& taken) noexcept {
         const bool found = take(unit);
         taken = taken || found;
@@ -77,7 +77,7 @@ private:
         }
     }
 
-    /// The base that a text beginning with "&" names; 0 for a plain number.
+    /// The base given by a prefix such as "&H"; 0 for a plain number.
     int readBase() noexcept {
         if (next() != u'&' || rest_.size() < 2) {
             return 0;
@@ -88,7 +88,7 @@ private:
         return base;
     }
 
-    /// The value of the next character as a digit of that base, or -1.
+    /// The value of the next unit as a digit in that base, or -1.
     [[nodiscard]] int digit(int base) const noexcept {
         const char16_t unit = ascii::toLower(next());
         const int value = unit >= u'0' && unit <= u'9'   ? unit - u'0'
@@ -130,9 +130,9 @@ private:
         return decimalOf(false, std::move(digits), exponent);
     }
 
-    /// Adds the exponent, when there is one. False when its digits are missing.
+    /// Reads an optional exponent and adds it. Returns false when its digits are missing.
     bool readExponent(std::int64_t& exponent) noexcept {
-        // Far beyond what any number can be.
+        // Far larger than any number needs; keeps the sum from overflowing.
         constexpr std::int64_t most = 1'000'000'000;
         if (hasCurrency_ || (!take(u'e') && !take(u'E'))) {
             return true;
@@ -152,8 +152,8 @@ private:
         return true;
     }
 
-    /// Whether nothing but what may follow a number follows. A sign stands at one end only; at this
-    /// end it may be repeated.
+    /// Reads what may follow the number. Returns false when anything else follows. A sign may occur
+    /// before or after the number, but not at both places. After the number it may be repeated.
     bool readEnd(bool isDecimal) noexcept {
         const bool hadPlus = hasPlus_;
         const bool hadMinus = isNegative_;
@@ -161,7 +161,7 @@ private:
                (!hadPlus && take(u'+')) || (!hadMinus && takeNoting(u'-', isNegative_)) ||
                (hasParenthesis_ && takeNoting(u')', isNegative_))) {
         }
-        // A sign makes up for a parenthesis that is not closed.
+        // An unclosed parenthesis is accepted when there is a minus sign.
         return rest_.empty() && (isNegative_ || !hasParenthesis_);
     }
 

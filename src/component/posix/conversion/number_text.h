@@ -9,19 +9,19 @@
 
 namespace quillmark {
 
-/// A number written in hexadecimal or octal digits, which are the bits of the number: "&HFFFF" is
-/// -1 where 16 bits are wanted and 65535 where there are more.
+/// A number in hexadecimal or octal digits, which give its bits: "&HFFFF" is -1 as a 16-bit integer
+/// and 65535 as a larger one.
 struct BitPattern {
     std::uint64_t bits = 0;
 };
 
-/// The number that a person's text means, as automation reads it under the English locale of the
-/// United States; nothing when it means none. Accepted are, besides plain numbers such as "-1.5e3":
+/// Reads a number by the rules of automation for the United States. Returns nothing when the text
+/// is not a number. Besides plain numbers such as "-1.5e3" it accepts:
 ///
-/// - blanks of every kind, in front and at the end,
-/// - a sign or a "$" in front or at the end, parentheses for a negative number,
+/// - blanks of every kind at the start and at the end,
+/// - a sign or a "$" at the start or at the end, and parentheses for a negative number,
 /// - commas between and after the digits ("1,000"),
-/// - "&H" and "&O" in front of hexadecimal and octal digits.
+/// - "&H" and "&O" before hexadecimal and octal digits.
 ///
 /// A zero unit ends the text.
 [[nodiscard]] std::optional<std::variant<DecimalValue, BitPattern>> readNumber(

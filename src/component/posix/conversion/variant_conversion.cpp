@@ -9,12 +9,12 @@
 #include "dochtml/text.h"
 #include "foundation/ascii.h"
 
-// The conversions between the kinds of values that a host can pass, as automation makes them.
+// Converts between the types of values that a host can pass, by the rules of automation.
 
 namespace quillmark {
 namespace {
 
-/// Puts a value that was found into its place.
+/// Stores a value in the target variant.
 template <typename Found, typename Value>
 HRESULT put(const std::optional<Found>& found, Value& place) {
     if (!found) {
@@ -54,7 +54,7 @@ HRESULT toText(VARIANT& target, const VARIANT& value) {
     return shown;
 }
 
-/// The boolean that a text names: its word in any case, or a word of the Basic language as it is.
+/// The boolean that a text names: "true" or "false" in any case, or exactly the Basic form.
 std::optional<bool> booleanWord(const VARIANT& value) {
     if (value.vt != VT_BSTR) {
         return std::nullopt;
@@ -74,7 +74,7 @@ std::optional<bool> booleanWord(const VARIANT& value) {
     return std::nullopt;
 }
 
-/// An object stands for the value of its default property.
+/// Converts the value of the object's default property.
 HRESULT convertObject(VARIANT& target, IDispatch* object, LCID locale, VARTYPE type) {
     if (object == nullptr) {
         return DISP_E_BADVARTYPE;
@@ -101,7 +101,8 @@ HRESULT convertValue(VARIANT& target, const VARIANT& value, VARTYPE type) {
     return toNumber(target, value, type);
 }
 
-/// There are no arrays here. Of those of bytes, which can be a text, there is then none.
+/// Variants cannot hold arrays on this system. Only an array of bytes could become a text, so for
+/// that one the argument is invalid rather than of the wrong type.
 HRESULT refuseArray(const VARIANT& value, VARTYPE type) {
     const bool isOfBytes = value.vt == (VT_ARRAY | VT_UI1);
     return isOfBytes && type == VT_BSTR ? E_INVALIDARG : DISP_E_TYPEMISMATCH;

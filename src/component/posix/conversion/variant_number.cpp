@@ -13,7 +13,7 @@
 namespace quillmark {
 namespace {
 
-/// A currency value counts ten-thousandths.
+/// A currency value is in units of 1/10,000.
 DecimalValue currencyNumber(CY value) {
     constexpr std::int64_t places = 4;
     std::string digits = std::to_string(value.int64);
@@ -22,7 +22,7 @@ DecimalValue currencyNumber(CY value) {
     return decimalOf(isNegative, std::move(digits), -places);
 }
 
-/// The digits of a whole number of 96 bits, from its highest 32 bits to its lowest.
+/// The decimal digits of a 96-bit integer, given as 32-bit words from highest to lowest.
 std::string digitsOf(std::array<std::uint32_t, 3> words) {
     constexpr std::array<std::uint32_t, 3> zero{};
     std::string digits;
@@ -38,7 +38,7 @@ std::string digitsOf(std::array<std::uint32_t, 3> words) {
     return digits;
 }
 
-/// A decimal value is laid over the whole variant.
+/// A decimal value overlays the whole variant.
 DECIMAL decimalIn(const VARIANT& variant) noexcept {
     DECIMAL decimal;
     static_assert(sizeof decimal <= sizeof variant);
@@ -74,7 +74,7 @@ struct IntegerOf {
         return value > std::uint64_t{high} ? Result() : static_cast<Integer>(value);
     }
     Result operator()(double value) const noexcept {
-        // The default rounding of the processor takes halves to the even neighbour.
+        // The default rounding mode rounds halves to even.
         const double rounded = std::nearbyint(value);
         const bool fits = rounded >= double{low} && rounded <= double{high};
         return fits ? static_cast<Integer>(rounded) : Result();
@@ -101,7 +101,7 @@ struct BooleanOf {
         return std::isinf(real) ? Result() : real != 0;
     }
     Result operator()(BitPattern value) const noexcept {
-        // A pattern is asked for as a real number, which automation has up to this one.
+        // Automation converts a bit pattern to floating point first, which works up to this value.
         constexpr std::uint64_t most = 0x80000000;
         return value.bits > most ? Result() : value.bits != 0;
     }

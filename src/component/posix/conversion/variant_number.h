@@ -10,20 +10,20 @@
 
 namespace quillmark {
 
-/// A number as exactly as its variant holds it.
+/// A number with the full precision of its variant.
 using Number = std::variant<std::int64_t, std::uint64_t, double, DecimalValue, BitPattern>;
 
-/// The number that a variant holds or its text means; nothing when there is none.
+/// The number that a variant contains, as a number or as text. Nothing when it is not a number.
 [[nodiscard]] std::optional<Number> numberOf(const VARIANT& value);
 
-/// Whether it is a decimal value with another sign or scale than there are.
+/// Whether the value is a decimal value with an invalid sign or scale.
 [[nodiscard]] bool isDamagedDecimal(const VARIANT& value) noexcept;
 
-/// The nearest integer, halves to the even neighbour; nothing when there is none of this size.
+/// The nearest integer; halves round to even. Nothing when it does not fit.
 [[nodiscard]] std::optional<std::int16_t> toShort(const Number& number);
 [[nodiscard]] std::optional<std::int32_t> toLong(const Number& number);
 
-/// Whether it is another number than 0; nothing when no real number can hold it.
+/// Whether the number is not 0. Nothing when it does not fit into a floating-point number.
 [[nodiscard]] std::optional<bool> toBoolean(const Number& number);
 
 }  // namespace quillmark

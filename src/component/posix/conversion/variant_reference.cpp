@@ -10,7 +10,7 @@ constexpr VARTYPE baseTypeOf(VARTYPE type) noexcept {
     return static_cast<VARTYPE>(type & VT_TYPEMASK);
 }
 
-/// The bytes of a value of that type; 0 for a type that no reference leads to.
+/// The size of a value of that type in bytes; 0 for a type that cannot be referred to.
 std::size_t sizeOf(VARTYPE type) noexcept {
     switch (type) {
         case VT_I1:
@@ -46,7 +46,7 @@ bool isVariantType(VARTYPE type) noexcept {
     if ((type & notInVariants) != 0 || base == unused || (base > VT_UINT && base != VT_RECORD)) {
         return false;
     }
-    // There is neither a reference to nothing nor an array of it.
+    // The empty and the null type cannot be combined with the flags for references and arrays.
     return base > VT_NULL || type == base;
 }
 
@@ -59,7 +59,7 @@ HRESULT followReference(const VARIANT& source, VARIANT& value) noexcept {
         return DISP_E_TYPEMISMATCH;
     }
     if (source.vt == (VT_BYREF | VT_VARIANT)) {
-        // A variant that is referred to may refer on to a value.
+        // The inner variant may itself be a reference, but only to a value.
         const VARIANT& inner = *source.pvarVal;
         return inner.vt == source.vt ? E_INVALIDARG : followReference(inner, value);
     }

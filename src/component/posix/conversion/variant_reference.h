@@ -4,13 +4,13 @@
 
 namespace quillmark {
 
-/// Whether a host can mean a value of that kind: there are numbers between the kinds and flags that
-/// no variant has.
+/// Whether a variant can have that type. Some type numbers are unused, and some flags are not for
+/// variants.
 [[nodiscard]] bool isVariantType(VARTYPE type) noexcept;
 
-/// Puts the value itself, or the one behind a reference, into `value`, which does not own it.
-/// Answers `DISP_E_TYPEMISMATCH` for a reference that is null, `E_INVALIDARG` for one to a variant
-/// that refers to a variant again.
+/// Copies the value of `source`, or the value that it refers to, into `value`, which does not own
+/// it. Returns `DISP_E_TYPEMISMATCH` for a null reference, and `E_INVALIDARG` for a reference to a
+/// variant that refers to another variant.
 [[nodiscard]] HRESULT followReference(const VARIANT& source, VARIANT& value) noexcept;
 
 }  // namespace quillmark

@@ -16,14 +16,14 @@
 namespace quillmark {
 namespace {
 
-/// The value that operations without a result give, such as 0/0.
+/// The result of undefined operations such as 0/0.
 bool isIndefinite(double value) noexcept {
     constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
     const double indefinite = std::copysign(notANumber, -1.0);
     return std::bit_cast<std::uint64_t>(value) == std::bit_cast<std::uint64_t>(indefinite);
 }
 
-/// As the C library's "%G" shows it, with a point in every locale. Zero has no sign.
+/// Formats like "%G" of the C library, but with a point in every locale, and zero without a sign.
 std::string shownReal(double value, int digits) {
     if (isIndefinite(value)) {
         return "-NAN(IND)";
@@ -39,7 +39,7 @@ std::string shownReal(double value, int digits) {
     return shown;
 }
 
-/// Shows a number; a real one with so many digits.
+/// Formats a number, a floating-point one with the given number of digits.
 struct ShownNumber {
     int realDigits;
 

@@ -6,8 +6,8 @@
 
 namespace quillmark {
 
-/// Puts what a person is shown of a value, which is no reference, into `text`. Answers
-/// `DISP_E_TYPEMISMATCH` for a value of a kind that has no text, `E_INVALIDARG` for a date out of
+/// Formats a value, which must not be a reference, and stores the result in `text`. Returns
+/// `DISP_E_TYPEMISMATCH` for a type that has no text form, and `E_INVALIDARG` for a date out of
 /// range.
 [[nodiscard]] HRESULT textOf(const VARIANT& value, std::u16string& text);
 

@@ -1,91 +1,105 @@
-#include <dlfcn.h>
-
+#include <exception>
 #include <filesystem>
 #include <iostream>
+#include <sstream>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "command_line/bad_usage.h"
+#include "command_line/installed_files.h"
+#include "command_line/option_parser.h"
+#include "component/client/shared_library.h"
 #include "component/posix/class_file.h"
+#include "dochtml/client.h"
 #include "dochtml/entry_points.h"
+#include "platform/console.h"
 
-// Registers a component library with the user's file of classes: what a system with a registry
-// has a program for.
+// Registers a component library in the user's class file. On Windows the system's own program does
+// this.
 
+namespace quillmark {
 namespace {
 
-constexpr int exitDone = 0;
-constexpr int exitFailed = 1;
-constexpr int exitBadUsage = 2;
+enum ExitStatus { exitDone = 0, exitFailed = 1, exitBadUsage = 2 };
 
-struct Order {
+struct Options {
     bool unregister = false;
-    std::string library;
+    bool help = false;
+    bool version = false;
 };
 
-void tellUsage(std::ostream& out) {
-    out << "Usage: dochtml-register [--unregister] [LIBRARY]\n"
-           "Makes the document component known to this user's programs by class and program\n"
-           "identifier, or takes that back. Without LIBRARY it is the one installed with this\n"
-           "program.\n";
+void addOptions(OptionParser& parser, Options& options) {
+    parser.addFlag("--unregister", "remove the registration", options.unregister);
+    parser.addFlag("-h,--help", "show this help", options.help);
+    parser.addFlag("--version", "show the version", options.version);
 }
 
-/// The library beside the program, or in the library directory next to the program's.
-std::string installedLibrary() {
-    namespace fs = std::filesystem;
-    const fs::path here = fs::read_symlink("/proc/self/exe").parent_path();
-    for (const fs::path& directory : {here, here / "../lib", here / "../" DOCHTML_LIBDIR}) {
-        const fs::path file = (directory / "libdochtmlcom.so").lexically_normal();
-        if (fs::exists(file)) {
-            return file.string();
-        }
+void writeHelp(const OptionParser& parser) {
+    std::cout
+        << "Usage: dochtml-register [OPTIONS] [LIBRARY]\n\n"
+           "Registers the document component for this user, so that programs find it by its\n"
+           "class identifier or program identifier. Without LIBRARY it registers the library\n"
+           "that is installed with this program.\n"
+        << parser.help()
+        << "\nExit status: 0 if all went well; 1 if the registration failed; 2 for bad usage.\n";
+}
+
+/// The library to register. The loader searches the system's libraries for a name without a
+/// directory.
+std::string libraryOf(const std::vector<std::string>& operands) {
+    if (operands.size() > 1) {
+        throw BadUsage("more than one library given");
     }
-    return "libdochtmlcom.so";
+    if (!operands.empty()) {
+        return std::filesystem::absolute(operands.front()).string();
+    }
+    const std::string name = componentLibraryName();
+    return installedLibrary(Console::executablePath(), name).value_or(name);
 }
 
-int run(const Order& order) {
-    void* library = dlopen(order.library.c_str(), RTLD_NOW | RTLD_LOCAL);
-    const char* entry = order.unregister ? "DllUnregisterServer" : "DllRegisterServer";
-    void* found = library == nullptr ? nullptr : dlsym(library, entry);
+/// Calls the library's entry point. The library stays loaded until the program ends.
+void callEntryPoint(const std::string& file, const char* name) {
+    const SharedLibrary library(file);
+    void* const found = library.find(name);
     if (found == nullptr) {
-        std::cerr << "dochtml-register: " << dlerror() << '\n';
-        return exitFailed;
+        throw ComponentError(file + " does not export " + name, CO_E_ERRORINDLL);
     }
     const HRESULT result = reinterpret_cast<DochtmlEntryPoint>(found)();
     if (FAILED(result)) {
-        std::cerr << "dochtml-register: " << entry << " failed with result 0x" << std::hex
-                  << static_cast<unsigned>(result) << "; the classes are kept in "
-                  << quillmark::classFilePath().string() << '\n';
-        return exitFailed;
+        std::ostringstream words;
+        words << name << " failed with result 0x" << std::hex << static_cast<unsigned>(result)
+              << "; the classes are kept in " << classFilePath().string();
+        throw ComponentError(words.str(), result);
     }
-    return exitDone;
+}
+
+void run(const std::vector<std::string>& arguments) {
+    Options options;
+    OptionParser parser;
+    addOptions(parser, options);
+    const std::vector<std::string> operands = parser.parse(arguments);
+    if (options.help) {
+        writeHelp(parser);
+    } else if (options.version) {
+        std::cout << "dochtml-register " DOCHTML_VERSION "\n";
+    } else {
+        callEntryPoint(libraryOf(operands),
+                       options.unregister ? "DllUnregisterServer" : "DllRegisterServer");
+    }
 }
 
 }  // namespace
+}  // namespace quillmark
 
 int main(int argc, char** argv) {
-    Order order;
-    for (const std::string_view argument : std::vector<std::string_view>(argv + 1, argv + argc)) {
-        if (argument == "--help") {
-            tellUsage(std::cout);
-            return exitDone;
-        }
-        if (argument == "--version") {
-            std::cout << "dochtml-register " DOCHTML_VERSION "\n";
-            return exitDone;
-        }
-        if (argument == "--unregister") {
-            order.unregister = true;
-        } else if (argument.starts_with('-') || !order.library.empty()) {
-            tellUsage(std::cerr);
-            return exitBadUsage;
-        } else {
-            // A bare name would be looked for among the system's libraries.
-            order.library = std::filesystem::absolute(argument).string();
-        }
+    try {
+        quillmark::run(quillmark::Console::arguments(argc, argv));
+        return quillmark::exitDone;
+    } catch (const quillmark::BadUsage& usage) {
+        std::cerr << "dochtml-register: " << usage.what() << "\nTry dochtml-register --help.\n";
+        return quillmark::exitBadUsage;
+    } catch (const std::exception& failure) {
+        std::cerr << "dochtml-register: " << failure.what() << '\n';
+        return quillmark::exitFailed;
     }
-    if (order.library.empty()) {
-        order.library = installedLibrary();
-    }
-    return run(order);
 }

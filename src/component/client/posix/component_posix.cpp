@@ -1,0 +1,18 @@
+#include "component/client/posix/class_lookup.h"
+#include "dochtml/client.h"
+
+namespace quillmark {
+
+Apartment::Apartment() = default;
+Apartment::~Apartment() = default;
+
+Component Component::byName(const std::string& identifier) {
+    const RegisteredClass found = findRegisteredClass(identifier);
+    return fromLibrary(found.library, found.classId);
+}
+
+const char* componentLibraryName() noexcept {
+    return "libdochtmlcom.so";
+}
+
+}  // namespace quillmark

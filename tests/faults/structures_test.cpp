@@ -1,0 +1,282 @@
+// What a structure is after an allocation has failed in it: as before, or without the last output.
+
+#include <gmock/gmock.h>
+
+#include <new>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "contents/entries/contents_entry_list.h"
+#include "driver/links/bookmark_table.h"
+#include "faults/allocation_failure.h"
+#include "foundation/name_table.h"
+#include "foundation/packed_strings.h"
+#include "foundation/pooled_lists.h"
+#include "navigator/index/postings.h"
+#include "navigator/index/word_table.h"
+#include "page/cached_link.h"
+#include "page/doc_html_page.h"
+#include "page/open_marks.h"
+#include "page/splice_text.h"
+
+namespace quillmark::testing {
+namespace {
+
+using ::testing::ElementsAre;
+
+/// A name that needs memory of its own, wherever it is kept.
+std::string longName(int number) {
+    return "a name that is longer than a short string " + std::to_string(number);
+}
+
+/// Runs `change` on a new object, with every allocation in it failing in turn, and then `check`.
+template <typename Object, typename Change, typename Check>
+void failEverywhere(const Change& change, const Check& check) {
+    const std::size_t failures = forEachAllocation([&](std::size_t position) {
+        Object object;
+        bool happened = false;
+        {
+            const AllocationFailure failure(position);
+            try {
+                change(object);
+            } catch (const std::bad_alloc&) {
+                happened = true;
+            }
+        }
+        check(object);
+        return happened;
+    });
+    EXPECT_GT(failures, 0U);
+}
+
+TEST(AfterAFailedAllocation, packedStringsHaveTheirStringsAndNoMore) {
+    failEverywhere<PackedStrings>(
+        [](PackedStrings& strings) {
+            for (int i = 0; i < 9; ++i) {
+                strings.add(longName(i));
+            }
+        },
+        [](PackedStrings& strings) {
+            const auto next = strings.add("next");
+            EXPECT_EQ(strings[next], "next");
+            for (std::uint32_t i = 0; i < next; ++i) {
+                EXPECT_EQ(strings[i], longName(static_cast<int>(i)));
+            }
+        });
+}
+
+TEST(AfterAFailedAllocation, aNameTableFindsItsNamesAndGoesOnCounting) {
+    failEverywhere<NameTable>(
+        [](NameTable& names) {
+            for (int i = 0; i < 40; ++i) {
+                names.add(longName(i));
+            }
+        },
+        [](NameTable& names) {
+            const auto size = static_cast<NameTable::Id>(names.size());
+            for (NameTable::Id id = 0; id < size; ++id) {
+                EXPECT_EQ(names.find(longName(static_cast<int>(id))), id);
+            }
+            EXPECT_EQ(names.find("another"), NameTable::none);
+            EXPECT_EQ(names.add("another"), size);
+            EXPECT_EQ(names.name(size), "another");
+        });
+}
+
+TEST(AfterAFailedAllocation, aBookmarkTableHasARecordForEachName) {
+    failEverywhere<BookmarkTable>(
+        [](BookmarkTable& table) {
+            for (int i = 0; i < 20; ++i) {
+                table.define(table.add(longName(i)), "page" + std::to_string(i / 2));
+            }
+        },
+        [](BookmarkTable& table) {
+            for (int i = 0; i < 40; ++i) {
+                const BookmarkTable::Id id = table.add(longName(i));
+                EXPECT_EQ(table.name(id), longName(i));
+                EXPECT_TRUE(i == 0 || id > 0);
+                if (!table.isDefined(id)) {
+                    table.define(id, "later");
+                }
+                EXPECT_EQ(table.reference(id).view().substr(table.pageFile(id).size()),
+                          "#" + longName(i));
+            }
+        });
+}
+
+TEST(AfterAFailedAllocation, openMarksHaveAListForEachName) {
+    failEverywhere<OpenMarks>(
+        [](OpenMarks& marks) {
+            for (int i = 0; i < 20; ++i) {
+                marks.add(longName(i), static_cast<OpenMarks::MarkId>(i));
+            }
+        },
+        [](OpenMarks& marks) {
+            std::size_t found = 0;
+            for (int i = 0; i < 20; ++i) {
+                marks.add(longName(i), 77);
+                std::vector<OpenMarks::MarkId> taken;
+                marks.take(longName(i), [&](OpenMarks::MarkId mark) { taken.push_back(mark); });
+                EXPECT_EQ(taken.back(), 77U);
+                found += taken.size();
+            }
+            EXPECT_LE(found, 40U);
+            EXPECT_EQ(marks.size(), 0U);
+        });
+}
+
+TEST(AfterAFailedAllocation, aPooledListIsAsBefore) {
+    PooledLists<int> pool;
+    PooledLists<int>::List list;
+    for (const int number : {1, 2, 3}) {
+        pool.append(list, number);
+    }
+    std::vector<int> seen;
+    EXPECT_THROW(pool.take(list,
+                           [&](int number) {
+                               if (number == 2) {
+                                   throw std::bad_alloc();
+                               }
+                               seen.push_back(number);
+                           }),
+                 std::bad_alloc);
+    EXPECT_THAT(seen, ElementsAre(1));
+    seen.clear();
+    pool.append(list, 4);
+    pool.take(list, [&](int number) { seen.push_back(number); });
+    EXPECT_THAT(seen, ElementsAre(2, 3, 4));
+}
+
+TEST(AfterAFailedAllocation, aTextHasWhatWasAppended) {
+    failEverywhere<SpliceText>(
+        [](SpliceText& text) { text.append(longName(1)); },
+        [](const SpliceText& text) { EXPECT_EQ(text.lineCount(), text.plain().empty() ? 0 : 1); });
+}
+
+TEST(AfterAFailedAllocation, aTextHasItsMarks) {
+    failEverywhere<SpliceText>(
+        [](SpliceText& text) {
+            for (int i = 0; i < 5; ++i) {
+                text.fill(text.addMark(longName(i), 1), 0, 6, {"(", longName(7), ")"});
+                text.append(".");
+            }
+        },
+        [](SpliceText& text) {
+            text.append("|");
+            const SpliceText::MarkId mark = text.addMark("", 1);
+            text.insertAt(mark, "end");
+            const std::string merged = text.merged();
+            EXPECT_TRUE(merged.ends_with("|end")) << merged;
+            const std::string filled = "(" + longName(7) + ")" + longName(0).substr(6) + ".";
+            EXPECT_TRUE(merged.size() < 40 || merged.starts_with(filled)) << merged;
+        });
+}
+
+TEST(AfterAFailedAllocation, aFailedInsertionLeavesAPlainText) {
+    failEverywhere<SpliceText>(
+        [](SpliceText& text) { text.insertAt(text.addMark("", 1), longName(1)); },
+        [](const SpliceText& text) { EXPECT_EQ(text.isPlain(), text.merged().empty()); });
+}
+
+TEST(AfterAFailedAllocation, aCachedLinkIsTheRightOne) {
+    const OrxString base("C:\\a directory with a long name\\and a subdirectory");
+    const auto fileName = [](int number) { return std::string(40 * number, 'f'); };
+    const auto file = [&](int number) {
+        return "C:\\a directory with a long name\\" + OrxString(fileName(number));
+    };
+    failEverywhere<CachedLink>(
+        [&](CachedLink& link) {
+            static_cast<void>(link.relativeFile(file(1), base));
+            static_cast<void>(link.relativeFile(file(2), base));
+        },
+        [&](CachedLink& link) {
+            EXPECT_EQ(link.relativeFile(file(1), base), OrxString("../" + fileName(1)));
+            EXPECT_EQ(link.relativeFile(file(2), base), OrxString("../" + fileName(2)));
+        });
+}
+
+TEST(AfterAFailedAllocation, aListOfContentsEntriesHasWholeEntries) {
+    const auto entry = [](const std::string& href, const std::string& text,
+                          const std::string& icon) {
+        return ContentsEntryView{href, text, 1, icon, icon};
+    };
+    failEverywhere<ContentsEntryList>(
+        [&](ContentsEntryList& list) {
+            for (int i = 0; i < 5; ++i) {
+                list.add(entry("href" + longName(i), longName(i), "icon" + longName(i)));
+            }
+        },
+        [&](ContentsEntryList& list) {
+            const std::size_t size = list.size();
+            list.add(entry("last", "text", "icon" + longName(0)));
+            ASSERT_EQ(list.size(), size + 1);
+            EXPECT_EQ(list[size].href, "last");
+            EXPECT_EQ(list[size].gif, "icon" + longName(0));
+            for (std::size_t i = 0; i < size; ++i) {
+                EXPECT_EQ(list[i].text, longName(static_cast<int>(i)));
+                EXPECT_EQ(list[i].stereoGif, "icon" + longName(static_cast<int>(i)));
+            }
+        });
+}
+
+/// A word as the index takes it.
+class PaddedWord {
+public:
+    explicit PaddedWord(const std::string& word) : bytes_(word) {
+        bytes_.append(FoldedWord::blockSize - bytes_.size() % FoldedWord::blockSize, '\0');
+    }
+    operator FoldedWord() const { return {bytes_.data(), size()}; }
+
+private:
+    [[nodiscard]] std::size_t size() const { return bytes_.find('\0'); }
+    std::string bytes_;
+};
+
+TEST(AfterAFailedAllocation, aTableOfWordsHasWholeWords) {
+    failEverywhere<WordTable>(
+        [](WordTable& words) {
+            for (int i = 0; i < 20; ++i) {
+                words.add(PaddedWord(longName(i)));
+            }
+        },
+        [](WordTable& words) {
+            const auto next = words.add(PaddedWord("next"));
+            EXPECT_EQ(words.word(next), "next");
+            for (WordTable::Id id = 0; id < next; ++id) {
+                EXPECT_EQ(words.word(id), longName(static_cast<int>(id)));
+            }
+        });
+}
+
+TEST(AfterAFailedAllocation, aPlaceCanStillGetItsWord) {
+    failEverywhere<Postings>(
+        [](Postings& postings) {
+            postings.startPlace(4);
+            postings.add(0);
+        },
+        [](Postings& postings) {
+            if (postings.pairs() == 0) {
+                postings.startPlace(4);
+                postings.add(0);
+            }
+            EXPECT_EQ(postings.pairs(), 1U);
+        });
+}
+
+TEST(AfterAFailedAllocation, aPageThatWasClosedIsEmpty) {
+    failEverywhere<DocHtmlPage>(
+        [](DocHtmlPage& page) {
+            page.append("some text on a page, somewhat longer");
+            page.setStyleSheet("a style sheet with a long name.css");
+            page.close();
+        },
+        [](DocHtmlPage& page) {
+            page.close();
+            EXPECT_TRUE(page.isEmpty());
+            EXPECT_FALSE(page.hasMarks());
+        });
+}
+
+}  // namespace
+}  // namespace quillmark::testing
