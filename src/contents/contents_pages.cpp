@@ -9,6 +9,8 @@
 #include "contents/support_files.h"
 #include "contents/tree/archiver.h"
 #include "contents/tree/tree_data_file.h"
+#include "foundation/orx_exception.h"
+#include "platform/failure_lines.h"
 #include "platform/out_of_memory.h"
 #include "platform/sys_directory.h"
 
@@ -19,7 +21,12 @@ namespace {
 /// Returns the file that the applet reads: the archive, or the plain file.
 OrxString writeTreeData(const ContentsContext& context) {
     const OrxString dataFile = contents_names::treeData(context);
-    writeTreeDataFile(dataFile, context.entries, context.showIcons);
+    try {
+        writeTreeDataFile(dataFile, context.entries, context.showIcons);
+    } catch (const OrxException&) {
+        failure_lines::writeReason(context.trace);
+        throw;
+    }
     return packDataFile(dataFile, context.installDir, context.trace);
 }
 

@@ -18,12 +18,12 @@ namespace {
 
 /// Looks for a style sheet without a directory in the installation directory. Throws if the file
 /// does not exist. The setting keeps the path even then, because later pages link to it.
-void findStyleSheet(DocumentSettings& settings) {
+void findStyleSheet(DocumentSettings& settings, const Trace& trace) {
     OrxString& path = settings.styleSheet;
     if (SysFile::getDir(path).isEmpty()) {
         path = SysFile::appendToDir(settings.installDir, path);
     }
-    if (!SysFile::exists(path)) {
+    if (!SysFile::exists(path, trace)) {
         OrxException::raise("Html style sheet does not exist.\n" + path);
     }
 }
@@ -72,7 +72,7 @@ void DocHtml::startDocument(const OrxString& name) {
     impl_->contents.setLevel(settings.tocLevel);
     impl_->contents.setShowIcons(settings.showIcons);
     if (!settings.styleSheet.isEmpty()) {
-        findStyleSheet(settings);
+        findStyleSheet(settings, context.trace);
         survive(context.trace, "the copy of the style sheet", [&] {
             settings.styleSheet = context.copyTo(context.names.outputDir(), settings.styleSheet);
         });
@@ -83,7 +83,7 @@ void DocHtml::startDocument(const OrxString& name) {
     if (settings.hasArrows()) {
         survive(context.trace, "the copies of the arrows", [&] { copyArrowPictures(context); });
     }
-    if (!settings.readIniFile()) {
+    if (!settings.readIniFile(context.trace)) {
         useJnlp_ = false;
     }
     survive(context.trace, "the navigator", [this] { startNavigator(); });

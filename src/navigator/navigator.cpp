@@ -29,16 +29,17 @@ constexpr const char* iconFolder = "icons";
 std::shared_ptr<Navigator> Navigator::create(Places places,
                                              std::unique_ptr<const TextDecoder> decoder,
                                              const Trace& trace) {
-    auto navigator = std::make_shared<Navigator>(std::move(places), std::move(decoder));
+    auto navigator = std::make_shared<Navigator>(std::move(places), std::move(decoder), trace);
     const bool written =
         writeNavigatorScripts(navigator->places_.supportDir, navigator->files_, trace);
     return written ? navigator : nullptr;
 }
 
-Navigator::Navigator(Places places, std::unique_ptr<const TextDecoder> decoder)
+Navigator::Navigator(Places places, std::unique_ptr<const TextDecoder> decoder,
+                     const Trace& trace)
     : places_(std::move(places)),
       decoder_(std::move(decoder)),
-      files_(places_.baseName + "_nav"),
+      files_(places_.baseName + "_nav", trace),
       pageNames_{SysFile::stripDir(places_.baseName) + "_dtl", places_.extension} {}
 
 OrxString Navigator::headLines(const OrxString& pageDir) {

@@ -54,7 +54,7 @@ public:
     [[nodiscard]] static std::shared_ptr<Navigator> create(
         Places places, std::unique_ptr<const TextDecoder> decoder, const Trace& trace);
 
-    Navigator(Places places, std::unique_ptr<const TextDecoder> decoder);
+    Navigator(Places places, std::unique_ptr<const TextDecoder> decoder, const Trace& trace);
 
     /// What the heads of the pages in a directory end with.
     [[nodiscard]] OrxString headLines(const OrxString& pageDir);

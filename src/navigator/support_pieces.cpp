@@ -7,6 +7,8 @@
 #include <string_view>
 
 #include "host/document_observer.h"
+#include "platform/failure_lines.h"
+#include "platform/file_failure.h"
 #include "platform/read_whole.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
@@ -24,7 +26,11 @@ public:
 
     [[nodiscard]] std::optional<std::string> read(std::string_view name) const {
         const OrxString file = SysFile::appendToDir(source_, name);
+        FileFailure::forget();
         std::optional<std::string> bytes = readWhole(file);
+        if (!bytes.has_value() && !FileFailure::isMissingFile()) {
+            failure_lines::writeReason(trace_);
+        }
         if (!bytes.has_value() && trace_.isTrace(Trace::errors)) {
             trace_.write(Trace::errors, "ERR Could not read file " + file + "\n");
         }

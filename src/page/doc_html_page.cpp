@@ -11,6 +11,7 @@
 #include "page/links.h"
 #include "page/open_marks.h"
 #include "page/splice_text.h"
+#include "platform/failure_lines.h"
 #include "platform/out_of_memory.h"
 #include "platform/signal_to_exception.h"
 #include "platform/sys_file.h"
@@ -263,6 +264,7 @@ void DocHtmlPage::close() {
         survive(record_->trace, "a page",
                 [this] { CSignal2Exception::run([this] { record_->writeFile(); }); });
     } catch (const OrxException&) {
+        failure_lines::writeReason(record_->trace);
         OrxException::logCaught();
     }
     survive(record_->trace, "the report of unresolved references",

@@ -1,6 +1,7 @@
 #include "page/file_copier.h"
 
 #include "host/document_observer.h"
+#include "platform/failure_lines.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 
@@ -10,7 +11,7 @@ OrxString FileCopier::copyToDir(const OrxString& source, const OrxString& target
                                 const OrxString& targetName, const Trace& trace) const {
     const OrxString extension = SysFile::getExtension(source);
     const bool linkedInPlace = !extension.isEmpty() && dontCopy_.contains(extension);
-    if (linkedInPlace || !SysFile::exists(source)) {
+    if (linkedInPlace || !SysFile::exists(source, trace)) {
         return source;
     }
     SysDirectory::checkDirectoryAndCreate(targetDir);
@@ -20,6 +21,7 @@ OrxString FileCopier::copyToDir(const OrxString& source, const OrxString& target
         DocumentObserver::current().fileCopied(target);
         return target;
     }
+    failure_lines::writeReason(trace);
     if (trace.isTrace(Trace::errors)) {
         OrxString line("ERR Could not copy file ");
         line.append(source).append(" to directory ").append(targetDir).append('\n');

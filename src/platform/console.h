@@ -15,6 +15,9 @@ public:
     [[nodiscard]] static std::string executablePath();
     /// Whether standard error is a terminal.
     [[nodiscard]] static bool errorsGoToTerminal() noexcept;
+    /// Lets a write that nobody reads, or that exceeds the limit on file sizes, fail with an error
+    /// instead of ending the process.
+    static void reportFailedWrites() noexcept;
     /// Turns off the conversion of line ends on standard input, on systems that have one.
     static void readInputAsBytes() noexcept;
 };

@@ -3,6 +3,7 @@
 #include <array>
 #include <atomic>
 #include <string>
+#include <utility>
 
 #include "foundation/process_wide.h"
 #include "platform/system_facts.h"
@@ -20,7 +21,48 @@ OrxString temporaryNameFor(const OrxString& fileName) {
                        std::to_string(counter++) + ".tmp");
 }
 
+/// Deletes the file unless all of it could be written.
+class DeletedAfterFailure final : public OutputFile {
+public:
+    DeletedAfterFailure(FileSystem& files, OrxString name, std::unique_ptr<OutputFile> file)
+        : files_(files), name_(std::move(name)), file_(std::move(file)) {}
+    ~DeletedAfterFailure() override { discard(); }
+    DeletedAfterFailure(const DeletedAfterFailure&) = delete;
+    DeletedAfterFailure& operator=(const DeletedAfterFailure&) = delete;
+
+    bool write(std::span<const std::string_view> pieces) override {
+        failed_ = !file_->write(pieces) || failed_;
+        return !failed_;
+    }
+    bool close() override {
+        if (!file_->close() || failed_) {
+            discard();
+            return false;
+        }
+        file_ = nullptr;
+        return true;
+    }
+
+private:
+    void discard() {
+        if (std::exchange(file_, nullptr) != nullptr) {
+            files_.deleteFile(name_);
+        }
+    }
+
+    FileSystem& files_;
+    OrxString name_;
+    std::unique_ptr<OutputFile> file_;
+    bool failed_ = false;
+};
+
 }  // namespace
+
+std::unique_ptr<OutputFile> FileSystem::openForReplacing(const OrxString& name) {
+    std::unique_ptr<OutputFile> file = openForWriting(name);
+    return file != nullptr ? std::make_unique<DeletedAfterFailure>(*this, name, std::move(file))
+                           : nullptr;
+}
 
 bool FileSystem::rewriteFile(const OrxString& name, std::string_view content) {
     const OrxString temporary = temporaryNameFor(name);

@@ -64,6 +64,8 @@ public:
 /// Names are in the driver's form: 8-bit code page, "\" between components. "/" means the same as
 /// "\". A relative name is relative to `currentDirectory`. An empty name, or one with a zero byte,
 /// never exists and cannot be created. The results report failures, and no call throws for one.
+/// `FileFailure` has the reason of a failure as far as the implementation knows it, also for a
+/// look-up that fails for another reason than that there is no such file.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;
@@ -75,8 +77,8 @@ public:
     [[nodiscard]] virtual std::optional<FileStamp> stamp(const OrxString& name) const = 0;
 
     /// Copies the content of a file. Creates `target` or overwrites it. Copying a file onto itself
-    /// changes nothing and succeeds. A device or a pipe is not copied. Memory use does not depend
-    /// on the size of the file. After a failure there is no target that did not exist before.
+    /// changes nothing and succeeds. A device or a pipe is not copied or overwritten. Memory use
+    /// does not depend on the size of the file. After a failure the target is what it was before.
     [[nodiscard]] virtual bool copyFile(const OrxString& source, const OrxString& target) = 0;
     /// Deletes a file, not a directory. True if this call deleted it.
     virtual bool deleteFile(const OrxString& name) = 0;
@@ -87,11 +89,19 @@ public:
     [[nodiscard]] virtual bool setCurrentDirectory(const OrxString& name) = 0;
     [[nodiscard]] virtual OrxString currentDirectory() const = 0;
 
-    /// Opens a file for reading. Null on failure, and for a directory.
+    /// Opens a file for reading. Null on failure, and for a directory, a device or a pipe.
     [[nodiscard]] virtual std::unique_ptr<InputFile> openForReading(const OrxString& name) = 0;
     /// Creates or truncates a file and opens it for writing. Others may read and write it at the
     /// same time. Null on failure.
     [[nodiscard]] virtual std::unique_ptr<OutputFile> openForWriting(const OrxString& name) = 0;
+    /// Opens a file that is written whole or not at all: the name has the new content once `close`
+    /// has succeeded. If a write or `close` fails, or the file is destroyed before `close`, then
+    /// there is no such file, or the old one as it was. If the name is a link, the file that it
+    /// leads to is written. Permissions stay. Null on failure, and for a device or a pipe.
+    ///
+    /// An implementation that does not override it truncates the old file and deletes what could
+    /// not be written.
+    [[nodiscard]] virtual std::unique_ptr<OutputFile> openForReplacing(const OrxString& name);
     /// Opens a file for writing at its end. Creates it if it is missing. Null on failure.
     [[nodiscard]] virtual std::unique_ptr<OutputFile> openForAppending(const OrxString& name) = 0;
 

@@ -4,6 +4,8 @@
 #include <memory>
 
 #include "foundation/ascii.h"
+#include "platform/failure_lines.h"
+#include "platform/file_failure.h"
 #include "platform/path_text.h"
 #include "platform/sys_directory.h"
 
@@ -21,7 +23,19 @@ bool SysFile::exists(const OrxString& name) {
     return FileSystem::current().fileExists(name);
 }
 
+bool SysFile::exists(const OrxString& name, const Trace& trace) {
+    FileFailure::forget();
+    if (exists(name)) {
+        return true;
+    }
+    if (FileFailure::isNoted()) {
+        failure_lines::write(trace, "ERR Cannot look up file ", name);
+    }
+    return false;
+}
+
 bool SysFile::copy(const OrxString& source, const OrxString& target) {
+    FileFailure::forget();
     return FileSystem::current().copyFile(source, target);
 }
 
@@ -71,7 +85,8 @@ bool SysFile::isHyperLink(const OrxString& text) {
 }
 
 WriteResult SysFile::writeWhole(const OrxString& name, std::span<const std::string_view> pieces) {
-    const std::unique_ptr<OutputFile> file = FileSystem::current().openForWriting(name);
+    FileFailure::forget();
+    const std::unique_ptr<OutputFile> file = FileSystem::current().openForReplacing(name);
     if (file == nullptr) {
         return WriteResult::openFailed;
     }

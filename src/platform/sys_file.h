@@ -5,6 +5,7 @@
 
 #include "foundation/orx_string.h"
 #include "platform/file_system.h"
+#include "platform/trace.h"
 
 namespace quillmark {
 
@@ -16,7 +17,10 @@ class SysFile {
 public:
     /// True for a file, false for a directory.
     [[nodiscard]] static bool exists(const OrxString& name);
-    /// Copies a file; see `FileSystem::copyFile`.
+    /// The same. If the system cannot answer, for instance because it may not look into the
+    /// directory, the trace gets error lines with the reason.
+    [[nodiscard]] static bool exists(const OrxString& name, const Trace& trace);
+    /// Copies a file; see `FileSystem::copyFile`. After a failure `FileFailure` has the reason.
     [[nodiscard]] static bool copy(const OrxString& source, const OrxString& target);
     static bool deleteFile(const OrxString& name);
 
@@ -36,8 +40,9 @@ public:
     /// or "news:".
     [[nodiscard]] static bool isHyperLink(const OrxString& text);
 
-    /// Creates or truncates the file `name` and writes the pieces one after the other, in a single
-    /// system call if the system has one for that.
+    /// Writes the pieces one after the other into the file `name`, in a single system call if the
+    /// system has one for that. After a failure there is no such file, or the old one as it was
+    /// (see `FileSystem::openForReplacing`), and `FileFailure` has the reason.
     [[nodiscard]] static WriteResult writeWhole(const OrxString& name,
                                                 std::span<const std::string_view> pieces);
 };

@@ -9,6 +9,8 @@
 
 #include "foundation/module_lifetime.h"
 #include "foundation/orx_exception.h"
+#include "platform/failure_lines.h"
+#include "platform/file_failure.h"
 #include "platform/file_system.h"
 #include "platform/line_end.h"
 #include "platform/sys_directory.h"
@@ -23,6 +25,18 @@ constinit ProcessWide<TraceListener*> Trace::listener_;
 class Trace::Log {
 public:
     explicit Log(OrxString name) : name_(std::move(name)) {}
+    Log(const Log&) = delete;
+    Log& operator=(const Log&) = delete;
+    ~Log() {
+        try {
+            FileFailure::forget();
+            if (file_ != nullptr && !file_->close()) {
+                reportFailure();
+            }
+        } catch (...) {
+            OrxException::logCaught();
+        }
+    }
 
     [[nodiscard]] bool failed() const noexcept { return failed_.load(std::memory_order_relaxed); }
     /// After a new `open` a log that has failed is tried again.
@@ -32,16 +46,23 @@ public:
     /// exception log, once. The document goes on.
     void write(std::string_view text) {
         if (failsNow(text)) {
-            OrxException::logCatch("Error writing to file: " + name_);
+            reportFailure();
         }
     }
 
 private:
+    void reportFailure() const {
+        // The log itself cannot take the reason, but a listener can.
+        failure_lines::writeReason(Trace());
+        OrxException::logCatch("Error writing to file: " + name_);
+    }
+
     [[nodiscard]] bool failsNow(std::string_view text) {
         const std::lock_guard lock(mutex_);
         if (failed()) {
             return false;
         }
+        FileFailure::forget();
         if (file_ == nullptr) {
             file_ = FileSystem::current().openForAppending(name_);
         }

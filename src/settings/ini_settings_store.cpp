@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/file_failure.h"
 #include "platform/file_system.h"
 #include "platform/read_whole.h"
 #include "platform/sys_directory.h"
@@ -73,12 +74,15 @@ private:
     /// Reads the file again if it has changed.
     void refresh() const {
         FileSystem& files = FileSystem::current();
+        FileFailure::forget();
         const std::optional<FileStamp> stamp = files.stamp(fileName_);
-        if (state_ == State::read && stamp == stamp_) {
+        // A file that cannot be looked up is not a missing one: what was read of it still counts.
+        const bool unknown = !stamp && FileFailure::isNoted();
+        if (state_ == State::read && (unknown || stamp == stamp_)) {
             return;
         }
         const std::optional<std::string> bytes = readWhole(fileName_);
-        const bool something = stamp || files.directoryExists(fileName_);
+        const bool something = unknown || stamp || files.directoryExists(fileName_);
         state_ = bytes ? State::read : something ? State::unreadable : State::missing;
         std::string_view text = bytes ? std::string_view(*bytes) : std::string_view();
         hasByteOrderMark_ = text.starts_with(byteOrderMark);

@@ -29,9 +29,9 @@ public:
         notes.push_back("enter " + name.str());
         return FailingFileSystem::setCurrentDirectory(name);
     }
-    std::unique_ptr<OutputFile> openForWriting(const OrxString& name) override {
+    std::unique_ptr<OutputFile> openForReplacing(const OrxString& name) override {
         notes.push_back("write " + name.str());
-        return FailingFileSystem::openForWriting(name);
+        return FailingFileSystem::openForReplacing(name);
     }
 
     Names notes;

@@ -352,7 +352,7 @@ TEST_F(PageFailures, ToWriteAreLoggedAndEmptyThePage) {
         (std::vector<std::string>{"Exception throw: Error writing to file: C:\\out\\p.htm\n",
                                   "Exception catch: Error writing to file: C:\\out\\p.htm\n"}));
     EXPECT_TRUE(page.isEmpty());
-    EXPECT_EQ(written(), head.substr(0, 100)) << "what could be written is";
+    EXPECT_EQ(written(), "(none)");
 }
 
 TEST_F(PageFailures, ToCloseAreFailuresToWrite) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/file_failure.h"
 #include "platform/read_whole.h"
 #include "platform/sys_file.h"
 #include "support/installed_file_system.h"
@@ -46,6 +47,34 @@ TEST_F(FailingFiles, CanRefuseToOpenOrToClose) {
     EXPECT_EQ(memory.openFiles(), 0);
 }
 
+TEST_F(FailingFiles, LeaveTheOldFileOrNone) {
+    memory.put("a", "old");
+    for (const Operation operation : {Operation::write, Operation::close}) {
+        for (const char* const name : {"a", "b"}) {
+            files.failAt(operation, 1);
+            EXPECT_EQ(write(name, "new"), WriteResult::writeFailed);
+        }
+    }
+    files.fillDiskAfter(2);
+    EXPECT_EQ(write("a", "new"), WriteResult::writeFailed);
+    EXPECT_EQ(memory.content("a"), "old");
+    EXPECT_EQ(memory.content("b"), std::nullopt);
+    EXPECT_EQ(memory.openFiles(), 0);
+}
+
+TEST_F(FailingFiles, GiveTheReasonThatTheTestChose) {
+    files.failAt(Operation::lookUp, 1);
+    EXPECT_FALSE(files.fileExists("a"));
+    EXPECT_FALSE(FileFailure::isNoted());
+    files.giveReason(13);
+    files.failAt(Operation::lookUp, 1);
+    EXPECT_FALSE(files.fileExists("a"));
+    EXPECT_TRUE(FileFailure::isNoted());
+    EXPECT_FALSE(FileFailure::reason().empty());
+    FileFailure::forget();
+    EXPECT_EQ(FileFailure::reason(), "");
+}
+
 TEST_F(FailingFiles, EndAFileAtAFailedReadAndReportIt) {
     memory.put("a", "123");
     files.failAt(Operation::read, 2);
@@ -73,11 +102,12 @@ TEST_F(FailingFiles, FailEveryTimeUntilHealed) {
     EXPECT_TRUE(files.makeDirectories("\\a"));
 }
 
-TEST_F(FailingFiles, KeepWhatWasWrittenBeforeTheDiskWasFull) {
+TEST_F(FailingFiles, KeepWhatWasClosedBeforeTheDiskWasFull) {
     files.fillDiskAfter(4);
     EXPECT_EQ(write("a", "123"), WriteResult::done);
     EXPECT_EQ(write("b", "456"), WriteResult::writeFailed);
-    EXPECT_EQ(memory.content("b"), "4");
+    EXPECT_EQ(memory.content("a"), "123");
+    EXPECT_EQ(memory.content("b"), std::nullopt);
     files.heal();
     EXPECT_EQ(write("b", "456"), WriteResult::done);
 }

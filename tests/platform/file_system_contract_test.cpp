@@ -127,6 +127,38 @@ TEST_P(FileSystemContract, OpeningForWritingEmptiesTheFile) {
     EXPECT_EQ(content("a.txt"), "new");
 }
 
+TEST_P(FileSystemContract, AReplacedContentIsThereWhenTheFileIsClosed) {
+    put("a.htm", "the old page");
+    for (const char* const name : {"a.htm", "new.htm"}) {
+        const auto file = files.openForReplacing(at(name));
+        ASSERT_NE(file, nullptr);
+        EXPECT_TRUE(write(*file, "new"));
+        EXPECT_TRUE(write(*file, " page"));
+        EXPECT_TRUE(file->close());
+        EXPECT_EQ(content(name), "new page");
+    }
+}
+
+TEST_P(FileSystemContract, AContentThatIsNotClosedLeavesWhatWasThere) {
+    files.makeDirectories(at("dir"));
+    put("dir\\a.htm", "the old page");
+    for (const char* const name : {"dir\\a.htm", "dir\\new.htm"}) {
+        const auto file = files.openForReplacing(at(name));
+        ASSERT_NE(file, nullptr);
+        EXPECT_TRUE(write(*file, "new"));
+    }
+    EXPECT_EQ(content("dir\\a.htm"), "the old page");
+    EXPECT_FALSE(files.fileExists(at("dir\\new.htm")));
+}
+
+TEST_P(FileSystemContract, NothingIsReplacedInAMissingDirectoryOrUnderTheNameOfOne) {
+    files.makeDirectories(at("dir"));
+    EXPECT_EQ(files.openForReplacing(at("none\\a.htm")), nullptr);
+    EXPECT_EQ(files.openForReplacing(at("dir")), nullptr);
+    EXPECT_EQ(files.openForReplacing(""), nullptr);
+    EXPECT_EQ(files.openForReplacing(at(std::string("b.txt\0y", 7))), nullptr);
+}
+
 TEST_P(FileSystemContract, OpeningForAppendingKeepsTheFile) {
     put("a.txt", "old,");
     const auto file = files.openForAppending(at("a.txt"));

@@ -48,7 +48,7 @@ class Environment(unittest.TestCase):
         self.assertEqual(self.play("TOOL --help >/dev/full"), failed)
 
     def test_a_trace_that_cannot_be_written_is_reported_once(self):
-        failed = (1, "dochtml-replay: Error writing to file: \\dev\\full\n")
+        failed = (1, "dochtml-replay: Error writing to file: /dev/full: No space left on device\n")
         self.assertEqual(self.play("TOOL --trace 10 --log /dev/full calls"), failed)
         stream = '["trace",10]\n' + CALLS
         (self.work / "tracing").write_text(stream)
@@ -86,7 +86,8 @@ class Environment(unittest.TestCase):
 
     def test_an_unknown_setting_is_reported_and_does_no_harm(self):
         status, errors = self.play("TOOL --set Html.Navigg=2 calls")
-        self.assertEqual((status, errors), (0, ""))
+        self.assertEqual(status, 0)
+        self.assertEqual(errors, "dochtml-replay: warning: there is no setting Html.Navigg\n")
         status, errors = self.play("TOOL --set html.navig=2 --set Html.Navigg=2 calls", quiet=False)
         self.assertEqual(status, 0)
         self.assertIn("dochtml-replay: warning: there is no setting Html.Navigg\n", errors)
@@ -95,8 +96,78 @@ class Environment(unittest.TestCase):
     def test_directories_in_the_place_of_files_are_refused(self):
         for option in "--model", "--image-maps", "--settings":
             self.assertEqual(
-                self.play(f"TOOL {option} / calls"), (2, "dochtml-replay: cannot read /\n")
+                self.play(f"TOOL {option} / calls"),
+                (2, "dochtml-replay: cannot read /: not a regular file\n"),
             )
+
+    def test_pipes_and_devices_in_the_place_of_files_are_refused_at_once(self):
+        os.mkfifo(self.work / "pipe")
+        for name in "pipe", "/dev/null":
+            for option in "--model", "--image-maps", "--settings":
+                refused = (2, f"dochtml-replay: cannot read {name}: not a regular file\n")
+                self.assertEqual(self.play(f"TOOL {option} {name} calls"), refused)
+            told = f"dochtml-replay: Cannot read file {name}: Not a regular file\n"
+            self.assertEqual(self.play(f"TOOL --ini {name} calls"), (1, told))
+        for page in "rep_dtl.htm", "rep_toc.dat", "toc2.jar":
+            (self.work / page).unlink(missing_ok=True)
+            os.mkfifo(self.work / page)
+            status, errors = self.play("TOOL calls")
+            self.assertEqual(status, 1)
+            self.assertRegex(errors, "^dochtml-replay: .*: Not a regular file\n")
+            self.assertTrue((self.work / page).is_fifo())
+            (self.work / page).unlink()
+
+    def test_an_inserted_pipe_is_refused_at_once(self):
+        os.mkfifo(self.work / "a.txt")
+        (self.work / "calls").write_text(
+            '["create","rep.htm"]\n["insertFile","a.txt",3]\n["close"]\n'
+        )
+        told = "dochtml-replay: Cannot open : a.txt: Not a regular file\n"
+        self.assertEqual(self.play("TOOL calls"), (1, told))
+
+    def test_a_name_that_cannot_be_looked_up_is_reported(self):
+        (self.work / "loop").symlink_to("loop")
+        (self.work / "calls").write_text(
+            '["create","rep.htm"]\n["insertXref","x","loop"]\n["close"]\n'
+        )
+        status, errors = self.play("TOOL calls")
+        self.assertEqual(status, 1)
+        reason = "Too many levels of symbolic links"
+        self.assertIn(f"dochtml-replay: Cannot look up file loop: {reason}\n", errors)
+
+    def test_a_page_beyond_the_limit_on_file_sizes_is_reported(self):
+        (self.work / "calls").write_text(
+            f'["create","rep.htm"]\n["insertText","{"a" * 300000}"]\n["close"]\n'
+        )
+        status, errors = self.play("ulimit -f 200; TOOL calls")
+        self.assertEqual(status, 1)
+        self.assertIn(
+            "dochtml-replay: Error writing to file: rep_dtl.htm: File too large\n", errors
+        )
+        self.assertFalse((self.work / "rep_dtl.htm").exists())
+
+    def test_answers_that_nobody_reads_are_reported(self):
+        status, errors = self.play("{ sleep 0.3; TOOL calls; echo $? >status; } | true; cat status >&2")
+        self.assertEqual(errors, "dochtml-replay: cannot write the output\n1\n")
+        self.assertTrue((self.work / "rep_dtl.htm").exists())
+
+    def test_a_killed_run_leaves_at_most_the_page_in_hand(self):
+        pages = "".join(f'["insertText","page {i}"]\n["insertPageBreak"]\n' for i in range(3000))
+        (self.work / "calls").write_text('["create","out/rep.htm"]\n' + pages + '["close"]\n')
+        (self.work / "out").mkdir()
+        for run in range(12):
+            tool = subprocess.Popen([TOOL, "-q", "calls"], cwd=self.work, stderr=subprocess.DEVNULL)
+            try:
+                tool.wait(timeout=0.02 + run * 0.02)
+            except subprocess.TimeoutExpired:
+                tool.kill()
+                tool.wait()
+            cut = [
+                page.name
+                for page in (self.work / "out").glob("*.htm")
+                if not page.read_bytes().endswith(b"</HTML>\n")
+            ]
+            self.assertLessEqual(len(cut), 1)
 
 
 if __name__ == "__main__":

@@ -71,7 +71,7 @@ TEST_F(HostFiles, AreRefusedWhenMissing) {
         const ModelFile model(pathFrom(dir_.nativeFile("none.json")), "none.json");
         FAIL() << "nothing was thrown";
     } catch (const BadInput& problem) {
-        EXPECT_STREQ(problem.what(), "cannot read none.json");
+        EXPECT_STREQ(problem.what(), "cannot read none.json: No such file or directory");
     }
 }
 

@@ -4,6 +4,8 @@
 #include <memory>
 #include <utility>
 
+#include "platform/file_failure.h"
+
 namespace quillmark {
 
 class FailingFileSystem::Reader final : public InputFile {
@@ -29,36 +31,43 @@ public:
         : owner_(owner), file_(std::move(file)) {}
 
     bool write(std::span<const std::string_view> pieces) override {
-        if (owner_.fails(Operation::write)) {
-            return false;
-        }
+        failed_ = failed_ || owner_.fails(Operation::write) || !writeWhatFits(pieces);
+        return !failed_;
+    }
+
+    bool close() override {
+        const bool failed = owner_.fails(Operation::close) || failed_;
+        // Without a call of its own `close` the inner file is only closed, or given up if it would
+        // replace another.
+        const std::unique_ptr<OutputFile> file = std::move(file_);
+        return !failed && file->close();
+    }
+
+private:
+    [[nodiscard]] bool writeWhatFits(std::span<const std::string_view> pieces) {
         for (const std::string_view piece : pieces) {
             const std::uint64_t room = owner_.take(piece.size());
             const std::string_view taken = piece.substr(0, static_cast<std::size_t>(room));
             if (!file_->write({&taken, 1}) || taken.size() < piece.size()) {
+                FileFailure::note(owner_.reason_);
                 return false;
             }
         }
         return true;
     }
 
-    bool close() override {
-        const bool failed = owner_.fails(Operation::close);
-        // The inner file is closed nevertheless, as a real one is.
-        return file_->close() && !failed;
-    }
-
-private:
     FailingFileSystem& owner_;
     std::unique_ptr<OutputFile> file_;
+    bool failed_ = false;
 };
 
 void FailingFileSystem::failAt(Operation operation, std::size_t number) {
-    plan(operation).failsAt = plan(operation).asked + number;
+    Plan& its = plans_.at(static_cast<std::size_t>(operation));
+    its.failsAt = its.asked + number;
 }
 
 void FailingFileSystem::failAll(Operation operation) {
-    plan(operation).failsAlways = true;
+    plans_.at(static_cast<std::size_t>(operation)).failsAlways = true;
 }
 
 void FailingFileSystem::heal() {
@@ -69,9 +78,13 @@ void FailingFileSystem::heal() {
     space_.reset();
 }
 
-bool FailingFileSystem::fails(Operation operation) {
-    Plan& its = plan(operation);
-    return ++its.asked == its.failsAt || its.failsAlways;
+bool FailingFileSystem::fails(Operation operation) const {
+    Plan& its = plans_.at(static_cast<std::size_t>(operation));
+    const bool failsNow = ++its.asked == its.failsAt || its.failsAlways;
+    if (failsNow && reason_ != 0) {
+        FileFailure::note(reason_);
+    }
+    return failsNow;
 }
 
 std::uint64_t FailingFileSystem::take(std::uint64_t bytes) {
@@ -88,15 +101,15 @@ std::unique_ptr<OutputFile> FailingFileSystem::watched(std::unique_ptr<OutputFil
 }
 
 bool FailingFileSystem::fileExists(const OrxString& name) const {
-    return inner_.fileExists(name);
+    return isLookedUp() && inner_.fileExists(name);
 }
 
 bool FailingFileSystem::directoryExists(const OrxString& name) const {
-    return inner_.directoryExists(name);
+    return isLookedUp() && inner_.directoryExists(name);
 }
 
 std::optional<FileStamp> FailingFileSystem::stamp(const OrxString& name) const {
-    return inner_.stamp(name);
+    return isLookedUp() ? inner_.stamp(name) : std::nullopt;
 }
 
 bool FailingFileSystem::copyFile(const OrxString& source, const OrxString& target) {
@@ -132,6 +145,10 @@ std::unique_ptr<InputFile> FailingFileSystem::openForReading(const OrxString& na
 
 std::unique_ptr<OutputFile> FailingFileSystem::openForWriting(const OrxString& name) {
     return fails(Operation::openForWriting) ? nullptr : watched(inner_.openForWriting(name));
+}
+
+std::unique_ptr<OutputFile> FailingFileSystem::openForReplacing(const OrxString& name) {
+    return fails(Operation::openForWriting) ? nullptr : watched(inner_.openForReplacing(name));
 }
 
 std::unique_ptr<OutputFile> FailingFileSystem::openForAppending(const OrxString& name) {

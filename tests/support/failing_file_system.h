@@ -26,9 +26,10 @@ public:
         copyFile,
         deleteFile,
         replaceFile,
-        setCurrentDirectory
+        setCurrentDirectory,
+        lookUp
     };
-    static constexpr std::size_t operationKinds = 11;
+    static constexpr std::size_t operationKinds = 12;
 
     explicit FailingFileSystem(FileSystem& inner) : inner_(inner) {}
 
@@ -39,6 +40,8 @@ public:
     /// Limits the space on the disk. A write that needs more than is left writes what fits and
     /// fails.
     void fillDiskAfter(std::uint64_t bytes) { space_ = bytes; }
+    /// Gives the failures a reason, a number of the system's; by default they have none.
+    void giveReason(int systemError) { reason_ = systemError; }
     /// Makes nothing fail any more.
     void heal();
     /// The number of operations of that kind so far, including failed ones.
@@ -54,6 +57,8 @@ public:
     OrxString currentDirectory() const override;
     std::unique_ptr<InputFile> openForReading(const OrxString& name) override;
     std::unique_ptr<OutputFile> openForWriting(const OrxString& name) override;
+    /// Counts as `openForWriting`.
+    std::unique_ptr<OutputFile> openForReplacing(const OrxString& name) override;
     std::unique_ptr<OutputFile> openForAppending(const OrxString& name) override;
     bool replaceFile(const OrxString& source, const OrxString& target) override;
 
@@ -69,18 +74,18 @@ private:
     [[nodiscard]] const Plan& plan(Operation operation) const {
         return plans_.at(static_cast<std::size_t>(operation));
     }
-    [[nodiscard]] Plan& plan(Operation operation) {
-        return plans_.at(static_cast<std::size_t>(operation));
-    }
     /// Counts an operation. True if it must fail.
-    [[nodiscard]] bool fails(Operation operation);
+    [[nodiscard]] bool fails(Operation operation) const;
+    [[nodiscard]] bool isLookedUp() const { return !fails(Operation::lookUp); }
     /// Uses up to `bytes` of the space on the disk. Returns how many are available.
     [[nodiscard]] std::uint64_t take(std::uint64_t bytes);
     std::unique_ptr<OutputFile> watched(std::unique_ptr<OutputFile> file);
 
     FileSystem& inner_;
-    std::array<Plan, operationKinds> plans_{};
+    /// Look-ups count too, although they change nothing.
+    mutable std::array<Plan, operationKinds> plans_{};
     std::optional<std::uint64_t> space_;
+    int reason_ = 0;
 };
 
 }  // namespace quillmark

@@ -94,6 +94,49 @@ private:
     std::size_t place_ = 0;
 };
 
+/// Takes its name when it is closed.
+class MemoryFileSystem::Replacement final : public OutputFile {
+public:
+    Replacement(MemoryFileSystem& owner, std::string path)
+        : owner_(owner), path_(std::move(path)) {
+        ++owner_.openFiles_;
+    }
+    ~Replacement() override {
+        const std::lock_guard lock(owner_.mutex_);
+        release();
+    }
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+
+    bool write(std::span<const std::string_view> pieces) override {
+        for (const std::string_view piece : pieces) {
+            bytes_ += piece;
+        }
+        return true;
+    }
+
+    bool close() override {
+        const std::lock_guard lock(owner_.mutex_);
+        const FilePtr file = release() ? owner_.findOrMake(path_) : nullptr;
+        if (file != nullptr) {
+            file->bytes = std::move(bytes_);
+            ++file->changes;
+        }
+        return file != nullptr;
+    }
+
+private:
+    bool release() {
+        owner_.openFiles_ -= open_ ? 1 : 0;
+        return std::exchange(open_, false);
+    }
+
+    MemoryFileSystem& owner_;
+    std::string path_;
+    std::string bytes_;
+    bool open_ = true;
+};
+
 MemoryFileSystem::MemoryFileSystem() = default;
 
 bool MemoryFileSystem::fileExists(const OrxString& name) const {
@@ -170,6 +213,13 @@ std::unique_ptr<InputFile> MemoryFileSystem::openForReading(const OrxString& nam
 
 std::unique_ptr<OutputFile> MemoryFileSystem::openForWriting(const OrxString& name) {
     return openWriter(name, false);
+}
+
+std::unique_ptr<OutputFile> MemoryFileSystem::openForReplacing(const OrxString& name) {
+    const std::lock_guard lock(mutex_);
+    const std::string path = resolve(name);
+    const bool possible = !path.empty() && !isDirectory(path) && isDirectory(parentOf(path));
+    return possible ? std::make_unique<Replacement>(*this, path) : nullptr;
 }
 
 std::unique_ptr<OutputFile> MemoryFileSystem::openForAppending(const OrxString& name) {

@@ -28,6 +28,7 @@ public:
     OrxString currentDirectory() const override;
     std::unique_ptr<InputFile> openForReading(const OrxString& name) override;
     std::unique_ptr<OutputFile> openForWriting(const OrxString& name) override;
+    std::unique_ptr<OutputFile> openForReplacing(const OrxString& name) override;
     std::unique_ptr<OutputFile> openForAppending(const OrxString& name) override;
     bool replaceFile(const OrxString& source, const OrxString& target) override;
 
@@ -44,6 +45,7 @@ private:
     struct File;
     class Reader;
     class Writer;
+    class Replacement;
     using FilePtr = std::shared_ptr<File>;
 
     [[nodiscard]] std::string resolve(const OrxString& name) const;

@@ -1,15 +1,20 @@
 #include "component/posix/class_file.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <fstream>
+#include <map>
 #include <sstream>
+#include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
+#include "foundation/ascii.h"
 #include "platform/posix/descriptor_io.h"
 #include "platform/posix/home_directory.h"
 
@@ -71,16 +76,29 @@ std::string joined(const std::string& parent, const std::string& name) {
     return path;
 }
 
-void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree) {
+/// The comments of each section, with their line ends, by the section's path in lower case. Those
+/// before the first section have an empty path.
+using Comments = std::map<std::string, std::string>;
+
+std::string lowerCase(std::string_view text) {
+    std::string lower(text);
+    std::ranges::transform(lower, lower.begin(), [](char c) { return ascii::toLower(c); });
+    return lower;
+}
+
+void writeKeys(std::ostream& out, const std::string& path, const KeyTree& tree,
+               Comments& comments) {
     if (!path.empty()) {
         out << '[' << path << "]\n";
+        const auto own = comments.extract(lowerCase(path));
+        out << (own.empty() ? std::string() : own.mapped());
     }
     for (const auto& [name, value] : tree.values) {
         out << (name.empty() ? defaultValueName : std::string_view(name)) << '='
             << escaped(value.data) << '\n';
     }
     for (const auto& [name, child] : tree.children) {
-        writeKeys(out, joined(path, name), child);
+        writeKeys(out, joined(path, name), child, comments);
     }
 }
 
@@ -105,9 +123,16 @@ std::optional<std::string_view> keyPathIn(std::string_view line) noexcept {
 /// The whole content of the file. Empty when the file does not exist; nothing when it cannot be
 /// read.
 std::optional<std::string> contentOf(const std::filesystem::path& file) {
-    const Descriptor in = descriptor_io::openFile(file.c_str(), O_RDONLY);
-    if (!in.isOpen()) {
+    struct stat status {};
+    if (stat(file.c_str(), &status) != 0) {
         return errno == ENOENT || errno == ENOTDIR ? std::optional<std::string>("") : std::nullopt;
+    }
+    // Reading from a pipe or a device may never end.
+    const Descriptor in = S_ISREG(status.st_mode)
+                              ? descriptor_io::openFile(file.c_str(), O_RDONLY)
+                              : Descriptor();
+    if (!in.isOpen()) {
+        return std::nullopt;
     }
     std::string content;
     std::array<char, 4096> piece{};
@@ -116,6 +141,63 @@ std::optional<std::string> contentOf(const std::filesystem::path& file) {
         content.append(piece.data(), static_cast<std::size_t>(size));
     }
     return size == 0 ? std::optional(std::move(content)) : std::nullopt;
+}
+
+bool isSection(std::string_view line) noexcept {
+    return line.starts_with('[') && line.ends_with(']') && line.size() > 2;
+}
+
+bool isComment(std::string_view line) noexcept {
+    return line.starts_with(';') || line.starts_with('#');
+}
+
+/// The lines of a text. An editor may have ended them with a carriage return and a line feed.
+std::vector<std::string> linesOf(const std::string& content) {
+    std::vector<std::string> lines;
+    std::istringstream in(content);
+    for (std::string line; std::getline(in, line);) {
+        if (line.ends_with('\r')) {
+            line.pop_back();
+        }
+        lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
+/// Something else than a class file: it has text, but not a single section.
+bool isForeign(const std::string& content, const std::vector<std::string>& lines) {
+    const bool hasText = std::ranges::any_of(lines, [](const std::string& line) {
+        return line.find_first_not_of(" \t") != std::string::npos && !isComment(line);
+    });
+    return content.find('\0') != std::string::npos ||
+           (hasText && std::ranges::none_of(lines, isSection));
+}
+
+constexpr std::string_view firstLine =
+    "; The components that this user's programs find by name. Written by registration.";
+
+Comments commentsOf(const std::string& content) {
+    Comments comments;
+    std::string section;
+    for (const std::string& line : linesOf(content)) {
+        if (isSection(line)) {
+            section = lowerCase(std::string_view(line).substr(1, line.size() - 2));
+        } else if (isComment(line) && line != firstLine) {
+            comments[section].append(line).append(1, '\n');
+        }
+    }
+    return comments;
+}
+
+/// The whole file. Comments of sections that are gone move to its start.
+void writeAll(std::ostream& out, const KeyTree& root, Comments comments) {
+    std::ostringstream keys;
+    writeKeys(keys, {}, root, comments);
+    out << firstLine << '\n';
+    for (const auto& [section, text] : comments) {
+        out << text;
+    }
+    out << keys.str();
 }
 
 }  // namespace
@@ -132,15 +214,18 @@ std::optional<KeyTree> readClassFile(const std::filesystem::path& file) {
     if (!content) {
         return std::nullopt;
     }
+    const std::vector<std::string> lines = linesOf(*content);
+    if (isForeign(*content, lines)) {
+        return std::nullopt;
+    }
     KeyTree root;
     KeyTree* key = nullptr;
-    std::istringstream in(*content);
-    for (std::string line; std::getline(in, line);) {
+    for (const std::string& line : lines) {
         const std::size_t equals = line.find('=');
         if (const std::optional<std::string_view> path = keyPathIn(line)) {
             // The values below a key that cannot be are no other key's.
             key = path->empty() ? nullptr : &makeKey(root, *path);
-        } else if (key != nullptr && equals != std::string::npos && !line.starts_with(';')) {
+        } else if (key != nullptr && equals != std::string::npos && !isComment(line)) {
             const std::string name = line.substr(0, equals);
             key->values[name == defaultValueName ? std::string() : name] = {
                 KeyValue::textType, unescaped(std::string_view(line).substr(equals + 1))};
@@ -150,12 +235,15 @@ std::optional<KeyTree> readClassFile(const std::filesystem::path& file) {
 }
 
 bool writeClassFile(const std::filesystem::path& file, const KeyTree& root) {
+    const std::optional<std::string> before = contentOf(file);
+    if (!before) {
+        return false;
+    }
     std::error_code error;
     std::filesystem::create_directories(file.parent_path(), error);
     const std::filesystem::path next = file.string() + '.' + std::to_string(getpid());
     std::ofstream out(next, std::ios::trunc);
-    out << "; The components that this user's programs find by name. Written by registration.\n";
-    writeKeys(out, {}, root);
+    writeAll(out, root, commentsOf(*before));
     out.close();
     if (out) {
         std::filesystem::rename(next, file, error);

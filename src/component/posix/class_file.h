@@ -15,15 +15,15 @@ namespace quillmark {
 ///     ThreadingModel=Apartment
 ///
 /// A section is a key, and "@" is its default value. In values "\\" is a backslash and "\n" a line
-/// end.
+/// end. Lines that begin with ";" or "#" are comments.
 [[nodiscard]] std::filesystem::path classFilePath();
 
 /// The keys in the file; an empty tree when the file does not exist. Ignores malformed lines.
-/// Returns nothing when the file exists but cannot be read, so that no caller mistakes it for an
-/// empty file and overwrites it.
+/// Returns nothing when the file exists but cannot be read, or has text but no section, so that no
+/// caller mistakes it for an empty file and overwrites it.
 [[nodiscard]] std::optional<KeyTree> readClassFile(const std::filesystem::path& file);
-/// Replaces the file in one step. Returns false on failure. The caller must have locked the file
-/// before reading it (component/posix/class_file_lock.h).
+/// Replaces the file in one step and keeps its comments. Returns false on failure. The caller must
+/// have locked the file before reading it (component/posix/class_file_lock.h).
 [[nodiscard]] bool writeClassFile(const std::filesystem::path& file, const KeyTree& root);
 
 /// The key with that path below `root`, or null.

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include "platform/failure_lines.h"
+#include "platform/file_failure.h"
 #include "platform/sys_file.h"
 #include "platform/sys_shell.h"
 
@@ -23,7 +25,10 @@ std::vector<OrxString> archiverArguments(const OrxString& archive, const OrxStri
 
 OrxString packDataFile(const OrxString& dataFile, const OrxString& installDir, const Trace& trace) {
     OrxString archive = dataFile + ".zip";
-    SysFile::deleteFile(archive);
+    FileFailure::forget();
+    if (!SysFile::deleteFile(archive) && FileFailure::isNoted() && !FileFailure::isMissingFile()) {
+        failure_lines::write(trace, "ERR Cannot remove file ", archive);
+    }
     const OrxString archiver = SysFile::appendToDir(installDir, "zip.exe");
     if (SysShell::start(archiver, archiverArguments(archive, dataFile)) >= SysShell::started) {
         return archive;

@@ -11,6 +11,7 @@
 #include "contents/entries/indent_budget.h"
 #include "contents/tree/tree_text.h"
 #include "foundation/orx_exception.h"
+#include "platform/file_failure.h"
 #include "platform/file_system.h"
 #include "platform/line_end.h"
 
@@ -28,7 +29,8 @@ public:
         // The file is not touched if there is no memory for the usual tree.
         buffer_.reserve(bufferSize + bufferSize / 4);
         buffer_ = "(TREE";
-        file_ = FileSystem::current().openForWriting(path);
+        FileFailure::forget();
+        file_ = FileSystem::current().openForReplacing(path);
         if (file_ == nullptr) {
             OrxException::raise("Error opening file: " + path_);
         }

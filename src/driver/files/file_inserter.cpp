@@ -2,6 +2,8 @@
 
 #include "driver/files/line_reader.h"
 #include "driver/pages/picture_names.h"
+#include "platform/failure_lines.h"
+#include "platform/file_failure.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -18,7 +20,7 @@ void FileInserter::insertFile(const OrxString& fileName, InsertAs as) {
     const bool expands = context_.settings.expandRelativeNames && !namePart.isEmpty();
     const OrxString candidate =
         expands ? SysFile::appendToDir(context_.settings.externalDocDir, namePart) : OrxString();
-    const bool candidateFound = expands && SysFile::exists(candidate);
+    const bool candidateFound = expands && SysFile::exists(candidate, context_.trace);
     if (!found && !candidateFound) {
         return;
     }
@@ -41,8 +43,10 @@ void FileInserter::insertContents(const OrxString& name) {
 }
 
 void FileInserter::pasteLines(const OrxString& name) {
+    FileFailure::forget();
     const std::unique_ptr<InputFile> file = FileSystem::current().openForReading(name);
     if (file == nullptr) {
+        failure_lines::writeReason(context_.trace);
         context_.traceError("ERR Cannot open : ", name);
         return;
     }
@@ -55,6 +59,9 @@ void FileInserter::pasteLines(const OrxString& name) {
         if (!line.empty()) {
             text_.insertEscaped(line);
         }
+    }
+    if (file->failed()) {
+        failure_lines::write(context_.trace, "ERR Cannot read to the end of file ", name);
     }
 }
 

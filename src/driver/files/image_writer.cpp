@@ -13,13 +13,13 @@ bool ImageWriter::findImage(OrxString& name) {
     if (name.isEmpty()) {
         return false;
     }
-    if (SysFile::exists(name)) {
+    if (SysFile::exists(name, context_.trace)) {
         return true;
     }
     if (isImageName(name) && SysFile::getDir(name).isEmpty()) {
         const OrxString installed = SysFile::appendToDir(
             installedName(context_.settings.installDir, installedPicturesName), name);
-        if (SysFile::exists(installed)) {
+        if (SysFile::exists(installed, context_.trace)) {
             name = installed;
             return true;
         }

@@ -19,7 +19,7 @@ LinkWriter::End LinkWriter::open(const OrxString& target) {
         writeStart(target);
         return End::tag;
     }
-    if (SysFile::exists(target)) {
+    if (SysFile::exists(target, context_.trace)) {
         writeStart(linkOfFile(target));
         return End::tag;
     }
@@ -54,7 +54,7 @@ bool LinkWriter::findExternalDocument(const OrxString& target) {
     }
     candidate_.clear();
     candidate_.append(context_.settings.externalDocDir).append("\\").append(name);
-    return SysFile::exists(candidate_);
+    return SysFile::exists(candidate_, context_.trace);
 }
 
 void LinkWriter::close(const OrxString& target, End end) {

@@ -1,6 +1,7 @@
 #include "driver/pages/document_context.h"
 
 #include "page/links.h"
+#include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -22,7 +23,8 @@ OrxString DocumentContext::documentLink(const OrxString& fileName, CachedLink& c
     if (settings.useRelative) {
         return cached.relativeFile(fileName, linkBase());
     }
-    return "file:///" + links::fromPath(fileName);
+    return "file:///" +
+           links::fromPath(SysDirectory::getSpecificPath(SysDirectory::getCurrentDir(), fileName));
 }
 
 OrxString DocumentContext::copyTo(const OrxString& directory, const OrxString& fileName) const {

@@ -1,6 +1,8 @@
 #include "driver/pages/document_settings.h"
 
 #include "host/app_profile_interface.h"
+#include "platform/failure_lines.h"
+#include "platform/file_failure.h"
 #include "platform/sys_directory.h"
 #include "settings/ini_file.h"
 #include "settings/register_dynamic.h"
@@ -55,13 +57,17 @@ void DocumentSettings::readTexts(const RegisterCache& settings) {
     static_cast<void>(readHtml(settings, "DiagramType"));
 }
 
-bool DocumentSettings::readIniFile() {
+bool DocumentSettings::readIniFile(const Trace& trace) {
     const OrxString file = iniFileName();
+    FileFailure::forget();
     // This value is compared with case, the next one without.
     const bool beforeJava7 =
         IniFile::read(file, iniSection, "UseJavaPre7", "FALSE", iniBufferSize) == "TRUE";
     OrxString expand =
         IniFile::read(file, iniSection, "ExpandRelativeDocumentNames", "TRUE", iniBufferSize);
+    if (FileFailure::isNoted() && !FileFailure::isMissingFile()) {
+        failure_lines::write(trace, "ERR Cannot read file ", file);
+    }
     expandRelativeNames = true;
     if (!expand.isEmpty()) {
         expandRelativeNames = expand.toUpper() != OrxString("FALSE");

@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "foundation/orx_string.h"
+#include "platform/trace.h"
 #include "settings/register_cache.h"
 #include "settings/settings_table.h"
 
@@ -44,8 +45,8 @@ struct DocumentSettings {
     /// Reads the settings for texts.
     void readTexts(const RegisterCache& settings);
     /// Reads the modelling tool's ini file. Returns false when the applet must run on a Java before
-    /// version 7.
-    [[nodiscard]] bool readIniFile();
+    /// version 7. A file that cannot be read is an error in the trace; a missing one counts as empty.
+    [[nodiscard]] bool readIniFile(const Trace& trace);
 };
 
 /// The directory of the user's own files, read from the store at each call.

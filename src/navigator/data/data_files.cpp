@@ -4,6 +4,7 @@
 #include <string>
 
 #include "foundation/orx_exception.h"
+#include "platform/failure_lines.h"
 #include "platform/sys_file.h"
 
 namespace quillmark {
@@ -19,16 +20,14 @@ void DataFiles::write(std::string_view kind, std::size_t number, std::string_vie
 
 bool DataFiles::writePlain(std::string_view name, std::span<const std::string_view> pieces) const {
     const OrxString fileName = SysFile::appendToDir(directory_, name);
-    switch (SysFile::writeWhole(fileName, pieces)) {
-        case WriteResult::done:
-            return true;
-        case WriteResult::openFailed:
-            OrxException::logCatch("Error opening file: " + fileName);
-            return false;
-        case WriteResult::writeFailed:
-            break;
+    const WriteResult result = SysFile::writeWhole(fileName, pieces);
+    if (result == WriteResult::done) {
+        return true;
     }
-    OrxException::logCatch("Error writing to file: " + fileName);
+    failure_lines::writeReason(trace_);
+    const bool opened = result == WriteResult::writeFailed;
+    OrxException::logCatch((opened ? "Error writing to file: " : "Error opening file: ") +
+                           fileName);
     return false;
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "foundation/orx_string.h"
+#include "platform/trace.h"
 
 namespace quillmark {
 
@@ -12,7 +13,9 @@ namespace quillmark {
 /// exception log; the others are written all the same.
 class DataFiles {
 public:
-    explicit DataFiles(OrxString directory) : directory_(std::move(directory)) {}
+    /// The trace gets the reason why a file could not be written.
+    explicit DataFiles(OrxString directory, const Trace& trace = {})
+        : directory_(std::move(directory)), trace_(trace) {}
 
     /// Writes `name`.js, which hands the JSON text over to the script.
     void write(std::string_view name, std::string_view json) const;
@@ -25,6 +28,7 @@ public:
 
 private:
     OrxString directory_;
+    Trace trace_;
 };
 
 }  // namespace quillmark

@@ -19,10 +19,11 @@ bool isPlainName(std::string_view name) noexcept {
 }
 
 /// The first file of that name; empty when there is none.
-OrxString findIn(const NavigatorIcons::Sources& sources, std::string_view name) {
+OrxString findIn(const NavigatorIcons::Sources& sources, std::string_view name,
+                 const Trace& trace) {
     for (const OrxString& directory : sources) {
         OrxString file = SysFile::appendToDir(directory, name);
-        if (!directory.isEmpty() && SysFile::exists(file)) {
+        if (!directory.isEmpty() && SysFile::exists(file, trace)) {
             return file;
         }
     }
@@ -45,7 +46,7 @@ void NavigatorIcons::add(std::string_view name, const Sources& sources, const Or
         return;
     }
     std::uint32_t number = 0;
-    const OrxString source = isPlainName(name) ? findIn(sources, name) : OrxString();
+    const OrxString source = isPlainName(name) ? findIn(sources, name, trace) : OrxString();
     // These files are part of the output, so "DontCopy" does not concern them.
     if (!source.isEmpty() && FileCopier().copyToDir(source, directory, "", trace) != source) {
         names_.emplace_back(name);

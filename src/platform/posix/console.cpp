@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <system_error>
 
@@ -18,6 +19,11 @@ std::string Console::executablePath() {
 
 bool Console::errorsGoToTerminal() noexcept {
     return isatty(STDERR_FILENO) == 1;
+}
+
+void Console::reportFailedWrites() noexcept {
+    static_cast<void>(signal(SIGPIPE, SIG_IGN));
+    static_cast<void>(signal(SIGXFSZ, SIG_IGN));
 }
 
 void Console::readInputAsBytes() noexcept {}

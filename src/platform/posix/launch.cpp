@@ -58,6 +58,9 @@ void unblockSignals() noexcept {
     setsid();
     silenceStreams();
     unblockSignals();
+    // A program expects them as they are by default, even if this one ignores them.
+    static_cast<void>(signal(SIGPIPE, SIG_DFL));
+    static_cast<void>(signal(SIGXFSZ, SIG_DFL));
     if (strchr(launch.program, '/') != nullptr) {
         // Not execvp: it would give a file that is not a program to a shell, and report success.
         execv(launch.program, launch.arguments);

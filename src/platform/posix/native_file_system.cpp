@@ -12,10 +12,12 @@
 
 #include "foundation/module_lifetime.h"
 #include "platform/drive_table.h"
+#include "platform/file_failure.h"
 #include "platform/file_system.h"
 #include "platform/posix/descriptor_io.h"
 #include "platform/posix/directory_lock.h"
 #include "platform/posix/file_rewriting.h"
+#include "platform/posix/whole_file.h"
 
 namespace quillmark {
 
@@ -25,12 +27,30 @@ using descriptor_io::openFile;
 
 std::optional<struct stat> statusOf(const std::string& path) noexcept {
     struct stat status {};
-    return stat(path.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
+    if (stat(path.c_str(), &status) == 0) {
+        return status;
+    }
+    if (!FileFailure::meansMissing(errno)) {
+        FileFailure::note(errno);
+    }
+    return std::nullopt;
 }
 
 std::optional<struct stat> statusOf(const Descriptor& file) noexcept {
     struct stat status {};
-    return fstat(file.number(), &status) == 0 ? std::optional(status) : std::nullopt;
+    if (file.isOpen() && fstat(file.number(), &status) == 0) {
+        return status;
+    }
+    FileFailure::note(errno);
+    return std::nullopt;
+}
+
+/// Passes the result of a system call on, and notes the reason of a failure.
+bool noted(bool done) noexcept {
+    if (!done) {
+        FileFailure::note(errno);
+    }
+    return done;
 }
 
 bool isDirectory(const std::optional<struct stat>& status) noexcept {
@@ -43,8 +63,28 @@ bool isFile(const std::optional<struct stat>& status) noexcept {
 
 /// Reading from a device or a pipe may never end, or wait forever.
 bool hasAnEnd(const std::optional<struct stat>& status) noexcept {
+    if (status && !S_ISREG(status->st_mode)) {
+        FileFailure::noteNotRegular();
+    }
     return status && S_ISREG(status->st_mode);
 }
+
+/// Opens a file that has an end. Its status is also checked before opening, since opening a device
+/// or a pipe has side effects.
+struct ReadableFile {
+    explicit ReadableFile(const std::string& path) {
+        if (const std::optional<struct stat> before = statusOf(path)) {
+            file = hasAnEnd(before) ? openFile(path.c_str(), O_RDONLY | O_NONBLOCK) : Descriptor();
+            status = statusOf(file);
+        } else {
+            FileFailure::note(errno);
+        }
+    }
+    [[nodiscard]] bool isUsable() const noexcept { return hasAnEnd(status); }
+
+    Descriptor file;
+    std::optional<struct stat> status;
+};
 
 class NativeInputFile final : public InputFile {
 public:
@@ -52,7 +92,7 @@ public:
 
     std::size_t read(std::span<char> buffer) override {
         const long taken = descriptor_io::readSome(file_, buffer);
-        failed_ = failed_ || taken < 0;
+        failed_ = !noted(taken >= 0) || failed_;
         return taken > 0 ? static_cast<std::size_t>(taken) : 0;
     }
     bool failed() const override { return failed_; }
@@ -67,40 +107,38 @@ public:
     explicit NativeOutputFile(Descriptor file) noexcept : file_(std::move(file)) {}
 
     bool write(std::span<const std::string_view> pieces) override {
-        return descriptor_io::writeAll(file_, pieces);
+        return noted(descriptor_io::writeAll(file_, pieces));
     }
-    bool close() override { return file_.close(); }
+    bool close() override { return noted(file_.close()); }
 
 private:
     Descriptor file_;
 };
 
-std::unique_ptr<OutputFile> outputFile(const OrxString& name, int flags) {
-    Descriptor file = openFile(nativePath(name).c_str(), O_WRONLY | O_CREAT | flags);
-    return file.isOpen() ? std::make_unique<NativeOutputFile>(std::move(file)) : nullptr;
-}
+/// Output that takes its name whole or not at all.
+class WholeOutputFile final : public OutputFile {
+public:
+    explicit WholeOutputFile(WholeFile file) noexcept : file_(std::move(file)) {}
 
-/// The target of a copy, opened but not yet truncated.
-struct CopyTarget {
-    Descriptor file;
-    bool created = false;
+    bool write(std::span<const std::string_view> pieces) override {
+        failed_ = !noted(descriptor_io::writeAll(file_.descriptor(), pieces)) || failed_;
+        return !failed_;
+    }
+    bool close() override {
+        if (failed_) {
+            file_ = WholeFile();
+        }
+        return !failed_ && file_.commit();
+    }
+
+private:
+    WholeFile file_;
+    bool failed_ = false;
 };
 
-CopyTarget openCopyTarget(const std::string& path) {
-    Descriptor fresh = openFile(path.c_str(), O_WRONLY | O_CREAT | O_EXCL);
-    if (fresh.isOpen() || errno != EEXIST) {
-        return {std::move(fresh), true};
-    }
-    // The file exists, or the name is a link to a file that does not.
-    return {openFile(path.c_str(), O_WRONLY | O_CREAT), false};
-}
-
-bool fillCopy(const Descriptor& source, CopyTarget& target) noexcept {
-    const std::optional<struct stat> status = statusOf(target.file);
-    const bool truncated = target.created || !status || !S_ISREG(status->st_mode) ||
-                           ftruncate(target.file.number(), 0) == 0;
-    const bool copied = truncated && descriptor_io::copyAll(source, target.file);
-    return target.file.close() && copied;
+std::unique_ptr<OutputFile> outputFile(const OrxString& name, int flags) {
+    Descriptor file = openFile(nativePath(name).c_str(), O_WRONLY | O_CREAT | flags);
+    return noted(file.isOpen()) ? std::make_unique<NativeOutputFile>(std::move(file)) : nullptr;
 }
 
 bool makeDirectoryChain(const std::string& path) {
@@ -109,12 +147,17 @@ bool makeDirectoryChain(const std::string& path) {
         return true;
     }
     if (errno != ENOENT) {
-        return isDirectory(statusOf(path));
+        const int reason = errno;
+        const bool isThere = isDirectory(statusOf(path));
+        if (!isThere) {
+            FileFailure::note(reason);
+        }
+        return isThere;
     }
     const std::size_t lastOfParent = path.find_last_not_of('/', path.find_last_of('/'));
     return lastOfParent != std::string::npos && lastOfParent + 1 < path.size() &&
            makeDirectoryChain(path.substr(0, lastOfParent + 1)) &&
-           (mkdir(path.c_str(), fullAccess) == 0 || isDirectory(statusOf(path)));
+           (noted(mkdir(path.c_str(), fullAccess) == 0) || isDirectory(statusOf(path)));
 }
 
 constexpr mode_t allPermissions = 07777;
@@ -148,35 +191,20 @@ public:
     }
 
     bool copyFile(const OrxString& source, const OrxString& target) override {
-        const std::string sourcePath = nativePath(source);
-        // Also checked before opening, since opening a device or a pipe has side effects.
-        if (!hasAnEnd(statusOf(sourcePath))) {
+        const ReadableFile from(nativePath(source));
+        if (!from.isUsable()) {
             return false;
         }
-        const Descriptor from = openFile(sourcePath.c_str(), O_RDONLY | O_NONBLOCK);
-        const std::optional<struct stat> status = statusOf(from);
-        if (!hasAnEnd(status)) {
-            return false;
+        WholeFile to = WholeFile::open(nativePath(target), &*from.status);
+        if (!to.isOpen()) {
+            return to.isSource();
         }
-        const std::string path = nativePath(target);
-        const std::optional<struct stat> there = statusOf(path);
-        if (there && there->st_dev == status->st_dev && there->st_ino == status->st_ino) {
-            return true;
-        }
-        CopyTarget to = openCopyTarget(path);
-        if (!to.file.isOpen()) {
-            return false;
-        }
-        const bool done = fillCopy(from, to);
-        if (!done && to.created) {
-            unlink(path.c_str());
-        }
-        return done;
+        return noted(descriptor_io::copyAll(from.file, to.descriptor())) && to.commit();
     }
 
     bool deleteFile(const OrxString& name) override {
         const std::string path = nativePath(name);
-        return !isDirectory(statusOf(path)) && unlink(path.c_str()) == 0;
+        return !isDirectory(statusOf(path)) && noted(unlink(path.c_str()) == 0);
     }
 
     bool makeDirectories(const OrxString& name) override {
@@ -198,13 +226,17 @@ public:
     }
 
     std::unique_ptr<InputFile> openForReading(const OrxString& name) override {
-        Descriptor file = openFile(nativePath(name).c_str(), O_RDONLY);
-        return isFile(statusOf(file)) ? std::make_unique<NativeInputFile>(std::move(file))
-                                      : nullptr;
+        ReadableFile file(nativePath(name));
+        return file.isUsable() ? std::make_unique<NativeInputFile>(std::move(file.file)) : nullptr;
     }
 
     std::unique_ptr<OutputFile> openForWriting(const OrxString& name) override {
         return outputFile(name, O_TRUNC);
+    }
+
+    std::unique_ptr<OutputFile> openForReplacing(const OrxString& name) override {
+        WholeFile file = WholeFile::open(nativePath(name));
+        return file.isOpen() ? std::make_unique<WholeOutputFile>(std::move(file)) : nullptr;
     }
 
     std::unique_ptr<OutputFile> openForAppending(const OrxString& name) override {
@@ -218,10 +250,13 @@ public:
             return false;
         }
         if (const std::optional<struct stat> there = statusOf(to)) {
+            if (!hasAnEnd(there)) {
+                return false;
+            }
             // Keeps the permissions, as far as this user may set them.
             static_cast<void>(chmod(from.c_str(), there->st_mode & allPermissions));
         }
-        return rename(from.c_str(), to.c_str()) == 0;
+        return noted(rename(from.c_str(), to.c_str()) == 0);
     }
 
     bool rewriteFile(const OrxString& name, std::string_view content) override {

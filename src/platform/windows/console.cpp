@@ -41,6 +41,8 @@ bool Console::errorsGoToTerminal() noexcept {
     return _isatty(_fileno(stderr)) != 0;
 }
 
+void Console::reportFailedWrites() noexcept {}
+
 void Console::readInputAsBytes() noexcept {
     _setmode(_fileno(stdin), _O_BINARY);
 }

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/file_failure.h"
+
 namespace quillmark {
 
 namespace {
@@ -24,7 +26,10 @@ public:
             return taken;
         }
         // The end of a pipe is reported as an error.
-        failed_ = failed_ || GetLastError() != ERROR_BROKEN_PIPE;
+        if (GetLastError() != ERROR_BROKEN_PIPE) {
+            FileFailure::note(static_cast<int>(GetLastError()));
+            failed_ = true;
+        }
         return 0;
     }
     bool failed() const override { return failed_; }

@@ -4,9 +4,11 @@
 #include <utility>
 
 #include "foundation/module_lifetime.h"
+#include "platform/file_failure.h"
 #include "platform/file_system.h"
 #include "platform/windows/lock_file.h"
 #include "platform/windows/native_file.h"
+#include "platform/windows/whole_file.h"
 #include "platform/windows/wide_name.h"
 
 namespace quillmark {
@@ -15,8 +17,24 @@ namespace {
 
 constexpr DWORD shareWithEverybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 
+/// Passes the result of a system call on, and notes the reason of a failure.
+bool noted(bool done) noexcept {
+    if (!done) {
+        FileFailure::note(static_cast<int>(GetLastError()));
+    }
+    return done;
+}
+
 DWORD attributesOf(const std::wstring& name) noexcept {
-    return name.empty() ? INVALID_FILE_ATTRIBUTES : GetFileAttributesW(name.c_str());
+    if (name.empty()) {
+        return INVALID_FILE_ATTRIBUTES;
+    }
+    const DWORD attributes = GetFileAttributesW(name.c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES &&
+        !FileFailure::meansMissing(static_cast<int>(GetLastError()))) {
+        FileFailure::note(static_cast<int>(GetLastError()));
+    }
+    return attributes;
 }
 
 bool isDirectory(DWORD attributes) noexcept {
@@ -39,7 +57,7 @@ std::optional<BY_HANDLE_FILE_INFORMATION> informationOf(const std::wstring& name
     const Handle file = openFile(name, noAccess, OPEN_EXISTING);
     BY_HANDLE_FILE_INFORMATION information{};
     const bool known =
-        file.isOpen() && GetFileInformationByHandle(file.get(), &information) != FALSE;
+        noted(file.isOpen() && GetFileInformationByHandle(file.get(), &information) != FALSE);
     return known ? std::optional(information) : std::nullopt;
 }
 
@@ -54,20 +72,16 @@ constexpr std::uint64_t joinHalves(DWORD high, DWORD low) noexcept {
     return (std::uint64_t{high} << 32U) | low;
 }
 
-/// A copy of a read-only file is read-only as well. The next copy must be able to replace it.
-void makeWritable(const std::wstring& name) noexcept {
-    const DWORD attributes = attributesOf(name);
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
-        SetFileAttributesW(name.c_str(), attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY));
-    }
-}
-
 bool makeDirectoryChain(const std::wstring& name) noexcept {
     if (CreateDirectoryW(name.c_str(), nullptr) != FALSE) {
         return true;
     }
-    if (GetLastError() != ERROR_PATH_NOT_FOUND) {
-        return isDirectory(attributesOf(name));
+    if (const DWORD reason = GetLastError(); reason != ERROR_PATH_NOT_FOUND) {
+        const bool isThere = isDirectory(attributesOf(name));
+        if (!isThere) {
+            FileFailure::note(static_cast<int>(reason));
+        }
+        return isThere;
     }
     const std::size_t separator = name.find_last_of(L'\\');
     const std::size_t lastOfParent =
@@ -75,6 +89,10 @@ bool makeDirectoryChain(const std::wstring& name) noexcept {
     return lastOfParent != std::wstring::npos &&
            makeDirectoryChain(name.substr(0, lastOfParent + 1)) &&
            (CreateDirectoryW(name.c_str(), nullptr) != FALSE || isDirectory(attributesOf(name)));
+}
+
+std::unique_ptr<OutputFile> output(Handle file) {
+    return noted(file.isOpen()) ? makeOutputFile(std::move(file)) : nullptr;
 }
 
 class NativeFileSystem final : public FileSystem {
@@ -107,22 +125,14 @@ public:
         if (!information || isDirectory(information->dwFileAttributes)) {
             return false;
         }
-        const DWORD before = attributesOf(to);
-        if (isFile(before) && isSameFile(*information, to)) {
+        if (isFile(attributesOf(to)) && isSameFile(*information, to)) {
             return true;
         }
-        if (CopyFileW(from.c_str(), to.c_str(), FALSE) == FALSE) {
-            if (before == INVALID_FILE_ATTRIBUTES) {
-                DeleteFileW(to.c_str());
-            }
-            return false;
-        }
-        makeWritable(to);
-        return true;
+        return copyWholeFile(from, to);
     }
 
     bool deleteFile(const OrxString& name) override {
-        return DeleteFileW(wideName(name).c_str()) != FALSE;
+        return noted(DeleteFileW(wideName(name).c_str()) != FALSE);
     }
 
     bool makeDirectories(const OrxString& name) override {
@@ -145,16 +155,26 @@ public:
     }
 
     std::unique_ptr<InputFile> openForReading(const OrxString& name) override {
-        return makeInputFile(openFile(wideName(name), GENERIC_READ, OPEN_EXISTING));
+        Handle file = openFile(wideName(name), GENERIC_READ, OPEN_EXISTING);
+        // Reading from a device or a pipe may wait forever.
+        if (noted(file.isOpen()) && GetFileType(file.get()) != FILE_TYPE_DISK) {
+            FileFailure::noteNotRegular();
+            return nullptr;
+        }
+        return makeInputFile(std::move(file));
     }
 
     std::unique_ptr<OutputFile> openForWriting(const OrxString& name) override {
-        return makeOutputFile(openFile(wideName(name), GENERIC_WRITE, CREATE_ALWAYS));
+        return output(openFile(wideName(name), GENERIC_WRITE, CREATE_ALWAYS));
+    }
+
+    std::unique_ptr<OutputFile> openForReplacing(const OrxString& name) override {
+        return openWholeFile(wideName(name));
     }
 
     std::unique_ptr<OutputFile> openForAppending(const OrxString& name) override {
         // With this access alone, every write goes to the current end of the file.
-        return makeOutputFile(openFile(wideName(name), FILE_APPEND_DATA, OPEN_ALWAYS));
+        return output(openFile(wideName(name), FILE_APPEND_DATA, OPEN_ALWAYS));
     }
 
     bool replaceFile(const OrxString& source, const OrxString& target) override {

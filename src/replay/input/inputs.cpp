@@ -1,12 +1,14 @@
 #include "replay/input/inputs.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 
 #include "command_line/utf8_path.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/call_stream_reader.h"
+#include "replay/input/host_file.h"
 #include "replay/input/recording_reader.h"
 
 namespace quillmark::replay {
@@ -33,9 +35,15 @@ private:
 
 std::unique_ptr<std::istream> openFile(const std::string& name) {
     const std::filesystem::path path = pathFrom(name);
+    std::error_code ignored;
+    if (std::filesystem::is_directory(path, ignored)) {
+        errno = EISDIR;
+        refuseFile(name);
+    }
+    errno = 0;
     auto file = std::make_unique<LargeFile>(path);
-    if (!file->is_open() || std::filesystem::is_directory(path)) {
-        throw BadInput("cannot read " + name);
+    if (!file->is_open()) {
+        refuseFile(name);
     }
     return file;
 }

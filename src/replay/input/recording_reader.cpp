@@ -139,10 +139,20 @@ ReadResult RecordingReader::malformed(std::string problem) {
     return ReadResult::malformed;
 }
 
+/// An input that was meant as a call stream, but begins with an object or a comment.
+bool RecordingReader::looksForeign() {
+    const std::string_view rest = input_.view();
+    const std::size_t first = rest.find_first_not_of(" \t\r\n");
+    return recorded_.empty() && first != std::string_view::npos &&
+           (rest[first] == '{' || rest[first] == '#');
+}
+
 ReadResult RecordingReader::readCall(Call& call) {
     const std::optional<RecordedOperation> what = recordedOperation(input_.view());
     if (!what) {
-        return malformed("not a line of a recorded trace");
+        return malformed(looksForeign() ? "not a call: a call stream has one JSON array per line, "
+                                          "for instance [\"insertText\",\"Hello\"]"
+                                        : "not a line of a recorded trace");
     }
     const std::string name = what->operation->name;
     if (hasText(what->form) && input_.view().substr(what->arguments, 1) != "\"") {

@@ -39,6 +39,7 @@ private:
     std::optional<Extent> findExtent(const RecordedOperation& what);
     bool skipToCall();
     void dropLine();
+    [[nodiscard]] bool looksForeign();
     ReadResult readCall(Call& call);
     ReadResult malformed(std::string problem);
 

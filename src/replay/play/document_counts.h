@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 #include "host/document_observer.h"
 #include "replay/play/opening_page.h"
@@ -21,8 +22,13 @@ public:
     void contentsEntryAdded() override { ++contentsEntries; }
     void unresolvedReferences(const OrxString& /*fileName*/, std::size_t count) override {
         unresolved += count;
+        if (unresolvedFound) {
+            unresolvedFound();
+        }
     }
 
+    /// Called before the driver reports which references they are; may be empty.
+    std::function<void()> unresolvedFound;
     std::size_t pages = 0;
     std::size_t files = 0;
     std::size_t contentsEntries = 0;

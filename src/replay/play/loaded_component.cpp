@@ -26,7 +26,7 @@ std::unique_ptr<LateBoundDocument> LoadedComponent::makeDocument() {
     }
 }
 
-std::shared_ptr<void> LoadedComponent::provide(const HostServices& services) {
+std::shared_ptr<ProvidedServices> LoadedComponent::provide(const HostServices& services) {
     return std::make_shared<ServiceRegistration>(component().hostServices(), services);
 }
 

@@ -7,6 +7,7 @@
 #include "dochtml/client.h"
 #include "replay/play/late_bound_document.h"
 #include "replay/services/host_services.h"
+#include "replay/services/provided_services.h"
 
 namespace quillmark::replay {
 
@@ -23,7 +24,7 @@ public:
 
     [[nodiscard]] std::unique_ptr<LateBoundDocument> makeDocument();
     /// Provides the services to the component for as long as the result lives.
-    [[nodiscard]] std::shared_ptr<void> provide(const HostServices& services);
+    [[nodiscard]] std::shared_ptr<ProvidedServices> provide(const HostServices& services);
 
 private:
     [[nodiscard]] const Component& component();

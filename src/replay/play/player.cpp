@@ -126,10 +126,13 @@ bool Player::refuses(const Call& create) const {
     return true;
 }
 
-void Player::countLost(std::span<const Argument> arguments) {
-    for (const Argument& argument : arguments) {
-        if (const auto* const text = std::get_if<WideText>(&argument)) {
-            charactersLost_ += SysText::countLost(*text);
+void Player::countLost(const Call& call) {
+    for (const Argument& argument : call.given()) {
+        const auto* const text = std::get_if<WideText>(&argument);
+        const std::size_t lost = text != nullptr ? SysText::countLost(*text) : 0;
+        charactersLost_ += lost;
+        if (lost > 0 && listeners_.lost) {
+            listeners_.lost(call.line, *text);
         }
     }
 }
@@ -151,7 +154,7 @@ bool Player::playCall(Call& call) {
     if (opens) {
         adaptCreate(call);
     }
-    countLost(call.given());
+    countLost(call);
     const std::size_t caught = exceptions_.caught();
     invoke(*call.operation, call.given());
     if (opens) {

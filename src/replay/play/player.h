@@ -47,6 +47,8 @@ public:
         std::function<void(std::size_t line, const std::string& why)> refused;
         /// After every call, with the number of calls so far.
         std::function<void(std::size_t calls)> played;
+        /// A text that the code page cannot hold, and the line of its call.
+        std::function<void(std::size_t line, WideText text)> lost = {};
     };
 
     /// The monitors stay the caller's.
@@ -67,7 +69,7 @@ private:
     bool playCall(Call& call);
     bool tryCall(Call& call);
     bool refuses(const Call& create) const;
-    void countLost(std::span<const Argument> arguments);
+    void countLost(const Call& call);
     void invoke(const Operation& operation, std::span<const Argument> arguments);
     void adaptCreate(Call& call);
     ReadResult consumeRecordedLines(CallSource& source, Call& call);

@@ -107,10 +107,7 @@ void ServiceRegistration::provide() {
         const DochtmlText directory = textOf(drive.directory);
         check(component_->setDrive(drive.letter, &directory));
     }
-    if (services_.traceListener != nullptr) {
-        const DochtmlTraceListener record = callbacksOf(*services_.traceListener);
-        check(component_->setTraceListener(&record));
-    }
+    traceLevelChanged();
     if (services_.exceptionLog != nullptr) {
         const DochtmlExceptionLog record = callbacksOf(*services_.exceptionLog);
         check(component_->setExceptionLog(&record));
@@ -118,6 +115,13 @@ void ServiceRegistration::provide() {
     if (services_.observer != nullptr) {
         const DochtmlObserver record = callbacksOf(*services_.observer);
         check(component_->setObserver(&record));
+    }
+}
+
+void ServiceRegistration::traceLevelChanged() {
+    if (component_ && services_.traceListener != nullptr) {
+        const DochtmlTraceListener record = callbacksOf(*services_.traceListener);
+        check(component_->setTraceListener(&record));
     }
 }
 

@@ -3,16 +3,18 @@
 #include "dochtml/com_pointer.h"
 #include "dochtml/host_services.h"
 #include "replay/services/host_services.h"
+#include "replay/services/provided_services.h"
 
 namespace quillmark::replay {
 
 /// Registers host services with a component for as long as it lives.
-class ServiceRegistration {
+class ServiceRegistration final : public ProvidedServices {
 public:
     ServiceRegistration(ComPointer<IHostServices> component, HostServices services);
     ServiceRegistration(const ServiceRegistration&) = delete;
     ServiceRegistration& operator=(const ServiceRegistration&) = delete;
-    ~ServiceRegistration();
+    ~ServiceRegistration() override;
+    void traceLevelChanged() override;
 
 private:
     void provide();

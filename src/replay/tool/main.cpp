@@ -12,6 +12,7 @@ int runProgram(int argc, char** argv) {
     using quillmark::Console;
     std::ios::sync_with_stdio(false);
     Console::readInputAsBytes();
+    Console::reportFailedWrites();
     quillmark::replay::LoadedComponent component(Console::executablePath());
     return quillmark::replay::runTool(
         Console::arguments(argc, argv),

@@ -70,6 +70,8 @@ void addOptions(OptionParser& parser, Options& options) {
     addDriveOption(parser, options.drives);
     addLogs(parser, options);
     addConfinement(parser, options);
+    parser.addFlag("--strict", "let warnings and unresolved references fail", options.strict);
+    parser.addFlag("-v,--verbose", "name all warnings, not only the first three", options.verbose);
     parser.addFlag("-q,--quiet", "show no progress and no summary", options.quiet);
     parser.addFlag("-h,--help", "show this help", options.help);
     parser.addFlag("--version", "show the version", options.version);

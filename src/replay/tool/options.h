@@ -33,6 +33,8 @@ struct Options {
     std::optional<std::int16_t> traceLevel;
     std::optional<std::string> logFile;
     std::optional<std::string> exceptionFile;
+    bool strict = false;
+    bool verbose = false;
     /// Directories that a confined run may read.
     std::vector<std::string> allowRead;
     bool confine = false;

@@ -1,10 +1,9 @@
 #include "replay/tool/requested_services.h"
 
-#include <filesystem>
-
 #include "command_line/default_install_dir.h"
 #include "platform/sys_text.h"
 #include "replay/input/bad_input.h"
+#include "replay/input/host_file.h"
 #include "replay/services/settings_overlay.h"
 #include "settings/settings_table.h"
 
@@ -16,11 +15,7 @@ std::shared_ptr<SettingsStore> openStore(const Options& options, const OptionFil
     std::shared_ptr<SettingsStore> store;
     if (options.settingsFile) {
         // A pipe can be read only once, but settings are read whenever they are needed.
-        const std::filesystem::path file = files.native(*options.settingsFile);
-        if (!std::filesystem::exists(file) || std::filesystem::is_directory(file) ||
-            std::filesystem::is_fifo(file)) {
-            throw BadInput("cannot read " + *options.settingsFile);
-        }
+        checkRegularFile(files.native(*options.settingsFile), *options.settingsFile);
         store = makeIniSettingsStore(files.driver(*options.settingsFile));
     } else {
         store = makeUserSettingsStore();

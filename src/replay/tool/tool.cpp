@@ -17,9 +17,11 @@
 #include "replay/play/player.h"
 #include "replay/services/callback_guard.h"
 #include "replay/tool/confinement_options.h"
+#include "replay/tool/findings.h"
 #include "replay/tool/lazy_file.h"
 #include "replay/tool/messages.h"
 #include "replay/tool/requested_services.h"
+#include "replay/tool/shown_names.h"
 #include "settings/settings_table.h"
 
 namespace quillmark::replay {
@@ -40,6 +42,20 @@ int reportFailure(std::ostream& errors, const std::exception& failure) {
     }
 }
 
+/// The characters of a text that the driver's code page cannot hold; of many only the first.
+std::string lostCharacters(WideText text) {
+    constexpr std::size_t most = 10;
+    std::u16string lost;
+    while (!text.empty() && lost.size() < most) {
+        const bool isPair = text.size() > 1 && SysText::countLost(text.substr(0, 2)) == 2 &&
+                            (text[0] & 0xFC00U) == 0xD800U;
+        const WideText character = text.substr(0, isPair ? 2 : 1);
+        lost += SysText::holds(character) ? WideText() : character;
+        text.remove_prefix(character.size());
+    }
+    return utf8::fromUtf16(lost);
+}
+
 /// One run of the tool over all its inputs.
 class Run {
 public:
@@ -51,19 +67,20 @@ public:
           inputs_(options.inputs, environment.input),
           services_(options, files_, environment.executable),
           messages_(environment.errors, environment.errorsGoToTerminal && !options.quiet),
-          trace_(inputs_.hasRecording()),
+          trace_(inputs_.hasRecording(), traceHandlers()),
           exceptions_(
-              [this](std::string_view reason) {
-                  ++errors_;
-                  write(SysText::toUtf8(reason));
-              },
-              exceptionWriter()) {}
+              [this](std::string_view failure) { reportDriver(failure, trace_.takeReason()); },
+              exceptionWriter()) {
+        checkOutputName();
+        counts_.unresolvedFound = [this] { hearReports(findings_.wantsUnresolved()); };
+        trace_.hearReports(options_.verbose);
+    }
 
     int play() {
         makeLogDirectory();
         warnOfUnknownSettings();
+        provided_ = environment_.provideServices(hostServices());
         {
-            const std::shared_ptr<void> provided = environment_.provideServices(hostServices());
             Player player(playerSettings(), listeners(), trace_, exceptions_);
             for (const Inputs::Input& input : inputs_.all()) {
                 if (!playInput(player, input)) {
@@ -74,6 +91,7 @@ public:
             player.finish();
             charactersLost_ = player.charactersLost();
         }
+        provided_.reset();
         messages_.clearProgress();
         if (const std::size_t failed = failedCallbacks - failedBefore_; failed > 0) {
             errors_ += failed;
@@ -82,8 +100,13 @@ public:
         checkOutput();
         if (!options_.quiet) {
             writeSummary();
+        } else if (isRefused()) {
+            findings_.write(messages_, std::string(toolName));
         }
-        return badInput_ ? exitBadInput : errors_ > 0 ? exitFailed : exitDone;
+        if (badInput_) {
+            return exitBadInput;
+        }
+        return errors_ > 0 || isRefused() || !environment_.errors ? exitFailed : exitDone;
     }
 
 private:
@@ -95,6 +118,37 @@ private:
         }
         reportAt(source->line(), source->problem());
         return false;
+    }
+
+    /// What is otherwise fine, but not with "--strict".
+    [[nodiscard]] bool isRefused() const noexcept {
+        return options_.strict &&
+               (trace_.warnings() > 0 || counts_.unresolved > 0 || unknownSettings_ > 0);
+    }
+
+    TraceMonitor::Handlers traceHandlers() {
+        return {[this](std::string_view failure, std::string_view reason) {
+                    reportDriver(failure, reason);
+                },
+                [this](std::string_view warning) {
+                    findings_.addWarning(shown_.message(warning, {}));
+                },
+                [this](std::string_view report) {
+                    const std::size_t lineEnd = std::min(report.find('\n'), report.size());
+                    constexpr std::string_view opening = "Unresolved references on page ";
+                    findings_.addUnresolved(
+                        shown_.path(report.substr(opening.size(), lineEnd - opening.size())),
+                        report.substr(lineEnd));
+                }};
+    }
+
+    /// Reports are on for the pages whose unresolved references the summary names.
+    void hearReports(bool hears) {
+        const bool wanted = hears || options_.verbose;
+        if (wanted != trace_.hearsReports()) {
+            trace_.hearReports(wanted);
+            provided_->traceLevelChanged();
+        }
     }
 
     HostServices hostServices() {
@@ -135,10 +189,15 @@ private:
                     reportAt(line, why);
                 },
                 [this](std::size_t calls) {
+                    hearReports(false);
                     constexpr std::size_t interval = 1024;
                     if (calls % interval == 0) {
                         messages_.progress(calls, counts_.pages);
                     }
+                },
+                [this](std::size_t line, WideText text) {
+                    findings_.addLost(current_->name + ":" + std::to_string(line) + ": " +
+                                      lostCharacters(text));
                 }};
     }
 
@@ -149,9 +208,15 @@ private:
         exceptionFile_.emplace(files_.native(*options_.exceptionFile));
         return [this](std::string_view message) {
             if (!exceptionFile_->write(message)) {
-                reportError("cannot write " + *options_.exceptionFile);
+                reportExceptionFile();
             }
         };
+    }
+
+    void reportExceptionFile() {
+        const std::string reason = exceptionFile_->reason();
+        reportError("cannot write " + *options_.exceptionFile +
+                    (reason.empty() ? "" : ": " + reason));
     }
 
     /// The driver creates the log file itself, and reports it if that fails.
@@ -163,10 +228,26 @@ private:
         }
     }
 
+    /// A name without a file part would make files that are hidden or in the wrong directory.
+    void checkOutputName() const {
+        if (!options_.output) {
+            return;
+        }
+        const std::string& name = *options_.output;
+        std::error_code ignored;
+        if (name.ends_with('/') || name.ends_with('\\') ||
+            std::filesystem::is_directory(files_.native(name), ignored)) {
+            throw BadInput("-o takes the name of a page, and " + name +
+                           " is a directory; name a file in it, for instance " +
+                           utf8Path(pathFrom(name) / "report.htm"));
+        }
+    }
+
     /// An unknown setting is most likely misspelled. It does no harm, so the run continues.
     void warnOfUnknownSettings() {
         for (const Options::Setting& setting : options_.settings) {
-            if (!options_.quiet && findSetting(setting.group, setting.name) == nullptr) {
+            if (findSetting(setting.group, setting.name) == nullptr) {
+                ++unknownSettings_;
                 messages_.write(std::string(toolName) + ": warning: there is no setting " +
                                 setting.group + "." + setting.name);
             }
@@ -177,11 +258,20 @@ private:
         if (!environment_.output.flush()) {
             reportError("cannot write the output");
         }
+        if (exceptionFile_ && !exceptionFile_->close()) {
+            reportExceptionFile();
+        }
     }
 
     /// Reports a problem in a line of the current input.
     void reportAt(std::size_t line, const std::string& what) {
         messages_.write(current_->name + ":" + std::to_string(line) + ": " + what);
+    }
+
+    /// Reports a failure in the driver's words. Callbacks of the driver may not throw.
+    void reportDriver(std::string_view what, std::string_view reason) {
+        ++errors_;
+        write(shown_.message(what, reason));
     }
 
     void reportError(const std::string& what) {
@@ -204,6 +294,7 @@ private:
             text += ", " + counted(charactersLost_, "character") + " lost";
         }
         messages_.write(std::string(toolName) + ": " + text);
+        findings_.write(messages_, std::string(toolName));
         writeOpeningPage();
     }
 
@@ -212,7 +303,7 @@ private:
         if (!opening.has_value()) {
             return;
         }
-        const std::string page = shownPath(opening->page);
+        const std::string page = shown_.path(opening->page);
         messages_.write(std::string(toolName) + ": " +
                         (opening->needsJava
                              ? page + " needs a browser with Java. For today's browsers add --set "
@@ -220,21 +311,12 @@ private:
                              : "open " + page));
     }
 
-    /// Relative to the directory where the tool was started, if the file is below it.
-    [[nodiscard]] std::string shownPath(const OrxString& driverName) const {
-        std::string name = SysText::toUtf8(driverName);
-        std::replace(name.begin(), name.end(), '\\', '/');
-        const std::filesystem::path path = files_.native(name);
-        const std::string fromStart = utf8Path(path.lexically_relative(start_).generic_u8string());
-        const bool isBelow = !fromStart.empty() && !fromStart.starts_with("..");
-        return isBelow ? fromStart : utf8Path(path);
-    }
-
     const Options& options_;
     const ReplayEnvironment& environment_;
     /// The driver changes the current directory.
     std::filesystem::path start_ = startDirectory();
     OptionFiles files_;
+    ShownNames shown_{files_, start_};
     /// Declared before `services_`: the settings file may be on one of the drives.
     ScopedDrives drives_;
     Inputs inputs_;
@@ -244,10 +326,14 @@ private:
     TraceMonitor trace_;
     ExceptionMonitor exceptions_;
     DocumentCounts counts_;
+    Findings findings_{options_.verbose};
+    /// Removed before what it refers to.
+    std::shared_ptr<ProvidedServices> provided_;
     const Inputs::Input* current_ = nullptr;
     std::size_t failedBefore_ = failedCallbacks;
     std::size_t errors_ = 0;
     std::size_t charactersLost_ = 0;
+    std::size_t unknownSettings_ = 0;
     bool badInput_ = false;
 };
 

@@ -9,6 +9,7 @@
 
 #include "replay/play/late_bound_document.h"
 #include "replay/services/host_services.h"
+#include "replay/services/provided_services.h"
 
 namespace quillmark::replay {
 
@@ -22,7 +23,7 @@ struct ReplayEnvironment {
     std::string executable;
     DocumentMaker makeDocument;
     /// Provides the services to the documents for as long as the result lives.
-    std::function<std::shared_ptr<void>(const HostServices&)> provideServices;
+    std::function<std::shared_ptr<ProvidedServices>(const HostServices&)> provideServices;
 };
 
 /// The exit status of the tool.

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 
 #include <fstream>
 #include <thread>
@@ -61,6 +62,47 @@ TEST_F(ClassFile, IgnoresMalformedLines) {
     KeyTree expected;
     makeKey(expected, "Key").values[""] = {KeyValue::textType, "y"};
     EXPECT_EQ(tree(), expected);
+}
+
+TEST_F(ClassFile, IsUnderstoodWithTheLineEndsOfAnotherSystem) {
+    fs::create_directories(file().parent_path());
+    std::ofstream(file()) << "[Key]\r\n@=y\r\nName=z\r\n";
+    KeyTree expected;
+    makeKey(expected, "Key").values[""] = {KeyValue::textType, "y"};
+    makeKey(expected, "Key").values["Name"] = {KeyValue::textType, "z"};
+    EXPECT_EQ(tree(), expected);
+}
+
+TEST_F(ClassFile, KeepsTheCommentsOfWhoEditedIt) {
+    fs::create_directories(file().parent_path());
+    std::ofstream(file()) << "; mine\r\n[A]\r\n; of A\r\n@=1\r\n[Gone]\n# of Gone\n";
+    KeyTree root;
+    makeKey(root, "a").values[""] = {KeyValue::textType, "2"};
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_TRUE(writeClassFile(file(), root));
+        EXPECT_THAT(content(),
+                    ::testing::EndsWith("; mine\n# of Gone\n[a]\n; of A\n@=2\n"));
+        EXPECT_THAT(content(), StartsWith("; The components"));
+        root = tree();
+    }
+}
+
+TEST_F(ClassFile, IsNotReplacedWhenItIsSomethingElse) {
+    fs::create_directories(file().parent_path());
+    for (const std::string& foreign : {std::string("a letter\n"), std::string("[A]\n@=\0\n", 8)}) {
+        std::ofstream(file(), std::ios::trunc) << foreign;
+        EXPECT_EQ(readClassFile(file()), std::nullopt);
+        EXPECT_FALSE(SUCCEEDED(registerServer()));
+        EXPECT_EQ(content(), foreign);
+    }
+}
+
+TEST_F(ClassFile, IsNotReadFromAPipe) {
+    fs::create_directories(file().parent_path());
+    ASSERT_EQ(mkfifo(file().c_str(), 0600), 0);
+    EXPECT_EQ(readClassFile(file()), std::nullopt);
+    EXPECT_FALSE(writeClassFile(file(), KeyTree()));
+    EXPECT_TRUE(fs::is_fifo(file()));
 }
 
 TEST_F(ClassFile, PassesOverKeysWithoutAName) {
