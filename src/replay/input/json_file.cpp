@@ -1,8 +1,8 @@
 #include "replay/input/json_file.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
-#include <sstream>
 
 #include "platform/sys_text.h"
 #include "replay/input/bad_input.h"
@@ -16,12 +16,16 @@ std::string readBytes(const std::filesystem::path& file, std::string_view shown)
     if (!std::filesystem::is_directory(file)) {
         input.open(file, std::ios::binary);
     }
-    std::ostringstream bytes;
-    bytes << input.rdbuf();
+    // Not through a string stream, which hides that it ran out of memory.
+    std::string bytes;
+    std::array<char, 16384> piece{};
+    while (input.read(piece.data(), piece.size()) || input.gcount() > 0) {
+        bytes.append(piece.data(), static_cast<std::size_t>(input.gcount()));
+    }
     if (!input.is_open() || input.bad()) {
         throw BadInput("cannot read " + std::string(shown));
     }
-    return std::move(bytes).str();
+    return bytes;
 }
 
 [[noreturn]] void refuse(std::string_view shown, std::string_view text, std::size_t offset,
