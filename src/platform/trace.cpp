@@ -14,6 +14,7 @@
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 #include "platform/system_facts.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark {
 
@@ -22,7 +23,8 @@ constinit ProcessWide<TraceListener*> Trace::listener_;
 /// A log file, shared by every trace of the process that has it open.
 class Trace::Log {
 public:
-    explicit Log(OrxString name) : name_(std::move(name)) {}
+    /// The name is in the encoding in force; the log outlives that.
+    explicit Log(OrxString name) : name_(std::move(name)), encoding_(TextEncoding::current()) {}
 
     [[nodiscard]] bool failed() const noexcept { return failed_.load(std::memory_order_relaxed); }
     /// After a new `open` a log that has failed is tried again.
@@ -32,7 +34,8 @@ public:
     /// exception log, once. The document goes on.
     void write(std::string_view text) {
         if (failsNow(text)) {
-            OrxException::logCatch("Error writing to file: " + name_);
+            OrxException::logCatch("Error writing to file: " +
+                                   TextEncoding::current().recoded(name_, encoding_));
         }
     }
 
@@ -43,6 +46,7 @@ private:
             return false;
         }
         if (file_ == nullptr) {
+            const TextEncoding::Scope scope(encoding_);
             file_ = FileSystem::current().openForAppending(name_);
         }
         const bool done =
@@ -64,6 +68,7 @@ private:
     }
 
     const OrxString name_;
+    const TextEncoding& encoding_;
     std::mutex mutex_;
     std::unique_ptr<OutputFile> file_;
     std::atomic<bool> failed_{false};
@@ -91,8 +96,10 @@ OrxString logFileName(const OrxString& name) {
     return SysDirectory::getSpecificPath(dir, name.isEmpty() ? OrxString("dochtml.log") : name);
 }
 
-OrxString logKey(OrxString fileName) {
-    return system_facts::namesIgnoreCase() ? fileName.toLower() : fileName;
+/// Documents in different encodings spell the same name differently.
+OrxString logKey(const OrxString& fileName) {
+    OrxString key = TextEncoding::current().toUtf8(fileName);
+    return system_facts::namesIgnoreCase() ? key.toLower() : key;
 }
 
 /// All logs of the process, by key. `T` is the private log class of `Trace`.

@@ -132,8 +132,7 @@ TEST_F(RewrittenFile, IsNeverMoreReadableThanTheOldOne) {
     std::thread observer([&] {
         while (!done) {
             std::error_code ignored;
-            for (const auto& entry :
-                 std::filesystem::directory_iterator(dir.native(), ignored)) {
+            for (const auto& entry : std::filesystem::directory_iterator(dir.native(), ignored)) {
                 struct stat status {};
                 if (lstat(entry.path().c_str(), &status) == 0) {
                     seen |= status.st_mode & 07777U;

@@ -96,8 +96,7 @@ TEST_F(AtATerminal, LettersAreUtf8InEveryLocale) {
     for (const char* const locale : {"C.UTF-8", "C"}) {
         keep("");
         start(locale);
-        answer("Images directory [pix]: ",
-               std::string("caf\xC3\xA9\xC3\xA8") + backspace + "\r");
+        answer("Images directory [pix]: ", std::string("caf\xC3\xA9\xC3\xA8") + backspace + "\r");
         answer("documents directory [docs]: ", ctrlD);
         EXPECT_EQ(status(), 0);
         EXPECT_EQ(kept(), "[Html]\nHtmlPixDir=caf\xC3\xA9\n") << locale;

@@ -8,8 +8,8 @@
 
 namespace quillmark {
 
-/// The settings of one document, as `create` reads them. Before the first `create` they have the
-/// values below, which are not always the defaults of the stored settings.
+/// The settings of one document, as `create` reads them, in the encoding in force. Before the first
+/// `create` they have the values below, which are not always the defaults of the stored settings.
 struct DocumentSettings {
     OrxString pixDir;          // image directory, full path
     OrxString externalDocDir;  // directory for copied documents, full path
@@ -47,6 +47,9 @@ struct DocumentSettings {
     /// version 7.
     [[nodiscard]] bool readIniFile();
 };
+
+/// The encoding that the setting "CharSet" asks for.
+[[nodiscard]] const TextEncoding& encodingIn(const RegisterCache& settings);
 
 /// The directory of the user's own files, read from the store at each call.
 [[nodiscard]] OrxString userFilesDir();

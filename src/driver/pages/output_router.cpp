@@ -37,6 +37,15 @@ void OutputRouter::freeSections() noexcept {
     footer_.wasOpened = false;
 }
 
+void OutputRouter::recode(const TextEncoding& from, const TextEncoding& to) {
+    bodyState_.recode(from, to);
+    for (DocHtmlSection* const open : {header_.get(), footer_.get()}) {
+        if (open != nullptr) {
+            open->recode(from, to);
+        }
+    }
+}
+
 void OutputRouter::makeCurrent(SectionMode mode) noexcept {
     mode_ = mode;
     DocHtmlSection* const open = section(mode);

@@ -4,7 +4,6 @@
 #include <fstream>
 #include <sstream>
 
-#include "platform/sys_text.h"
 #include "replay/input/bad_input.h"
 
 namespace quillmark::replay {
@@ -53,8 +52,8 @@ std::string_view utf8Text(const JsonValue& value) {
     return {value.GetString(), value.GetStringLength()};
 }
 
-OrxString narrowText(const JsonValue& value) {
-    return SysText::fromUtf8(utf8Text(value));
+OrxString ownedText(const JsonValue& value) {
+    return OrxString(utf8Text(value));
 }
 
 }  // namespace quillmark::replay

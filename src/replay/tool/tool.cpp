@@ -10,7 +10,7 @@
 #include "command_line/utf8_path.h"
 #include "foundation/utf8.h"
 #include "platform/drive_table.h"
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/inputs.h"
 #include "replay/play/document_counts.h"
@@ -55,7 +55,7 @@ public:
           exceptions_(
               [this](std::string_view reason) {
                   ++errors_;
-                  write(SysText::toUtf8(reason));
+                  write(TextEncoding::current().toUtf8(reason));
               },
               exceptionWriter()) {}
 
@@ -114,10 +114,13 @@ private:
     Player::Settings playerSettings() {
         Player::Settings settings;
         settings.makeDocument = environment_.makeDocument;
+        settings.store = services_.services().settings;
         settings.startDirectory = driverPath(utf8Path(startDirectory()));
+        checkFileName(settings.startDirectory, services_.encoding());
         settings.traceLevel = options_.traceLevel;
         if (options_.output) {
             settings.outputName = files_.driver(*options_.output);
+            checkFileName(*settings.outputName, services_.encoding());
         }
         return settings;
     }
@@ -201,7 +204,8 @@ private:
             text += ", " + counted(trace_.warnings(), "warning");
         }
         if (charactersLost_ > 0) {
-            text += ", " + counted(charactersLost_, "character") + " lost";
+            text += ", " + counted(charactersLost_, "character") +
+                    " lost (--set Html.CharSet=UTF-8 keeps them)";
         }
         messages_.write(std::string(toolName) + ": " + text);
         writeOpeningPage();
@@ -222,7 +226,7 @@ private:
 
     /// Relative to the directory where the tool was started, if the file is below it.
     [[nodiscard]] std::string shownPath(const OrxString& driverName) const {
-        std::string name = SysText::toUtf8(driverName);
+        std::string name = driverName.str();
         std::replace(name.begin(), name.end(), '\\', '/');
         const std::filesystem::path path = files_.native(name);
         const std::string fromStart = utf8Path(path.lexically_relative(start_).generic_u8string());
@@ -230,6 +234,8 @@ private:
         return isBelow ? fromStart : utf8Path(path);
     }
 
+    /// The tool itself keeps all texts and names in UTF-8.
+    const TextEncoding::Scope scope_{TextEncoding::utf8()};
     const Options& options_;
     const ReplayEnvironment& environment_;
     /// The driver changes the current directory.

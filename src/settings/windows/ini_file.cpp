@@ -4,18 +4,19 @@
 #include <string>
 
 #include "platform/drive_table.h"
+#include "platform/windows/wide_name.h"
 #include "platform/windows/windows_api.h"
 
 namespace quillmark {
 
 OrxString IniFile::read(const OrxString& fileName, const OrxString& section, const OrxString& key,
                         const OrxString& fallback, std::size_t bufferSize) {
-    std::string buffer(std::max<std::size_t>(bufferSize, 1), '\0');
-    const DWORD length =
-        GetPrivateProfileStringA(section.data(), key.data(), fallback.data(), buffer.data(),
-                                 static_cast<DWORD>(buffer.size()), nativePath(fileName).c_str());
+    std::wstring buffer(std::max<std::size_t>(bufferSize, 1), L'\0');
+    const DWORD length = GetPrivateProfileStringW(
+        wideText(section).c_str(), wideText(key).c_str(), wideText(fallback).c_str(), buffer.data(),
+        static_cast<DWORD>(buffer.size()), wideText(nativePath(fileName)).c_str());
     buffer.resize(length);
-    return buffer;
+    return narrowText(buffer);
 }
 
 }  // namespace quillmark

@@ -80,8 +80,8 @@ constexpr std::array<std::u16string_view, 8> asciiNames = {u"a",    u"b",   u"TO
 constexpr std::array<std::u16string_view, 8> asciiFiles = {
     u"a.gif", u"b.gif", u"c d.doc", u"e.txt", u"f.txt", u"g.doc", u"h.jpg", u"i~.txt"};
 
-constexpr Vocabulary latin{latinWords, latinNames, latinFiles};
-constexpr Vocabulary ascii{asciiWords, asciiNames, asciiFiles};
+constexpr Vocabulary latin{latinWords, latinNames, latinFiles, " <\xE4>\r\ntwo\n"};
+constexpr Vocabulary ascii{asciiWords, asciiNames, asciiFiles, " <a>\r\ntwo\n"};
 
 constexpr std::array<std::u16string_view, 9> styles = {
     u"Normal",        u"Heading 1",     u"Heading 2", u"Heading 3", u"Heading 8",
@@ -268,7 +268,7 @@ void RandomCalls::oneLink(IDocument& document, std::uint32_t kind) {
             break;
         default:
             first = file();
-            document.insertFile(first, static_cast<std::int16_t>(below(3)));
+            document.insertFile(first, static_cast<std::int16_t>(1 + below(3)));
     }
 }
 
@@ -308,7 +308,8 @@ WrittenDocument writtenRandomly(std::uint32_t seed, const Vocabulary& vocabulary
     MemoryFileSystem files;
     const InstalledFileSystem installed(files);
     for (const std::u16string_view name : vocabulary.fileNames) {
-        files.put("C:\\in\\" + bytesOf(name), "one " + bytesOf(name) + " <\xE4>\r\ntwo\n");
+        files.put("C:\\in\\" + bytesOf(name),
+                  "one " + bytesOf(name) + std::string(vocabulary.fileText));
     }
     const CapturingExceptionLog exceptions;
     const CapturingTrace trace;

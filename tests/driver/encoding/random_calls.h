@@ -21,6 +21,8 @@ struct Vocabulary {
     /// Files that exist in "C:\in", and directories. They may hold any character that a file name
     /// can hold on all systems.
     std::span<const std::u16string_view> fileNames;
+    /// What each of these files holds after its name.
+    std::string_view fileText;
 };
 
 /// Texts of ASCII and of the 8-bit code page, and some characters that it does not hold.
