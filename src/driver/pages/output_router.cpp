@@ -39,11 +39,8 @@ void OutputRouter::freeSections() noexcept {
 
 void OutputRouter::recode(const TextEncoding& from, const TextEncoding& to) {
     bodyState_.recode(from, to);
-    for (DocHtmlSection* const open : {header_.get(), footer_.get()}) {
-        if (open != nullptr) {
-            open->recode(from, to);
-        }
-    }
+    header_.section->recode(from, to);
+    footer_.section->recode(from, to);
 }
 
 void OutputRouter::makeCurrent(SectionMode mode) noexcept {
