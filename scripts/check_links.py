@@ -24,8 +24,10 @@ from html.parser import HTMLParser
 from pathlib import Path
 from urllib.parse import unquote
 
-# A page has bytes of an 8-bit code page; names in links are compared with names on the disk.
-PAGE_ENCODING = "latin-1"
+# A page says when it is in UTF-8; every other one has bytes of an 8-bit code page. Names in links
+# are compared with names on the disk.
+UTF8_PAGE = re.compile(rb'CONTENT="text/html; charset=utf-8"', re.IGNORECASE)
+CODE_PAGE = "latin-1"
 PAGE_SUFFIXES = {".htm", ".html"}
 
 # One-letter schemes are drives: "C|/docs/a.doc" comes with a bar, but be lenient.
@@ -49,8 +51,10 @@ REFRESH_TARGET = re.compile(r";\s*URL\s*=\s*['\"]?([^'\"]+)", re.IGNORECASE)
 class Page(HTMLParser):
     """The anchors of a page and its links with their lines."""
 
-    def __init__(self, text):
+    def __init__(self, content):
         super().__init__(convert_charrefs=True)
+        self.encoding = "utf-8" if UTF8_PAGE.search(content) else CODE_PAGE
+        text = content.decode(self.encoding, "replace")
         self.anchors, self.links = set(), []
         self.in_script = False
         self.feed(text)
@@ -98,11 +102,11 @@ class DocumentSet:
         self.pages = {}
         for name in sorted(self.files):
             if posixpath.splitext(name)[1].lower() in PAGE_SUFFIXES:
-                self.pages[name] = Page((self.root / name).read_text(PAGE_ENCODING))
+                self.pages[name] = Page((self.root / name).read_bytes())
 
     def file_of(self, page, path):
         """The file that a link's path names as seen from a page, or None."""
-        for spelling in (path, unquote(path, PAGE_ENCODING)):
+        for spelling in (path, unquote(path, self.pages[page].encoding)):
             if not spelling:
                 return page
             name = posixpath.normpath(posixpath.join(posixpath.dirname(page), spelling))
@@ -111,8 +115,8 @@ class DocumentSet:
         return None
 
     def has_anchor(self, name, fragment):
-        anchors = self.pages[name].anchors
-        return fragment in anchors or unquote(fragment, PAGE_ENCODING) in anchors
+        page = self.pages[name]
+        return fragment in page.anchors or unquote(fragment, page.encoding) in page.anchors
 
 
 class Checker:

@@ -4,6 +4,7 @@
 
 #include "command_line/installed_files.h"
 #include "platform/drive_table.h"
+#include "platform/text_encoding.h"
 #include "settings/settings_table.h"
 
 namespace quillmark {
@@ -20,6 +21,7 @@ DefaultInstallDir::DefaultInstallDir(std::shared_ptr<SettingsStore> store,
                                      const std::string& executable)
     : store_(std::move(store)) {
     if (const auto directory = installedSupportFiles(executable)) {
+        const TextEncoding::Scope scope(TextEncoding::utf8());
         directory_ = driverPath(*directory);
     }
 }

@@ -20,7 +20,7 @@ public:
                              const OrxString& value) override;
     [[nodiscard]] OrxString problem() const override { return store_->problem(); }
 
-    /// The default in the driver's form; empty when no support files are installed.
+    /// The default in the driver's form, in UTF-8; empty when no support files are installed.
     [[nodiscard]] const OrxString& directory() const noexcept { return directory_; }
 
 private:

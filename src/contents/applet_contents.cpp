@@ -6,7 +6,6 @@
 #include "contents/locate_script.h"
 #include "page/doc_html_page.h"
 #include "page/links.h"
-#include "platform/sys_file.h"
 
 namespace quillmark {
 
@@ -112,7 +111,7 @@ void appendAppletScript(const ContentsContext& context, const IconArchives& arch
             "\"'>\");\n");
     }
     appendIconParameters(context, archives, page);
-    appendScriptedParameter("TOCFILE", SysFile::stripDir(treeFile), page);
+    appendScriptedParameter("TOCFILE", links::fromFilePart(treeFile), page);
     // The two variants spell the end tag of the applet differently.
     page.append(context.locateInBrowser ? "\t\tdocument.writeln(\"</APPLET>\");\n"
                                         : "   document.writeln(\"<\\/APPLET>\");\n");

@@ -1,6 +1,6 @@
 #include "contents/contents_names.h"
 
-#include "platform/sys_file.h"
+#include "page/links.h"
 
 namespace quillmark::contents_names {
 
@@ -35,11 +35,11 @@ OrxString treeData(const ContentsContext& context) {
 }
 
 OrxString fixedDetailLink(const ContentsContext& context) {
-    return SysFile::stripDir(context.baseName + "_dtl.htm");
+    return links::fromFilePart(context.baseName + "_dtl.htm");
 }
 
 OrxString fixedStaticContentsLink(const ContentsContext& context) {
-    return SysFile::stripDir(context.baseName + "_scnt.htm");
+    return links::fromFilePart(context.baseName + "_scnt.htm");
 }
 
 }  // namespace quillmark::contents_names

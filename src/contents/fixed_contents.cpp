@@ -50,7 +50,8 @@ void writeFixedContents(const ContentsContext& context) {
     page.setTitle(context.title);
     page.setStyleSheet(context.styleSheetLink);
     page.append(appletOpening);
-    appendParameter("TOCFILE", SysFile::stripDir(contents_names::treeData(context) + ".zip"), page);
+    appendParameter("TOCFILE", links::fromFilePart(contents_names::treeData(context) + ".zip"),
+                    page);
     appendIconParameters(context, page);
     page.append("You must enable Java to use this table of contents feature.\n");
     page.append("If you would rather not, you might try the <A HREF='" +

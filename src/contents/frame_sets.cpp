@@ -4,7 +4,7 @@
 #include "contents/fixed_contents.h"
 #include "contents/static_listing.h"
 #include "page/doc_html_page.h"
-#include "platform/sys_file.h"
+#include "page/links.h"
 
 namespace quillmark {
 
@@ -37,7 +37,7 @@ OrxString writeFixedFrameSet(const ContentsContext& context) {
     page.setTitle(context.title);
     page.setStyleSheet(context.styleSheetLink);
     page.append("<FRAMESET COLS='200,*'>\n");
-    page.append("<FRAME SRC='" + SysFile::stripDir(contents_names::fixedContents(context)) +
+    page.append("<FRAME SRC='" + links::fromFilePart(contents_names::fixedContents(context)) +
                 "' NAME='contents' MARGINWIDTH=1 MARGINHEIGHT=1 SCROLLING=NO>\n");
     appendMainFrame(context, page);
     page.close();
@@ -51,7 +51,7 @@ OrxString writeStaticFrameSet(const ContentsContext& context) {
     page.setFileName(fileName);
     page.setTitle(context.title);
     page.append("<FRAMESET COLS='30%,*' ROWS=*>\n");
-    page.append("<FRAME SRC='" + SysFile::stripDir(contents_names::staticContents(context)) +
+    page.append("<FRAME SRC='" + links::fromFilePart(contents_names::staticContents(context)) +
                 "' NAME='contents' MARGINWIDTH=1 MARGINHEIGHT=1>\n");
     appendMainFrame(context, page);
     page.close();

@@ -5,7 +5,7 @@
 #include "contents/contents_names.h"
 #include "contents/frame_sets.h"
 #include "page/doc_html_page.h"
-#include "platform/sys_file.h"
+#include "page/links.h"
 
 namespace quillmark {
 
@@ -71,8 +71,8 @@ constexpr std::string_view otherOptions =
 /// Appends the script that writes the frame set. It comes between the head and the BODY tag,
 /// because a frame set must not follow a body.
 void appendFrameSetScript(const ContentsContext& context, DocHtmlPage& page) {
-    const OrxString contents = SysFile::stripDir(contents_names::appletContents(context));
-    const OrxString main = SysFile::stripDir(context.firstDetailPage);
+    const OrxString contents = links::fromFilePart(contents_names::appletContents(context));
+    const OrxString main = links::fromFilePart(context.firstDetailPage);
     page.append(browserCheck);
     page.append("      document.writeln(\"<FRAME SRC='" + contents +
                 "' NAME='contents' MARGINWIDTH=1 MARGINHEIGHT=1 SCROLLING=NO>\")\n");
@@ -83,10 +83,10 @@ void appendFrameSetScript(const ContentsContext& context, DocHtmlPage& page) {
 
 void appendOtherOptions(const ContentsContext& context, DocHtmlPage& page) {
     page.append(otherOptions);
-    const OrxString fixed = SysFile::stripDir(writeFixedFrameSet(context));
+    const OrxString fixed = links::fromFilePart(writeFixedFrameSet(context));
     page.append("  <A HREF=\"" + fixed + "\" >table of contents applet</A>.\n");
     page.append("<BR>\n<LI>You may also try the ");
-    const OrxString listing = SysFile::stripDir(writeStaticFrameSet(context));
+    const OrxString listing = links::fromFilePart(writeStaticFrameSet(context));
     page.append("  <A HREF=\"" + listing + "\" >static table of contents</A>.\n");
     page.append("</OL><BR>\n");
 }

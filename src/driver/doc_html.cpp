@@ -2,6 +2,8 @@
 
 #include "driver/doc_html.h"
 
+#include <utility>
+
 #include "contents/contents_pages.h"
 #include "contents/support_files.h"
 #include "driver/doc_html_impl.h"
@@ -10,7 +12,6 @@
 #include "page/links.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
-#include "platform/sys_text.h"
 
 namespace quillmark {
 
@@ -30,9 +31,13 @@ void findStyleSheet(DocumentSettings& settings, const Trace& trace) {
 
 }  // namespace
 
-DocHtml::DocHtml() : impl_(std::make_unique<DocHtmlImpl>()) {}
+DocHtml::DocHtml() {
+    const TextEncoding::Scope scope(encodingIn({}));
+    impl_ = std::make_unique<DocHtmlImpl>();
+}
 
 DocHtml::~DocHtml() {
+    const TextEncoding::Scope scope(*impl_->context.encoding);
     try {
         // Without the sections, the last page of a document that was never closed gets no header
         // and no footer.
@@ -48,9 +53,22 @@ DocHtml::~DocHtml() {
 
 DocResult DocHtml::create(WideText fileName) {
     impl_->isLost = false;
-    impl_->isLost =
-        !survive(impl_->context.trace, "create", [&] { startDocument(SysText::narrow(fileName)); });
+    impl_->isLost = !survive(impl_->context.trace, "create", [&] {
+        takeEncoding();
+        const TextEncoding::Scope scope(*impl_->context.encoding);
+        startDocument(impl_->bytesOf(fileName));
+    });
     return resultOk;
+}
+
+void DocHtml::takeEncoding() {
+    const TextEncoding& next = encodingIn(impl_->settings);
+    const TextEncoding& before = *std::exchange(impl_->context.encoding, &next);
+    if (&next != &before) {
+        impl_->context.out.recode(before, next);
+        impl_->contents.recode(before, next);
+        impl_->pages.recode(before, next);
+    }
 }
 
 void DocHtml::startDocument(const OrxString& name) {
@@ -102,7 +120,7 @@ void DocHtml::startNavigator() {
                                .extension = context.names.extension(),
                                .supportDir = installedName(settings.installDir, "navigator"),
                                .iconDir = SysFile::getDir(settings.iconFile)},
-                              std::make_unique<CodePageDecoder>(), context.trace);
+                              std::make_unique<DocumentDecoder>(*context.encoding), context.trace);
     }
 }
 
@@ -183,7 +201,7 @@ DocResult DocHtml::insertPageBreak() {
 DocResult DocHtml::pushDirectory(WideText directoryName) {
     return impl_->operate("pushDirectory", [&] {
         if (!impl_->tables.inTable()) {
-            enterDirectory(SysText::narrow(directoryName));
+            enterDirectory(impl_->bytesOf(directoryName));
         }
     });
 }

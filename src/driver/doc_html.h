@@ -78,6 +78,9 @@ public:
     DocResult popDirectory() override;
 
 private:
+    /// Reads the encoding from the settings, and converts the texts that stay from an earlier
+    /// document.
+    void takeEncoding();
     void startDocument(const OrxString& name);
     void enterDirectory(const OrxString& directoryName);
     void insertTextCall(std::string_view text);

@@ -4,9 +4,9 @@
 #include "driver/doc_html_impl.h"
 #include "driver/text/element_handle.h"
 #include "foundation/orx_exception.h"
+#include "foundation/utf8.h"
 #include "platform/signal_to_exception.h"
 #include "platform/sys_shell.h"
-#include "platform/sys_text.h"
 #include "settings/settings_table.h"
 
 namespace quillmark {
@@ -69,8 +69,8 @@ DocResult DocHtml::endFooter() {
 
 DocResult DocHtml::setOption(WideText option, WideText value) {
     return impl_->operate("setOption", [&] {
-        const OrxString name = SysText::narrow(option);
-        const OrxString text = SysText::narrow(value);
+        const OrxString name = impl_->bytesOf(option);
+        const OrxString text = impl_->bytesOf(value);
         impl_->calls.call("setOption", name.view(), text.view());
         if (name == "title") {
             impl_->pages.setTitle(text);
@@ -81,8 +81,11 @@ DocResult DocHtml::setOption(WideText option, WideText value) {
 DocResult DocHtml::trace(std::int16_t level) {
     Trace& trace = impl_->context.trace;
     survive(trace, "trace", [&] {
+        const TextEncoding& encoding = *impl_->context.encoding;
+        const TextEncoding::Scope scope(encoding);
         const OrxString logName =
-            impl_->settings.read(logGroup, "LogName", defaultValue(logGroup, "LogName")).asString();
+            impl_->settings.read(logGroup, "LogName", defaultValue(logGroup, "LogName"))
+                .asString(encoding);
         trace.purgeBefore(logName);
         if (level == 0) {
             trace.close();
@@ -99,8 +102,8 @@ DocResult DocHtml::trace(std::int16_t level) {
 DocResult DocHtml::overrideRegistry(WideText group, WideText name, WideText value,
                                     std::int16_t valueType) {
     survive(impl_->context.trace, "overrideRegistry", [&] {
-        impl_->settings.override(RegEntry(SysText::narrow(group), SysText::narrow(name),
-                                          SysText::narrow(value),
+        impl_->settings.override(RegEntry(utf8::fromUtf16(group), utf8::fromUtf16(name),
+                                          utf8::fromUtf16(value),
                                           entryType(static_cast<ValueType>(valueType))));
     });
     return resultOk;

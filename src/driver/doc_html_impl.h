@@ -50,15 +50,22 @@ struct DocHtmlImpl {
     bool isLost = false;
     /// `pushDirectory` has just ended a page, so an immediate page break does not end another one.
     bool breakJustMade = false;
-    // The host's text in 8 bits, and the target of the current link. Members only to reuse their
-    // memory.
-    std::string narrowed;
+    // The host's text in the document's encoding, and the target of the current link. Members only
+    // to reuse their memory.
+    std::string bytes;
     OrxString linkTarget;
 
-    /// Runs an operation. What it has no memory for is lost and reported; the document goes on.
+    /// A host's text in the document's encoding.
+    [[nodiscard]] OrxString bytesOf(std::u16string_view text) const {
+        return context.encoding->toBytes(text);
+    }
+
+    /// Runs an operation with the document's encoding in force. What it has no memory for is lost
+    /// and reported; the document goes on.
     template <typename Body>
     DocResult operate(const char* operation, const Body& body) {
         if (!isLost) {
+            const TextEncoding::Scope scope(*context.encoding);
             survive(context.trace, operation, body);
         }
         return resultOk;

@@ -4,15 +4,14 @@
 #include "driver/doc_html_impl.h"
 #include "driver/text/embedded_link.h"
 #include "page/page_marks.h"
-#include "platform/sys_text.h"
 
 namespace quillmark {
 
 DocResult DocHtml::insertText(WideText text) {
     return impl_->operate("insertText", [&] {
-        impl_->narrowed.clear();
-        SysText::appendNarrow(impl_->narrowed, text);
-        insertTextCall(impl_->narrowed);
+        impl_->bytes.clear();
+        impl_->context.encoding->append(impl_->bytes, text);
+        insertTextCall(impl_->bytes);
     });
 }
 
@@ -49,7 +48,7 @@ DocResult DocHtml::insertField(std::int16_t field) {
 
 DocResult DocHtml::setStyle(WideText style) {
     return impl_->operate("setStyle", [&] {
-        const OrxString name = SysText::narrow(style);
+        const OrxString name = impl_->bytesOf(style);
         impl_->calls.call("setStyle", name.view());
         impl_->style.setStyle(name);
     });
@@ -64,7 +63,7 @@ DocResult DocHtml::setTextAlign(std::int16_t textAlign) {
 
 DocResult DocHtml::setFontName(WideText name) {
     return impl_->operate("setFontName", [&] {
-        const OrxString face = SysText::narrow(name);
+        const OrxString face = impl_->bytesOf(name);
         impl_->calls.call("setFontName", face.view());
         impl_->font.setName(face);
     });
@@ -124,9 +123,9 @@ DocResult DocHtml::setTableRowHeight(std::int32_t /*points*/) {
 
 DocResult DocHtml::insertTag(WideText tagName) {
     return impl_->operate("insertTag", [&] {
-        impl_->narrowed.clear();
-        SysText::appendNarrow(impl_->narrowed, tagName);
-        const std::string_view name = impl_->narrowed;
+        impl_->bytes.clear();
+        impl_->context.encoding->append(impl_->bytes, tagName);
+        const std::string_view name = impl_->bytes;
         impl_->calls.call("insertTag", name);
         impl_->bookmarks.define(name, BookmarkWriter::Origin::host);
     });
@@ -134,11 +133,11 @@ DocResult DocHtml::insertTag(WideText tagName) {
 
 DocResult DocHtml::insertXref(WideText text, WideText tagName) {
     return impl_->operate("insertXref", [&] {
-        impl_->narrowed.clear();
-        SysText::appendNarrow(impl_->narrowed, text);
-        const std::size_t textLength = impl_->narrowed.size();
-        SysText::appendNarrow(impl_->narrowed, tagName);
-        const std::string_view both = impl_->narrowed;
+        impl_->bytes.clear();
+        impl_->context.encoding->append(impl_->bytes, text);
+        const std::size_t textLength = impl_->bytes.size();
+        impl_->context.encoding->append(impl_->bytes, tagName);
+        const std::string_view both = impl_->bytes;
         insertXrefCall(both.substr(0, textLength), both.substr(textLength));
     });
 }
@@ -181,8 +180,8 @@ DocResult DocHtml::insertTOC() {
 
 DocResult DocHtml::insertImage(WideText imageFileName, WideText fileOrUrl) {
     return impl_->operate("insertImage", [&] {
-        const OrxString picture = SysText::narrow(imageFileName);
-        const OrxString target = SysText::narrow(fileOrUrl);
+        const OrxString picture = impl_->bytesOf(imageFileName);
+        const OrxString target = impl_->bytesOf(fileOrUrl);
         impl_->calls.call("insertImage", picture.view(), target.view());
         impl_->images.insertImage(picture, target);
     });
@@ -190,7 +189,7 @@ DocResult DocHtml::insertImage(WideText imageFileName, WideText fileOrUrl) {
 
 DocResult DocHtml::insertFile(WideText fileName, std::int16_t insertAsType) {
     return impl_->operate("insertFile", [&] {
-        const OrxString name = SysText::narrow(fileName);
+        const OrxString name = impl_->bytesOf(fileName);
         impl_->calls.call("insertFile", name.view(), insertAsType);
         impl_->files.insertFile(name, static_cast<InsertAs>(insertAsType));
     });

@@ -174,6 +174,12 @@ void PageTurner::dispatchPage(bool last) {
     }
 }
 
+void PageTurner::recode(const TextEncoding& from, const TextEncoding& to) {
+    title_ = to.recoded(title_, from);
+    subDirectory_ = to.recoded(subDirectory_, from);
+    savedState_.recode(from, to);
+}
+
 void PageTurner::releaseHeldPages() {
     held_.finishAll([](DocHtmlPage& page) { page.close(); });
 }

@@ -47,6 +47,9 @@ public:
     /// Gives the pages that end from now on a navigator; null for none.
     void setNavigator(std::shared_ptr<Navigator> navigator) { navigator_ = std::move(navigator); }
 
+    /// Converts the texts that stay when a new document starts between two encodings.
+    void recode(const TextEncoding& from, const TextEncoding& to);
+
     void setTitle(const OrxString& title) { title_ = title; }
     [[nodiscard]] const OrxString& title() const noexcept { return title_; }
 

@@ -11,10 +11,10 @@ namespace quillmark {
 
 /// A byte string. The driver uses it for every text, name and path.
 ///
-/// The bytes are in the system's 8-bit code page. Wide text from a host is converted once, on
-/// entry (see platform/sys_text.h). Positions and lengths count bytes, and any byte may occur, zero
-/// included. The string owns its bytes. What `view`, `str` and `data` return is valid until the
-/// next change.
+/// The bytes are in the encoding of the document at work. Wide text from a host is converted once,
+/// on entry (see platform/text_encoding.h). Positions and lengths count bytes, and any byte may
+/// occur, zero included. The string owns its bytes. What `view`, `str` and `data` return is valid
+/// until the next change.
 ///
 ///     OrxString link("C:\\out\\pix\\a.gif");
 ///     link.replaceStr(":", "|").replaceStr("\\", "/");   // "C|/out/pix/a.gif"

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <optional>
 
+#include "foundation/code_page.h"
 #include "foundation/surrogates.h"
 
 namespace quillmark::utf8 {
@@ -138,19 +139,89 @@ void append(std::string& out, char32_t point) {
     }
 }
 
+namespace {
+
+/// The code point at `pos`, which is beyond ASCII; moves `pos` past it.
+char32_t takePoint(std::u16string_view text, std::size_t& pos) noexcept {
+    const char32_t unit = text[pos++];
+    if (!surrogates::isAny(unit)) {
+        return unit;
+    }
+    if (surrogates::isHigh(unit) && pos < text.size() && surrogates::isLow(text[pos])) {
+        return 0x10000U + ((unit - 0xD800U) << 10U) + (char32_t{text[pos++]} - 0xDC00U);
+    }
+    return replacement;
+}
+
+char* writeBeyondAscii(char* out, char32_t point) noexcept {
+    const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
+    if (point < 0x800) {
+        put(0xC0U | (point >> 6U));
+    } else {
+        if (point < 0x10000) {
+            put(0xE0U | (point >> 12U));
+        } else {
+            put(0xF0U | (point >> 18U));
+            put(0x80U | ((point >> 12U) & 0x3FU));
+        }
+        put(0x80U | ((point >> 6U) & 0x3FU));
+    }
+    put(0x80U | (point & 0x3FU));
+    return out;
+}
+
+}  // namespace
+
 std::string fromUtf16(std::u16string_view text) {
     std::string utf8;
-    utf8.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char32_t point = text[i];
-        if (surrogates::isHigh(point) && i + 1 < text.size() && surrogates::isLow(text[i + 1])) {
-            point = 0x10000U + ((point - 0xD800U) << 10U) + (char32_t{text[++i]} - 0xDC00U);
-        } else if (surrogates::isAny(point)) {
-            point = replacement;
-        }
-        append(utf8, point);
-    }
+    append(utf8, text);
     return utf8;
+}
+
+void append(std::string& out, std::u16string_view text) {
+    const std::size_t start = out.size();
+    out.resize(start + text.size());
+    if (code_page::copyAscii(out.data() + start, text)) {
+        return;
+    }
+    // A unit needs at most three bytes; a pair, which is two units, needs four.
+    out.resize(start + 3 * text.size());
+    char* target = out.data() + start;
+    for (std::size_t pos = 0; pos < text.size();) {
+        if (text[pos] < 0x80) {
+            *target++ = static_cast<char>(text[pos++]);
+        } else {
+            target = writeBeyondAscii(target, takePoint(text, pos));
+        }
+    }
+    out.resize(static_cast<std::size_t>(target - out.data()));
+}
+
+bool Check::take(std::string_view piece) {
+    while (kept_ != 0 && !piece.empty()) {
+        cut_.at(kept_++) = piece.front();
+        piece.remove_prefix(1);
+        std::size_t pos = 0;
+        if (decodeBeyondAscii({cut_.data(), kept_}, pos, LoneSurrogates::malformed)) {
+            kept_ = 0;
+        } else if (kept_ >= lengthFrom(static_cast<unsigned char>(cut_[0]))) {
+            return false;
+        }
+    }
+    for (std::size_t pos = 0; pos < piece.size();) {
+        const auto byte = static_cast<unsigned char>(piece[pos]);
+        if (byte < 0x80) {
+            ++pos;
+        } else if (!decodeBeyondAscii(piece, pos, LoneSurrogates::malformed)) {
+            kept_ = piece.size() - pos;
+            if (kept_ >= lengthFrom(byte)) {
+                return false;
+            }
+            piece.substr(pos).copy(cut_.data(), kept_);
+            return true;
+        }
+    }
+    return true;
 }
 
 }  // namespace quillmark::utf8

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -26,5 +28,25 @@ void append(std::string& out, char32_t point);
 
 /// Encodes UTF-16 text. A lone surrogate becomes U+FFFD.
 [[nodiscard]] std::string fromUtf16(std::u16string_view text);
+/// Appends UTF-16 text to `out` in the same way.
+void append(std::string& out, std::u16string_view text);
+
+/// Checks whether a text that comes in pieces is well-formed.
+///
+///     utf8::Check check;
+///     while (...) { if (!check.take(piece)) return false; }
+///     return check.isComplete();
+class Check {
+public:
+    /// False at the first malformed byte. Then take no more.
+    [[nodiscard]] bool take(std::string_view piece);
+    /// Whether the text ends after a whole character.
+    [[nodiscard]] bool isComplete() const noexcept { return kept_ == 0; }
+
+private:
+    /// The bytes of a character that the last piece cut.
+    std::array<char, 4> cut_{};
+    std::size_t kept_ = 0;
+};
 
 }  // namespace quillmark::utf8

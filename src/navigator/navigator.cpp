@@ -13,6 +13,7 @@
 #include "navigator/support_pieces.h"
 #include "navigator/text/plain_text.h"
 #include "navigator/text/word_splitter.h"
+#include "page/links.h"
 #include "platform/out_of_memory.h"
 #include "platform/sys_file.h"
 
@@ -98,7 +99,7 @@ void Navigator::writeTables(const ContentsEntryList& entries, const EntryNumbers
     anchors.write("anchor", files_);
     SetFile(*decoder_)
         .text("title", plain_text::ofHtml(title, *decoder_))
-        .bytes("start", SysFile::stripDir(places_.baseName) + places_.extension)
+        .bytes("start", links::fromFilePart(places_.baseName + places_.extension))
         .bytes("name", pageNames_.name)
         .bytes("extension", pageNames_.extension)
         .number("pages", pages.size())

@@ -5,12 +5,12 @@
 namespace quillmark {
 
 const OrxString& CachedLink::relativeFile(const OrxString& fileName, const OrxString& base) {
-    if (!known_ || fileName != fileName_ || base != base_) {
-        known_ = false;
+    const TextEncoding* const encoding = &TextEncoding::current();
+    if (encoding != encoding_ || fileName != fileName_ || base != base_) {
         link_ = links::relativeFile(fileName, base);
         fileName_ = fileName;
         base_ = base;
-        known_ = true;
+        encoding_ = encoding;
     }
     return link_;
 }

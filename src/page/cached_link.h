@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/orx_string.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark {
 
@@ -12,7 +13,8 @@ public:
     [[nodiscard]] const OrxString& relativeFile(const OrxString& fileName, const OrxString& base);
 
 private:
-    bool known_ = false;
+    /// Null while nothing is known.
+    const TextEncoding* encoding_ = nullptr;
     OrxString fileName_;
     OrxString base_;
     OrxString link_;

@@ -15,6 +15,7 @@
 #include "platform/out_of_memory.h"
 #include "platform/signal_to_exception.h"
 #include "platform/sys_file.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark {
 
@@ -37,6 +38,8 @@ struct DocHtmlPage::Record {
     Trace trace;
     std::shared_ptr<PageReader> reader;
     std::uint32_t number = 0;
+    /// That of the document that made the page. A page that is held back keeps it.
+    const TextEncoding* encoding = &TextEncoding::current();
 
     void fillMark(SpliceText::MarkId mark, std::string_view name, std::string_view reference);
     void writeFile() const;
@@ -56,7 +59,7 @@ void DocHtmlPage::Record::fillMark(SpliceText::MarkId mark, std::string_view nam
 }
 
 void DocHtmlPage::Record::writeFile() const {
-    const std::string head = htmlHead(title, styleSheetLink, headExtra);
+    const std::string head = htmlHead(title, styleSheetLink, headExtra, *encoding);
     const std::string merged = text.isPlain() ? std::string() : text.merged();
     const std::string_view body = text.isPlain() ? text.plain() : std::string_view(merged);
     const std::array<std::string_view, 5> pieces = {head, top.view(), body, tail.view(), fileEnd};
@@ -260,6 +263,7 @@ void DocHtmlPage::close() {
     if (isEmpty()) {
         return;
     }
+    const TextEncoding::Scope scope(*record_->encoding);
     try {
         survive(record_->trace, "a page",
                 [this] { CSignal2Exception::run([this] { record_->writeFile(); }); });

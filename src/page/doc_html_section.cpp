@@ -40,6 +40,11 @@ void DocHtmlSection::clear() {
     record_->testLevel = 0;
 }
 
+void DocHtmlSection::recode(const TextEncoding& from, const TextEncoding& to) {
+    record_->text = to.recoded(record_->text, from);
+    record_->state.recode(from, to);
+}
+
 void DocHtmlSection::insertText(std::string_view html) {
     record_->text.append(html);
 }

@@ -1,16 +1,25 @@
 #include "page/links.h"
 
+#include <utility>
+
 #include "foundation/module_lifetime.h"
 #include "foundation/process_wide.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark::links {
 
 namespace {
 
-ProcessWide<OrxString>& processDefaultBase() {
-    static ModuleLifetime<ProcessWide<OrxString>> base;
+/// A directory, in the encoding of the document that set it.
+struct Base {
+    OrxString directory;
+    const TextEncoding* encoding = &TextEncoding::codePage();
+};
+
+ProcessWide<Base>& processDefaultBase() {
+    static ModuleLifetime<ProcessWide<Base>> base;
     return *base;
 }
 
@@ -18,7 +27,11 @@ ProcessWide<OrxString>& processDefaultBase() {
 
 OrxString fromPath(OrxString path) {
     path.replaceStr(":", "|").replaceStr("\\", "/");
-    return path;
+    return TextEncoding::current().inLink(std::move(path));
+}
+
+OrxString fromFilePart(const OrxString& fileName) {
+    return TextEncoding::current().inLink(SysFile::stripDir(fileName));
 }
 
 OrxString relative(const OrxString& target, const OrxString& base) {
@@ -30,7 +43,8 @@ OrxString relativeFile(const OrxString& fileName, const OrxString& base) {
 }
 
 OrxString defaultBase() {
-    return processDefaultBase().get();
+    const Base base = processDefaultBase().get();
+    return TextEncoding::current().recoded(base.directory, *base.encoding);
 }
 
 OrxString baseOrDefault(const OrxString& directory) {
@@ -38,7 +52,7 @@ OrxString baseOrDefault(const OrxString& directory) {
 }
 
 void setDefaultBase(const OrxString& directory) {
-    processDefaultBase().exchange(directory);
+    processDefaultBase().exchange({directory, &TextEncoding::current()});
 }
 
 }  // namespace quillmark::links

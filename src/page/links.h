@@ -2,11 +2,14 @@
 
 #include "foundation/orx_string.h"
 
-/// Conversions from paths to links. They do not access the disk.
+/// Conversions from paths to links. They do not access the disk. What a browser would misread in a
+/// path is written as the encoding in force requires (`TextEncoding::inLink`).
 namespace quillmark::links {
 
 /// Replaces every ":" by "|" and every "\" by "/".
 [[nodiscard]] OrxString fromPath(OrxString path);
+/// The link to a file in the same directory: the file part of its name.
+[[nodiscard]] OrxString fromFilePart(const OrxString& fileName);
 
 /// The link from directory `base` to `target`. An empty `base` stands for the default base
 /// directory.

@@ -4,6 +4,7 @@
 
 #include "foundation/orx_object.h"
 #include "foundation/orx_string.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark {
 
@@ -45,6 +46,8 @@ public:
 
     /// Resets everything but the font.
     void reset();
+    /// Converts the names between two encodings.
+    void recode(const TextEncoding& from, const TextEncoding& to);
 };
 
 }  // namespace quillmark

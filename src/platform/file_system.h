@@ -61,7 +61,8 @@ public:
 /// The file system as the driver needs it. This is the contract for all implementations: the native
 /// ones, and those that tests install.
 ///
-/// Names are in the driver's form: 8-bit code page, "\" between components. "/" means the same as
+/// Names are in the driver's form: in the encoding in force (platform/text_encoding.h), with "\"
+/// between components. "/" means the same as
 /// "\". A relative name is relative to `currentDirectory`. An empty name, or one with a zero byte,
 /// never exists and cannot be created. The results report failures, and no call throws for one.
 /// `FileFailure` has the reason of a failure as far as the implementation knows it, also for a

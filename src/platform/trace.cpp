@@ -16,6 +16,7 @@
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
 #include "platform/system_facts.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark {
 
@@ -24,7 +25,8 @@ constinit ProcessWide<TraceListener*> Trace::listener_;
 /// A log file, shared by every trace of the process that has it open.
 class Trace::Log {
 public:
-    explicit Log(OrxString name) : name_(std::move(name)) {}
+    /// The name is in the encoding in force; the log outlives that.
+    explicit Log(OrxString name) : name_(std::move(name)), encoding_(TextEncoding::current()) {}
     Log(const Log&) = delete;
     Log& operator=(const Log&) = delete;
     ~Log() {
@@ -54,7 +56,8 @@ private:
     void reportFailure() const {
         // The log itself cannot take the reason, but a listener can.
         failure_lines::writeReason(Trace());
-        OrxException::logCatch("Error writing to file: " + name_);
+        OrxException::logCatch("Error writing to file: " +
+                               TextEncoding::current().recoded(name_, encoding_));
     }
 
     [[nodiscard]] bool failsNow(std::string_view text) {
@@ -64,6 +67,7 @@ private:
         }
         FileFailure::forget();
         if (file_ == nullptr) {
+            const TextEncoding::Scope scope(encoding_);
             file_ = FileSystem::current().openForAppending(name_);
         }
         const bool done =
@@ -85,6 +89,7 @@ private:
     }
 
     const OrxString name_;
+    const TextEncoding& encoding_;
     std::mutex mutex_;
     std::unique_ptr<OutputFile> file_;
     std::atomic<bool> failed_{false};
@@ -112,8 +117,10 @@ OrxString logFileName(const OrxString& name) {
     return SysDirectory::getSpecificPath(dir, name.isEmpty() ? OrxString("dochtml.log") : name);
 }
 
-OrxString logKey(OrxString fileName) {
-    return system_facts::namesIgnoreCase() ? fileName.toLower() : fileName;
+/// Documents in different encodings spell the same name differently.
+OrxString logKey(const OrxString& fileName) {
+    OrxString key = TextEncoding::current().toUtf8(fileName);
+    return system_facts::namesIgnoreCase() ? key.toLower() : key;
 }
 
 /// All logs of the process, by key. `T` is the private log class of `Trace`.

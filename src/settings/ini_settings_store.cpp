@@ -9,7 +9,7 @@
 #include "platform/read_whole.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 #include "settings/ini_text.h"
 #include "settings/settings_store.h"
 
@@ -21,15 +21,15 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 class IniSettingsStore final : public SettingsStore {
 public:
-    explicit IniSettingsStore(OrxString fileName) : fileName_(std::move(fileName)) {}
+    explicit IniSettingsStore(OrxString fileName)
+        : fileName_(std::move(fileName)), encoding_(TextEncoding::current()) {}
 
     [[nodiscard]] std::optional<OrxString> read(const OrxString& group,
                                                 const OrxString& name) const override {
         const std::lock_guard lock(mutex_);
         refresh();
-        const std::optional<std::string> value =
-            ini_.value(SysText::toUtf8(group), SysText::toUtf8(name));
-        return value ? std::optional(SysText::fromUtf8(*value)) : std::nullopt;
+        std::optional<std::string> value = ini_.value(group, name);
+        return value ? std::optional<OrxString>(*std::move(value)) : std::nullopt;
     }
 
     [[nodiscard]] bool write(const OrxString& group, const OrxString& name,
@@ -45,9 +45,7 @@ public:
         IniText changed = ini_;
         // A file that could not be read must not be replaced, since its content would be lost.
         const bool kept =
-            state_ != State::unreadable &&
-            changed.set(SysText::toUtf8(group), SysText::toUtf8(name), SysText::toUtf8(value)) &&
-            save(changed);
+            state_ != State::unreadable && changed.set(group, name, value) && save(changed);
         if (kept) {
             ini_ = std::move(changed);
         }
@@ -58,21 +56,27 @@ public:
         const std::lock_guard lock(mutex_);
         refresh();
         if (state_ == State::unreadable) {
-            return "Cannot read the settings file " + fileName_;
+            return "Cannot read the settings file " + shownName();
         }
         const std::optional<std::size_t> line = ini_.firstUnknownLine();
         if (!line) {
             return {};
         }
-        return "Line " + std::to_string(*line) + " of the settings file " + fileName_ +
+        return "Line " + std::to_string(*line) + " of the settings file " + shownName() +
                " is neither a section nor a setting";
     }
 
 private:
     enum class State { unknown, missing, read, unreadable };
 
+    /// The name in the encoding of the caller.
+    [[nodiscard]] OrxString shownName() const {
+        return TextEncoding::current().recoded(fileName_, encoding_);
+    }
+
     /// Reads the file again if it has changed.
     void refresh() const {
+        const TextEncoding::Scope scope(encoding_);
         FileSystem& files = FileSystem::current();
         FileFailure::forget();
         const std::optional<FileStamp> stamp = files.stamp(fileName_);
@@ -93,6 +97,7 @@ private:
 
     /// Other processes wait from before the file is read until the new one is in its place.
     [[nodiscard]] std::unique_ptr<FileLock> lockFile() const {
+        const TextEncoding::Scope scope(encoding_);
         const OrxString dir = SysFile::getDir(fileName_);
         if (!dir.isEmpty() && !SysDirectory::checkDirectoryAndCreate(dir)) {
             return nullptr;
@@ -101,6 +106,7 @@ private:
     }
 
     [[nodiscard]] bool save(const IniText& ini) {
+        const TextEncoding::Scope scope(encoding_);
         FileSystem& files = FileSystem::current();
         const std::string text = (hasByteOrderMark_ ? std::string(byteOrderMark) : "") + ini.text();
         if (!files.rewriteFile(fileName_, text)) {
@@ -112,6 +118,8 @@ private:
     }
 
     const OrxString fileName_;
+    /// That of the name, which a document in another encoding must not change.
+    const TextEncoding& encoding_;
     mutable std::mutex mutex_;
     mutable State state_ = State::unknown;
     mutable IniText ini_;

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "foundation/orx_string.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark {
 
-/// A settings value with its group and name. The value is kept as text and converted on reading.
+/// A settings value with its group and name, all in UTF-8. The value is kept as text and converted
+/// on reading.
 ///
 ///     RegEntry("Html", "Navig", "3").asInt();   // 3
 class RegEntry {
@@ -30,6 +32,10 @@ public:
     [[nodiscard]] int asInt() const;
     [[nodiscard]] long asLong() const;
     [[nodiscard]] const OrxString& asString() const noexcept { return value_; }
+    /// The text in the encoding of a document.
+    [[nodiscard]] OrxString asString(const TextEncoding& encoding) const {
+        return encoding.fromUtf8(value_);
+    }
 
     [[nodiscard]] const OrxString& group() const noexcept { return group_; }
     [[nodiscard]] const OrxString& name() const noexcept { return name_; }

@@ -7,7 +7,8 @@
 
 namespace quillmark {
 
-/// Keeps settings between runs, as texts with a group and a name.
+/// Keeps settings between runs, as texts with a group and a name. All three are in UTF-8 on every
+/// system, whatever encoding a document has.
 ///
 /// A host installs its own store with `RegisterBase::setStore`. An implementation must find groups
 /// and names in any case, and must allow calls from several threads at once.
@@ -25,16 +26,16 @@ public:
 };
 
 /// A store in an INI file in UTF-8, with one section per group and one `Name=Value` line per
-/// setting. A write creates a temporary file that then replaces the old one (see
-/// `FileSystem::rewriteFile`); other processes that write to the same file wait for it. Comments and
-/// unknown lines are kept.
+/// setting. The file name is in the encoding in force. A write creates a temporary file that then
+/// replaces the old one (see `FileSystem::rewriteFile`); other processes that write to the same
+/// file wait for it. Comments and unknown lines are kept.
 [[nodiscard]] std::shared_ptr<SettingsStore> makeIniSettingsStore(const OrxString& fileName);
 
 /// The user's own store: the registry on Windows, elsewhere the file "quillmark/settings.ini" in
 /// the user's configuration directory.
 [[nodiscard]] std::shared_ptr<SettingsStore> makeUserSettingsStore();
 
-/// The location of the user's own store, to be shown to the user.
+/// The location of the user's own store, to be shown to the user, in the encoding in force.
 [[nodiscard]] OrxString userSettingsLocation();
 
 }  // namespace quillmark

@@ -42,16 +42,19 @@ constexpr std::array settingRows{
                        "Style sheet of the pages; a bare file name lies in the installation "
                        "directory, an empty text means none",
                        true},
-    SettingDescription{
-        htmlGroup, "PassThrough", SettingType::boolean, "false",
-        "\"<<\" in a text is written as \"&lt;&lt;\"; other markup in texts is written as it is, on "
-        "or off"},
+    SettingDescription{htmlGroup, "PassThrough", SettingType::boolean, "false",
+                       "\"<<\" in a text is written as \"&lt;&lt;\"; other markup in texts is "
+                       "written as it is, on "
+                       "or off"},
     SettingDescription{
         htmlGroup, "LocateInBrowser", SettingType::boolean, "true",
         "Locate buttons in the pages, which show a model element in the model browser"},
     SettingDescription{htmlGroup, "ScriptNavigator", SettingType::boolean, "false",
                        "Contents tree and full-text search on every page, for today's browsers; "
                        "needs 1 in \"Navig\""},
+    SettingDescription{htmlGroup, "CharSet", SettingType::text, "",
+                       "\"UTF-8\": texts and names keep every character; otherwise they are in the "
+                       "system's 8-bit code page"},
     SettingDescription{htmlGroup, "DiagramType", SettingType::shortInteger, "0",
                        "Picture type that the host draws diagrams in (0 JPEG, 1 GIF)"},
     SettingDescription{settingsGroup, "InstallDir", SettingType::text, "",

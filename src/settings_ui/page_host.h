@@ -8,6 +8,8 @@ namespace quillmark {
 
 /// The controls of a settings page, by identifier: those of a dialog or of a form without a window.
 ///
+/// Texts are in UTF-8, here and in `PageHost`.
+///
 /// `setText` notifies the page (`SettingsPage::handle` with `textChanged`), as typing does;
 /// `setChecked` does not.
 class PageControls {

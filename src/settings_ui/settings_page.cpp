@@ -1,5 +1,6 @@
 #include "settings_ui/settings_page.h"
 
+#include "platform/text_encoding.h"
 #include "settings/register_dynamic.h"
 #include "settings/settings_table.h"
 #include "settings_ui/settings_saver.h"
@@ -22,6 +23,7 @@ RegEntry storedFor(int id) {
 }  // namespace
 
 bool SettingsPage::handle(int id, ControlEvent event) {
+    const TextEncoding::Scope scope(TextEncoding::utf8());
     switch (routeOf(id, event)) {
         case PageAction::none:
             return false;
@@ -94,6 +96,7 @@ void SettingsPage::loadNavigation() {
 }
 
 bool SettingsPage::apply() {
+    const TextEncoding::Scope scope(TextEncoding::utf8());
     if (!SettingsSaver(controls_, host_).save()) {
         return false;
     }
@@ -102,6 +105,7 @@ bool SettingsPage::apply() {
 }
 
 bool SettingsPage::applyOnly(std::span<const std::string_view> settings) {
+    const TextEncoding::Scope scope(TextEncoding::utf8());
     return SettingsSaver(controls_, host_, settings).save();
 }
 

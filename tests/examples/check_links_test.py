@@ -20,7 +20,7 @@ class CheckLinks(unittest.TestCase):
             for name, content in files.items():
                 path = pathlib.Path(directory, name)
                 path.parent.mkdir(parents=True, exist_ok=True)
-                path.write_bytes(content.encode("latin-1"))
+                path.write_bytes(content if isinstance(content, bytes) else content.encode("latin-1"))
             before = [option for option in options if option.startswith("--allow=")]
             behind = [option for option in options if option not in before]
             output, errors = io.StringIO(), io.StringIO()
@@ -45,6 +45,14 @@ class CheckLinks(unittest.TestCase):
     def test_a_link_to_a_page_that_is_missing_is_told_with_its_line(self):
         lines = self.broken({"a.htm": '\n\n<A HREF="b.htm">b</A>'})
         self.assertEqual(lines, ["a.htm:3: b.htm: no such file"])
+
+    def test_links_of_a_page_in_utf8_are_followed(self):
+        head = '<META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=utf-8">'
+        link = '<A HREF="%E4%BE%A1%25.htm#\u4fa1">x</A>'
+        target = '<a name="\u4fa1"></a>'
+        self.sound({"a.htm": (head + link).encode(), "\u4fa1%.htm": (head + target).encode()})
+        lines = self.broken({"a.htm": (head + link).encode(), "b.htm": b""})
+        self.assertEqual(lines, ["a.htm:1: %E4%BE%A1%25.htm#\u4fa1: no such file"])
 
     def test_letters_count(self):
         lines = self.broken({"a.htm": '<A HREF="B.htm">b</A>', "b.htm": ""})

@@ -57,12 +57,12 @@ class Environment(unittest.TestCase):
     def test_names_that_the_driver_cannot_hold_are_refused(self):
         status, errors = self.play("TOOL -o 日.htm calls")
         self.assertEqual(status, 2)
-        self.assertRegex(errors, "8-bit code page cannot hold the file name .*/日.htm\n$")
+        self.assertRegex(errors, "8-bit code page cannot hold the file name .*/日.htm \\(--set Html.CharSet=UTF-8 keeps all names\\)\n$")
         strange = self.work / "日"
         strange.mkdir()
         status, errors = self.play("TOOL ../calls", cwd=strange)
         self.assertEqual(status, 2)
-        self.assertRegex(errors, "8-bit code page cannot hold the file name .*/日\n$")
+        self.assertRegex(errors, "8-bit code page cannot hold the file name .*/日 \\(--set Html.CharSet=UTF-8 keeps all names\\)\n$")
         self.assertEqual(sorted(path.name for path in self.work.iterdir()), ["calls", "日"])
 
     def test_a_working_directory_that_is_gone_is_refused(self):

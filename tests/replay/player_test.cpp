@@ -218,7 +218,7 @@ TEST_F(PlayerTest, RefusesADocumentNameThatTheCodePageCannotRepresent) {
     EXPECT_THAT(refusals_,
                 ElementsAre("3: create: the driver's 8-bit code page (Windows-1252) cannot hold "
                             "the name \"C:\\\u4e2d\\a.htm\"; all calls up to the next create or "
-                            "new are skipped"));
+                            "new are skipped (with --set Html.CharSet=UTF-8 it keeps its name)"));
     EXPECT_THAT(stage_.calls, ElementsAre("create(\"\\start\\a.htm\")", "close()",
                                           "create(\"\\start\\b.htm\")", "close()", "gone"));
     EXPECT_THAT(answers_, IsEmpty());

@@ -24,9 +24,11 @@ TEST_F(ReplayTool, RefusesDocumentNamesThatTheCodePageCannotRepresent) {
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors,
               "calls:1: create: the driver's 8-bit code page (Windows-1252) cannot hold the name "
-              "\"\u4e2d\u6587.htm\"; all calls up to the next create or new are skipped\n"
+              "\"\u4e2d\u6587.htm\"; all calls up to the next create or new are skipped "
+              "(with --set Html.CharSet=UTF-8 it keeps its name)\n"
               "calls:4: create: the driver's 8-bit code page (Windows-1252) cannot hold the name "
-              "\"\u65e5/a.htm\"; all calls up to the next create or new are skipped\n"
+              "\"\u65e5/a.htm\"; all calls up to the next create or new are skipped "
+              "(with --set Html.CharSet=UTF-8 it keeps its name)\n"
               "dochtml-replay: 0 pages written, 0 contents entries, 0 files copied, "
               "0 unresolved references, 2 errors\n");
     EXPECT_THAT(filesIn("."), ElementsAre(Pair("calls", _)));
@@ -51,7 +53,8 @@ TEST_F(ReplayTool, CountsTheCharactersThatPagesLose) {
                                   "[\"insertText\",\"\u4e2d\u20ac\U0001F600\"]\n"
                                   "[\"insertXref\",\"\u0100\",\"\u0100\"]\n[\"close\"]\n");
     EXPECT_EQ(result.status, 0);
-    EXPECT_THAT(result.errors, HasSubstr(" unresolved references, 0 errors, 4 characters lost\n"));
+    EXPECT_THAT(result.errors, HasSubstr(" unresolved references, 0 errors, 4 characters lost "
+                                         "(--set Html.CharSet=UTF-8 keeps them)\n"));
     EXPECT_THAT(content("rep_dtl.htm"), HasSubstr("?\x80??"));
 }
 

@@ -54,11 +54,11 @@ TEST_F(IniStore, KeepsEverythingElseInTheFile) {
     EXPECT_EQ(text(), "; by hand\n[Settings]\nInstallDir=C:\\q\n\n[Html]\nodd\nNavig=3\n");
 }
 
-TEST_F(IniStore, ConvertsBetweenUtf8AndTheCodePage) {
+TEST_F(IniStore, KeepsEveryCharacterInUtf8) {
     put("[Html]\nHtmlPixDir=f\xC3\xBCr \xE2\x82\xAC\n");
-    EXPECT_EQ(store->read("Html", "HtmlPixDir"), "f\xFCr \x80");
-    EXPECT_TRUE(store->write("Html", "IconFile", "caf\xE9"));
-    EXPECT_EQ(text(), "[Html]\nHtmlPixDir=f\xC3\xBCr \xE2\x82\xAC\nIconFile=caf\xC3\xA9\n");
+    EXPECT_EQ(store->read("Html", "HtmlPixDir"), "f\xC3\xBCr \xE2\x82\xAC");
+    EXPECT_TRUE(store->write("Html", "IconFile", "\xE6\x97\xA5"));
+    EXPECT_EQ(text(), "[Html]\nHtmlPixDir=f\xC3\xBCr \xE2\x82\xAC\nIconFile=\xE6\x97\xA5\n");
 }
 
 TEST_F(IniStore, SkipsAByteOrderMarkAndKeepsIt) {

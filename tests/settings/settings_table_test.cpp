@@ -35,6 +35,7 @@ TEST(SettingsTable, HoldsEverySettingWithItsTypeAndDefault) {
               "Html.PassThrough boolean \"false\"\n"
               "Html.LocateInBrowser boolean \"true\"\n"
               "Html.ScriptNavigator boolean \"false\"\n"
+              "Html.CharSet text \"\"\n"
               "Html.DiagramType short \"0\"\n"
               "Settings.InstallDir text \"\"\n"
               "Settings.TestLevel integer \"\"\n"

@@ -86,10 +86,15 @@ TEST_F(SettingsEdit, KeepsAStoredValueThatTheCodePageCannotHold) {
     EXPECT_EQ(kept(), before + "ExternalDocDir=papers\n");
 }
 
-TEST_F(SettingsEdit, RefusesAnAnswerThatTheCodePageCannotHold) {
-    EXPECT_EQ(run({"edit"}, "\xE6\x97\xA5\xE6\x9C\xAC\nimages\n"), 0);
-    EXPECT_THAT(out, HasSubstr("Images directory [pix]: the driver's 8-bit code page cannot hold "
-                               "\"\xE6\x97\xA5\xE6\x9C\xAC\".\nImages directory [pix]: "));
+TEST_F(SettingsEdit, TakesAnAnswerThatTheCodePageCannotHold) {
+    EXPECT_EQ(run({"edit"}, "\xE6\x97\xA5\xE6\x9C\xAC\n"), 0);
+    EXPECT_EQ(kept(), "[Html]\nHtmlPixDir=\xE6\x97\xA5\xE6\x9C\xAC\n");
+}
+
+TEST_F(SettingsEdit, RefusesAnAnswerThatIsNotUtf8) {
+    EXPECT_EQ(run({"edit"}, "a\xFF\nimages\n"), 0);
+    EXPECT_THAT(out, HasSubstr("Images directory [pix]: \"a\xFF\" is not in UTF-8.\n"
+                               "Images directory [pix]: "));
     EXPECT_EQ(kept(), "[Html]\nHtmlPixDir=images\n");
 }
 

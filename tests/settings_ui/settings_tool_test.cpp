@@ -27,7 +27,7 @@ TEST_F(SettingsToolTest, ListShowsEverySettingWithValueDefaultAndMeaning) {
     EXPECT_THAT(out, HasSubstr("Html.TOCLevel=7\n    default \"50\", integer\n"));
     EXPECT_THAT(out, HasSubstr("Settings.TestLevel=\n    default \"\", integer\n"));
     EXPECT_THAT(out, HasSubstr("Log.LogName=\n"));
-    EXPECT_EQ(std::ranges::count(out, '\n'), 64);
+    EXPECT_EQ(std::ranges::count(out, '\n'), 67);
     EXPECT_EQ(errors, "");
 }
 
@@ -70,12 +70,17 @@ TEST_F(SettingsToolTest, TextsAreUtf8) {
     EXPECT_EQ(out, "caf\xC3\xA9\n");
 }
 
-TEST_F(SettingsToolTest, SetRefusesLettersThatTheCodePageCannotRepresent) {
+TEST_F(SettingsToolTest, KeepsLettersThatTheCodePageCannotRepresent) {
+    EXPECT_EQ(run({"set", "BodyTags=\xE6\x97\xA5\xE6\x9C\xAC \xF0\x9F\x98\x80"}), 0);
+    EXPECT_EQ(kept(), "[Html]\nBodyTags=\xE6\x97\xA5\xE6\x9C\xAC \xF0\x9F\x98\x80\n");
+    EXPECT_EQ(run({"get", "BodyTags"}), 0);
+    EXPECT_EQ(out, "\xE6\x97\xA5\xE6\x9C\xAC \xF0\x9F\x98\x80\n");
+}
+
+TEST_F(SettingsToolTest, SetRefusesWhatIsNotUtf8) {
     keep("[Html]\nBodyTags=old\n");
-    EXPECT_EQ(run({"set", "TOCLevel=4", "BodyTags=\xE6\x97\xA5\xE6\x9C\xAC"}), 2);
-    EXPECT_THAT(errors, StartsWith("dochtml-settings: the driver's 8-bit code page cannot hold "
-                                   "\"\xE6\x97\xA5\xE6\x9C\xAC\"\n"));
     EXPECT_EQ(run({"set", "BodyTags=a\xFF"}), 2);
+    EXPECT_THAT(errors, StartsWith("dochtml-settings: \"a\xFF\" is not in UTF-8\n"));
     EXPECT_EQ(kept(), "[Html]\nBodyTags=old\n");
 }
 

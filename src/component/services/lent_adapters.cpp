@@ -1,31 +1,40 @@
 #include "component/services/lent_adapters.h"
 
 #include "component/services/lent_text.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark {
 namespace {
 
+/// The host's texts are in the encoding of the document that asks.
 class LentSettingsStore final : public SettingsStore {
 public:
     explicit LentSettingsStore(const DochtmlSettingsStore& host) : host_(host) {}
 
     [[nodiscard]] std::optional<OrxString> read(const OrxString& group,
                                                 const OrxString& name) const override {
-        const DochtmlText groupText = lend(group);
-        const DochtmlText nameText = lend(name);
+        const TextEncoding& encoding = TextEncoding::current();
+        const OrxString hostsGroup = encoding.fromUtf8(group);
+        const OrxString hostsName = encoding.fromUtf8(name);
+        const DochtmlText groupText = lend(hostsGroup);
+        const DochtmlText nameText = lend(hostsName);
         CollectedTexts value;
         const DochtmlSink sink = value.sink();
         if (host_.read(host_.context, &groupText, &nameText, &sink) == 0) {
             return std::nullopt;
         }
-        return value.text();
+        return encoding.toUtf8(value.text());
     }
 
     [[nodiscard]] bool write(const OrxString& group, const OrxString& name,
                              const OrxString& value) override {
-        const DochtmlText groupText = lend(group);
-        const DochtmlText nameText = lend(name);
-        const DochtmlText valueText = lend(value);
+        const TextEncoding& encoding = TextEncoding::current();
+        const OrxString hostsGroup = encoding.fromUtf8(group);
+        const OrxString hostsName = encoding.fromUtf8(name);
+        const OrxString hostsValue = encoding.fromUtf8(value);
+        const DochtmlText groupText = lend(hostsGroup);
+        const DochtmlText nameText = lend(hostsName);
+        const DochtmlText valueText = lend(hostsValue);
         return host_.write(host_.context, &groupText, &nameText, &valueText) != 0;
     }
 

@@ -157,7 +157,7 @@ HRESULT DocHtmlComPage::TranslateAccelerator(MSG* message) {
     if (!isKey || window_.handle() == nullptr || leavesPage(*message)) {
         return S_FALSE;
     }
-    return IsDialogMessageA(window_.handle(), message) != FALSE ? S_OK : S_FALSE;
+    return IsDialogMessageW(window_.handle(), message) != FALSE ? S_OK : S_FALSE;
 }
 
 bool DocHtmlComPage::leavesPage(const MSG& message) const {

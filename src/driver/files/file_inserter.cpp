@@ -44,20 +44,21 @@ void FileInserter::insertContents(const OrxString& name) {
 
 void FileInserter::pasteLines(const OrxString& name) {
     FileFailure::forget();
+    const TextEncoding& source = context_.encoding->ofFile(name);
     const std::unique_ptr<InputFile> file = FileSystem::current().openForReading(name);
     if (file == nullptr) {
         failure_lines::writeReason(context_.trace);
         context_.traceError("ERR Cannot open : ", name);
         return;
     }
-    LineReader lines(*file);
+    LineReader lines(*file, source);
     bool first = true;
     for (std::string line; lines.next(line); first = false) {
         if (!first) {
             text_.insertEndl();
         }
         if (!line.empty()) {
-            text_.insertEscaped(line);
+            text_.insertEscaped(context_.encoding->recoded(line, source));
         }
     }
     if (file->failed()) {

@@ -10,6 +10,15 @@ int LineReader::peekByte() {
     return pos_ == filled_ ? endOfFile : static_cast<unsigned char>(buffer_[pos_]);
 }
 
+int LineReader::firstCharacter() {
+    static_cast<void>(peekByte());
+    const std::string_view start(buffer_.data(), filled_);
+    if (start.starts_with(encoding_.byteOrderMark())) {
+        pos_ = encoding_.byteOrderMark().size();
+    }
+    return readCharacter();
+}
+
 int LineReader::readCharacter() {
     const int byte = peekByte();
     if (byte == endOfFile) {
@@ -28,7 +37,12 @@ bool LineReader::next(std::string& line) {
     if (ahead_ == endOfFile) {
         return false;
     }
-    while (ahead_ != endOfFile && ahead_ != '\n' && line.size() < longest) {
+    std::size_t characters = 0;
+    while (ahead_ != endOfFile && ahead_ != '\n') {
+        characters += encoding_.beginsCharacter(static_cast<unsigned char>(ahead_)) ? 1 : 0;
+        if (characters > longest) {
+            break;
+        }
         line.push_back(static_cast<char>(ahead_));
         ahead_ = readCharacter();
     }

@@ -25,7 +25,7 @@ OrxString routeTo(const OrxString& target, const OrxString& fromPage) {
     if (!link.isEmpty()) {
         link.append('/');
     }
-    return link.append(SysFile::stripDir(target)).append('#');
+    return link.append(links::fromFilePart(target)).append('#');
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "driver/pages/output_router.h"
 #include "page/cached_link.h"
 #include "page/file_copier.h"
+#include "platform/text_encoding.h"
 #include "platform/trace.h"
 
 namespace quillmark {
@@ -12,6 +13,8 @@ namespace quillmark {
 /// What most parts of a document share: file names, settings, output, trace, and the copying of
 /// files. There is one per document, and the parts keep a reference to it.
 struct DocumentContext {
+    /// How the document keeps its texts and names as bytes; never null.
+    const TextEncoding* encoding = &TextEncoding::current();
     Trace trace;
     OutputRouter out;
     OutputNames names;

@@ -18,33 +18,45 @@ RegEntry readHtml(const RegisterCache& settings, const char* name) {
     return settings.read(htmlGroup, name, defaultValue(htmlGroup, name));
 }
 
+OrxString textOf(const RegEntry& entry) {
+    return entry.asString(TextEncoding::current());
+}
+
 RegEntry readDirectly(const char* name) {
     return RegisterDynamic().read(settingsGroup, name, defaultValue(settingsGroup, name));
 }
 
 OrxString iniFileName() {
     const AppProfileInterface* const profile = AppProfileInterface::getInterface();
-    return profile != nullptr ? profile->profilePath() : OrxString("Veltrano.ini");
+    if (profile == nullptr) {
+        return "Veltrano.ini";
+    }
+    // The host's profile does not know the document.
+    return TextEncoding::current().recoded(profile->profilePath(), TextEncoding::codePage());
 }
 
 }  // namespace
 
+const TextEncoding& encodingIn(const RegisterCache& settings) {
+    return TextEncoding::named(readHtml(settings, "CharSet").asString());
+}
+
 void DocumentSettings::readPlaces(const RegisterCache& settings, const OrxString& outputDir) {
     const auto html = [&settings](const char* name) { return readHtml(settings, name); };
-    pixDir = SysDirectory::getSpecificPath(outputDir, html("HtmlPixDir").asString());
+    pixDir = SysDirectory::getSpecificPath(outputDir, textOf(html("HtmlPixDir")));
     SysDirectory::checkDirectoryAndCreate(pixDir);
-    externalDocDir = SysDirectory::getSpecificPath(outputDir, html("ExternalDocDir").asString());
+    externalDocDir = SysDirectory::getSpecificPath(outputDir, textOf(html("ExternalDocDir")));
     useRelative = html("UseRelative").asBool();
     showIcons = html("ShowIcons").asBool();
-    iconFile = html("IconFile").asString();
+    iconFile = textOf(html("IconFile"));
     supportOld = html("SupportOld").asBool();
-    bodyTags = html("BodyTags").asString();
+    bodyTags = textOf(html("BodyTags"));
     suppressImageMaps = html("SuppressImageMaps").asBool();
     navigation = effectiveNavigation(html("Navig").asShort());
     tocLevel = static_cast<std::uint32_t>(html("TOCLevel").asInt());
-    dontCopy = html("DontCopy").asString();
-    installDir = readDirectly("InstallDir").asString();
-    styleSheet = html("StyleSheet").asString();
+    dontCopy = textOf(html("DontCopy"));
+    installDir = textOf(readDirectly("InstallDir"));
+    styleSheet = textOf(html("StyleSheet"));
 }
 
 void DocumentSettings::readTexts(const RegisterCache& settings) {
@@ -76,7 +88,7 @@ bool DocumentSettings::readIniFile(const Trace& trace) {
 }
 
 OrxString userFilesDir() {
-    return readDirectly("UserFilesDir").asString();
+    return textOf(readDirectly("UserFilesDir"));
 }
 
 }  // namespace quillmark

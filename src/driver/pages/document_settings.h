@@ -9,8 +9,8 @@
 
 namespace quillmark {
 
-/// The settings of one document, as `create` reads them. Before the first `create` they have the
-/// values below, which are not always the defaults of the stored settings.
+/// The settings of one document, as `create` reads them, in the encoding in force. Before the first
+/// `create` they have the values below, which are not always the defaults of the stored settings.
 struct DocumentSettings {
     OrxString pixDir;          // image directory, full path
     OrxString externalDocDir;  // directory for copied documents, full path
@@ -45,9 +45,13 @@ struct DocumentSettings {
     /// Reads the settings for texts.
     void readTexts(const RegisterCache& settings);
     /// Reads the modelling tool's ini file. Returns false when the applet must run on a Java before
-    /// version 7. A file that cannot be read is an error in the trace; a missing one counts as empty.
+    /// version 7. A file that cannot be read is an error in the trace; a missing one counts as
+    /// empty.
     [[nodiscard]] bool readIniFile(const Trace& trace);
 };
+
+/// The encoding that the setting "CharSet" asks for.
+[[nodiscard]] const TextEncoding& encodingIn(const RegisterCache& settings);
 
 /// The directory of the user's own files, read from the store at each call.
 [[nodiscard]] OrxString userFilesDir();

@@ -37,6 +37,12 @@ void OutputRouter::freeSections() noexcept {
     footer_.wasOpened = false;
 }
 
+void OutputRouter::recode(const TextEncoding& from, const TextEncoding& to) {
+    bodyState_.recode(from, to);
+    header_.section->recode(from, to);
+    footer_.section->recode(from, to);
+}
+
 void OutputRouter::makeCurrent(SectionMode mode) noexcept {
     mode_ = mode;
     DocHtmlSection* const open = section(mode);

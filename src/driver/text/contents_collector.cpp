@@ -15,6 +15,11 @@ void ContentsCollector::reset() noexcept {
     tocAnchorCount_ = 0;
 }
 
+void ContentsCollector::recode(const TextEncoding& from, const TextEncoding& to) {
+    tocAnchor_ = to.recoded(tocAnchor_, from);
+    tocText_ = to.recoded(tocText_, from);
+}
+
 void ContentsCollector::openAnchor() {
     const std::string name = "toc" + std::to_string(++tocAnchorCount_);
     bookmarks_.define(name, BookmarkWriter::Origin::driver);

@@ -1,11 +1,9 @@
 #include "navigator/text/text_decoder.h"
 
-#include "platform/sys_text.h"
-
 namespace quillmark {
 
-void CodePageDecoder::append(std::u16string& out, std::string_view bytes) const {
-    out.append(SysText::widen(bytes));
+void DocumentDecoder::append(std::u16string& out, std::string_view bytes) const {
+    out.append(encoding_.toUtf16(bytes));
 }
 
 }  // namespace quillmark

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/text_encoding.h"
+
 namespace quillmark {
 
 /// From the bytes of a document's pages to characters. The navigator knows the encoding of a
@@ -17,10 +19,14 @@ public:
     virtual void append(std::u16string& out, std::string_view bytes) const = 0;
 };
 
-/// Documents in the system's 8-bit code page.
-class CodePageDecoder final : public TextDecoder {
+/// Documents of this driver, each with its own encoding.
+class DocumentDecoder final : public TextDecoder {
 public:
+    explicit DocumentDecoder(const TextEncoding& encoding) noexcept : encoding_(encoding) {}
     void append(std::u16string& out, std::string_view bytes) const override;
+
+private:
+    const TextEncoding& encoding_;
 };
 
 }  // namespace quillmark

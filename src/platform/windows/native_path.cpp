@@ -1,6 +1,6 @@
 #include "platform/drive_table.h"
 #include "platform/path_text.h"
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark {
 
@@ -10,7 +10,7 @@ std::string nativePath(const OrxString& name) {
 }
 
 OrxString driverPath(const std::string& native) {
-    return path_text::inDriverForm(SysText::fromUtf8(native));
+    return path_text::inDriverForm(TextEncoding::current().fromUtf8(native));
 }
 
 }  // namespace quillmark

@@ -8,6 +8,7 @@
 #include "platform/drive_table.h"
 #include "platform/file_system.h"
 #include "platform/sys_file.h"
+#include "platform/windows/wide_name.h"
 #include "platform/windows/windows_api.h"
 // Needs the types of the wrapper above.
 #include <shellapi.h>
@@ -21,25 +22,25 @@ constexpr ULONG noAsync = 0x100;
 
 /// Calls the shell's execute service with the default verb, without an owner window or a working
 /// directory, and returns its instance result.
-int execute(const char* file, const char* parameters, int show) {
-    SHELLEXECUTEINFOA request{};
+int execute(const std::wstring& file, const std::wstring& parameters, int show) {
+    SHELLEXECUTEINFOW request{};
     request.cbSize = sizeof request;
     request.fMask = noAsync;
-    request.lpFile = file;
-    request.lpParameters = parameters;
+    request.lpFile = file.c_str();
+    request.lpParameters = parameters.empty() ? nullptr : parameters.c_str();
     request.nShow = show;
-    ShellExecuteExA(&request);
+    ShellExecuteExW(&request);
     return static_cast<int>(reinterpret_cast<std::intptr_t>(request.hInstApp));
 }
 
 }  // namespace
 
 void SysShell::open(const OrxString& fileName) {
-    const std::string target =
-        SysFile::isHyperLink(fileName) ? fileName.str() : nativePath(fileName);
+    const std::wstring target =
+        wideText(SysFile::isHyperLink(fileName) ? fileName.str() : nativePath(fileName));
     // An empty name would open the current directory.
     if (!target.empty() && FileSystem::current().mayStart(fileName)) {
-        execute(target.c_str(), nullptr, SW_SHOWNORMAL);
+        execute(target, {}, SW_SHOWNORMAL);
     }
 }
 
@@ -55,7 +56,7 @@ int SysShell::start(const OrxString& program, const std::vector<OrxString>& argu
     for (const OrxString& argument : arguments) {
         list.push_back(argument.str());
     }
-    return execute(nativePath(program).c_str(), joinedArguments(list).c_str(), SW_HIDE);
+    return execute(wideText(nativePath(program)), wideText(joinedArguments(list)), SW_HIDE);
 }
 
 }  // namespace quillmark

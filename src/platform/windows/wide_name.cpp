@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/path_text.h"
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark {
 
@@ -11,7 +11,7 @@ namespace quillmark {
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
 std::wstring wideText(std::string_view text) {
-    const std::u16string wide = SysText::widen(text);
+    const std::u16string wide = TextEncoding::current().toUtf16(text);
     return {wide.begin(), wide.end()};
 }
 
@@ -31,7 +31,7 @@ std::wstring wideName(const OrxString& name) {
 }
 
 OrxString narrowText(std::wstring_view text) {
-    return SysText::narrow(std::u16string(text.begin(), text.end()));
+    return TextEncoding::current().toBytes(std::u16string(text.begin(), text.end()));
 }
 
 }  // namespace quillmark

@@ -18,7 +18,7 @@ std::vector<OrxString> readTexts(const JsonValue& list, const std::string& place
         if (!text.IsString()) {
             throw BadInput(place + ": the regions must be a list of strings");
         }
-        texts.push_back(narrowText(text));
+        texts.push_back(ownedText(text));
     }
     return texts;
 }
@@ -29,12 +29,27 @@ ImageMapFile::ImageMapFile(const std::filesystem::path& file, std::string_view s
     const JsonDocument document = readJsonObject(file, shown);
     for (const auto& member : document.GetObject()) {
         const std::string place = std::string(shown) + ": " + std::string(utf8Text(member.name));
-        pictures_[narrowText(member.name)] = readTexts(member.value, place);
+        pictures_[ownedText(member.name)] = readTexts(member.value, place);
     }
 }
 
+const ImageMapFile::Pictures& ImageMapFile::picturesIn(const TextEncoding& encoding) {
+    Pictures& known = encoded_[&encoding];
+    if (known.size() == 0) {
+        for (const auto& [name, texts] : pictures_) {
+            std::vector<OrxString>& converted = known[encoding.fromUtf8(name)];
+            converted.clear();
+            for (const OrxString& text : texts) {
+                converted.push_back(encoding.fromUtf8(text));
+            }
+        }
+    }
+    return known;
+}
+
 void ImageMapFile::getRegions(const OrxString& picture, std::vector<OrxString>& regions) {
-    if (const auto hit = pictures_.find(picture); hit != pictures_.end()) {
+    const Pictures& pictures = picturesIn(TextEncoding::current());
+    if (const auto hit = pictures.find(picture); hit != pictures.end()) {
         regions = hit->second;
     }
 }

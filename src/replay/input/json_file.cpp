@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "platform/sys_text.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/host_file.h"
 
@@ -39,8 +38,8 @@ std::string_view utf8Text(const JsonValue& value) {
     return {value.GetString(), value.GetStringLength()};
 }
 
-OrxString narrowText(const JsonValue& value) {
-    return SysText::fromUtf8(utf8Text(value));
+OrxString ownedText(const JsonValue& value) {
+    return OrxString(utf8Text(value));
 }
 
 }  // namespace quillmark::replay

@@ -14,8 +14,8 @@ namespace quillmark::replay {
 [[nodiscard]] JsonDocument readJsonObject(const std::filesystem::path& file,
                                           std::string_view shown);
 
-/// A JSON string in the driver's 8-bit form.
-[[nodiscard]] OrxString narrowText(const JsonValue& value);
+/// A JSON string, in UTF-8.
+[[nodiscard]] OrxString ownedText(const JsonValue& value);
 [[nodiscard]] std::string_view utf8Text(const JsonValue& value);
 
 }  // namespace quillmark::replay

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/text_encoding.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/json_file.h"
 #include "settings/reg_entry.h"
@@ -16,7 +17,9 @@ class ModelFile::Attribute final : public MMAttribute {
 public:
     explicit Attribute(OrxString text) : text_(std::move(text)) {}
 
-    [[nodiscard]] OrxString asString() const override { return text_; }
+    [[nodiscard]] OrxString asString() const override {
+        return TextEncoding::current().fromUtf8(text_);
+    }
     [[nodiscard]] bool asBoolean() const override { return RegEntry::ofString(text_).asBool(); }
     [[nodiscard]] std::int32_t asLongInt() const override {
         return RegEntry::ofString(text_).asInt();
@@ -36,9 +39,11 @@ public:
     explicit Class(OrxString name) : name_(std::move(name)) {}
 
     void addAttribute(const OrxString& attribute) { attributes_.insert(attribute); }
-    [[nodiscard]] OrxString name() const override { return name_; }
+    [[nodiscard]] OrxString name() const override {
+        return TextEncoding::current().fromUtf8(name_);
+    }
     [[nodiscard]] bool attributeExists(const OrxString& attribute) const override {
-        return attributes_.contains(attribute);
+        return attributes_.contains(TextEncoding::current().toUtf8(attribute));
     }
     [[nodiscard]] bool associationExists(const OrxString& /*association*/) const override {
         return false;
@@ -58,7 +63,7 @@ public:
     }
     [[nodiscard]] const MMClass* getClass() const override { return &class_; }
     [[nodiscard]] const MMAttribute* operator[](const OrxString& attribute) const override {
-        const auto hit = attributes_.find(attribute);
+        const auto hit = attributes_.find(TextEncoding::current().toUtf8(attribute));
         return hit != attributes_.end() ? &hit->second : nullptr;
     }
     [[nodiscard]] std::vector<const MMObject*> objects(
@@ -92,7 +97,7 @@ std::uint64_t readHandle(std::string_view text, const std::string& place) {
 
 OrxString readAttribute(const JsonValue& value, const std::string& place) {
     if (value.IsString()) {
-        return narrowText(value);
+        return ownedText(value);
     }
     if (value.IsBool()) {
         return value.GetBool() ? "true" : "false";
@@ -129,7 +134,7 @@ OrxString readClassName(const JsonValue& element, const std::string& place) {
     if (name == nullptr || !name->IsString()) {
         throw BadInput(place + ": the element has no \"class\" string");
     }
-    return narrowText(*name);
+    return ownedText(*name);
 }
 
 }  // namespace
@@ -152,7 +157,7 @@ ModelFile::ModelFile(const std::filesystem::path& file, std::string_view shown) 
         }
         if (attributes != nullptr) {
             for (const auto& attribute : attributes->GetObject()) {
-                const OrxString name = narrowText(attribute.name);
+                const OrxString name = ownedText(attribute.name);
                 known->addAttribute(name);
                 element->set(name, readAttribute(attribute.value, place));
             }
@@ -169,7 +174,7 @@ const MMObject* ModelFile::object(std::uint64_t handle) const {
 }
 
 const MMClass* ModelFile::findClass(const OrxString& name) const {
-    const auto hit = classes_.find(name);
+    const auto hit = classes_.find(TextEncoding::current().toUtf8(name));
     return hit != classes_.end() ? hit->second.get() : nullptr;
 }
 

@@ -11,7 +11,8 @@
 namespace quillmark::replay {
 
 /// Model metadata from a JSON file: the schema type, and the class and attributes of each element,
-/// by its handle. The model has no associations.
+/// by its handle. The model has no associations. It keeps its texts in UTF-8 and answers in the
+/// encoding in force.
 class ModelFile final : public MMSchema {
 public:
     /// Throws `BadInput` when the file cannot be read or has other contents.

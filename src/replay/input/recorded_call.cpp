@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark::replay {
 
@@ -75,7 +75,7 @@ bool readAttribute(std::string_view text, Call& call) {
 }
 
 void readText(std::string_view text, RecordedTexts& texts, Call& call, std::size_t position) {
-    texts.at(position) = SysText::widen(text);
+    texts.at(position) = TextEncoding::current().toUtf16(text);
     call.arguments.at(position) = WideText(texts.at(position));
 }
 

@@ -58,7 +58,8 @@ private:
 /// The texts of a recorded call as the operation takes them.
 using RecordedTexts = std::array<std::u16string, 2>;
 
-/// Parses a whole call line. It has no line end at its end, and only line feeds between lines.
+/// Parses a whole call line, which is in the encoding in force. It has no line end at its end, and
+/// only line feeds between lines.
 /// Returns what is wrong with it, or an empty string. `texts` stores the texts of `call`.
 [[nodiscard]] std::string parseRecorded(std::string_view line, const RecordedOperation& what,
                                         RecordedTexts& texts, Call& call);

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "host/document_observer.h"
+#include "platform/text_encoding.h"
 #include "replay/play/opening_page.h"
 
 namespace quillmark::replay {
@@ -13,11 +14,11 @@ class DocumentCounts final : public DocumentObserver {
 public:
     void pageWritten(const OrxString& fileName) override {
         ++pages;
-        opening.pageWritten(fileName);
+        opening.pageWritten(TextEncoding::current().toUtf8(fileName));
     }
     void fileCopied(const OrxString& target) override {
         ++files;
-        opening.fileCopied(target);
+        opening.fileCopied(TextEncoding::current().toUtf8(target));
     }
     void contentsEntryAdded() override { ++contentsEntries; }
     void unresolvedReferences(const OrxString& /*fileName*/, std::size_t count) override {

@@ -8,7 +8,7 @@
 namespace quillmark::replay {
 
 /// Finds the page of a run's first document that a reader opens first. It knows the documents from
-/// the names of their files, in the order in which they are written.
+/// the names of their files, which are in UTF-8 here, in the order in which they are written.
 class OpeningPage {
 public:
     void pageWritten(const OrxString& fileName);

@@ -28,16 +28,30 @@ const Operation& closeOperation() {
     return operation;
 }
 
-std::string quoted(std::string_view text) {
-    constexpr std::size_t most = 120;
-    const bool cut = text.size() > most;
-    return SysText::toUtf8(text.substr(0, most)) + (cut ? " ..." : "");
+const Operation& overrideOperation() {
+    static const Operation& operation = operationOf("overrideRegistry");
+    return operation;
 }
 
-std::string nameProblem(WideText name) {
-    return "create: the driver's 8-bit code page (" + SysText::codePageName() +
-           ") cannot hold the name \"" + utf8::fromUtf16(name) +
-           "\"; all calls up to the next create or new are skipped";
+std::string quoted(std::string_view text, const TextEncoding& encoding) {
+    std::size_t most = 120;
+    if (text.size() <= most) {
+        return encoding.toUtf8(text);
+    }
+    while (most > 0 && !encoding.beginsCharacter(static_cast<unsigned char>(text[most]))) {
+        --most;
+    }
+    return encoding.toUtf8(text.substr(0, most)) + " ...";
+}
+
+std::string nameProblem(WideText name, const TextEncoding& encoding) {
+    const bool isUtf8 = &encoding == &TextEncoding::utf8();
+    const std::string holder =
+        isUtf8 ? std::string("UTF-8")
+               : "the driver's 8-bit code page (" + SysText::codePageName() + ")";
+    return "create: " + holder + " cannot hold the name \"" + utf8::fromUtf16(name) +
+           "\"; all calls up to the next create or new are skipped" +
+           (isUtf8 ? "" : " (with --set Html.CharSet=UTF-8 it keeps its name)");
 }
 
 }  // namespace
@@ -47,10 +61,12 @@ Player::Player(Settings settings, Listeners listeners, TraceMonitor& trace,
     : settings_(std::move(settings)),
       listeners_(std::move(listeners)),
       trace_(trace),
-      exceptions_(exceptions) {}
+      exceptions_(exceptions),
+      encoding_(settings_.store) {}
 
 LateBoundDocument& Player::document() {
     if (document_ == nullptr) {
+        encoding_.startObject();
         std::unique_ptr<LateBoundDocument> made = settings_.makeDocument();
         lookUpIdentifiers(*made);
         document_ = std::move(made);
@@ -74,6 +90,7 @@ void Player::lookUpIdentifiers(LateBoundDocument& made) {
 }
 
 void Player::finish() {
+    const TextEncoding::Scope scope(encoding_.current());
     document_.reset();
     isOpen_ = false;
     skipping_ = false;
@@ -81,6 +98,8 @@ void Player::finish() {
 
 void Player::invoke(const Operation& operation, std::span<const Argument> arguments) {
     LateBoundDocument& target = document();
+    // The services that the driver calls now speak the document's encoding.
+    const TextEncoding::Scope scope(encoding_.current());
     const int id = ids_[static_cast<std::size_t>(operation.dispatchId - 1)];
     if (arguments.size() == operation.parameters.size()) {
         target.invoke(id, arguments);
@@ -97,17 +116,18 @@ void Player::invoke(const Operation& operation, std::span<const Argument> argume
 /// Replaces the name in a call of `create`, and in its recorded line, by the one that the document
 /// will have. An absolute name stays exactly as it was given.
 void Player::adaptCreate(Call& call) {
-    OrxString name = SysText::narrow(std::get<WideText>(call.arguments[0]));
+    const TextEncoding& encoding = encoding_.next();
+    OrxString name = encoding.toBytes(std::get<WideText>(call.arguments[0]));
     const bool replaced = settings_.outputName.has_value();
     if (replaced) {
-        name = *std::exchange(settings_.outputName, std::nullopt);
+        name = encoding.fromUtf8(*std::exchange(settings_.outputName, std::nullopt));
     }
     if (!path_text::isAbsolute(name)) {
-        name = SysDirectory::getSpecificPath(settings_.startDirectory, name);
+        name = SysDirectory::getSpecificPath(encoding.fromUtf8(settings_.startDirectory), name);
     } else if (!replaced) {
         return;
     }
-    fileName_ = SysText::widen(name);
+    fileName_ = encoding.toUtf16(name);
     call.arguments[0] = WideText(fileName_);
     if (!call.recorded.empty()) {
         createLine_ = "dochtml->create(\"" + name.str() + "\");";
@@ -117,24 +137,46 @@ void Player::adaptCreate(Call& call) {
 
 bool Player::refuses(const Call& create) const {
     const WideText name = std::get<WideText>(create.arguments[0]);
-    if (settings_.outputName || SysText::holds(name)) {
+    const TextEncoding& encoding = encoding_.next();
+    if (settings_.outputName || encoding.holds(name)) {
         return false;
     }
     if (listeners_.refused) {
-        listeners_.refused(create.line, nameProblem(name));
+        listeners_.refused(create.line, nameProblem(name, encoding));
     }
     return true;
 }
 
 void Player::countLost(const Call& call) {
+    const TextEncoding& encoding = encoding_.current();
+    const TextEncoding::Scope scope(encoding);
     for (const Argument& argument : call.given()) {
         const auto* const text = std::get_if<WideText>(&argument);
-        const std::size_t lost = text != nullptr ? SysText::countLost(*text) : 0;
+        const std::size_t lost = text != nullptr ? encoding.countLost(*text) : 0;
         charactersLost_ += lost;
         if (lost > 0 && listeners_.lost) {
             listeners_.lost(call.line, *text);
         }
     }
+}
+
+void Player::noteEncoding(const Call& call) {
+    // A fresh object reads the settings, so it must be there first.
+    document();
+    if (call.operation == &createOperation()) {
+        encoding_.create();
+    } else if (call.operation == &overrideOperation()) {
+        encoding_.override(call);
+    }
+    const TextEncoding& encoding = encoding_.current();
+    if (fit_.isWrong(call.recorded, encoding) && listeners_.diverged) {
+        listeners_.diverged(call.line, RecordingFit::problem(encoding));
+    }
+}
+
+ReadResult Player::readCall(CallSource& source, Call& call) {
+    const TextEncoding::Scope scope(isOpen_ ? encoding_.current() : encoding_.next());
+    return source.next(call);
 }
 
 /// False for a call that is skipped.
@@ -154,6 +196,7 @@ bool Player::playCall(Call& call) {
     if (opens) {
         adaptCreate(call);
     }
+    noteEncoding(call);
     countLost(call);
     const std::size_t caught = exceptions_.caught();
     invoke(*call.operation, call.given());
@@ -182,7 +225,8 @@ bool Player::tryCall(Call& call) {
 /// Describes a line that the driver wrote, for a message.
 std::string Player::describe(std::size_t line) const {
     return line < trace_.calls().size()
-               ? "the driver called " + quoted(trace_.calls()[static_cast<std::uint32_t>(line)])
+               ? "the driver called " +
+                     quoted(trace_.calls()[static_cast<std::uint32_t>(line)], encoding_.current())
                : std::string("the driver wrote no line");
 }
 
@@ -198,10 +242,10 @@ ReadResult Player::consumeRecordedLines(CallSource& source, Call& call) {
     };
     bool diverged = heard.size() == 0 || heard[0] != call.recorded;
     if (diverged) {
-        report(call.line, describe(0) + " for " + quoted(call.recorded));
+        report(call.line, describe(0) + " for " + quoted(call.recorded, encoding_.current()));
     }
     const std::size_t servedLine = call.line;
-    ReadResult result = source.next(call);
+    ReadResult result = readCall(source, call);
     for (std::uint32_t i = 1; i < heard.size(); ++i) {
         const bool same = result == ReadResult::call && heard[i] == call.recorded;
         // A malformed line is reported when it is the next call.
@@ -209,11 +253,12 @@ ReadResult Player::consumeRecordedLines(CallSource& source, Call& call) {
             diverged = true;
             const bool more = result == ReadResult::call;
             report(more ? call.line : servedLine,
-                   describe(i) + (more ? ", the recording has " + quoted(call.recorded)
-                                       : std::string(", the recording ends")));
+                   describe(i) +
+                       (more ? ", the recording has " + quoted(call.recorded, encoding_.current())
+                             : std::string(", the recording ends")));
         }
         if (same) {
-            result = source.next(call);
+            result = readCall(source, call);
         }
     }
     return result;
@@ -221,7 +266,7 @@ ReadResult Player::consumeRecordedLines(CallSource& source, Call& call) {
 
 bool Player::play(CallSource& source) {
     Call call;
-    ReadResult result = source.next(call);
+    ReadResult result = readCall(source, call);
     while (result == ReadResult::call) {
         trace_.forgetCalls();
         const bool played = tryCall(call);
@@ -230,7 +275,7 @@ bool Player::play(CallSource& source) {
             listeners_.played(calls_);
         }
         result = played && !call.recorded.empty() ? consumeRecordedLines(source, call)
-                                                  : source.next(call);
+                                                  : readCall(source, call);
     }
     if (result == ReadResult::malformed && isOpen_) {
         invoke(closeOperation(), {});

@@ -11,15 +11,17 @@
 
 #include "foundation/orx_string.h"
 #include "replay/input/call_source.h"
+#include "replay/play/document_encoding.h"
 #include "replay/play/exception_monitor.h"
 #include "replay/play/late_bound_document.h"
+#include "replay/play/recording_fit.h"
 #include "replay/play/trace_monitor.h"
 
 namespace quillmark::replay {
 
 /// Plays calls into a document, input after input into the same object.
 ///
-/// A `create` whose name the driver's code page cannot hold is refused: its document would get
+/// A `create` whose name the document's encoding cannot hold is refused: its document would get
 /// another name, possibly that of another document. It is skipped with the calls that follow, up
 /// to the next `create` or new object.
 ///
@@ -30,7 +32,9 @@ class Player {
 public:
     struct Settings {
         DocumentMaker makeDocument;
-        /// In the driver's form; relative names of `create` count from it.
+        /// The settings that the documents read; null for none.
+        std::shared_ptr<const SettingsStore> store{};
+        /// In the driver's form, in UTF-8; relative names of `create` count from it.
         OrxString startDirectory;
         /// Takes the place of the file name of the first `create`.
         std::optional<OrxString> outputName;
@@ -60,11 +64,14 @@ public:
     [[nodiscard]] bool play(CallSource& source);
     /// Releases the object, which ends a document that is still open.
     void finish();
-    /// How many characters of the texts played the driver's code page could not hold.
+    /// How many characters of the texts played the documents could not hold.
     [[nodiscard]] std::size_t charactersLost() const noexcept { return charactersLost_; }
 
 private:
     LateBoundDocument& document();
+    /// Reads a call. A recording is in the encoding of the document that it is played into.
+    [[nodiscard]] ReadResult readCall(CallSource& source, Call& call);
+    void noteEncoding(const Call& call);
     void lookUpIdentifiers(LateBoundDocument& made);
     bool playCall(Call& call);
     bool tryCall(Call& call);
@@ -79,6 +86,8 @@ private:
     Listeners listeners_;
     TraceMonitor& trace_;
     const ExceptionMonitor& exceptions_;
+    DocumentEncoding encoding_;
+    RecordingFit fit_;
     std::unique_ptr<LateBoundDocument> document_;
     /// The identifiers that the object gave, by row of the table of operations.
     std::array<int, operationCount> ids_{};

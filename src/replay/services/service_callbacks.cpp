@@ -1,5 +1,6 @@
 #include "replay/services/service_callbacks.h"
 
+#include "platform/text_encoding.h"
 #include "replay/services/callback_guard.h"
 
 namespace quillmark::replay {
@@ -14,11 +15,13 @@ Service& serviceOf(void* context) noexcept {
 std::int32_t readSetting(void* context, const DochtmlText* group, const DochtmlText* name,
                          const DochtmlSink* value) {
     return guarded(std::int32_t{0}, [&]() -> std::int32_t {
-        const auto found = serviceOf<SettingsStore>(context).read(viewOf(group), viewOf(name));
+        const TextEncoding& encoding = TextEncoding::current();
+        const auto found = serviceOf<SettingsStore>(context).read(encoding.toUtf8(viewOf(group)),
+                                                                  encoding.toUtf8(viewOf(name)));
         if (!found) {
             return 0;
         }
-        answer(value, *found);
+        answer(value, encoding.fromUtf8(*found));
         return 1;
     });
 }
@@ -26,8 +29,10 @@ std::int32_t readSetting(void* context, const DochtmlText* group, const DochtmlT
 std::int32_t writeSetting(void* context, const DochtmlText* group, const DochtmlText* name,
                           const DochtmlText* value) {
     return guarded(std::int32_t{0}, [&] {
-        const bool kept =
-            serviceOf<SettingsStore>(context).write(viewOf(group), viewOf(name), viewOf(value));
+        const TextEncoding& encoding = TextEncoding::current();
+        const bool kept = serviceOf<SettingsStore>(context).write(encoding.toUtf8(viewOf(group)),
+                                                                  encoding.toUtf8(viewOf(name)),
+                                                                  encoding.toUtf8(viewOf(value)));
         return std::int32_t{kept ? 1 : 0};
     });
 }

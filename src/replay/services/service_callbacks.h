@@ -12,6 +12,7 @@ namespace quillmark::replay {
 
 /// Convert services of this process into the tables of callbacks that a component accepts. The
 /// caller keeps the service alive while the table is used. The callbacks do not throw.
+/// They run while a document is played, whose encoding is in force.
 
 [[nodiscard]] DochtmlSettingsStore callbacksOf(SettingsStore& store);
 [[nodiscard]] DochtmlImageMaps callbacksOf(CImageMapInterface& maps);

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark::replay {
 
@@ -19,7 +19,7 @@ std::string referenceOf(std::string_view line) {
     }
     const std::string_view rest = line.substr(middle + place.size());
     return "line " + std::string(rest.substr(0, rest.find(' '))) + ": " +
-           SysText::toUtf8(line.substr(2, middle - 2));
+           TextEncoding::current().toUtf8(line.substr(2, middle - 2));
 }
 
 }  // namespace

@@ -5,25 +5,19 @@
 
 #include "command_line/utf8_path.h"
 #include "foundation/ascii.h"
+#include "foundation/utf8.h"
 #include "platform/drive_table.h"
-#include "platform/sys_text.h"
 #include "platform/system_facts.h"
 #include "replay/input/bad_input.h"
 
 namespace quillmark::replay {
 
-namespace {
-
-/// Refuses a name that the driver's 8-bit code page cannot hold: it would become the name of
-/// another file.
-const std::string& checkedName(const std::string& utf8) {
-    if (!SysText::holdsUtf8(utf8)) {
-        throw BadInput("the driver's 8-bit code page cannot hold the file name " + utf8);
+void checkFileName(const OrxString& name, const TextEncoding& encoding) {
+    if (!encoding.holds(utf8::toUtf16(name))) {
+        throw BadInput("the driver's 8-bit code page cannot hold the file name " +
+                       nativePath(name) + " (--set Html.CharSet=UTF-8 keeps all names)");
     }
-    return utf8;
 }
-
-}  // namespace
 
 std::filesystem::path startDirectory() {
     std::error_code failure;
@@ -31,7 +25,6 @@ std::filesystem::path startDirectory() {
     if (failure) {
         throw BadInput("cannot determine the current directory: " + failure.message());
     }
-    checkedName(utf8Path(directory));
     return directory;
 }
 
@@ -73,9 +66,9 @@ std::filesystem::path OptionFiles::native(const std::string& name) const {
 
 OrxString OptionFiles::driver(const std::string& name) const {
     if (driveOf(name) != nullptr) {
-        return SysText::fromUtf8(checkedName(name));
+        return name;
     }
-    return driverPath(checkedName(utf8Path(native(name))));
+    return driverPath(utf8Path(native(name)));
 }
 
 }  // namespace quillmark::replay

@@ -1,9 +1,9 @@
 #include "replay/tool/requested_services.h"
 
 #include "command_line/default_install_dir.h"
-#include "platform/sys_text.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/host_file.h"
+#include "replay/play/document_encoding.h"
 #include "replay/services/settings_overlay.h"
 #include "settings/settings_table.h"
 
@@ -21,7 +21,7 @@ std::shared_ptr<SettingsStore> openStore(const Options& options, const OptionFil
         store = makeUserSettingsStore();
     }
     if (const OrxString problem = store->problem(); !problem.isEmpty()) {
-        throw BadInput(SysText::toUtf8(problem));
+        throw BadInput(problem.str());
     }
     return store;
 }
@@ -31,9 +31,8 @@ std::shared_ptr<SettingsOverlay> makeSettings(const Options& options, const Opti
     auto settings = std::make_shared<SettingsOverlay>(
         std::make_shared<DefaultInstallDir>(openStore(options, files), executable));
     for (const Options::Setting& setting : options.settings) {
-        settings->set(
-            SysText::fromUtf8(setting.group), SysText::fromUtf8(setting.name),
-            setting.isFileName ? files.driver(setting.value) : SysText::fromUtf8(setting.value));
+        settings->set(setting.group, setting.name,
+                      setting.isFileName ? files.driver(setting.value) : OrxString(setting.value));
     }
     if (options.logFile) {
         settings->set(logGroup, "LogName", files.driver(*options.logFile));
@@ -46,9 +45,22 @@ std::shared_ptr<SettingsOverlay> makeSettings(const Options& options, const Opti
 RequestedServices::RequestedServices(const Options& options, const OptionFiles& files,
                                      const std::string& executable) {
     services_.settings = makeSettings(options, files, executable);
+    encoding_ = &DocumentEncoding(services_.settings).next();
+    for (const Options::Setting& setting : options.settings) {
+        if (setting.isFileName) {
+            checkFileName(files.driver(setting.value), *encoding_);
+        }
+    }
+    if (options.logFile) {
+        checkFileName(files.driver(*options.logFile), *encoding_);
+    }
     services_.drives = files.allDrives();
     if (options.iniFile) {
-        services_.profilePath = files.driver(*options.iniFile);
+        // The documents take it over from their host, which does not know their encoding.
+        const TextEncoding& encoding = TextEncoding::codePage();
+        const OrxString name = files.driver(*options.iniFile);
+        checkFileName(name, encoding);
+        services_.profilePath = encoding.fromUtf8(name);
     }
     if (options.modelFile) {
         model_.emplace(files.native(*options.modelFile), *options.modelFile);

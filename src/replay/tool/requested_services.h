@@ -22,8 +22,11 @@ public:
 
     /// The services, without listeners. They point into this object.
     [[nodiscard]] const HostServices& services() const noexcept { return services_; }
+    /// The encoding of the documents, as far as the settings decide it.
+    [[nodiscard]] const TextEncoding& encoding() const noexcept { return *encoding_; }
 
 private:
+    const TextEncoding* encoding_ = &TextEncoding::codePage();
     std::optional<ModelFile> model_;
     std::optional<ImageMapFile> imageMaps_;
     HostServices services_;

@@ -4,30 +4,26 @@
 #include <array>
 
 #include "command_line/utf8_path.h"
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark::replay {
 
 namespace {
 
 /// The driver's messages that end with the name of a file.
-constexpr std::array<std::string_view, 10> openings = {"Error opening file: ",
-                                                       "Error writing to file: ",
-                                                       "Cannot open : ",
-                                                       "Cannot look up file ",
-                                                       "Cannot read file ",
-                                                       "Cannot read to the end of file ",
-                                                       "Cannot remove file ",
-                                                       "Could not read file ",
-                                                       "File not found: ",
-                                                       "Html style sheet does not exist.\n"};
+constexpr std::array<std::string_view, 10> openings = {
+    "Error opening file: ", "Error writing to file: ",
+    "Cannot open : ",       "Cannot look up file ",
+    "Cannot read file ",    "Cannot read to the end of file ",
+    "Cannot remove file ",  "Could not read file ",
+    "File not found: ",     "Html style sheet does not exist.\n"};
 constexpr std::string_view copyFailure = "Could not copy file ";
 constexpr std::string_view copyTarget = " to directory ";
 
 }  // namespace
 
 std::string ShownNames::path(const OrxString& driverName) const {
-    std::string name = SysText::toUtf8(driverName);
+    std::string name = TextEncoding::current().toUtf8(driverName);
     if (name.empty()) {
         return name;
     }
@@ -51,12 +47,12 @@ std::string ShownNames::withNames(std::string_view driverText) const {
             return std::string(opening) + path(driverText.substr(opening.size()));
         }
     }
-    return SysText::toUtf8(driverText);
+    return TextEncoding::current().toUtf8(driverText);
 }
 
 std::string ShownNames::message(std::string_view driverText, std::string_view reason) const {
     std::string text = withNames(driverText);
-    return reason.empty() ? text : text.append(": ").append(SysText::toUtf8(reason));
+    return reason.empty() ? text : text.append(": ").append(TextEncoding::current().toUtf8(reason));
 }
 
 }  // namespace quillmark::replay

@@ -8,9 +8,10 @@
 
 #include "command_line/scoped_drives.h"
 #include "command_line/utf8_path.h"
+#include "foundation/surrogates.h"
 #include "foundation/utf8.h"
 #include "platform/drive_table.h"
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/inputs.h"
 #include "replay/play/document_counts.h"
@@ -42,15 +43,16 @@ int reportFailure(std::ostream& errors, const std::exception& failure) {
     }
 }
 
-/// The characters of a text that the driver's code page cannot hold; of many only the first.
+/// The characters of a text that the document cannot hold; of many only the first.
 std::string lostCharacters(WideText text) {
     constexpr std::size_t most = 10;
+    const TextEncoding& encoding = TextEncoding::current();
     std::u16string lost;
     while (!text.empty() && lost.size() < most) {
-        const bool isPair = text.size() > 1 && SysText::countLost(text.substr(0, 2)) == 2 &&
-                            (text[0] & 0xFC00U) == 0xD800U;
+        const bool isPair =
+            text.size() > 1 && surrogates::isHigh(text[0]) && surrogates::isLow(text[1]);
         const WideText character = text.substr(0, isPair ? 2 : 1);
-        lost += SysText::holds(character) ? WideText() : character;
+        lost += encoding.holds(character) ? WideText() : character;
         text.remove_prefix(character.size());
     }
     return utf8::fromUtf16(lost);
@@ -127,19 +129,18 @@ private:
     }
 
     TraceMonitor::Handlers traceHandlers() {
-        return {[this](std::string_view failure, std::string_view reason) {
-                    reportDriver(failure, reason);
-                },
-                [this](std::string_view warning) {
-                    findings_.addWarning(shown_.message(warning, {}));
-                },
-                [this](std::string_view report) {
-                    const std::size_t lineEnd = std::min(report.find('\n'), report.size());
-                    constexpr std::string_view opening = "Unresolved references on page ";
-                    findings_.addUnresolved(
-                        shown_.path(report.substr(opening.size(), lineEnd - opening.size())),
-                        report.substr(lineEnd));
-                }};
+        return {
+            [this](std::string_view failure, std::string_view reason) {
+                reportDriver(failure, reason);
+            },
+            [this](std::string_view warning) { findings_.addWarning(shown_.message(warning, {})); },
+            [this](std::string_view report) {
+                const std::size_t lineEnd = std::min(report.find('\n'), report.size());
+                constexpr std::string_view opening = "Unresolved references on page ";
+                findings_.addUnresolved(
+                    shown_.path(report.substr(opening.size(), lineEnd - opening.size())),
+                    report.substr(lineEnd));
+            }};
     }
 
     /// Reports are on for the pages whose unresolved references the summary names.
@@ -168,10 +169,13 @@ private:
     Player::Settings playerSettings() {
         Player::Settings settings;
         settings.makeDocument = environment_.makeDocument;
+        settings.store = services_.services().settings;
         settings.startDirectory = driverPath(utf8Path(startDirectory()));
+        checkFileName(settings.startDirectory, services_.encoding());
         settings.traceLevel = options_.traceLevel;
         if (options_.output) {
             settings.outputName = files_.driver(*options_.output);
+            checkFileName(*settings.outputName, services_.encoding());
         }
         return settings;
     }
@@ -291,7 +295,8 @@ private:
             text += ", " + counted(trace_.warnings(), "warning");
         }
         if (charactersLost_ > 0) {
-            text += ", " + counted(charactersLost_, "character") + " lost";
+            text += ", " + counted(charactersLost_, "character") +
+                    " lost (--set Html.CharSet=UTF-8 keeps them)";
         }
         messages_.write(std::string(toolName) + ": " + text);
         findings_.write(messages_, std::string(toolName));
@@ -311,6 +316,8 @@ private:
                              : "open " + page));
     }
 
+    /// The tool itself keeps all texts and names in UTF-8.
+    const TextEncoding::Scope scope_{TextEncoding::utf8()};
     const Options& options_;
     const ReplayEnvironment& environment_;
     /// The driver changes the current directory.

@@ -2,8 +2,8 @@
 #include <optional>
 #include <string>
 
+#include "foundation/utf8.h"
 #include "platform/windows/registry_key.h"
-#include "platform/windows/wide_name.h"
 #include "settings/settings_store.h"
 
 namespace quillmark {
@@ -12,8 +12,13 @@ namespace {
 
 constexpr const char* userKey = "Software\\Zorvane\\Quillmark";
 
+std::wstring wideOfUtf8(std::string_view text) {
+    const std::u16string wide = utf8::toUtf16(text);
+    return {wide.begin(), wide.end()};
+}
+
 std::wstring groupPath(const OrxString& group) {
-    return wideText(userKey + ("\\" + group));
+    return wideOfUtf8(userKey + ("\\" + group));
 }
 
 std::optional<OrxString> numberValue(const RegistryKey& key, const std::wstring& name) {
@@ -38,7 +43,9 @@ std::optional<OrxString> textValue(const RegistryKey& key, const std::wstring& n
         status = RegGetValueW(key.get(), nullptr, name.c_str(), RRF_RT_REG_SZ, nullptr, text.data(),
                               &size);
         if (status == ERROR_SUCCESS) {
-            return narrowText(text.c_str());
+            // Up to the first zero.
+            const std::wstring_view value = text.c_str();
+            return OrxString(utf8::fromUtf16(std::u16string(value.begin(), value.end())));
         }
     }
     return std::nullopt;
@@ -54,7 +61,7 @@ public:
         if (key.open(HKEY_CURRENT_USER, groupPath(group), KEY_QUERY_VALUE) != ERROR_SUCCESS) {
             return std::nullopt;
         }
-        const std::wstring wide = wideText(name);
+        const std::wstring wide = wideOfUtf8(name);
         std::optional<OrxString> text = textValue(key, wide);
         return text ? text : numberValue(key, wide);
     }
@@ -66,10 +73,10 @@ public:
             return false;
         }
         RegistryKey key;
-        const std::wstring text = wideText(value);
+        const std::wstring text = wideOfUtf8(value);
         const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
         return key.create(HKEY_CURRENT_USER, groupPath(group), KEY_SET_VALUE) == ERROR_SUCCESS &&
-               RegSetValueExW(key.get(), wideText(name).c_str(), 0, REG_SZ,
+               RegSetValueExW(key.get(), wideOfUtf8(name).c_str(), 0, REG_SZ,
                               reinterpret_cast<const BYTE*>(text.c_str()), size) == ERROR_SUCCESS;
     }
 };

@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "platform/sys_text.h"
+#include "foundation/utf8.h"
 
 namespace quillmark {
 
@@ -100,12 +100,13 @@ RegEntry storedForm(const SettingDescription& setting, const OrxString& value) {
                                                 : RegEntry::ofString(value);
 }
 
-bool canBeStored(const std::string& utf8) {
-    return SysText::holdsUtf8(utf8);
+bool canBeStored(const std::string& text) {
+    utf8::Check check;
+    return check.take(text) && check.isComplete();
 }
 
-std::string notStorable(const std::string& utf8) {
-    return "the driver's 8-bit code page cannot hold \"" + utf8 + "\"";
+std::string notStorable(const std::string& text) {
+    return "\"" + text + "\" is not in UTF-8";
 }
 
 void putValue(MemoryControls& controls, const SettingDescription& setting, const OrxString& value) {

@@ -21,10 +21,10 @@ namespace quillmark {
 /// An accepted value as the page would store it: booleans as "true" and "false".
 [[nodiscard]] RegEntry storedForm(const SettingDescription& setting, const OrxString& value);
 
-/// Whether the settings can keep the text (UTF-8): the driver's names and texts have 8 bits.
-[[nodiscard]] bool canBeStored(const std::string& utf8);
+/// Whether the settings can keep a text: it must be in UTF-8.
+[[nodiscard]] bool canBeStored(const std::string& text);
 /// The message for a text that cannot be stored.
-[[nodiscard]] std::string notStorable(const std::string& utf8);
+[[nodiscard]] std::string notStorable(const std::string& text);
 
 /// Puts an accepted value into the setting's controls.
 void putValue(MemoryControls& controls, const SettingDescription& setting, const OrxString& value);

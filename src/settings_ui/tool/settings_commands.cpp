@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "command_line/bad_usage.h"
-#include "platform/sys_text.h"
 #include "settings/register_dynamic.h"
 #include "settings/settings_table.h"
 #include "settings_ui/settings_page.h"
@@ -59,7 +58,7 @@ Assignment assignmentOf(const std::string& text) {
     if (given.find_first_of("\r\n") != std::string::npos) {
         throw BadUsage(address(setting) + " must be a single line");
     }
-    const OrxString value = SysText::fromUtf8(given);
+    const OrxString value = given;
     if (!accepts(setting, value)) {
         throw BadUsage(address(setting) + " takes " + acceptedValues(setting).str() + ", not \"" +
                        text.substr(equals + 1) + "\"");
@@ -118,14 +117,14 @@ void SettingsCommands::list() const {
         if (&setting == findSetting(settingsGroup, "InstallDir")) {
             fallback = installDir_;
         }
-        environment_.out << address(setting) << "=" << SysText::toUtf8(valueOf(setting))
-                         << "\n    default \"" << SysText::toUtf8(fallback) << "\", "
-                         << typeName(setting.type) << "\n    " << setting.meaning << "\n";
+        environment_.out << address(setting) << "=" << valueOf(setting) << "\n    default \""
+                         << fallback << "\", " << typeName(setting.type) << "\n    "
+                         << setting.meaning << "\n";
     }
 }
 
 void SettingsCommands::get(const std::string& name) const {
-    environment_.out << SysText::toUtf8(valueOf(settingNamed(name))) << "\n";
+    environment_.out << valueOf(settingNamed(name)) << "\n";
 }
 
 bool SettingsCommands::set(const std::vector<std::string>& assignments) const {
@@ -149,14 +148,16 @@ bool SettingsCommands::set(const std::vector<std::string>& assignments) const {
 bool SettingsCommands::edit() const {
     LoadedPage loaded(environment_.errors);
     const std::unique_ptr<AnswerSource> answers = answerSource();
-    TerminalForm form(loaded.controls, *answers, environment_.out,
-                      [&](std::string_view setting) { return loaded.page.accepts({&setting, 1}); });
+    TerminalForm form(loaded.controls, *answers, environment_.out, [&](std::string_view setting) {
+        return loaded.page.accepts({&setting, 1});
+    });
     environment_.out << "HTML Settings. Ctrl+C cancels: nothing is saved before the last answer.\n"
                      << "Kept in " << location_
                      << "\nEnter keeps a value, \"\" empties it, the end of the input keeps the "
                         "rest.\n\n";
     if (!form.fillIn()) {
-        environment_.errors << "The input ended after an answer that was refused. Nothing changed.\n";
+        environment_.errors
+            << "The input ended after an answer that was refused. Nothing changed.\n";
         return false;
     }
     const std::vector<std::string_view> changed = form.changedSettings();
@@ -177,9 +178,8 @@ bool SettingsCommands::edit() const {
 std::unique_ptr<AnswerSource> SettingsCommands::answerSource() const {
     std::unique_ptr<AnswerSource> terminal =
         environment_.makeTerminal ? environment_.makeTerminal() : nullptr;
-    return terminal != nullptr
-               ? std::move(terminal)
-               : std::make_unique<StreamAnswers>(environment_.in, environment_.out);
+    return terminal != nullptr ? std::move(terminal)
+                               : std::make_unique<StreamAnswers>(environment_.in, environment_.out);
 }
 
 }  // namespace quillmark

@@ -7,7 +7,7 @@
 #include "command_line/default_install_dir.h"
 #include "command_line/scoped_drives.h"
 #include "platform/drive_table.h"
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 #include "settings/register_base.h"
 #include "settings_ui/tool/settings_commands.h"
 
@@ -36,7 +36,7 @@ void report(std::ostream& errors, const std::string& line) {
 
 /// The location of the store, for the user.
 std::string placeOf(const ToolOptions& options) {
-    return options.settingsFile ? *options.settingsFile : SysText::toUtf8(userSettingsLocation());
+    return options.settingsFile ? *options.settingsFile : userSettingsLocation().str();
 }
 
 ToolStatus runCommand(const ToolOptions& options, const SettingsToolEnvironment& environment) {
@@ -48,14 +48,14 @@ ToolStatus runCommand(const ToolOptions& options, const SettingsToolEnvironment&
     const ScopedSettingsStore current(store);
     // A damaged store is not touched: a write could lose what it contains.
     if (const OrxString problem = store->problem(); !problem.isEmpty()) {
-        report(environment.errors, SysText::toUtf8(problem));
+        report(environment.errors, problem.str());
         return ToolStatus::failed;
     }
     const std::string place = placeOf(options);
     const bool accepted =
         SettingsCommands(*store, defaults->directory(), place, environment).run(options);
     for (const OrxString& name : store->failures()) {
-        report(environment.errors, "cannot write " + SysText::toUtf8(name) + " to " + place);
+        report(environment.errors, "cannot write " + name.str() + " to " + place);
     }
     const bool kept = store->failures().empty();
     return accepted && kept ? ToolStatus::done : ToolStatus::failed;
@@ -79,6 +79,8 @@ ToolStatus run(std::span<const std::string> arguments, const SettingsToolEnviron
 
 ToolStatus runSettingsTool(std::span<const std::string> arguments,
                            const SettingsToolEnvironment& environment) {
+    // Command lines, terminals and settings are in UTF-8.
+    const TextEncoding::Scope scope(TextEncoding::utf8());
     ToolStatus status = ToolStatus::badUsage;
     try {
         status = run(arguments, environment);

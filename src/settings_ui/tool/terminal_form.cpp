@@ -5,7 +5,6 @@
 #include <span>
 #include <utility>
 
-#include "platform/sys_text.h"
 #include "settings_ui/tool/control_values.h"
 
 namespace quillmark {
@@ -39,8 +38,8 @@ bool isLastOfSetting(std::span<const PageControl> rows, std::size_t row) {
 
 /// The first row that edits the setting.
 std::size_t firstRowOf(std::span<const PageControl> rows, std::string_view setting) {
-    const auto found = std::ranges::find_if(
-        rows, [&](const PageControl& row) { return edits(row, setting); });
+    const auto found =
+        std::ranges::find_if(rows, [&](const PageControl& row) { return edits(row, setting); });
     return static_cast<std::size_t>(found - rows.begin());
 }
 
@@ -75,9 +74,9 @@ bool TerminalForm::fillIn() {
 
 TerminalForm::Answered TerminalForm::ask(const PageControl& row, const OrxString& label) {
     const bool isCheckBox = row.kind == ControlKind::checkBox;
-    const std::string value = SysText::toUtf8(shown(row));
+    const std::string value = shown(row).str();
     const std::optional<std::string> answer = answers_.ask(
-        SysText::toUtf8(isCheckBox ? plainText(row.text) : label) + " [" + value + "]: ", value);
+        (isCheckBox ? plainText(row.text) : label).str() + " [" + value + "]: ", value);
     if (!answer) {
         return Answered::ended;
     }
@@ -89,7 +88,7 @@ bool TerminalForm::take(const PageControl& row, const std::string& answer) {
         out_ << notStorable(answer) << ".\n";
         return false;
     }
-    const OrxString text = SysText::fromUtf8(answer);
+    const OrxString text = answer;
     if (row.kind != ControlKind::checkBox) {
         return takeText(row, text == "\"\"" ? OrxString() : text);
     }
@@ -122,8 +121,8 @@ bool TerminalForm::isRefused(std::size_t row) const {
     const std::span<const PageControl> rows = pageControls();
     // A setting of two check boxes is complete with the second one. A value that the user did not
     // touch is none of the form's business.
-    return isQuestion(rows[row]) && isLastOfSetting(rows, row) &&
-           hasChanged(rows[row].setting) && !check_(rows[row].setting);
+    return isQuestion(rows[row]) && isLastOfSetting(rows, row) && hasChanged(rows[row].setting) &&
+           !check_(rows[row].setting);
 }
 
 bool TerminalForm::hasChanged(std::string_view setting) const {

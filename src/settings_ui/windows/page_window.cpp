@@ -8,6 +8,7 @@
 #include "platform/windows/this_module.h"
 #include "settings_ui/windows/browse_button.h"
 #include "settings_ui/windows/module_resources.h"
+#include "settings_ui/windows/window_text.h"
 
 namespace quillmark {
 
@@ -46,7 +47,7 @@ std::optional<ControlEvent> eventOf(const PageControl& row, int notification) {
 bool PageWindow::create(HWND parent) {
     const INITCOMMONCONTROLSEX needed{sizeof(needed), ICC_UPDOWN_CLASS};
     InitCommonControlsEx(&needed);
-    window_ = CreateDialogParamA(thisModule(), MAKEINTRESOURCEA(resource::pageDialog), parent,
+    window_ = CreateDialogParamW(thisModule(), MAKEINTRESOURCEW(resource::pageDialog), parent,
                                  dialogProcedure, reinterpret_cast<LPARAM>(this));
     if (window_ == nullptr) {
         return false;
@@ -70,11 +71,11 @@ void PageWindow::destroy() {
 INT_PTR CALLBACK PageWindow::dialogProcedure(HWND window, UINT message, WPARAM wparam,
                                              LPARAM lparam) {
     if (message == WM_INITDIALOG) {
-        SetWindowLongPtrA(window, DWLP_USER, lparam);
+        SetWindowLongPtrW(window, DWLP_USER, lparam);
         // The frame sets the focus.
         return FALSE;
     }
-    auto* const self = reinterpret_cast<PageWindow*>(GetWindowLongPtrA(window, DWLP_USER));
+    auto* const self = reinterpret_cast<PageWindow*>(GetWindowLongPtrW(window, DWLP_USER));
     if (self == nullptr) {
         return FALSE;
     }
@@ -125,15 +126,15 @@ bool PageWindow::onCommand(int id, int notification) noexcept {
 
 OrxString PageWindow::text(int id) const {
     const HWND box = GetDlgItem(window_, id);
-    const int length = GetWindowTextLengthA(box);
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    const int got = GetWindowTextA(box, text.data(), length + 1);
+    const int length = GetWindowTextLengthW(box);
+    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+    const int got = GetWindowTextW(box, text.data(), length + 1);
     text.resize(static_cast<std::size_t>(got));
-    return text;
+    return pageText(text);
 }
 
 void PageWindow::setText(int id, const OrxString& text) {
-    SetDlgItemTextA(window_, id, text.data());
+    SetDlgItemTextW(window_, id, windowText(text).c_str());
 }
 
 bool PageWindow::isChecked(int id) const {
@@ -145,7 +146,7 @@ void PageWindow::setChecked(int id, bool checked) {
 }
 
 void PageWindow::setRange(int id, int lowest, int highest) {
-    SendDlgItemMessageA(window_, id, UDM_SETRANGE, 0, MAKELPARAM(highest, lowest));
+    SendDlgItemMessageW(window_, id, UDM_SETRANGE, 0, MAKELPARAM(highest, lowest));
     hasRange_ = true;
 }
 

@@ -4,6 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "settings_ui/windows/window_text.h"
+
 // These need the types of windows_api.h above them.
 #include <commdlg.h>
 #include <objbase.h>
@@ -18,53 +20,56 @@ struct TaskMemoryDeleter {
 };
 
 /// The filter of a file-open dialog: name and pattern, each followed by a zero.
-std::string filterOf(const FileChoice& choice) {
-    std::string filter = choice.filterName;
-    filter += '\0';
-    filter += choice.pattern;
-    filter += '\0';
+std::wstring filterOf(const FileChoice& choice) {
+    std::wstring filter = windowText(choice.filterName);
+    filter += L'\0';
+    filter += windowText(choice.pattern);
+    filter += L'\0';
     return filter;
 }
 
 }  // namespace
 
 void WindowsPageHost::showMessage(const OrxString& text, const OrxString& title) {
-    MessageBoxA(owner_(), text.data(), title.data(), MB_OK | MB_ICONEXCLAMATION);
+    MessageBoxW(owner_(), windowText(text).c_str(), windowText(title).c_str(),
+                MB_OK | MB_ICONEXCLAMATION);
 }
 
 std::optional<OrxString> WindowsPageHost::chooseDirectory(const OrxString& title) {
-    std::array<char, MAX_PATH> path{};
-    BROWSEINFOA browse{};
+    std::array<wchar_t, MAX_PATH> path{};
+    const std::wstring shownTitle = windowText(title);
+    BROWSEINFOW browse{};
     browse.hwndOwner = owner_();
     browse.pszDisplayName = path.data();
-    browse.lpszTitle = title.data();
-    const std::unique_ptr<ITEMIDLIST, TaskMemoryDeleter> chosen(SHBrowseForFolderA(&browse));
-    if (chosen == nullptr || SHGetPathFromIDListA(chosen.get(), path.data()) == FALSE) {
+    browse.lpszTitle = shownTitle.c_str();
+    const std::unique_ptr<ITEMIDLIST, TaskMemoryDeleter> chosen(SHBrowseForFolderW(&browse));
+    if (chosen == nullptr || SHGetPathFromIDListW(chosen.get(), path.data()) == FALSE) {
         return std::nullopt;
     }
-    return OrxString(path.data());
+    return pageText(path.data());
 }
 
 std::optional<OrxString> WindowsPageHost::chooseFile(const FileChoice& choice) {
-    std::array<char, FileChoice::bufferSize> name{};
-    choice.initialName.view().copy(name.data(), name.size() - 1);
-    const std::string filter = filterOf(choice);
-    OPENFILENAMEA open{};
+    std::array<wchar_t, FileChoice::bufferSize> name{};
+    windowText(choice.initialName).copy(name.data(), name.size() - 1);
+    const std::wstring filter = filterOf(choice);
+    const std::wstring title = windowText(choice.title);
+    OPENFILENAMEW open{};
     open.lStructSize = sizeof(open);
     open.hwndOwner = owner_();
     open.lpstrFilter = filter.c_str();
     open.lpstrFile = name.data();
     open.nMaxFile = static_cast<DWORD>(name.size());
-    open.lpstrTitle = choice.title;
+    open.lpstrTitle = title.c_str();
     open.Flags = OFN_HIDEREADONLY;
-    if (GetOpenFileNameA(&open) == FALSE) {
+    if (GetOpenFileNameW(&open) == FALSE) {
         return std::nullopt;
     }
-    return OrxString(name.data());
+    return pageText(name.data());
 }
 
 void WindowsPageHost::showHelp(const OrxString& helpFile, unsigned long context) {
-    WinHelpA(owner_(), helpFile.data(), HELP_CONTEXT, context);
+    WinHelpW(owner_(), windowText(helpFile).c_str(), HELP_CONTEXT, context);
 }
 
 }  // namespace quillmark

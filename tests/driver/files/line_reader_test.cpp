@@ -31,7 +31,7 @@ private:
 
 std::vector<std::string> linesOf(const std::string& bytes, std::size_t piece = 100000) {
     TextInput input(bytes, piece);
-    LineReader reader(input);
+    LineReader reader(input, TextEncoding::codePage());
     std::vector<std::string> lines;
     for (std::string line; reader.next(line);) {
         lines.push_back(line);
@@ -86,7 +86,7 @@ TEST(LineReader, KeepsWhatCameBeforeAFailure) {
     memory.put("a.txt", bytes);
     files.failAt(FailingFileSystem::Operation::read, 2);
     const auto file = files.openForReading("a.txt");
-    LineReader reader(*file);
+    LineReader reader(*file, TextEncoding::codePage());
     Lines lines;
     for (std::string line; reader.next(line);) {
         lines.push_back(line);

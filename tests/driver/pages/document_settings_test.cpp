@@ -31,12 +31,14 @@ TEST(DocumentSettings, AreReadInTheirOrder) {
     document.create(u"C:\\out\\rep.htm");
     RegisterBase::setStore(nullptr);
     const std::vector<std::string> expected = {
-        "Html.HtmlPixDir",      "Html.ExternalDocDir",    "Html.UseRelative",
-        "Html.ShowIcons",       "Html.IconFile",          "Html.SupportOld",
-        "Html.BodyTags",        "Html.SuppressImageMaps", "Html.Navig",
-        "Html.TOCLevel",        "Html.DontCopy",          "Settings.InstallDir",
-        "Html.StyleSheet",      "Html.PassThrough",       "Html.LocateInBrowser",
-        "Html.ScriptNavigator", "Settings.TestLevel",     "Html.DiagramType"};
+        // First for the object, then for the document.
+        "Html.CharSet",           "Html.CharSet",         "Html.HtmlPixDir",
+        "Html.ExternalDocDir",    "Html.UseRelative",     "Html.ShowIcons",
+        "Html.IconFile",          "Html.SupportOld",      "Html.BodyTags",
+        "Html.SuppressImageMaps", "Html.Navig",           "Html.TOCLevel",
+        "Html.DontCopy",          "Settings.InstallDir",  "Html.StyleSheet",
+        "Html.PassThrough",       "Html.LocateInBrowser", "Html.ScriptNavigator",
+        "Settings.TestLevel",     "Html.DiagramType"};
     std::vector<std::string> asked;
     for (const std::string& setting : store->asked) {
         // The style sheet's default asks for the installation directory once more.

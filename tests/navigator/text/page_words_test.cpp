@@ -91,9 +91,9 @@ TEST(PageWords, attributesOfTheBodyMayHoldEverything) {
     EXPECT_EQ(read("<BODY TITLE=\"a>b\" >c"), (Words{"c"}));
 }
 
-TEST(CodePageDecoder, readsTheSystemsCodePage) {
+TEST(DocumentDecoder, readsTheSystemsCodePage) {
     std::u16string text;
-    CodePageDecoder().append(text, "a\xE9");
+    DocumentDecoder(TextEncoding::codePage()).append(text, "a\xE9");
     EXPECT_EQ(text, u"a\u00E9");
 }
 

@@ -9,8 +9,10 @@
  * must also outlive all such calls. After that, none of the old callbacks is called again.
  *
  * A callback must not throw. It runs on the thread that calls the document, so callbacks may run on
- * several threads at once. It has the default calling convention of C. Texts are 8-bit, in the
- * driver's code page (the system's ANSI code page on Windows, Windows-1252 elsewhere), and are
+ * several threads at once. It has the default calling convention of C. Texts are
+ * bytes in the encoding of the document that calls: UTF-8 for a document with "UTF-8" for the
+ * setting "CharSet", otherwise the driver's 8-bit code page (the system's ANSI code page on
+ * Windows, Windows-1252 elsewhere). What a callback returns is in the same encoding. Texts are
  * valid only during the call.
  */
 
