@@ -17,7 +17,8 @@ for argument in "$@"; do
 done
 mkdir -p "$output"
 output=$(cd "$output" && pwd)
-export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
+# Sources outside Git are as old as their changelog.
+export SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CHANGELOG.md)}
 export TZ=UTC LC_ALL=C.UTF-8
 umask 022
 
