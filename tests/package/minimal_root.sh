@@ -16,8 +16,8 @@ echo 'Acquire::Languages "none";' >>"$work/apt.conf"
 mapfile -t sources < <(find /etc/apt -maxdepth 2 -name '*.list' -o -name '*.sources' |
     while read -r file; do grep -q '^[^#]' "$file" && echo "$file"; done)
 
-# Documents and translations of the system itself are left out; our own packages install theirs.
-mmdebstrap --variant=apt --include=g++,pkg-config,python3-minimal,libpython3-stdlib,python3 \
+# What the packages depend on, and a compiler for hosts. Documents and translations of the system itself are left out; our own packages install theirs.
+mmdebstrap --variant=apt --include=g++,pkg-config,python3,libedit2 \
     --aptopt="$work/apt.conf" \
     --dpkgopt='path-exclude=/usr/share/locale/*' --dpkgopt='path-exclude=/usr/share/man/*' \
     --dpkgopt='path-exclude=/usr/share/doc/*' \
