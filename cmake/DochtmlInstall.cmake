@@ -1,5 +1,8 @@
-# What `cmake --install` lays down: one archive of all modules with its headers, the tools, the
-# component, the support files and the documents; a CMake package and a pkg-config file name them.
+# What `cmake --install` lays down, in components that become packages:
+#   tools   the programs, the component, the support files, manual pages and completion
+#   dev     headers, static libraries, CMake and pkg-config files, the interface description
+#   doc     the documents, the examples, and the manual as a document set
+#   python  the Python package
 include(CMakePackageConfigHelpers)
 
 set(DOCHTML_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/dochtml)
@@ -17,35 +20,36 @@ target_include_directories(dochtml INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_
 target_compile_features(dochtml INTERFACE cxx_std_20)
 target_link_libraries(dochtml INTERFACE ${DOCHTML_SYSTEM_LIBRARIES})
 add_library(dochtml::dochtml ALIAS dochtml)
+install(TARGETS dochtml EXPORT dochtmlTargets
+        ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT dev)
 
-install(TARGETS dochtml EXPORT dochtmlTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-foreach(module foundation platform settings host page contents diagram navigator driver)
-    install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${module} DESTINATION ${DOCHTML_HEADER_DIR}
-            FILES_MATCHING PATTERN "*.h" PATTERN posix EXCLUDE PATTERN windows EXCLUDE)
+# The public surface: docs/compatibility.md says what is promised about it. A test compares what is
+# installed with tests/package/public_headers.txt.
+foreach(header
+        driver/doc_html.h driver/boundary/i_document.h
+        foundation/orx_exception.h foundation/orx_string.h foundation/process_wide.h
+        host/app_profile_interface.h host/document_observer.h host/image_map_interface.h
+        host/metamodel.h host/quillmark_mode.h
+        platform/drive_table.h platform/trace.h
+        settings/reg_entry.h settings/register_base.h settings/settings_store.h)
+    cmake_path(GET header PARENT_PATH folder)
+    install(FILES src/${header} DESTINATION ${DOCHTML_HEADER_DIR}/${folder} COMPONENT dev)
 endforeach()
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/component/include/
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY src/component/include/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT dev
+        FILES_MATCHING PATTERN "*.h")
 
-install(EXPORT dochtmlTargets NAMESPACE dochtml:: DESTINATION ${DOCHTML_CMAKE_DIR})
+install(EXPORT dochtmlTargets NAMESPACE dochtml:: DESTINATION ${DOCHTML_CMAKE_DIR} COMPONENT dev)
 configure_package_config_file(cmake/dochtmlConfig.cmake.in dochtmlConfig.cmake
                               INSTALL_DESTINATION ${DOCHTML_CMAKE_DIR}
                               PATH_VARS CMAKE_INSTALL_DATADIR)
 write_basic_package_version_file(dochtmlConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/dochtmlConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/dochtmlConfigVersion.cmake
-        DESTINATION ${DOCHTML_CMAKE_DIR})
+        DESTINATION ${DOCHTML_CMAKE_DIR} COMPONENT dev)
+include(DochtmlPkgConfig)
 
-list(TRANSFORM DOCHTML_SYSTEM_LIBRARIES PREPEND -l OUTPUT_VARIABLE DOCHTML_PC_LIBRARIES)
-list(JOIN DOCHTML_PC_LIBRARIES " " DOCHTML_PC_LIBRARIES)
-foreach(package dochtml dochtml_client)
-    configure_file(cmake/${package}.pc.in ${package}.pc @ONLY)
-    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc
-            DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-endforeach()
-
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/support/ DESTINATION ${CMAKE_INSTALL_DATADIR}/dochtml
+install(DIRECTORY support/ DESTINATION ${CMAKE_INSTALL_DATADIR}/dochtml COMPONENT tools
         PATTERN CMakeLists.txt EXCLUDE PATTERN README.md EXCLUDE
         PATTERN draw EXCLUDE)
-install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR}
-        PATTERN CMakeLists.txt EXCLUDE)
+include(DochtmlDocuments)
+include(DochtmlPackages)

@@ -10,8 +10,9 @@ set(CMAKE_RANLIB ${DOCHTML_MINGW_TRIPLE}-gcc-ranlib-posix)
 set(DOCHTML_WIDL ${DOCHTML_MINGW_TRIPLE}-widl)
 set(DOCHTML_OBJDUMP ${DOCHTML_MINGW_TRIPLE}-objdump)
 
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
-set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")
+# Without the time of the build, so that the same sources make the same bytes.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -Wl,--no-insert-timestamp")
+set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static -Wl,--no-insert-timestamp")
 set(CMAKE_MODULE_LINKER_FLAGS_INIT "-static")
 
 set(CMAKE_FIND_ROOT_PATH /usr/${DOCHTML_MINGW_TRIPLE})

@@ -33,7 +33,7 @@ case ${1-} in
         ctest --preset debug --label-regex 'native|structure'
         ;;
     '')
-        need build quick full
+        need build quick full package
         need_node_modules
         build gcc -D DOCHTML_BROWSER_TESTS=ON
         build asan
@@ -41,6 +41,8 @@ case ${1-} in
         build mingw64
         # Debian's 64-bit Wine cannot run 32-bit programs, so the tests only look at the binaries.
         build mingw32 -D DOCHTML_TEST_PROGRAMS=OFF
+        say "Making the packages"
+        scripts/package.sh
         # This build compiles nothing; its native tests are those of the other builds.
         configure tidy
         test_builds gcc asan tsan mingw64 mingw32 tidy/tests/lint

@@ -17,7 +17,7 @@ std::optional<std::string> installedSupportFiles(const std::string& executable) 
 std::optional<std::string> installedLibrary(const std::string& executable,
                                             const std::string& name) {
     const std::filesystem::path here = pathFrom(executable).parent_path();
-    for (const char* directory : {".", "../lib", "../" DOCHTML_LIBDIR}) {
+    for (const char* directory : {".", "../lib/dochtml", DOCHTML_PLUGIN_DIR}) {
         const std::filesystem::path file = (here / directory / name).lexically_normal();
         std::error_code ignored;
         if (std::filesystem::is_regular_file(file, ignored)) {

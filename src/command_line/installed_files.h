@@ -12,8 +12,8 @@ namespace quillmark {
 /// of the program. It is found in a build tree as well. Nothing when there is none.
 [[nodiscard]] std::optional<std::string> installedSupportFiles(const std::string& executable);
 
-/// The shared library of that name, in the directory of the program or in the library directory
-/// next to it. Nothing when there is none.
+/// The shared library of that name, which programs load: in the directory of the program or in
+/// the directory of plug-ins ("../lib/dochtml"). Nothing when there is none.
 [[nodiscard]] std::optional<std::string> installedLibrary(const std::string& executable,
                                                           const std::string& name);
 

@@ -19,9 +19,13 @@ set(idl_header ${CMAKE_CURRENT_BINARY_DIR}/idl/dochtml_idl.h)
 set(idl_guids ${CMAKE_CURRENT_BINARY_DIR}/idl/dochtml_idl.c)
 file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/idl)
 
+# The compiler writes the time into the type library. A clock that stands still keeps the bytes the
+# same.
+find_program(DOCHTML_FAKETIME faketime REQUIRED)
+set(at_a_fixed_time ${CMAKE_COMMAND} -E env TZ=UTC ${DOCHTML_FAKETIME} -f "2000-01-01 00:00:00")
 add_custom_command(
     OUTPUT ${type_library}
-    COMMAND ${DOCHTML_WIDL} ${widl_word} -I ${DOCHTML_IDL_DIR} -L ${DOCHTML_STDOLE_DIR}
+    COMMAND ${at_a_fixed_time} ${DOCHTML_WIDL} ${widl_word} -I ${DOCHTML_IDL_DIR} -L ${DOCHTML_STDOLE_DIR}
             -t -o ${type_library} ${idl}
     DEPENDS ${idl} VERBATIM)
 add_custom_command(

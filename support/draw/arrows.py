@@ -6,7 +6,7 @@ in these sizes.
 
 from pathlib import Path
 
-from gif import Canvas
+from canvas import Canvas
 
 LIT, UNLIT, WHITE = (43, 91, 156), (205, 210, 218), (255, 255, 255)
 HEIGHT = 20
@@ -31,14 +31,21 @@ def arrow(width, direction, colour):
     canvas = Canvas(width, HEIGHT)
     canvas.paint(disc(width), colour)
     canvas.paint(chevron(width, direction), WHITE)
-    return canvas.to_gif()
+    return canvas
+
+
+def arrows():
+    pictures = {}
+    for name, direction in (("back", -1), ("forward", 1)):
+        pictures[f"{name}ON"] = arrow(19, direction, LIT)
+        pictures[f"{name}OFF"] = arrow(22, direction, UNLIT)
+    return pictures
 
 
 def main():
     target = Path(__file__).resolve().parent.parent / "pix"
-    for name, direction in (("back", -1), ("forward", 1)):
-        (target / f"{name}ON.gif").write_bytes(arrow(19, direction, LIT))
-        (target / f"{name}OFF.gif").write_bytes(arrow(22, direction, UNLIT))
+    for name, canvas in arrows().items():
+        (target / f"{name}.gif").write_bytes(canvas.to_gif())
 
 
 if __name__ == "__main__":

@@ -1,14 +1,14 @@
 """Draws the pictures of contents entries: packed in ../icons.zip, loose in ../navigator/icons.
 
+Drawn again, the files show the same pictures; their bytes depend on the version of Pillow.
 The names follow the driver's icon rules: the metaclass, then "_" and the kind or visibility,
-or the name of a user-defined metaclass. The archive carries a fixed date, so that drawing it
-again gives the same bytes.
+or the name of a user-defined metaclass. The archive carries a fixed date.
 """
 
 import zipfile
 from pathlib import Path
 
-from gif import Canvas
+from canvas import Canvas
 
 SIZE = 16
 WHITE = (255, 255, 255)

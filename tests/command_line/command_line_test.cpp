@@ -109,11 +109,13 @@ TEST(InstalledFiles, AreFoundNextToTheProgram) {
     EXPECT_EQ(installedSupportFiles(program), std::nullopt);
     EXPECT_EQ(installedLibrary(program, "lib"), std::nullopt);
     std::filesystem::create_directories(dir.nativeFile("share/dochtml"));
-    std::filesystem::create_directories(dir.nativeFile("lib"));
+    std::filesystem::create_directories(dir.nativeFile("lib/dochtml"));
     std::filesystem::create_directories(dir.nativeFile("bin"));
     EXPECT_EQ(installedSupportFiles(program), dir.nativeFile("share/dochtml"));
     dir.put("lib/lib", "");
-    EXPECT_EQ(installedLibrary(program, "lib"), dir.nativeFile("lib/lib"));
+    EXPECT_EQ(installedLibrary(program, "lib"), std::nullopt);
+    dir.put("lib/dochtml/lib", "");
+    EXPECT_EQ(installedLibrary(program, "lib"), dir.nativeFile("lib/dochtml/lib"));
     dir.put("bin/lib", "");
     EXPECT_EQ(installedLibrary(program, "lib"), dir.nativeFile("bin/lib"));
 }

@@ -188,16 +188,59 @@ class HostsTest(unittest.TestCase):
         self.assertEqual((ended.returncode, ended.stderr), (0, ""))
         document_set.check(self, files, "posix")
 
+    def name_component_used(self):
+        """What `--version` of the replay tool says about the component."""
+        ended = self.run_program("bin/dochtml-replay", "--version")
+        self.assertEqual((ended.returncode, ended.stderr), (0, ""))
+        return ended.stdout.split("\n", 1)[1]
+
+    def register_library(self, file):
+        self.register(LIBRARY)
+        text = self.classes.read_text().replace(str(LIBRARY), str(file))
+        self.classes.write_text(text)
+
     def test_replay_tool_takes_the_registered_component(self):
         self.register(LIBRARY)
         document_set.check(self, self.replay()[1], "posix")
-        # A registered library that no longer exists shows that the tool followed the name.
-        text = self.classes.read_text().replace(str(LIBRARY), str(self.work / "gone.so"))
-        self.classes.write_text(text)
+        self.assertEqual(self.name_component_used(), f"component: {LIBRARY} (registered)\n")
+        # A registered file that is no library shows that the name was followed.
+        other = self.work / "other.so"
+        other.write_text("no library")
+        self.register_library(other)
         ended, files = self.replay()
         self.assertEqual(ended.returncode, 2)
-        self.assertIn("gone.so", ended.stderr)
+        self.assertIn("other.so", ended.stderr)
         self.assertEqual(files, {})
+
+    def test_replay_tool_takes_its_own_component_when_none_is_registered(self):
+        own = f"component: {LIBRARY} (installed with this program)\n"
+        self.assertEqual(self.name_component_used(), own)
+
+    def test_replay_tool_takes_its_own_component_when_the_registered_one_is_gone(self):
+        gone = self.work / "gone.so"
+        self.register_library(gone)
+        note = (
+            f'the registered component {gone} is gone; "dochtml-register --unregister" removes its '
+            "registration\n"
+        )
+        ended, files = self.replay()
+        self.assertEqual((ended.returncode, ended.stderr), (0, f"dochtml-replay: warning: {note}"))
+        document_set.check(self, files, "posix")
+        self.assertEqual(
+            self.name_component_used(),
+            f"component: {LIBRARY} (installed with this program); {note}",
+        )
+        self.assertIn(f"registered component: {gone} (which is gone)\n", self.register("--version").stdout)
+        self.assertEqual(self.register("--unregister").returncode, 0)
+        self.assertEqual(self.replay()[0].stderr, "")
+
+    def test_registration_names_the_components(self):
+        self.assertEqual(
+            self.register("--version").stdout.split("\n")[1:],
+            [f"installed component: {LIBRARY}", "registered component: none", ""],
+        )
+        self.register()
+        self.assertIn(f"registered component: {LIBRARY}\n", self.register("--version").stdout)
 
     def test_library_exports_the_four_entry_points_alone(self):
         listed = subprocess.run(

@@ -21,30 +21,6 @@ def run(*arguments):
                           check=False)
 
 
-def unpacked(data, least):
-    """The colour indices of LZW codes as GIF packs them."""
-    clear, end = 1 << least, (1 << least) + 1
-    bits = int.from_bytes(data, "little")
-    position, width = 0, least + 1
-    table, out, before = [], [], None
-    while True:
-        code = bits >> position & (1 << width) - 1
-        position += width
-        if code == clear:
-            table = [[index] for index in range(clear)] + [[], []]
-            width, before = least + 1, None
-            continue
-        if code == end:
-            return out, position
-        if before is not None:
-            first = table[code][0] if code < len(table) else before[0]
-            table.append(before + [first])
-        before = table[code]
-        out += before
-        if len(table) == 1 << width and width < 12:
-            width += 1
-
-
 class Generator(unittest.TestCase):
     def setUp(self):
         self.directory = pathlib.Path(tempfile.mkdtemp())
@@ -127,25 +103,6 @@ class Generator(unittest.TestCase):
         for call in self.calls():
             if call[0] in ("insertImage", "insertFile"):
                 self.assertTrue((self.directory / call[1]).is_file(), call[1])
-
-    def test_the_picture_unpacks_to_its_size(self):
-        self.generate()
-        picture = (self.directory / "pictures" / "subsystems.gif").read_bytes()
-        self.assertEqual(picture[:6], b"GIF89a")
-        width, height = (int.from_bytes(picture[at : at + 2], "little") for at in (6, 8))
-        colours = 2 << (picture[10] & 7)
-        at = 13 + 3 * colours
-        self.assertEqual(picture[at : at + 1], b",")
-        least, at = picture[at + 10], at + 11
-        packed = b""
-        while picture[at]:
-            packed += picture[at + 1 : at + 1 + picture[at]]
-            at += 1 + picture[at]
-        self.assertEqual(picture[at:], b"\x00;")
-        pixels, used = unpacked(packed, least)
-        self.assertEqual(len(pixels), width * height)
-        self.assertEqual((used + 7) // 8, len(packed))
-        self.assertGreater(len(set(pixels)), 3)
 
     def test_two_runs_write_the_same(self):
         self.generate("--relative")

@@ -1,5 +1,5 @@
 // An example of a report generator. It makes the calls that write the reference manual of
-// IDocument, and the picture, texts, model and image maps that they need.
+// IDocument, with the picture, texts, model and image maps that they need.
 
 #include <filesystem>
 #include <fstream>
@@ -11,7 +11,6 @@
 #include "bridges.h"
 #include "manual.h"
 #include "operations_markdown.h"
-#include "subsystem_diagram.h"
 
 namespace {
 
@@ -22,7 +21,6 @@ using quillmark::manual::Manual;
 using quillmark::manual::ManualData;
 using quillmark::manual::operationsMarkdown;
 using quillmark::manual::readManualData;
-using quillmark::manual::SubsystemDiagram;
 
 constexpr const char* usage =
     "usage: manual_generator [OPTIONS] DIRECTORY\n"
@@ -104,10 +102,9 @@ void generate(const Options& options) {
         return;
     }
     const fs::path directory = fs::absolute(options.directory);
-    fs::create_directories(directory / "pictures");
-    copyFolder(data / "texts", directory / "texts");
-    copyFolder(data / "files", directory / "files");
-    writeFile(directory / "pictures" / "subsystems.gif", SubsystemDiagram().toGif());
+    for (const char* const folder : {"pictures", "texts", "files"}) {
+        copyFolder(data / folder, directory / folder);
+    }
 
     const std::string sources = options.relative ? "" : directory.generic_string() + '/';
     const Manual manual(descriptions, {options.document, sources});

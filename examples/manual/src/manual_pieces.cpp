@@ -129,12 +129,11 @@ std::string Manual::imageMapsJson() const {
         writer.StartObject();
         writeText(writer, names_.diagram());
         writer.StartArray();
-        const SubsystemDiagram picture;
-        for (const DiagramPart& part : picture.parts()) {
+        for (const DiagramPart& part : diagramParts()) {
             if (!part.chapter.empty()) {
                 writeText(writer, part.name);
                 writeText(writer, chapterTag(part.chapter));
-                writeText(writer, SubsystemDiagram::corners(part));
+                writeText(writer, corners(part));
             }
         }
         writer.EndArray();

@@ -3,9 +3,15 @@
 #include <string>
 #include <vector>
 
-#include "gif_canvas.h"
-
 namespace quillmark::manual {
+
+/// A rectangle of pixels: left and top belong to it, right and bottom lie just outside.
+struct Box {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+};
 
 /// A part of the driver in the picture, and the chapter that tells about it (empty: none).
 struct DiagramPart {
@@ -14,19 +20,10 @@ struct DiagramPart {
     Box box;
 };
 
-/// The picture of the driver's parts, drawn as the host draws its diagrams.
-class SubsystemDiagram {
-public:
-    SubsystemDiagram();
+/// The parts in the picture data/pictures/subsystems.gif, which draw/subsystems.py draws.
+[[nodiscard]] const std::vector<DiagramPart>& diagramParts();
 
-    [[nodiscard]] const std::vector<DiagramPart>& parts() const noexcept { return parts_; }
-    /// The bytes of the GIF file.
-    [[nodiscard]] std::string toGif() const;
-    /// The corners of a part, as an image map wants them: "x,y,x,y,...".
-    [[nodiscard]] static std::string corners(const DiagramPart& part);
-
-private:
-    std::vector<DiagramPart> parts_;
-};
+/// The corners of a part, as an image map wants them: "x,y,x,y,...".
+[[nodiscard]] std::string corners(const DiagramPart& part);
 
 }  // namespace quillmark::manual

@@ -4,6 +4,7 @@
 
 #include "platform/console.h"
 #include "replay/play/loaded_component.h"
+#include "replay/tool/messages.h"
 #include "replay/tool/tool.h"
 
 namespace {
@@ -13,14 +14,19 @@ int runProgram(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
     Console::readInputAsBytes();
     Console::reportFailedWrites();
-    quillmark::replay::LoadedComponent component(Console::executablePath());
+    quillmark::replay::Messages messages(std::cerr, false);
+    quillmark::replay::LoadedComponent component(
+        Console::executablePath(), [&messages](const std::string& warning) {
+            messages.write("dochtml-replay: warning: " + warning);
+        });
     return quillmark::replay::runTool(
         Console::arguments(argc, argv),
         {std::cin, std::cout, std::cerr, Console::errorsGoToTerminal(), Console::executablePath(),
          [&component] { return component.makeDocument(); },
          [&component](const quillmark::replay::HostServices& services) {
              return component.provide(services);
-         }});
+         },
+         [&component] { return component.description(); }});
 }
 
 }  // namespace

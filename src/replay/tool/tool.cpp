@@ -355,7 +355,8 @@ int runTool(std::span<const std::string> arguments, const ReplayEnvironment& env
         if (options.help) {
             writeHelp(environment.output);
         } else {
-            environment.output << toolName << ' ' << DOCHTML_VERSION << '\n';
+            environment.output << toolName << ' ' << DOCHTML_VERSION << '\n'
+                               << environment.describeComponent() << '\n';
         }
         if (!environment.output.flush()) {
             Messages(environment.errors, false)

@@ -24,6 +24,8 @@ struct ReplayEnvironment {
     DocumentMaker makeDocument;
     /// Provides the services to the documents for as long as the result lives.
     std::function<std::shared_ptr<ProvidedServices>(const HostServices&)> provideServices;
+    /// Says which component is used and where it is, in one line for `--version`.
+    std::function<std::string()> describeComponent;
 };
 
 /// The exit status of the tool.

@@ -11,8 +11,16 @@ Component Component::byName(const std::string& identifier) {
     return fromLibrary(found.library, found.classId);
 }
 
+std::string Component::registeredLibrary(const std::string& identifier) {
+    return findRegisteredClass(identifier).library;
+}
+
 const char* componentLibraryName() noexcept {
     return "libdochtmlcom.so";
+}
+
+const char* unregisterCommand() noexcept {
+    return "dochtml-register --unregister";
 }
 
 }  // namespace quillmark

@@ -9,7 +9,7 @@ namespace {
 
 /// The default text of a key below the classes root; empty when there is none.
 std::wstring defaultText(const std::wstring& key) {
-    std::array<wchar_t, 256> text{};
+    std::array<wchar_t, 1024> text{};
     auto size = static_cast<DWORD>(sizeof text);
     const LSTATUS status = RegGetValueW(HKEY_CLASSES_ROOT, key.c_str(), nullptr, RRF_RT_REG_SZ,
                                         nullptr, text.data(), &size);
@@ -57,8 +57,24 @@ Component Component::byName(const std::string& identifier) {
     return {nullptr, std::move(factory)};
 }
 
+std::string Component::registeredLibrary(const std::string& identifier) {
+    std::array<wchar_t, 40> classId{};
+    StringFromGUID2(classOf(identifier), classId.data(), static_cast<int>(classId.size()));
+    const std::wstring file =
+        defaultText(std::wstring(L"CLSID\\") + classId.data() + L"\\InprocServer32");
+    if (file.empty()) {
+        throw ComponentError("the class of " + identifier + " is not registered",
+                             REGDB_E_CLASSNOTREG);
+    }
+    return toUtf8(file);
+}
+
 const char* componentLibraryName() noexcept {
     return "dochtmlcom.dll";
+}
+
+const char* unregisterCommand() noexcept {
+    return "unregister.cmd";
 }
 
 }  // namespace quillmark

@@ -53,6 +53,9 @@ public:
     /// Finds a registered class by its program identifier, with or without the version, or by its
     /// class identifier ("{474BDD91-...}"). Throws `ComponentError`.
     [[nodiscard]] static Component byName(const std::string& identifier);
+    /// The file that is registered for such an identifier, in UTF-8; it may be gone since. Throws
+    /// `ComponentError`.
+    [[nodiscard]] static std::string registeredLibrary(const std::string& identifier);
     /// Loads the class from a library file, registered or not. `file` is its name in UTF-8. Throws
     /// `ComponentError`.
     [[nodiscard]] static Component fromLibrary(const std::string& file,
@@ -86,6 +89,9 @@ private:
 /// The name of the component's library file on this system: "dochtmlcom.dll" or
 /// "libdochtmlcom.so".
 [[nodiscard]] const char* componentLibraryName() noexcept;
+
+/// The command that removes a registration whose library is gone, to be shown to a user.
+[[nodiscard]] const char* unregisterCommand() noexcept;
 
 }  // namespace quillmark
 

@@ -31,7 +31,7 @@ struct Options {
 void addOptions(OptionParser& parser, Options& options) {
     parser.addFlag("--unregister", "remove the registration", options.unregister);
     parser.addFlag("-h,--help", "show this help", options.help);
-    parser.addFlag("--version", "show the version", options.version);
+    parser.addFlag("--version", "show the version and the components", options.version);
 }
 
 void writeHelp(const OptionParser& parser) {
@@ -44,6 +44,28 @@ void writeHelp(const OptionParser& parser) {
         << "\nExit status: 0 if all went well; 1 if the registration failed; 2 for bad usage.\n";
 }
 
+/// The library that is installed with this program, or its bare name if there is none.
+std::string ownLibrary() {
+    const std::string name = componentLibraryName();
+    return installedLibrary(Console::executablePath(), name).value_or(name);
+}
+
+/// The registered library in words, for the user.
+std::string registeredLibrary() {
+    try {
+        const std::string file = Component::registeredLibrary("DocHtml.DocHtml.2.1.0");
+        return std::filesystem::exists(file) ? file : file + " (which is gone)";
+    } catch (const ComponentError& failure) {
+        return failure.isNotRegistered() ? "none" : failure.what();
+    }
+}
+
+void writeVersion() {
+    std::cout << "dochtml-register " DOCHTML_VERSION "\n"
+              << "installed component: " << ownLibrary() << '\n'
+              << "registered component: " << registeredLibrary() << '\n';
+}
+
 /// The library to register. The loader searches the system's libraries for a name without a
 /// directory.
 std::string libraryOf(const std::vector<std::string>& operands) {
@@ -53,8 +75,7 @@ std::string libraryOf(const std::vector<std::string>& operands) {
     if (!operands.empty()) {
         return std::filesystem::absolute(operands.front()).string();
     }
-    const std::string name = componentLibraryName();
-    return installedLibrary(Console::executablePath(), name).value_or(name);
+    return ownLibrary();
 }
 
 /// Calls the library's entry point. The library stays loaded until the program ends.
@@ -81,7 +102,7 @@ void run(const std::vector<std::string>& arguments) {
     if (options.help) {
         writeHelp(parser);
     } else if (options.version) {
-        std::cout << "dochtml-register " DOCHTML_VERSION "\n";
+        writeVersion();
     } else {
         callEntryPoint(libraryOf(operands),
                        options.unregister ? "DllUnregisterServer" : "DllRegisterServer");
