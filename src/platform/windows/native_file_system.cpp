@@ -95,6 +95,27 @@ std::unique_ptr<OutputFile> output(Handle file) {
     return noted(file.isOpen()) ? makeOutputFile(std::move(file)) : nullptr;
 }
 
+/// Moves a file to the place of another one. The system refuses that while anybody has the other
+/// one open, if only to read it for a moment.
+bool moveOver(const std::wstring& from, const std::wstring& to) noexcept {
+    constexpr int tries = 200;
+    constexpr DWORD pause = 10;
+    for (int i = 0; i < tries; ++i) {
+        if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING) != FALSE) {
+            return true;
+        }
+        const DWORD failure = GetLastError();
+        const DWORD attributes = attributesOf(to);
+        const bool mayEnd = failure == ERROR_SHARING_VIOLATION || failure == ERROR_ACCESS_DENIED;
+        if (!mayEnd || !isFile(attributes) || (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+            SetLastError(failure);
+            return false;
+        }
+        Sleep(pause);
+    }
+    return false;
+}
+
 class NativeFileSystem final : public FileSystem {
 public:
     bool fileExists(const OrxString& name) const override {
@@ -179,8 +200,7 @@ public:
 
     bool replaceFile(const OrxString& source, const OrxString& target) override {
         const std::wstring from = wideName(source);
-        return isFile(attributesOf(from)) && MoveFileExW(from.c_str(), wideName(target).c_str(),
-                                                         MOVEFILE_REPLACE_EXISTING) != FALSE;
+        return isFile(attributesOf(from)) && noted(moveOver(from, wideName(target)));
     }
 
     std::unique_ptr<FileLock> lockForChange(const OrxString& name) override {

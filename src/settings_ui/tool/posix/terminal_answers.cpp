@@ -24,8 +24,7 @@ void readUtf8() noexcept {
 class TerminalAnswers final : public AnswerSource {
 public:
     TerminalAnswers()
-        : history_(history_init()),
-          editor_(el_init("dochtml-settings", stdin, stdout, stderr)) {
+        : history_(history_init()), editor_(el_init("dochtml-settings", stdin, stdout, stderr)) {
         HistEvent event{};
         history(history_, &event, H_SETSIZE, 1);
         el_set(editor_, EL_CLIENTDATA, this);
@@ -35,6 +34,8 @@ public:
         el_set(editor_, EL_SIGNAL, 1);
         el_set(editor_, EL_HIST, history, history_);
     }
+    TerminalAnswers(const TerminalAnswers&) = delete;
+    TerminalAnswers& operator=(const TerminalAnswers&) = delete;
     ~TerminalAnswers() override {
         el_end(editor_);
         history_end(history_);
