@@ -57,8 +57,13 @@ void OpenMarks::take(std::string_view name, const Each& each, NameId hint) {
         return;
     }
     marks_.take(lists_[id], [&](MarkId mark) {
-        each(mark);
         --open_;
+        try {
+            each(mark);
+        } catch (...) {
+            ++open_;
+            throw;
+        }
     });
 }
 

@@ -52,7 +52,7 @@ public:
     std::string trace;
 };
 
-TEST(OutOfMemory, isToldWithoutMemory) {
+TEST(OutOfMemory, IsToldWithoutMemory) {
     Listener told;
     const Trace trace;
     const AllocationFailure failure(1, Mode::forGood);
@@ -61,13 +61,13 @@ TEST(OutOfMemory, isToldWithoutMemory) {
     EXPECT_EQ(told.trace, "ERR Out of memory: a step\n");
 }
 
-TEST(OutOfMemory, letsOtherExceptionsPass) {
+TEST(OutOfMemory, LetsOtherExceptionsPass) {
     const Trace trace;
     EXPECT_THROW(survive(trace, "a step", [] { throw OrxException("no"); }), OrxException);
     EXPECT_TRUE(survive(trace, "a step", [] {}));
 }
 
-TEST(OutOfMemory, costsADocumentOneText) {
+TEST(OutOfMemory, CostsADocumentOneText) {
     MemoryFileSystem files;
     const InstalledFileSystem installed(files);
     InstalledSettingsStore settings;
@@ -90,7 +90,7 @@ TEST(OutOfMemory, costsADocumentOneText) {
                 ::testing::HasSubstr("before after"));
 }
 
-TEST(OutOfMemory, inACreateMakesTheCallsUpToTheNextOneWriteNothing) {
+TEST(OutOfMemory, InACreateMakesTheCallsUpToTheNextOneWriteNothing) {
     MemoryFileSystem files;
     const InstalledFileSystem installed(files);
     InstalledSettingsStore settings;
@@ -113,7 +113,7 @@ TEST(OutOfMemory, inACreateMakesTheCallsUpToTheNextOneWriteNothing) {
     EXPECT_THAT(page, ::testing::Not(::testing::HasSubstr("lost")));
 }
 
-TEST(OutOfMemory, inTheJsonReaderIsAnException) {
+TEST(OutOfMemory, InTheJsonReaderIsAnException) {
     replay::JsonReader reader;
     rapidjson::StringStream text("[[[[1,2,3]]],\"\\u0041\"]");
     rapidjson::BaseReaderHandler<> handler;
@@ -121,7 +121,7 @@ TEST(OutOfMemory, inTheJsonReaderIsAnException) {
     EXPECT_THROW(reader.Parse(text, handler), std::bad_alloc);
 }
 
-TEST(OutOfMemory, inACallbackIsNotAnEmptyText) {
+TEST(OutOfMemory, InACallbackIsNotAnEmptyText) {
     const std::string text(100, 'x');
     const DochtmlText lent{text.data(), text.size()};
     CollectedTexts texts;
@@ -133,7 +133,7 @@ TEST(OutOfMemory, inACallbackIsNotAnEmptyText) {
     EXPECT_THROW(static_cast<void>(texts.text()), std::bad_alloc);
 }
 
-TEST(OutOfMemory, doesNotSilenceTheToolsMessages) {
+TEST(OutOfMemory, DoesNotSilenceTheToolsMessages) {
     std::ostringstream stream;
     stream << std::string(1000, ' ');
     stream.str("");

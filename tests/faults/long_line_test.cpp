@@ -71,7 +71,7 @@ bool readsWithinThreeTimes(std::size_t length) {
     return read && grown <= 3 * length + mebibyte;
 }
 
-TEST(ALongLine, costsItsReaderAtMostThreeTimesItsSize) {
+TEST(ALongLine, CostsItsReaderAtMostThreeTimesItsSize) {
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "the sanitizer keeps freed memory";
 #endif

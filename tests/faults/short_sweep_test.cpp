@@ -30,11 +30,11 @@ protected:
     }
 };
 
-TEST_P(MemoryRunsOut, onceCostsOneOutputAtMost) {
+TEST_P(MemoryRunsOut, OnceCostsOneOutputAtMost) {
     sweep(AllocationFailure::Mode::once);
 }
 
-TEST_P(MemoryRunsOut, forGoodEndsNothingButTheDocument) {
+TEST_P(MemoryRunsOut, ForGoodEndsNothingButTheDocument) {
     sweep(AllocationFailure::Mode::forGood);
 }
 

@@ -50,7 +50,7 @@ void failEverywhere(const Change& change, const Check& check) {
     EXPECT_GT(failures, 0U);
 }
 
-TEST(AfterAFailedAllocation, packedStringsHaveTheirStringsAndNoMore) {
+TEST(AfterAFailedAllocation, PackedStringsHaveTheirStringsAndNoMore) {
     failEverywhere<PackedStrings>(
         [](PackedStrings& strings) {
             for (int i = 0; i < 9; ++i) {
@@ -66,7 +66,7 @@ TEST(AfterAFailedAllocation, packedStringsHaveTheirStringsAndNoMore) {
         });
 }
 
-TEST(AfterAFailedAllocation, aNameTableFindsItsNamesAndGoesOnCounting) {
+TEST(AfterAFailedAllocation, ANameTableFindsItsNamesAndGoesOnCounting) {
     failEverywhere<NameTable>(
         [](NameTable& names) {
             for (int i = 0; i < 40; ++i) {
@@ -84,7 +84,7 @@ TEST(AfterAFailedAllocation, aNameTableFindsItsNamesAndGoesOnCounting) {
         });
 }
 
-TEST(AfterAFailedAllocation, aBookmarkTableHasARecordForEachName) {
+TEST(AfterAFailedAllocation, ABookmarkTableHasARecordForEachName) {
     failEverywhere<BookmarkTable>(
         [](BookmarkTable& table) {
             for (int i = 0; i < 20; ++i) {
@@ -105,7 +105,7 @@ TEST(AfterAFailedAllocation, aBookmarkTableHasARecordForEachName) {
         });
 }
 
-TEST(AfterAFailedAllocation, openMarksHaveAListForEachName) {
+TEST(AfterAFailedAllocation, OpenMarksHaveAListForEachName) {
     failEverywhere<OpenMarks>(
         [](OpenMarks& marks) {
             for (int i = 0; i < 20; ++i) {
@@ -126,7 +126,7 @@ TEST(AfterAFailedAllocation, openMarksHaveAListForEachName) {
         });
 }
 
-TEST(AfterAFailedAllocation, aPooledListIsAsBefore) {
+TEST(AfterAFailedAllocation, APooledListIsAsBefore) {
     PooledLists<int> pool;
     PooledLists<int>::List list;
     for (const int number : {1, 2, 3}) {
@@ -148,13 +148,13 @@ TEST(AfterAFailedAllocation, aPooledListIsAsBefore) {
     EXPECT_THAT(seen, ElementsAre(2, 3, 4));
 }
 
-TEST(AfterAFailedAllocation, aTextHasWhatWasAppended) {
+TEST(AfterAFailedAllocation, ATextHasWhatWasAppended) {
     failEverywhere<SpliceText>(
         [](SpliceText& text) { text.append(longName(1)); },
         [](const SpliceText& text) { EXPECT_EQ(text.lineCount(), text.plain().empty() ? 0 : 1); });
 }
 
-TEST(AfterAFailedAllocation, aTextHasItsMarks) {
+TEST(AfterAFailedAllocation, ATextHasItsMarks) {
     failEverywhere<SpliceText>(
         [](SpliceText& text) {
             for (int i = 0; i < 5; ++i) {
@@ -173,13 +173,13 @@ TEST(AfterAFailedAllocation, aTextHasItsMarks) {
         });
 }
 
-TEST(AfterAFailedAllocation, aFailedInsertionLeavesAPlainText) {
+TEST(AfterAFailedAllocation, AFailedInsertionLeavesAPlainText) {
     failEverywhere<SpliceText>(
         [](SpliceText& text) { text.insertAt(text.addMark("", 1), longName(1)); },
         [](const SpliceText& text) { EXPECT_EQ(text.isPlain(), text.merged().empty()); });
 }
 
-TEST(AfterAFailedAllocation, aCachedLinkIsTheRightOne) {
+TEST(AfterAFailedAllocation, ACachedLinkIsTheRightOne) {
     const OrxString base("C:\\a directory with a long name\\and a subdirectory");
     const auto fileName = [](int number) { return std::string(40 * number, 'f'); };
     const auto file = [&](int number) {
@@ -196,7 +196,7 @@ TEST(AfterAFailedAllocation, aCachedLinkIsTheRightOne) {
         });
 }
 
-TEST(AfterAFailedAllocation, aListOfContentsEntriesHasWholeEntries) {
+TEST(AfterAFailedAllocation, AListOfContentsEntriesHasWholeEntries) {
     const auto entry = [](const std::string& href, const std::string& text,
                           const std::string& icon) {
         return ContentsEntryView{href, text, 1, icon, icon};
@@ -233,7 +233,7 @@ private:
     std::string bytes_;
 };
 
-TEST(AfterAFailedAllocation, aTableOfWordsHasWholeWords) {
+TEST(AfterAFailedAllocation, ATableOfWordsHasWholeWords) {
     failEverywhere<WordTable>(
         [](WordTable& words) {
             for (int i = 0; i < 20; ++i) {
@@ -249,7 +249,7 @@ TEST(AfterAFailedAllocation, aTableOfWordsHasWholeWords) {
         });
 }
 
-TEST(AfterAFailedAllocation, aPlaceCanStillGetItsWord) {
+TEST(AfterAFailedAllocation, APlaceCanStillGetItsWord) {
     failEverywhere<Postings>(
         [](Postings& postings) {
             postings.startPlace(4);
@@ -264,7 +264,7 @@ TEST(AfterAFailedAllocation, aPlaceCanStillGetItsWord) {
         });
 }
 
-TEST(AfterAFailedAllocation, aPageThatWasClosedIsEmpty) {
+TEST(AfterAFailedAllocation, APageThatWasClosedIsEmpty) {
     failEverywhere<DocHtmlPage>(
         [](DocHtmlPage& page) {
             page.append("some text on a page, somewhat longer");
