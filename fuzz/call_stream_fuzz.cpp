@@ -15,13 +15,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     replay::CallStreamReader reader(input);
     testing::RecordingDocument document;
     replay::Call call;
-    while (reader.next(call) == replay::ReadResult::call) {
+    auto result = replay::ReadResult::end;
+    while ((result = reader.next(call)) == replay::ReadResult::call) {
         if (call.operation == nullptr || call.argumentCount < call.operation->parameters.size()) {
             continue;
         }
         if (invoke(document, call.operation->dispatchId, call.given()) != InvokeStatus::done) {
             __builtin_trap();
         }
+    }
+    if (result == replay::ReadResult::malformed &&
+        (reader.problem().empty() || reader.line() == 0)) {
+        __builtin_trap();
     }
     return 0;
 }

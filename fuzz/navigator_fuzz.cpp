@@ -37,7 +37,18 @@ struct OwnEntry {
     std::string gif;
     std::string stereoGif;
 
+    static constexpr std::uint32_t elsewhere = 3000;
+    static constexpr std::uint32_t escaped = 2999;
+
+    /// The entry of a file that is no page of the set has the highest number.
+    [[nodiscard]] bool isOnPage() const { return page != elsewhere; }
     [[nodiscard]] std::string href(std::size_t index) const {
+        if (!isOnPage()) {
+            return "other.htm#toc" + std::to_string(index + 1);
+        }
+        if (page == escaped) {
+            return "sub/rep%5Fdtl2999.htm#toc" + std::to_string(index + 1);
+        }
         return "rep_dtl" + (page == 1 ? std::string() : std::to_string(page)) + ".htm#toc" +
                std::to_string(index + 1);
     }
@@ -156,7 +167,9 @@ NavigatorFiles::Words expectedWords(const DocumentSet& set, const TextDecoder& d
         for (const std::string& word : wordsOfEntry(set.entries[index], decoder)) {
             NavigatorFiles::Places& places = words[utf8::toUtf16(word)];
             places.entries.insert(numbers[index]);
-            places.pages.insert(set.entries[index].page - 1);
+            if (set.entries[index].isOnPage()) {
+                places.pages.insert(set.entries[index].page - 1);
+            }
         }
     }
     return words;
@@ -209,6 +222,9 @@ void checkTables(const NavigatorFiles& files, const DocumentSet& set) {
     const std::vector<std::uint32_t> pages = files.table("page");
     for (std::size_t index = set.entries.size(); index > 0; --index) {
         const std::uint32_t page = set.entries[index - 1].page;
+        if (!set.entries[index - 1].isOnPage()) {
+            continue;
+        }
         const bool isFirst =
             std::ranges::none_of(std::span(set.entries).first(index - 1),
                                  [&](const OwnEntry& entry) { return entry.page == page; });

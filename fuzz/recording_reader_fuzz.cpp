@@ -18,13 +18,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     testing::RecordingDocument document;
     replay::Call call;
     std::size_t line = 0;
-    while (reader.next(call) == replay::ReadResult::call) {
+    auto result = replay::ReadResult::end;
+    while ((result = reader.next(call)) == replay::ReadResult::call) {
         const bool whole = call.recorded.starts_with("dochtml->") && call.recorded.ends_with(");");
         if (!whole || call.line <= line ||
             invoke(document, call.operation->dispatchId, call.given()) != InvokeStatus::done) {
             __builtin_trap();
         }
         line = call.line;
+    }
+    if (result == replay::ReadResult::malformed &&
+        (reader.problem().empty() || reader.line() == 0)) {
+        __builtin_trap();
     }
     return 0;
 }

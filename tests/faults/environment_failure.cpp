@@ -1,29 +1,22 @@
-// Steers the failing allocator of a program from outside: DOCHTML_FAIL_ALLOCATION is the number of
-// the first allocation of `main` that fails, with a "+" if all after it fail too.
+// The replay tool with an allocator that is steered from outside: DOCHTML_FAIL_ALLOCATION is the
+// number of the first allocation that fails, with a "+" if all after it fail too.
 
 #include <cstdlib>
 #include <optional>
 
 #include "faults/allocation_failure.h"
 
-namespace quillmark::testing {
+/// The tool's `main`, under another name.
+int replayMain(int argc, char** argv);
 
-namespace {
-
-struct FailureOfEnvironment {
-    FailureOfEnvironment() {
-        if (const char* const wanted = std::getenv("DOCHTML_FAIL_ALLOCATION")) {
-            char* end = nullptr;
-            const std::size_t position = std::strtoul(wanted, &end, 10);
-            failure.emplace(position, *end == '+' ? AllocationFailure::Mode::forGood
-                                                  : AllocationFailure::Mode::once);
-        }
-    }
+int main(int argc, char** argv) {
+    using quillmark::testing::AllocationFailure;
     std::optional<AllocationFailure> failure;
-};
-
-const FailureOfEnvironment failureOfEnvironment;
-
-}  // namespace
-
-}  // namespace quillmark::testing
+    if (const char* const wanted = std::getenv("DOCHTML_FAIL_ALLOCATION")) {
+        char* end = nullptr;
+        const std::size_t position = std::strtoul(wanted, &end, 10);
+        failure.emplace(position, *end == '+' ? AllocationFailure::Mode::forGood
+                                              : AllocationFailure::Mode::once);
+    }
+    return replayMain(argc, argv);
+}

@@ -60,8 +60,9 @@ class Runs:
         done, files = result
         if done.returncode == 0 and files == undisturbed:
             return
-        if done.returncode == 127 and b"error while loading shared libraries" in done.stderr:
-            return  # The system could not even load the program.
+        if b"error while loading shared libraries" in done.stderr or (
+                b"failed to map segment" in done.stderr):
+            return  # The system could not even load the program or the component.
         if done.returncode != 1 or not done.stderr:
             self.problems.append(f"{name}: status {done.returncode}, {done.stderr[:200]}")
 

@@ -130,16 +130,15 @@ TEST_F(RewrittenFile, IsNeverMoreReadableThanTheOldOne) {
     std::atomic<bool> done = false;
     std::atomic<mode_t> seen = 0;
     std::thread observer([&] {
-        while (!done) {
+        do {
             std::error_code ignored;
-            for (const auto& entry :
-                 std::filesystem::directory_iterator(dir.native(), ignored)) {
+            for (const auto& entry : std::filesystem::directory_iterator(dir.native(), ignored)) {
                 struct stat status {};
                 if (lstat(entry.path().c_str(), &status) == 0) {
                     seen |= status.st_mode & 07777U;
                 }
             }
-        }
+        } while (!done);
     });
     const std::string large(1 << 20, 'x');
     for (int i = 0; i < 100; ++i) {

@@ -192,11 +192,14 @@ TEST_F(ConfinedTool, IsNotFooledByADirectoryThatIsExchangedForALink) {
     for (int i = 0; i < 3000; ++i) {
         calls += insertFile(native("allowed/real/key.txt"));
     }
-    for (int run = 0; run < 3; ++run) {
-        const ToolResult result = play(calls);
-        EXPECT_THAT(content("out/rep_dtl.htm"), HasSubstr("a note"));
+    // On a busy machine the link may stay for a whole run.
+    bool wasRead = false;
+    for (int run = 0; run < 3 || (!wasRead && run < 50); ++run) {
+        static_cast<void>(play(calls));
+        wasRead = wasRead || isPublished("a note");
         EXPECT_FALSE(isPublished("a secret"));
     }
+    EXPECT_TRUE(wasRead);
     done = true;
     attacker.join();
 }

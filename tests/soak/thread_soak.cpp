@@ -11,7 +11,9 @@
 
 #include "component/object/class_factory.h"
 #include "component/object/document_object.h"
+#include "dochtml/text.h"
 #include "driver/doc_html.h"
+#include "platform/trace.h"
 #include "soak/discarding_file_system.h"
 #include "support/installed_file_system.h"
 #include "support/memory_settings_store.h"
@@ -110,7 +112,7 @@ int soak(std::size_t changes) {
                 } while (!ends);
             });
         }
-        changeServices(*services, changes);
+        changeServices(*services.get(), changes);
         ends = true;
     }
     std::cout << changes << " changes of services, " << documents[0] << ", " << documents[1]

@@ -11,7 +11,7 @@ namespace quillmark::replay {
 namespace {
 
 [[noreturn]] void refuseText(std::string_view shown, std::string_view text, std::size_t offset,
-                         std::string_view problem) {
+                             std::string_view problem) {
     const auto line = 1 + std::ranges::count(text.substr(0, offset), '\n');
     throw BadInput(std::string(shown) + ":" + std::to_string(line) + ": " + std::string(problem));
 }
@@ -26,8 +26,8 @@ JsonDocument readJsonObject(const std::filesystem::path& file, std::string_view 
         text.data(), text.size());
     if (document.HasParseError()) {
         refuseText(shown, text, std::min(document.GetErrorOffset(), text.size()),
-               std::string("malformed JSON: ") +
-                   rapidjson::GetParseError_En(document.GetParseError()));
+                   std::string("malformed JSON: ") +
+                       rapidjson::GetParseError_En(document.GetParseError()));
     }
     if (!document.IsObject()) {
         refuseText(shown, text, 0, "the file must contain a JSON object");

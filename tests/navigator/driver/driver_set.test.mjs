@@ -8,6 +8,7 @@ import { mkdtempSync, readFileSync, readdirSync, rmSync, statSync, writeFileSync
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { after, before, describe, test } from 'node:test';
+import { nav } from '../browser_side.mjs';
 import { addToSet } from '../reference/add_to_set.mjs';
 import { callsOf } from './driver_streams.mjs';
 
@@ -36,6 +37,45 @@ const filesBelow = (directory) =>
     .filter((path) => statSync(join(directory, path)).isFile())
     .sort();
 
+// The files of data, read as the browser reads them.
+async function readBack(directory) {
+  const files = new nav.DataFiles(async (name) => {
+    const script = readFileSync(join(directory, `${name}.js`), 'latin1');
+    assert.match(script, /^[ -~]*\n$/, name);
+    new Function('repNav', script)((given, text) => files.receive(given, text));
+  });
+  const data = {};
+  for (const file of filesBelow(directory)) {
+    const [, name] = /^(set|(?:tree|page|anchor|word|index)\d*)\.js$/.exec(file) ?? [];
+    if (name) data[name] = await files.get(name);
+  }
+  return data;
+}
+
+function checkList(text, below, name) {
+  let last = -1;
+  nav.numberList.each(text, (number) => {
+    assert.ok(number > last && number < below, `${name}: ${text}`);
+    last = number;
+  });
+}
+
+function checkIndex(data) {
+  let last = '';
+  data.index.forEach((firstWord, number) => {
+    const words = [];
+    nav.wordFile.each(data[`word${number}`], '', (word, entries, pages) => {
+      assert.ok(nav.wordFile.compareWords(last, word) < 0, word);
+      assert.ok(word.isWellFormed(), word);
+      checkList(entries, data.set.entries, word);
+      checkList(pages, Number.MAX_SAFE_INTEGER, word);
+      words.push(word);
+      last = word;
+    });
+    assert.equal(words[0], firstWord);
+  });
+}
+
 function checkSet(name, calls, ...options) {
   describe(name, () => {
     const made = join(work, `${name}-on`);
@@ -51,6 +91,7 @@ function checkSet(name, calls, ...options) {
       assert.deepEqual(filesBelow(made), files);
       assert.ok(files.includes('rep_nav/word0.js'));
     });
+    test('can be read back', async () => checkIndex(await readBack(join(made, 'rep_nav'))));
     test('has the same bytes', () => {
       for (const file of files) {
         if (file === 'rep.htm') continue;

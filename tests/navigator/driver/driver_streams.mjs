@@ -37,6 +37,33 @@ function randomReport(seed, pages) {
   return calls;
 }
 
+// Texts of arbitrary characters, among them controls (no line ends), halves of pairs and pieces of markup. Windows-1252
+// is Latin-1 but for U+0080 to U+009F.
+function arbitraryText(random) {
+  const pieces = ['<B', '>', '</', '<!--', '-->', '&#x2', '&#x104', '0', '2;', ';', '"', "'", '\\', '<SCRIPT', '</SCRIPT>', '&#x20BB7;', '&#x20BB8;'];
+  const character = () => {
+    const kind = random(12);
+    if (kind === 0) return pieces[random(pieces.length)];
+    if (kind === 1) return String.fromCharCode(0xa0 + random(0x60));
+    if (kind === 2) return String.fromCharCode(1 + random(9));
+    if (kind === 3) return String.fromCharCode(0xd7f0 + random(0x820));
+    return String.fromCharCode(0x20 + random(0x60));
+  };
+  return Array.from({ length: random(60) }, character).join('');
+}
+
+function arbitrary(seed) {
+  const random = randomNumbers(seed);
+  const calls = [['create', 'rep.htm'], ['setOption', 'title', arbitraryText(random)]];
+  for (let part = 0; part < 150; part += 1) {
+    if (random(8) === 0) calls.push(['insertPageBreak']);
+    const style = random(3) === 0 ? `Heading ${1 + random(9)}` : 'Normal';
+    calls.push(['setStyle', style], ['insertText', arbitraryText(random)], ['insertEndl']);
+  }
+  calls.push(['close']);
+  return calls;
+}
+
 const longWord = 'abcdefgh'.repeat(40);
 const edges = [
   ['create', 'rep.htm'],
@@ -71,4 +98,5 @@ export const callsOf = () => [
   ['many-entries', manyEntries],
   ['empty', [['create', 'rep.htm'], ['close']]],
   ...[1, 2, 3, 4, 5, 6].map((seed) => [`random-${seed}`, randomReport(seed, 40 * seed), '--set', `Html.PassThrough=${seed % 2 === 0}`]),
+  ...[11, 12, 13, 14].map((seed) => [`arbitrary-${seed}`, arbitrary(seed), '--set', `Html.PassThrough=${seed % 2 === 0}`]),
 ];
