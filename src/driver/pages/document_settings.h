@@ -45,7 +45,8 @@ struct DocumentSettings {
     /// Reads the settings for texts.
     void readTexts(const RegisterCache& settings);
     /// Reads the modelling tool's ini file. Returns false when the applet must run on a Java before
-    /// version 7. A file that cannot be read is an error in the trace; a missing one counts as empty.
+    /// version 7. A file that cannot be read is an error in the trace; a missing one counts as
+    /// empty.
     [[nodiscard]] bool readIniFile(const Trace& trace);
 };
 

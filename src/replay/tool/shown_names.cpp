@@ -11,16 +11,12 @@ namespace quillmark::replay {
 namespace {
 
 /// The driver's messages that end with the name of a file.
-constexpr std::array<std::string_view, 10> openings = {"Error opening file: ",
-                                                       "Error writing to file: ",
-                                                       "Cannot open : ",
-                                                       "Cannot look up file ",
-                                                       "Cannot read file ",
-                                                       "Cannot read to the end of file ",
-                                                       "Cannot remove file ",
-                                                       "Could not read file ",
-                                                       "File not found: ",
-                                                       "Html style sheet does not exist.\n"};
+constexpr std::array<std::string_view, 10> openings = {
+    "Error opening file: ", "Error writing to file: ",
+    "Cannot open : ",       "Cannot look up file ",
+    "Cannot read file ",    "Cannot read to the end of file ",
+    "Cannot remove file ",  "Could not read file ",
+    "File not found: ",     "Html style sheet does not exist.\n"};
 constexpr std::string_view copyFailure = "Could not copy file ";
 constexpr std::string_view copyTarget = " to directory ";
 

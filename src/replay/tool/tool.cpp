@@ -127,19 +127,18 @@ private:
     }
 
     TraceMonitor::Handlers traceHandlers() {
-        return {[this](std::string_view failure, std::string_view reason) {
-                    reportDriver(failure, reason);
-                },
-                [this](std::string_view warning) {
-                    findings_.addWarning(shown_.message(warning, {}));
-                },
-                [this](std::string_view report) {
-                    const std::size_t lineEnd = std::min(report.find('\n'), report.size());
-                    constexpr std::string_view opening = "Unresolved references on page ";
-                    findings_.addUnresolved(
-                        shown_.path(report.substr(opening.size(), lineEnd - opening.size())),
-                        report.substr(lineEnd));
-                }};
+        return {
+            [this](std::string_view failure, std::string_view reason) {
+                reportDriver(failure, reason);
+            },
+            [this](std::string_view warning) { findings_.addWarning(shown_.message(warning, {})); },
+            [this](std::string_view report) {
+                const std::size_t lineEnd = std::min(report.find('\n'), report.size());
+                constexpr std::string_view opening = "Unresolved references on page ";
+                findings_.addUnresolved(
+                    shown_.path(report.substr(opening.size(), lineEnd - opening.size())),
+                    report.substr(lineEnd));
+            }};
     }
 
     /// Reports are on for the pages whose unresolved references the summary names.
