@@ -36,8 +36,7 @@ std::shared_ptr<Navigator> Navigator::create(Places places,
     return written ? navigator : nullptr;
 }
 
-Navigator::Navigator(Places places, std::unique_ptr<const TextDecoder> decoder,
-                     const Trace& trace)
+Navigator::Navigator(Places places, std::unique_ptr<const TextDecoder> decoder, const Trace& trace)
     : places_(std::move(places)),
       decoder_(std::move(decoder)),
       files_(places_.baseName + "_nav", trace),

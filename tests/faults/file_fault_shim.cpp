@@ -1,7 +1,8 @@
 // Loaded in front of the C library: makes one file operation of a program fail.
 //
 //   FILE_FAULT_ROOT   only files below that directory, and relative names, are counted
-//   FILE_FAULT        KIND:N:ERRNO, the N-th operation of that kind fails with that error; the error
+//   FILE_FAULT        KIND:N:ERRNO, the N-th operation of that kind fails with that error; the
+//   error
 //                     0 lets a write take only half of its bytes
 //   FILE_FAULT_COUNT  a file that gets the number of operations of every kind
 //
@@ -24,7 +25,18 @@
 
 namespace {
 
-enum Kind { opening, reading, writing, closing, renaming, looking, making, removing, copying, cutting };
+enum Kind {
+    opening,
+    reading,
+    writing,
+    closing,
+    renaming,
+    looking,
+    making,
+    removing,
+    copying,
+    cutting
+};
 constexpr std::array<const char*, 10> kindNames = {"open", "read",  "write",  "close", "rename",
                                                    "stat", "mkdir", "unlink", "copy",  "truncate"};
 
@@ -44,7 +56,8 @@ struct Plan {
     Plan() {
         const char* const text = std::getenv("FILE_FAULT");
         std::array<char, 16> name{};
-        if (text != nullptr && std::sscanf(text, "%15[a-z]:%d:%d", name.data(), &number, &error) == 3) {
+        if (text != nullptr &&
+            std::sscanf(text, "%15[a-z]:%d:%d", name.data(), &number, &error) == 3) {
             for (std::size_t i = 0; i < kindNames.size(); ++i) {
                 kind = std::strcmp(kindNames.at(i), name.data()) == 0 ? static_cast<int>(i) : kind;
             }
@@ -95,10 +108,9 @@ bool failsAt(Kind kind, int file) {
 struct CountWriter {
     ~CountWriter() {
         const char* const name = std::getenv("FILE_FAULT_COUNT");
-        const int file =
-            name == nullptr ? -1
-                            : real<int (*)(const char*, int, ...)>("open")(
-                                  name, O_WRONLY | O_CREAT | O_TRUNC, 0600);
+        const int file = name == nullptr ? -1
+                                         : real<int (*)(const char*, int, ...)>("open")(
+                                               name, O_WRONLY | O_CREAT | O_TRUNC, 0600);
         for (std::size_t i = 0; file >= 0 && i < kindNames.size(); ++i) {
             dprintf(file, "%s %d\n", kindNames.at(i), counts.at(i).load());
         }

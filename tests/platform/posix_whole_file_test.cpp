@@ -118,9 +118,9 @@ TEST_P(OldPage, StaysWhenTheNewOneDoesNotFit) {
 TEST_P(OldPage, StaysWhenTheCopyDoesNotFit) {
     dir.put("large", std::string(500000, 'n'));
     constexpr rlim_t limit = 400000;
-    EXPECT_EQ(
-        statusWithLimit(limit, [&] { return !SysFile::copy(dir.file("large"), dir.file("a.htm")); }),
-        0);
+    EXPECT_EQ(statusWithLimit(limit,
+                              [&] { return !SysFile::copy(dir.file("large"), dir.file("a.htm")); }),
+              0);
     EXPECT_EQ(dir.content("a.htm"), old);
     EXPECT_EQ(countOfFiles(), 2);
 }
@@ -176,12 +176,10 @@ TEST_F(WholePage, ThatMayNotBeWrittenStaysAsItIs) {
 
 TEST_F(WholePage, ThatDoesNotFitLeavesTheOldOneAndNothingElse) {
     const std::string text(5000, 'x');
-    EXPECT_EQ(statusWithLimit(
-                  4096, [&] { return write("a.htm", text) == WriteResult::writeFailed; }),
-              0);
-    EXPECT_EQ(statusWithLimit(
-                  4096, [&] { return write("b.htm", text) == WriteResult::writeFailed; }),
-              0);
+    EXPECT_EQ(
+        statusWithLimit(4096, [&] { return write("a.htm", text) == WriteResult::writeFailed; }), 0);
+    EXPECT_EQ(
+        statusWithLimit(4096, [&] { return write("b.htm", text) == WriteResult::writeFailed; }), 0);
     EXPECT_EQ(dir.content("a.htm"), "old");
     EXPECT_EQ(countOfFiles(), 1);
 }

@@ -108,7 +108,7 @@ class Environment(unittest.TestCase):
                 self.assertEqual(self.play(f"TOOL {option} {name} calls"), refused)
             told = f"dochtml-replay: Cannot read file {name}: Not a regular file\n"
             self.assertEqual(self.play(f"TOOL --ini {name} calls"), (1, told))
-        for page in "rep_dtl.htm", "rep_toc.dat", "toc2.jar":
+        for page in "rep_dtl.htm", "rep_toc.dat", "default.css":
             (self.work / page).unlink(missing_ok=True)
             os.mkfifo(self.work / page)
             status, errors = self.play("TOOL calls")

@@ -97,8 +97,7 @@ private:
 /// Takes its name when it is closed.
 class MemoryFileSystem::Replacement final : public OutputFile {
 public:
-    Replacement(MemoryFileSystem& owner, std::string path)
-        : owner_(owner), path_(std::move(path)) {
+    Replacement(MemoryFileSystem& owner, std::string path) : owner_(owner), path_(std::move(path)) {
         ++owner_.openFiles_;
     }
     ~Replacement() override {

@@ -128,9 +128,8 @@ std::optional<std::string> contentOf(const std::filesystem::path& file) {
         return errno == ENOENT || errno == ENOTDIR ? std::optional<std::string>("") : std::nullopt;
     }
     // Reading from a pipe or a device may never end.
-    const Descriptor in = S_ISREG(status.st_mode)
-                              ? descriptor_io::openFile(file.c_str(), O_RDONLY)
-                              : Descriptor();
+    const Descriptor in =
+        S_ISREG(status.st_mode) ? descriptor_io::openFile(file.c_str(), O_RDONLY) : Descriptor();
     if (!in.isOpen()) {
         return std::nullopt;
     }

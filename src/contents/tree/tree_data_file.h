@@ -18,8 +18,8 @@ namespace quillmark {
 /// Lines end as usual on the platform. See `IndentBudget` for very deep trees.
 ///
 /// Throws `OrxException`: "Error opening file: " + path when the file cannot be created, "Error
-/// writing to file: " + path when it cannot be written. Then `FileFailure` has the reason, and there
-/// is no such file, or the old one as it was.
+/// writing to file: " + path when it cannot be written. Then `FileFailure` has the reason, and
+/// there is no such file, or the old one as it was.
 void writeTreeDataFile(const OrxString& path, const ContentsEntryList& entries, bool showIcons);
 
 }  // namespace quillmark

@@ -60,7 +60,7 @@ std::optional<std::string> bytesOf(const Descriptor& file, off_t size) {
         done += static_cast<std::size_t>(taken);
     }
     return size == 0 || lseek(file.number(), 0, SEEK_SET) == 0 ? std::optional(std::move(bytes))
-                                                             : std::nullopt;
+                                                               : std::nullopt;
 }
 
 /// Gives the new file the permissions of the old one. False if it belongs to somebody else.
@@ -204,8 +204,8 @@ bool WholeFile::cutOldRest() const noexcept {
         return true;
     }
     const off_t end = lseek(file_.number(), 0, SEEK_CUR);
-    return end >= 0 && (end >= static_cast<off_t>(old_->size()) ||
-                        ftruncate(file_.number(), end) == 0);
+    return end >= 0 &&
+           (end >= static_cast<off_t>(old_->size()) || ftruncate(file_.number(), end) == 0);
 }
 
 bool WholeFile::commit() noexcept {
@@ -215,8 +215,8 @@ bool WholeFile::commit() noexcept {
         discard();
         return false;
     }
-    const bool done = file_.close() &&
-                      (target_.empty() || std::rename(written_.c_str(), target_.c_str()) == 0);
+    const bool done =
+        file_.close() && (target_.empty() || std::rename(written_.c_str(), target_.c_str()) == 0);
     if (done) {
         written_.clear();
     } else {

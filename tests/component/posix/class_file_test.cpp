@@ -80,8 +80,7 @@ TEST_F(ClassFile, KeepsTheCommentsOfWhoEditedIt) {
     makeKey(root, "a").values[""] = {KeyValue::textType, "2"};
     for (int i = 0; i < 2; ++i) {
         ASSERT_TRUE(writeClassFile(file(), root));
-        EXPECT_THAT(content(),
-                    ::testing::EndsWith("; mine\n# of Gone\n[a]\n; of A\n@=2\n"));
+        EXPECT_THAT(content(), ::testing::EndsWith("; mine\n# of Gone\n[a]\n; of A\n@=2\n"));
         EXPECT_THAT(content(), StartsWith("; The components"));
         root = tree();
     }

@@ -188,7 +188,7 @@ TEST_P(EveryFailure, IsReportedAndLeavesNoFileThatIsCut) {
     const Contents whole = output();
     const std::size_t made = failing.count(GetParam().operation);
     for (std::size_t number = 1; number <= made; ++number) {
-        for (const auto& [name, content] : whole) {
+        for (const auto& [name, content] : output()) {
             files.deleteFile(name);
         }
         const CapturingExceptionLog log;
@@ -202,7 +202,8 @@ TEST_P(EveryFailure, IsReportedAndLeavesNoFileThatIsCut) {
         renew();
         failing.heal();
         const Contents written = output();
-        const bool isReported = !log.messages().empty() || traced().find("ERR The system reports: ") != std::string::npos;
+        const bool isReported = !log.messages().empty() ||
+                                traced().find("ERR The system reports: ") != std::string::npos;
         EXPECT_TRUE(written == whole || isReported) << GetParam().name << ' ' << number;
         for (const auto& [name, content] : written) {
             const auto found = whole.find(name);
@@ -273,8 +274,8 @@ TEST_F(FullDisk, HoldsOnlyWholeFilesAndTheLogNamesEveryFileThatIsMissing) {
             const auto found = written.find(name);
             EXPECT_TRUE(found == written.end() || found->second == content) << name;
             // Without its tree data file the document has no contents pages.
-            EXPECT_EQ(isReported(log, name) || (found == written.end() &&
-                                                isReported(log, "C:\\out\\rep_toc.dat")),
+            EXPECT_EQ(isReported(log, name) ||
+                          (found == written.end() && isReported(log, "C:\\out\\rep_toc.dat")),
                       found == written.end())
                 << name << " at " << room;
         }
