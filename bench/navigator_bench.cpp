@@ -12,6 +12,7 @@
 #include "navigator/index/word_index.h"
 #include "navigator/text/page_words.h"
 #include "peak_memory.h"
+#include "platform/text_encoding.h"
 #include "texts.h"
 
 namespace quillmark::bench {
@@ -108,7 +109,7 @@ struct Sizes {
 Sizes sizesOf(const std::filesystem::path& directory) {
     Sizes sizes;
     WordIndex index;
-    const CodePageDecoder decoder;
+    const DocumentDecoder decoder(TextEncoding::codePage());
     PageWords words(decoder, index);
     for (const FileBytes& file : filesBelow(directory)) {
         const std::string name = file.name.filename().string();

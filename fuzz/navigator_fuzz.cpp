@@ -93,7 +93,7 @@ std::unique_ptr<const TextDecoder> decoderOf(const DocumentSet& set) {
     if (set.isUtf8) {
         return std::make_unique<testing::Utf8Decoder>();
     }
-    return std::make_unique<CodePageDecoder>();
+    return std::make_unique<DocumentDecoder>(TextEncoding::codePage());
 }
 
 /// The words of a page, found the long way.

@@ -238,7 +238,8 @@ FaultRun::Outcome FaultRun::playTool(std::size_t position, AllocationFailure::Mo
         [] { return makeComponentDocument(); },
         [](const replay::HostServices& services) {
             return std::make_shared<replay::ServiceRegistration>(hostServices(), services);
-        }};
+        },
+        [] { return std::string("the component linked into the test"); }};
     {
         const AllocationFailure failure(position, mode);
         outcome.status = replay::runTool(arguments, environment);

@@ -88,11 +88,10 @@ bool TerminalForm::take(const PageControl& row, const std::string& answer) {
         out_ << notStorable(answer) << ".\n";
         return false;
     }
-    const OrxString text = answer;
     if (row.kind != ControlKind::checkBox) {
-        return takeText(row, text == "\"\"" ? OrxString() : text);
+        return takeText(row, answer == "\"\"" ? OrxString() : OrxString(answer));
     }
-    const std::optional<bool> wanted = yesOrNo(text);
+    const std::optional<bool> wanted = yesOrNo(answer);
     if (!wanted) {
         out_ << "Please answer yes or no.\n";
         return false;
