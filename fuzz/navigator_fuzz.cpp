@@ -180,7 +180,7 @@ void build(const DocumentSet& set, int times) {
                          .extension = ".htm",
                          .supportDir = "C:\\inst\\navigator",
                          .iconDir = "C:\\icons"},
-                        decoderOf(set));
+                        decoderOf(set), Trace());
     static_cast<void>(navigator.headLines("C:\\out\\sub"));
     for (const Page& page : set.pages) {
         // In two pieces, as a page with a link is.

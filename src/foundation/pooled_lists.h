@@ -41,12 +41,19 @@ public:
     [[nodiscard]] const Value& last(const List& list) const { return entries_[list.last_].value; }
 
     /// Empties the list and calls `each` with every value, first to last. `each` may use the pool,
-    /// but not the list. A value for which `each` throws stays in the list, with those after it.
+    /// and append to the same list again. A value for which `each` throws stays in the list, with
+    /// those after it, before what was appended.
     template <typename Each>
     void take(List& list, const Each& each) {
-        while (!list.isEmpty()) {
-            each(Value(entries_[list.first_].value));
-            removeFirst(list);
+        List taken = std::exchange(list, List());
+        try {
+            while (!taken.isEmpty()) {
+                each(Value(entries_[taken.first_].value));
+                removeFirst(taken);
+            }
+        } catch (...) {
+            prepend(list, taken);
+            throw;
         }
     }
 
@@ -66,6 +73,15 @@ private:
         Value value;
         std::uint32_t next;  // in its list, or in the list of free entries
     };
+
+    /// Puts the entries of `front`, which is not empty, before those of the list.
+    void prepend(List& list, const List& front) noexcept {
+        entries_[front.last_].next = list.first_;
+        list.first_ = front.first_;
+        if (list.last_ == none) {
+            list.last_ = front.last_;
+        }
+    }
 
     void removeFirst(List& list) noexcept {
         const std::uint32_t entry = list.first_;

@@ -1,5 +1,7 @@
 #include "page/cached_link.h"
 
+#include <utility>
+
 #include "page/links.h"
 
 namespace quillmark {
@@ -7,7 +9,10 @@ namespace quillmark {
 const OrxString& CachedLink::relativeFile(const OrxString& fileName, const OrxString& base) {
     const TextEncoding* const encoding = &TextEncoding::current();
     if (encoding != encoding_ || fileName != fileName_ || base != base_) {
-        link_ = links::relativeFile(fileName, base);
+        OrxString link = links::relativeFile(fileName, base);
+        // Until all is there, the link is nobody's.
+        encoding_ = nullptr;
+        link_ = std::move(link);
         fileName_ = fileName;
         base_ = base;
         encoding_ = encoding;

@@ -181,8 +181,8 @@ TEST(AfterAFailedAllocation, AFailedInsertionLeavesAPlainText) {
 
 TEST(AfterAFailedAllocation, ACachedLinkIsTheRightOne) {
     const OrxString base("C:\\a directory with a long name\\and a subdirectory");
-    const auto fileName = [](int number) { return std::string(40 * number, 'f'); };
-    const auto file = [&](int number) {
+    const auto fileName = [](std::size_t number) { return std::string(40 * number, 'f'); };
+    const auto file = [&](std::size_t number) {
         return "C:\\a directory with a long name\\" + OrxString(fileName(number));
     };
     failEverywhere<CachedLink>(

@@ -13,6 +13,10 @@ if TYPE_CHECKING:
     from .regions import ImageMaps
 
 
+# The line in front of a failure or a warning that has a reason.
+_REASON = "ERR The system reports: "
+
+
 class Store(Protocol):
     """Keeps settings as texts."""
 
@@ -42,6 +46,12 @@ class Mailbox:
         self.is_closed = False
         self._failures: list[str] = []
         self._raised: BaseException | None = None
+        self._reason = ""
+
+    def _take_reason(self) -> str:
+        """Why the system refused what the driver now reports, if it said so."""
+        reason, self._reason = self._reason, ""
+        return reason
 
     def decode(self, text: bytes) -> str:
         return text.decode(self.encoding, "replace")
@@ -54,15 +64,17 @@ class Mailbox:
 
     def take_line(self, text: str) -> None:
         """A line of the driver's trace: a problem, or a list of open references."""
-        if text.startswith(("ERR ", "WARNING")):
-            self.problems.append(Problem(text.rstrip()))
+        if text.startswith(_REASON):
+            self._reason = ": " + text.removeprefix(_REASON).rstrip()
+        elif text.startswith(("ERR ", "WARNING")):
+            self.problems.append(Problem(text.rstrip() + self._take_reason()))
         else:
             self.problems += unresolved_references(text)
 
     def take_failure(self, reason: str) -> None:
         # What follows an exception of a callback is only its echo.
         if self._raised is None:
-            self._failures.append(reason)
+            self._failures.append(reason + self._take_reason())
             self.has_failed = True
 
     def take_exception(self, exception: BaseException) -> None:

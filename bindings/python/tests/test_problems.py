@@ -66,7 +66,7 @@ def test_a_page_that_cannot_be_written_is_told_by_the_call_that_wrote_it(work: P
             report.line("two")
             report.page_break()
     name = str(work / "rep_dtl2.htm").replace("/", "\\")
-    assert str(failure.value) == f"Error opening file: {name}"
+    assert str(failure.value) == f"Error opening file: {name}: Not a regular file"
     # What could be written is there.
     assert (work / "rep_dtl.htm").exists() and (work / "rep_toc.dat").exists()
 
@@ -79,7 +79,7 @@ def test_close_goes_through_to_the_end_and_tells_all_that_failed(work: Path) -> 
     with pytest.raises(DocumentError) as failure:
         report.close()
     assert failure.value.reasons == tuple(
-        f"Error opening file: {work / name}".replace("/", "\\")
+        f"Error opening file: {work / name}: Not a regular file".replace("/", "\\")
         for name in ("rep_dtl.htm", "rep_toc.dat")
     )
     report.close()

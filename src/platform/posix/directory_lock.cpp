@@ -23,8 +23,8 @@ private:
 };
 
 std::unique_ptr<FileLock> lock(Descriptor file) {
-    const bool held = file.isOpen() &&
-                      uninterrupted([&file] { return flock(file.number(), LOCK_EX); }) == 0;
+    const bool held =
+        file.isOpen() && uninterrupted([&file] { return flock(file.number(), LOCK_EX); }) == 0;
     return held ? std::make_unique<DescriptorLock>(std::move(file)) : nullptr;
 }
 

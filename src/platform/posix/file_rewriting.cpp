@@ -32,7 +32,8 @@ public:
         constexpr int attempts = 100;
         // A process that was killed may have left a file of the same name.
         for (int i = 0; i < attempts && !file_.isOpen() && (i == 0 || errno == EEXIST); ++i) {
-            name_ = path + "." + std::to_string(getpid()) + "-" + std::to_string(counter++) + ".tmp";
+            name_ =
+                path + "." + std::to_string(getpid()) + "-" + std::to_string(counter++) + ".tmp";
             file_ = Descriptor(uninterrupted([&] {
                 return open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
                             mode);

@@ -8,8 +8,8 @@
 /// permissions of its own. Paths are the system's own.
 namespace quillmark::file_rewriting {
 
-/// The name of the file that a link leads to, through all links in between. The file may be missing.
-/// A name that is not a link stays as it is. Nothing if the links lead in a circle.
+/// The name of the file that a link leads to, through all links in between. The file may be
+/// missing. A name that is not a link stays as it is. Nothing if the links lead in a circle.
 [[nodiscard]] std::optional<std::string> withoutLinks(const std::string& path);
 
 /// See `FileSystem::rewriteFile`.

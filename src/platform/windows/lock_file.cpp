@@ -25,8 +25,8 @@ std::unique_ptr<FileLock> lockBeside(const std::wstring& name) {
                             shareWithEverybody, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL,
                             nullptr));
     OVERLAPPED start{};
-    const bool held = file.isOpen() && LockFileEx(file.get(), LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0,
-                                                  &start) != FALSE;
+    const bool held =
+        file.isOpen() && LockFileEx(file.get(), LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &start) != FALSE;
     return held ? std::make_unique<HandleLock>(std::move(file)) : nullptr;
 }
 

@@ -15,8 +15,8 @@ namespace quillmark {
 
 /// The page as a form on a terminal. It asks for the fields in tab order and shows their current
 /// values. An empty answer keeps the value, `""` sets an empty text, "+" and "-" step the heading
-/// level. An answer that is refused is asked for again, and the value stays until it is accepted. At
-/// the end of the input all remaining values are kept.
+/// level. An answer that is refused is asked for again, and the value stays until it is accepted.
+/// At the end of the input all remaining values are kept.
 class TerminalForm {
 public:
     /// Shows a message and returns false if the page refuses the value that the controls of the
