@@ -9,7 +9,7 @@ namespace quillmark::bench {
 
 namespace {
 
-double secondsOf(const timeval& time) {
+double inSeconds(const timeval& time) {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
 }
 
@@ -38,7 +38,7 @@ ChildRun runChild(const std::vector<std::string>& arguments) {
     }
     const auto clock = std::chrono::steady_clock::now() - start;
     run.seconds.clock = std::chrono::duration<double>(clock).count();
-    run.seconds.processor = secondsOf(used.ru_utime) + secondsOf(used.ru_stime);
+    run.seconds.processor = inSeconds(used.ru_utime) + inSeconds(used.ru_stime);
     run.peakMiB = static_cast<double>(used.ru_maxrss) / 1024.0;
     run.succeeded = WIFEXITED(status) && WEXITSTATUS(status) == 0;
     return run;

@@ -18,6 +18,9 @@ public:
     std::unique_ptr<OutputFile> openForWriting(const OrxString& /*name*/) override {
         return std::make_unique<Sink>();
     }
+    std::unique_ptr<OutputFile> openForReplacing(const OrxString& /*name*/) override {
+        return std::make_unique<Sink>();
+    }
 
 private:
     class Sink final : public OutputFile {
