@@ -39,7 +39,6 @@ ChildRun runChild(const std::vector<std::string>& arguments) {
     const auto clock = std::chrono::steady_clock::now() - start;
     run.seconds.clock = std::chrono::duration<double>(clock).count();
     run.seconds.processor = inSeconds(used.ru_utime) + inSeconds(used.ru_stime);
-    run.peakMiB = static_cast<double>(used.ru_maxrss) / 1024.0;
     run.succeeded = WIFEXITED(status) && WEXITSTATUS(status) == 0;
     return run;
 }

@@ -10,7 +10,6 @@ namespace quillmark::bench {
 struct ChildRun {
     bool succeeded = false;
     Seconds seconds;
-    double peakMiB = 0;
 };
 
 /// Runs a program to its end. The first argument is the program's file.
