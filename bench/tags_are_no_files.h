@@ -15,9 +15,12 @@ class TagsAreNoFiles final : public FailingFileSystem {
 public:
     TagsAreNoFiles() : FailingFileSystem(FileSystem::native()) {}
 
+    [[nodiscard]] static bool isTag(const OrxString& name) noexcept {
+        return name.view().substr(path_text::fileStart(name)).starts_with(tagOpening);
+    }
+
     bool fileExists(const OrxString& name) const override {
-        const std::string_view file = name.view().substr(path_text::fileStart(name));
-        return !file.starts_with(tagOpening) && FailingFileSystem::fileExists(name);
+        return !isTag(name) && FailingFileSystem::fileExists(name);
     }
 
 private:

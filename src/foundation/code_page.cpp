@@ -28,6 +28,15 @@ char narrowed(char16_t unit) noexcept {
 
 }  // namespace
 
+bool isAscii(std::u16string_view text) noexcept {
+    // Without an early end the compiler can vectorize the loop. Nearly every text is ASCII.
+    std::uint16_t seen = 0;
+    for (const char16_t unit : text) {
+        seen = static_cast<std::uint16_t>(seen | unit);
+    }
+    return seen < 0x80;
+}
+
 bool copyAscii(char* target, std::u16string_view text) noexcept {
     // Whole blocks go through a local array. Its fixed size, and that it cannot overlap the source,
     // let the compiler vectorize the inner loop at every optimization level.

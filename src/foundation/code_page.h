@@ -12,6 +12,9 @@ namespace quillmark::code_page {
 /// becomes "?", and so does each surrogate.
 void appendNarrowed(std::string& out, std::u16string_view text);
 
+/// Whether every unit of `text` is ASCII.
+[[nodiscard]] bool isAscii(std::u16string_view text) noexcept;
+
 /// Writes the low byte of each unit of `text` to `target`, which must have room for
 /// `text.size()` bytes. Returns true if every unit was ASCII, so that no further conversion is
 /// needed in any code page. Otherwise the bytes written are useless.

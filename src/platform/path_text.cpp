@@ -34,6 +34,15 @@ std::size_t commonCount(const std::vector<std::string_view>& a,
     return count;
 }
 
+/// The position of the first separator at or after `from`, or the end. Names are short, and the
+/// search for a set of characters in the library calls a function per character.
+std::size_t separatorFrom(std::string_view path, std::size_t from) noexcept {
+    while (from < path.size() && !isSeparator(path[from])) {
+        ++from;
+    }
+    return from;
+}
+
 void appendComponent(OrxString& path, std::string_view component) {
     if (!path.isEmpty()) {
         path.append('\\');
@@ -62,11 +71,11 @@ OrxString inDriverForm(std::string_view name) {
 }
 
 std::size_t fileStart(std::string_view name) noexcept {
-    const std::size_t separator = name.find_last_of("\\/");
-    if (separator != std::string_view::npos) {
-        return separator + 1;
+    std::size_t start = name.size();
+    while (start > 0 && !isSeparator(name[start - 1])) {
+        --start;
     }
-    return hasDrive(name) ? 2 : 0;
+    return start == 0 && hasDrive(name) ? 2 : start;
 }
 
 std::string_view parent(std::string_view path) noexcept {
@@ -91,7 +100,7 @@ std::vector<std::string_view> components(std::string_view path) {
         result.emplace_back("\\");
     }
     for (std::size_t start = 0; start < path.size();) {
-        const std::size_t end = std::min(path.find_first_of("\\/", start), path.size());
+        const std::size_t end = separatorFrom(path, start);
         if (end > start) {
             result.push_back(path.substr(start, end - start));
         }
@@ -101,6 +110,9 @@ std::vector<std::string_view> components(std::string_view path) {
 }
 
 OrxString relativePath(const OrxString& base, const OrxString& target, bool ignoreCase) {
+    if (base == target) {
+        return {};
+    }
     const std::vector<std::string_view> from = components(base);
     const std::vector<std::string_view> to = components(target);
     const std::size_t common = commonCount(from, to, ignoreCase);

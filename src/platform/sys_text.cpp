@@ -1,7 +1,6 @@
 #include "platform/sys_text.h"
 
-#include <algorithm>
-
+#include "foundation/code_page.h"
 #include "foundation/surrogates.h"
 #include "foundation/utf8.h"
 
@@ -16,8 +15,7 @@ std::string SysText::toUtf8(std::string_view text) {
 }
 
 bool SysText::holds(std::u16string_view text) {
-    const bool isAscii = std::ranges::all_of(text, [](char16_t unit) { return unit < 0x80; });
-    return isAscii || widen(narrow(text)) == text;
+    return code_page::isAscii(text) || widen(narrow(text)) == text;
 }
 
 bool SysText::holdsUtf8(std::string_view utf8) {

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "foundation/ascii.h"
+#include "foundation/code_page.h"
 #include "foundation/surrogates.h"
 #include "foundation/utf8.h"
 #include "platform/file_system.h"
@@ -148,8 +149,7 @@ OrxString TextEncoding::recoded(const OrxString& bytes, const TextEncoding& from
 }
 
 bool TextEncoding::holds(std::u16string_view text) const {
-    const bool plain = std::ranges::all_of(text, [](char16_t unit) { return unit < 0x80; });
-    return plain || toUtf16(toBytes(text)) == text;
+    return code_page::isAscii(text) || toUtf16(toBytes(text)) == text;
 }
 
 std::size_t TextEncoding::countLost(std::u16string_view text) const {

@@ -20,7 +20,7 @@ VARTYPE variantTypeOf(ParameterKind kind) noexcept {
     return VT_BSTR;
 }
 
-/// The value as the operation table takes it. The variant still owns a text.
+/// The value as the operation table takes it. A text stays in the variant.
 Argument argumentOf(const VARIANT& variant) {
     switch (variant.vt) {
         case VT_I2:
@@ -101,6 +101,11 @@ HRESULT CallArguments::convert(std::size_t position, LCID locale) {
     const ParameterKind kind = operation_.parameters[position].kind;
     if (kind == ParameterKind::outString) {
         return prepareOutText(position, locale);
+    }
+    // Nearly every host passes the type that the operation takes; such a value is used in place.
+    if (slot.host->vt == variantTypeOf(kind)) {
+        values_[position] = argumentOf(*slot.host);
+        return S_OK;
     }
     VARIANT& converted = slot.converted.get();
     const HRESULT result = convertVariant(converted, *slot.host, locale, variantTypeOf(kind));

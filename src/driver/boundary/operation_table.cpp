@@ -133,13 +133,32 @@ constexpr bool isInOrder() {
 }
 static_assert(isInOrder(), "the n-th operation has dispatch identifier n");
 
-/// The names alone, so that a search reads little memory. Nearly every comparison ends with the
-/// lengths; `bench` shows what a search costs beside a call.
-constexpr std::array<std::string_view, operationCount> names = [] {
-    std::array<std::string_view, operationCount> all;
-    std::ranges::transform(table, all.begin(), &Operation::name);
+/// The names in the order of their lengths, and where each length begins. A search compares only
+/// names of the right length; `bench` shows what it costs beside a call.
+struct NamesByLength {
+    static constexpr std::size_t longest = 20;
+
+    struct Row {
+        std::string_view name;
+        std::size_t position = 0;
+    };
+    std::array<Row, operationCount> rows;
+    std::array<std::size_t, longest + 2> starts{};
+};
+
+constexpr NamesByLength byLength = [] {
+    NamesByLength all;
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        all.rows[i] = {table[i].name, i};
+    }
+    std::ranges::sort(all.rows, {}, [](const auto& row) { return row.name.size(); });
+    for (std::size_t length = 0; length < all.starts.size(); ++length) {
+        all.starts[length] = static_cast<std::size_t>(std::ranges::count_if(
+            all.rows, [length](const auto& row) { return row.name.size() < length; }));
+    }
     return all;
 }();
+static_assert(byLength.starts.back() == operationCount, "no name is longer than the longest");
 
 template <typename T>
 bool fits(std::int64_t value) noexcept {
@@ -172,8 +191,15 @@ std::span<const Operation> operations() noexcept {
 }
 
 const Operation* findOperation(std::string_view name) noexcept {
-    const auto* const found = std::ranges::find(names, name);
-    return found != names.end() ? &table[static_cast<std::size_t>(found - names.begin())] : nullptr;
+    if (name.size() > NamesByLength::longest) {
+        return nullptr;
+    }
+    for (std::size_t i = byLength.starts[name.size()]; i < byLength.starts[name.size() + 1]; ++i) {
+        if (byLength.rows[i].name == name) {
+            return &table[byLength.rows[i].position];
+        }
+    }
+    return nullptr;
 }
 
 const Operation* findOperation(int dispatchId) noexcept {

@@ -4,8 +4,10 @@
 
 #include "page/link_attribute.h"
 #include "page/links.h"
+#include "platform/path_text.h"
 #include "platform/sys_directory.h"
 #include "platform/sys_file.h"
+#include "platform/text_encoding.h"
 
 namespace quillmark {
 
@@ -14,18 +16,22 @@ namespace {
 constexpr std::string_view anchorOpening = "<a name=\"";
 constexpr std::string_view anchorEnd = "\"></a>";
 
-/// The link from one page's file to another's, up to the name of the bookmark. The link to a page
-/// without a file name is only the fragment.
-OrxString routeTo(const OrxString& target, const OrxString& fromPage) {
-    OrxString link;
-    if (!target.isEmpty()) {
-        link = links::fromPath(
-            SysDirectory::getRelativePath(SysFile::getDir(fromPage), SysFile::getDir(target)));
+/// The part of a name before its file, with the separator.
+std::string_view directoryPart(std::string_view name) noexcept {
+    return name.substr(0, path_text::fileStart(name));
+}
+
+/// Appends the directory part of the link from one page's file to another's. Most pages are in the
+/// same directory, and that part is empty.
+void appendDirectory(std::string& link, std::string_view target, std::string_view fromPage) {
+    if (target.empty() || directoryPart(target) == directoryPart(fromPage)) {
+        return;
     }
-    if (!link.isEmpty()) {
-        link.append('/');
+    const OrxString directory = links::fromPath(
+        SysDirectory::getRelativePath(SysFile::getDir(fromPage), SysFile::getDir(target)));
+    if (!directory.isEmpty()) {
+        link.append(directory).append("/");
     }
-    return link.append(links::fromFilePart(target)).append('#');
 }
 
 }  // namespace
@@ -114,13 +120,24 @@ std::string_view BookmarkWriter::relativeReference(BookmarkTable::Id id, const D
     const OrxString& fromPage = page.getFileName();
     if (lastRoute_.link.isEmpty() || toPage != lastRoute_.toPage ||
         fromPage != lastRoute_.fromPage) {
-        OrxString from = fromPage;
-        OrxString link = routeTo(OrxString(table_.pageFile(id)), fromPage);
-        lastRoute_.fromPage = std::move(from);
+        findRoute(table_.pageFile(id), fromPage);
         lastRoute_.toPage = toPage;
-        lastRoute_.link = std::move(link);
     }
     return reference_.assign(lastRoute_.link).append(table_.name(id));
+}
+
+/// The link to a page without a file name is only the fragment. Without memory no route is known.
+void BookmarkWriter::findRoute(std::string_view target, const OrxString& fromPage) {
+    lastRoute_.link.clear();
+    lastRoute_.fromPage = fromPage;
+    reference_.clear();
+    appendDirectory(reference_, target, fromPage);
+    filePart_.clear();
+    filePart_.append(target.substr(path_text::fileStart(target)));
+    // Moved in and out, so that its memory is kept.
+    filePart_ = TextEncoding::current().inLink(std::move(filePart_));
+    reference_.append(filePart_).append("#");
+    lastRoute_.link.append(reference_);
 }
 
 }  // namespace quillmark

@@ -46,6 +46,8 @@ private:
     /// The link from a page to the bookmark. It is valid until the next call.
     [[nodiscard]] std::string_view relativeReference(BookmarkTable::Id id, const DocHtmlPage& page);
 
+    void findRoute(std::string_view target, const OrxString& fromPage);
+
     OutputRouter& out_;
     HeldPages& held_;
     Trace& trace_;
@@ -63,6 +65,7 @@ private:
     // Members only to reuse their memory.
     std::string anchor_;
     std::string reference_;
+    OrxString filePart_;
 };
 
 }  // namespace quillmark

@@ -20,12 +20,10 @@ constexpr std::int32_t deepestClass = 9;
 /// filling the memory.
 constexpr std::int32_t deepestList = 65535;
 
-std::string repeated(std::string_view tag, std::int32_t level) {
-    std::string tags;
+void appendRepeated(std::string& tags, std::string_view tag, std::int32_t level) {
     for (std::int32_t i = 0; i < std::min(level, deepestList); ++i) {
         tags.append(tag);
     }
-    return tags;
 }
 
 std::string_view sideOf(TextAlign align) noexcept {
@@ -39,16 +37,18 @@ std::string_view sideOf(TextAlign align) noexcept {
     }
 }
 
-std::string headingOpening(std::int32_t level) {
-    if (level <= deepestElement) {
-        return "<H" + std::to_string(level) + ">";
-    }
-    return "<DIV CLASS=H" + std::to_string(std::min(level, deepestClass)) + ">";
+void appendHeadingOpening(std::string& tags, std::int32_t level) {
+    const bool isElement = level <= deepestElement;
+    tags.append(isElement ? "<H" : "<DIV CLASS=H");
+    tags.append(std::to_string(std::min(level, deepestClass))).append(">");
 }
 
-std::string headingClosing(std::int32_t level) {
-    return level <= deepestElement ? "</H" + std::to_string(level) + ">\n"
-                                   : std::string("</DIV>\n");
+void appendHeadingClosing(std::string& tags, std::int32_t level) {
+    if (level <= deepestElement) {
+        tags.append("</H").append(std::to_string(level)).append(">\n");
+    } else {
+        tags.append("</DIV>\n");
+    }
 }
 
 /// The level of a heading or list; 0 for any other style.
@@ -66,31 +66,31 @@ std::int32_t levelOf(std::string_view name) noexcept {
 
 void ParagraphStyle::openStyle(std::string_view name) {
     const std::int32_t level = levelOf(name);
-    std::string tags;
+    tags_.clear();
     if (name.starts_with(style_names::heading)) {
-        tags = headingOpening(level);
+        appendHeadingOpening(tags_, level);
     } else if (name.starts_with(style_names::numberedList)) {
-        tags = repeated("<OL>", level);
+        appendRepeated(tags_, "<OL>", level);
     } else if (name.starts_with(style_names::bulletedList)) {
-        tags = repeated("<UL>", level);
+        appendRepeated(tags_, "<UL>", level);
     }
-    if (!tags.empty()) {
-        out_.writeOut(tags);
+    if (!tags_.empty()) {
+        out_.writeOut(tags_);
     }
 }
 
 std::int32_t ParagraphStyle::closeStyle(std::string_view name) {
     std::int32_t level = 0;
-    std::string tags;
+    tags_.clear();
     if (name.starts_with(style_names::heading)) {
         level = style_names::levelAfter(style_names::heading, name);
-        tags = headingClosing(level);
+        appendHeadingClosing(tags_, level);
     } else if (name.starts_with(style_names::numberedList)) {
-        tags = repeated("</OL>\n", style_names::levelAfter(style_names::numberedList, name));
+        appendRepeated(tags_, "</OL>\n", style_names::levelAfter(style_names::numberedList, name));
     }
     // A bulleted list is never closed, because existing reports rely on the indentation staying.
-    if (!tags.empty()) {
-        out_.writeOut(tags);
+    if (!tags_.empty()) {
+        out_.writeOut(tags_);
     }
     return level;
 }
@@ -99,8 +99,8 @@ void ParagraphStyle::openAlign(TextAlign align) {
     if (align == TextAlign::none) {
         return;
     }
-    std::string tag("<DIV align=");
-    out_.writeOut(tag.append(sideOf(align)).append(">"));
+    tags_.assign("<DIV align=").append(sideOf(align)).append(">");
+    out_.writeOut(tags_);
 }
 
 void ParagraphStyle::closeAlignTag() {
@@ -136,17 +136,17 @@ void ParagraphStyle::setStyle(const OrxString& name) {
         font_.close();
         return;
     }
-    OrxString next = name;
+    next_ = name;
     const TextAlign align = state.textAlign;
     endAlign();
     font_.close();
     endStyle();
     // The style counts as set even if there is no memory for its tags.
-    headingLevel_ = static_cast<std::uint32_t>(levelOf(next));
-    if (next.startsWith(style_names::listWithBlank)) {
+    headingLevel_ = static_cast<std::uint32_t>(levelOf(next_));
+    if (next_.startsWith(style_names::listWithBlank)) {
         listItemOpen_ = false;
     }
-    state.styleName = std::move(next);
+    std::swap(state.styleName, next_);
     openStyle(state.styleName);
     openAlign(align);
     state.textAlign = align;

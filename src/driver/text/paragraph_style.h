@@ -50,6 +50,10 @@ private:
     ContentsCollector& contents_;
     std::uint32_t headingLevel_ = 0;
     bool listItemOpen_ = false;
+    // The tags that are being written and the style that comes next. Members only to reuse their
+    // memory.
+    std::string tags_;
+    OrxString next_;
 };
 
 }  // namespace quillmark

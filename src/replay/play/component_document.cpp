@@ -3,7 +3,6 @@
 #include <array>
 #include <limits>
 #include <new>
-#include <vector>
 
 #include "dochtml/text.h"
 
@@ -14,14 +13,13 @@ namespace {
 /// The arguments of a call as variants, in the reverse order that a dispatch interface expects.
 class VariantArguments {
 public:
-    explicit VariantArguments(std::span<const Argument> arguments)
-        : texts_(arguments.size()), variants_(arguments.size()) {
+    explicit VariantArguments(std::span<const Argument> arguments) {
         for (std::size_t i = 0; i < arguments.size(); ++i) {
-            VARIANT& variant = variants_[arguments.size() - 1 - i];
+            VARIANT& variant = variants_.at(arguments.size() - 1 - i);
             VariantInit(&variant);
-            std::visit([&](const auto& value) { put(variant, texts_[i], value); }, arguments[i]);
+            std::visit([&](const auto& value) { put(variant, texts_.at(i), value); }, arguments[i]);
         }
-        parameters_ = {variants_.data(), nullptr, static_cast<UINT>(variants_.size()), 0};
+        parameters_ = {variants_.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
     }
 
     [[nodiscard]] DISPPARAMS* parameters() noexcept { return &parameters_; }
@@ -30,7 +28,7 @@ public:
     void takeOutTexts(std::span<const Argument> arguments) const {
         for (std::size_t i = 0; i < arguments.size(); ++i) {
             if (auto* const* out = std::get_if<std::u16string*>(&arguments[i])) {
-                **out = texts_[i].view();
+                **out = texts_.at(i).view();
             }
         }
     }
@@ -60,8 +58,11 @@ private:
         variant.pbstrVal = text.receive();
     }
 
-    std::vector<Text> texts_;
-    std::vector<VARIANT> variants_;
+    /// No operation has more.
+    static constexpr std::size_t mostArguments = 4;
+
+    std::array<Text, mostArguments> texts_;
+    std::array<VARIANT, mostArguments> variants_;
     DISPPARAMS parameters_{};
 };
 
