@@ -4,6 +4,7 @@
 #include <string>
 
 #include "driver/boundary/call_trace.h"
+#include "driver/boundary/i_document.h"
 #include "driver/files/file_inserter.h"
 #include "driver/files/image_writer.h"
 #include "driver/files/locate_button.h"
@@ -56,8 +57,8 @@ struct DocHtmlImpl {
     OrxString linkTarget;
 
     /// A host's text in the document's encoding.
-    [[nodiscard]] OrxString bytesOf(std::u16string_view text) const {
-        return context.encoding->toBytes(text);
+    [[nodiscard]] OrxString bytesOf(std::u16string_view given) const {
+        return context.encoding->toBytes(given);
     }
 
     /// Runs an operation with the document's encoding in force. What it has no memory for is lost

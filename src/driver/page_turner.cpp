@@ -161,13 +161,18 @@ void PageTurner::dispatchPage(bool last) {
     }
     if (!page.hasMarks()) {
         page.close();
-    } else if (last) {
+        return;
+    }
+    if (last) {
         finishPage(page);
         // If there is no memory, the page itself is empty and can be used again.
         step("an empty page", [this] { context_.out.setPage(emptyPage()); });
-    } else if (survive(context_.trace, "the later links of a page", [this] {
-                   held_.hold(context_.out.pageNumber(), context_.out.sharedPage());
-               })) {
+        return;
+    }
+    const bool isHeld = survive(context_.trace, "the later links of a page", [this] {
+        held_.hold(context_.out.pageNumber(), context_.out.sharedPage());
+    });
+    if (isHeld) {
         context_.out.setPage(next_);
     } else {
         page.close();

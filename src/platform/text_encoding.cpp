@@ -22,6 +22,8 @@ bool isAscii(std::string_view text) noexcept {
     return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
+// Never deleted: the only object is static.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class CodePageEncoding final : public TextEncoding {
 public:
     constexpr CodePageEncoding() = default;
@@ -61,6 +63,8 @@ bool isUtf8File(const OrxString& name) {
     return check.isComplete();
 }
 
+// Never deleted: the only object is static.
+// NOLINTNEXTLINE(cppcoreguidelines-virtual-class-destructor)
 class Utf8Encoding final : public TextEncoding {
 public:
     constexpr Utf8Encoding() = default;

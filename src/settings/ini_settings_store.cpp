@@ -81,7 +81,7 @@ private:
         FileFailure::forget();
         const std::optional<FileStamp> stamp = files.stamp(fileName_);
         // A file that cannot be looked up is not a missing one: what was read of it still counts.
-        const bool unknown = !stamp && FileFailure::isNoted();
+        const bool unknown = !stamp && FileFailure::isNoted() && !FileFailure::isMissingFile();
         if (state_ == State::read && (unknown || stamp == stamp_)) {
             return;
         }

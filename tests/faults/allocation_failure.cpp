@@ -74,12 +74,25 @@ UncountedAllocations::~UncountedAllocations() {
 
 }  // namespace quillmark::testing
 
-// The forms for arrays and those that do not throw call these.
+// All forms: under a sanitizer those that are not replaced do not call the others.
 void* operator new(std::size_t size) {
     return quillmark::testing::allocate(size);
 }
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    try {
+        return quillmark::testing::allocate(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
 void* operator new(std::size_t size, std::align_val_t alignment) {
     return quillmark::testing::allocateAligned(size, static_cast<std::size_t>(alignment));
+}
+void* operator new[](std::size_t size) {
+    return operator new(size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t& tag) noexcept {
+    return operator new(size, tag);
 }
 void operator delete(void* memory) noexcept {
     std::free(memory);
@@ -87,9 +100,21 @@ void operator delete(void* memory) noexcept {
 void operator delete(void* memory, std::size_t /*size*/) noexcept {
     std::free(memory);
 }
+void operator delete(void* memory, const std::nothrow_t& /*tag*/) noexcept {
+    std::free(memory);
+}
 void operator delete(void* memory, std::align_val_t /*alignment*/) noexcept {
     std::free(memory);
 }
 void operator delete(void* memory, std::size_t /*size*/, std::align_val_t /*alignment*/) noexcept {
+    std::free(memory);
+}
+void operator delete[](void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete[](void* memory, std::size_t /*size*/) noexcept {
+    std::free(memory);
+}
+void operator delete[](void* memory, const std::nothrow_t& /*tag*/) noexcept {
     std::free(memory);
 }

@@ -83,8 +83,10 @@ protected:
 
 TEST_F(UserStore, KeepsTextsInTheUsersBranchOfTheRegistry) {
     EXPECT_EQ(store->read(group, "Name"), std::nullopt);
-    EXPECT_TRUE(store->write(group, "Name", " caf\xE9 \x80\n"));
-    EXPECT_EQ(store->read("TESTOFTHEDRIVER", "name"), " caf\xE9 \x80\n");
+    // Stores hold UTF-8.
+    const OrxString text(" caf\xC3\xA9 \xE2\x82\xAC \xE6\x97\xA5\n");
+    EXPECT_TRUE(store->write(group, "Name", text));
+    EXPECT_EQ(store->read("TESTOFTHEDRIVER", "name"), text);
     EXPECT_TRUE(store->write(group, "Name", ""));
     EXPECT_EQ(store->read(group, "Name"), "");
     EXPECT_EQ(store->problem(), "");

@@ -17,6 +17,8 @@ namespace {
 /// The confined file system of the module while there is one.
 class ModuleFiles {
 public:
+    ModuleFiles(const ModuleFiles&) = delete;
+    ModuleFiles& operator=(const ModuleFiles&) = delete;
     ~ModuleFiles() { FileSystem::install(nullptr); }
 
     void use(std::unique_ptr<FileSystem> files) {

@@ -25,10 +25,10 @@ constexpr std::size_t bufferSize = std::size_t{64} * 1024;
 /// Streams the tree into one file through one buffer.
 class TreeWriter {
 public:
-    TreeWriter(const OrxString& path, bool showIcons) : path_(path), showIcons_(showIcons) {
+    TreeWriter(const OrxString& path, bool showIcons)
+        : path_(path), showIcons_(showIcons), buffer_("(TREE") {
         // The file is not touched if there is no memory for the usual tree.
         buffer_.reserve(bufferSize + bufferSize / 4);
-        buffer_ = "(TREE";
         FileFailure::forget();
         file_ = FileSystem::current().openForReplacing(path);
         if (file_ == nullptr) {

@@ -50,6 +50,7 @@ int SysShell::start(const OrxString& program, const std::vector<OrxString>& argu
     }
     // Arguments may be file names in the driver's form, but programs expect the system's.
     std::vector<std::string> list;
+    list.reserve(arguments.size());
     for (const OrxString& argument : arguments) {
         list.push_back(nativePath(argument));
     }

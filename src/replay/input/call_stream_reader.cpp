@@ -101,8 +101,8 @@ private:
             const std::size_t grown = std::max(count, unitCount_ * 2);
             unitCount_ = 0;
             units_.reset();
-            units_ = std::make_unique_for_overwrite<char16_t[]>(
-                grown);  // NOLINT(modernize-avoid-c-arrays)
+            // NOLINTNEXTLINE(modernize-avoid-c-arrays): not initialized
+            units_ = std::make_unique_for_overwrite<char16_t[]>(grown);
             unitCount_ = grown;
         }
     }

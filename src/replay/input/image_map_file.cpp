@@ -35,7 +35,7 @@ ImageMapFile::ImageMapFile(const std::filesystem::path& file, std::string_view s
 
 const ImageMapFile::Pictures& ImageMapFile::picturesIn(const TextEncoding& encoding) {
     Pictures& known = encoded_[&encoding];
-    if (known.size() == 0) {
+    if (known.empty()) {
         for (const auto& [name, texts] : pictures_) {
             std::vector<OrxString>& converted = known[encoding.fromUtf8(name)];
             converted.clear();

@@ -16,11 +16,13 @@ constexpr std::string_view whiteSpace = " \t\r\n";
 }  // namespace
 
 void InputBuffer::Bytes::Free::operator()(char* memory) const noexcept {
-    std::free(memory);  // NOLINT(cppcoreguidelines-no-malloc): see grow
+    // NOLINTNEXTLINE(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory): see grow
+    std::free(memory);
 }
 
 void InputBuffer::Bytes::grow(std::size_t size) {
-    // NOLINTNEXTLINE(cppcoreguidelines-no-malloc): nothing else grows without a copy.
+    // Nothing else grows without a copy.
+    // NOLINTNEXTLINE(cppcoreguidelines-no-malloc,cppcoreguidelines-owning-memory)
     void* const grown = std::realloc(memory_.get(), size);
     if (grown == nullptr) {
         throw std::bad_alloc();

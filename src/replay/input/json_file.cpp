@@ -39,7 +39,7 @@ std::string_view utf8Text(const JsonValue& value) {
 }
 
 OrxString ownedText(const JsonValue& value) {
-    return OrxString(utf8Text(value));
+    return {utf8Text(value)};
 }
 
 }  // namespace quillmark::replay

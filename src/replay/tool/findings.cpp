@@ -43,7 +43,7 @@ void Findings::addUnresolved(const std::string& page, std::string_view report) {
         report.remove_prefix(std::min(report.size(), line.size() + 1));
         std::string reference = referenceOf(line);
         if (!reference.empty() && reference != last) {
-            add(unresolved_, page + ", " + reference);
+            add(unresolved_, std::string(page).append(", ").append(reference));
             last = std::move(reference);
         }
     }
@@ -53,7 +53,8 @@ void Findings::write(Messages& messages, const std::string& tool) const {
     bool isCut = false;
     for (const Kind* const kind : {&warnings_, &unresolved_, &lost_}) {
         for (const std::string& text : kind->kept) {
-            messages.write(tool + ": " + kind->name + ": " + text);
+            messages.write(
+                std::string(tool).append(": ").append(kind->name).append(": ").append(text));
         }
         isCut = isCut || kind->isCut;
     }

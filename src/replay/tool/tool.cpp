@@ -70,6 +70,7 @@ public:
           services_(options, files_, environment.executable),
           messages_(environment.errors, environment.errorsGoToTerminal && !options.quiet),
           trace_(inputs_.hasRecording(), traceHandlers()),
+          // NOLINTNEXTLINE(bugprone-throw-keyword-missing): a member, not an exception
           exceptions_(
               [this](std::string_view failure) { reportDriver(failure, trace_.takeReason()); },
               exceptionWriter()) {

@@ -12,6 +12,7 @@
 
 #include "driver/encoding/random_calls.h"
 #include "foundation/orx_string.h"
+#include "platform/line_end.h"
 #include "platform/sys_text.h"
 #include "support/memory_settings_store.h"
 
@@ -24,10 +25,18 @@ std::string codePageBytes(std::u16string_view text) {
     return SysText::narrow(text).str();
 }
 
+/// The digests were recorded where lines end in a line feed. Only traces and tree data end their
+/// lines as the system does.
+OrxString withLineFeeds(std::string_view text) {
+    return OrxString(text).replaceStr(systemLineEnd(), "\n");
+}
+
 std::string digestOf(const WrittenDocument& document) {
-    OrxString all(document.trace);
+    OrxString all = withLineFeeds(document.trace);
     for (const auto& [name, bytes] : document.files) {
-        all.append('\0').append(name).append('\0').append(bytes);
+        all.append('\0').append(name).append('\0');
+        all.append(std::string_view(name).ends_with("_toc.dat") ? withLineFeeds(bytes)
+                                                                : OrxString(bytes));
     }
     std::ostringstream line;
     line << std::hex << static_cast<std::uint64_t>(all.hash());
