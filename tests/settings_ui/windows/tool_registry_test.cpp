@@ -20,7 +20,7 @@ TEST(SettingsToolOnWindows, KeepsTheSettingsInTheUsersRegistry) {
 
 TEST(SettingsToolOnWindows, ShowsTheValuesOfTheRegistry) {
     removeUserSettings();
-    EXPECT_TRUE(makeUserSettingsStore()->write("Html", "HtmlPixDir", "caf\xE9"));
+    EXPECT_TRUE(makeUserSettingsStore()->write("Html", "HtmlPixDir", "caf\xC3\xA9"));
     std::string output;
     EXPECT_EQ(runProgram(programs().settings, "get HtmlPixDir", &output), 0U);
     EXPECT_EQ(output.substr(0, 5), "caf\xC3\xA9");
