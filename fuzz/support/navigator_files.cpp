@@ -9,7 +9,6 @@ namespace quillmark::fuzzing {
 namespace {
 
 constexpr std::string_view escape = "\\\\u";
-constexpr std::size_t largestText = 32768;
 
 bool isDigit(char c) {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f');
