@@ -77,7 +77,8 @@ bool isCounted(const char* path) {
 }
 
 bool isCounted(int file) {
-    return file >= 0 && file < static_cast<int>(isCountedFile.size()) && isCountedFile.at(file);
+    return file >= 0 && file < static_cast<int>(isCountedFile.size()) &&
+           isCountedFile.at(static_cast<std::size_t>(file));
 }
 
 /// Counts an operation. True if it is the one that fails; then `errno` is set.
@@ -91,7 +92,7 @@ bool fails(Kind kind) {
 
 int opened(int file) {
     if (file >= 0 && file < static_cast<int>(isCountedFile.size())) {
-        isCountedFile.at(file) = true;
+        isCountedFile.at(static_cast<std::size_t>(file)) = true;
     }
     return file;
 }
@@ -190,7 +191,7 @@ int close(int file) {
     const bool failed = failsAt(closing, file);
     const int error = errno;
     if (isCounted(file)) {
-        isCountedFile.at(file) = false;
+        isCountedFile.at(static_cast<std::size_t>(file)) = false;
     }
     const int result = next(file);
     errno = failed ? error : errno;
@@ -203,7 +204,7 @@ int fclose(FILE* stream) {
     const bool failed = failsAt(closing, file);
     const int error = errno;
     if (isCounted(file)) {
-        isCountedFile.at(file) = false;
+        isCountedFile.at(static_cast<std::size_t>(file)) = false;
     }
     const int result = next(stream);
     errno = failed ? error : errno;
