@@ -1,9 +1,9 @@
 // 100,000 contents entries with a listing on the second page, in every variant of the contents
 // pages.
 
-#include "bench_settings.h"
-#include "measure.h"
-#include "texts.h"
+#include "common/bench_settings.h"
+#include "common/measure.h"
+#include "common/texts.h"
 
 namespace quillmark::bench {
 

@@ -3,10 +3,10 @@
 
 #include <malloc.h>
 
-#include "measure.h"
+#include "common/measure.h"
+#include "common/texts.h"
 #include "page/doc_html_page.h"
-#include "platform/drive_table.h"
-#include "texts.h"
+#include "platform/files/drive_table.h"
 
 namespace quillmark::bench {
 

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <array>
 
-#include "bench_settings.h"
+#include "common/bench_settings.h"
+#include "common/measure.h"
+#include "common/texts.h"
 #include "driver/boundary/operation_table.h"
 #include "driver/doc_html.h"
-#include "measure.h"
-#include "texts.h"
 
 namespace quillmark::bench {
 

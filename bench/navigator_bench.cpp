@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "bench_settings.h"
-#include "measure.h"
+#include "common/bench_settings.h"
+#include "common/measure.h"
+#include "common/peak_memory.h"
+#include "common/texts.h"
 #include "navigator/index/word_index.h"
 #include "navigator/text/page_words.h"
-#include "peak_memory.h"
 #include "platform/text_encoding.h"
-#include "texts.h"
 
 namespace quillmark::bench {
 

@@ -3,11 +3,11 @@
 
 #include <array>
 
-#include "bench_settings.h"
+#include "common/bench_settings.h"
+#include "common/measure.h"
+#include "common/short_calls.h"
 #include "driver/boundary/operation_table.h"
 #include "driver/doc_html.h"
-#include "measure.h"
-#include "short_calls.h"
 
 namespace quillmark::bench {
 

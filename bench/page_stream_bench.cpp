@@ -1,9 +1,9 @@
 // A long report: pages of about 7 KB with a heading, six paragraphs of 60 words and a footer,
 // against a plain loop that writes the same files; on disk and in memory, and as it grows.
 
-#include "bench_settings.h"
-#include "measure.h"
-#include "texts.h"
+#include "common/bench_settings.h"
+#include "common/measure.h"
+#include "common/texts.h"
 
 namespace quillmark::bench {
 

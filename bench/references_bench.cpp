@@ -7,9 +7,9 @@
 #include <numeric>
 #include <random>
 
-#include "bench_settings.h"
-#include "measure.h"
-#include "texts.h"
+#include "common/bench_settings.h"
+#include "common/measure.h"
+#include "common/texts.h"
 
 namespace quillmark::bench {
 

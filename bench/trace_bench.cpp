@@ -1,10 +1,10 @@
 // What the call trace costs while it is off: an operation that does nothing but write its call
 // line, against a text of ten characters, which does a text's work besides.
 
-#include "bench_settings.h"
+#include "common/bench_settings.h"
+#include "common/measure.h"
+#include "common/short_calls.h"
 #include "driver/doc_html.h"
-#include "measure.h"
-#include "short_calls.h"
 
 namespace quillmark::bench {
 

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include "measure.h"
-#include "platform/drive_table.h"
-#include "platform/sys_file.h"
+#include "common/measure.h"
+#include "platform/files/drive_table.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark::bench {
 

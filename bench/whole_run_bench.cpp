@@ -4,16 +4,16 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "bench_settings.h"
-#include "child_process.h"
+#include "common/bench_settings.h"
+#include "common/child_process.h"
+#include "common/measure.h"
+#include "common/pages_go_nowhere.h"
+#include "common/report_stream.h"
 #include "component/object/document_object.h"
 #include "driver/doc_html.h"
-#include "measure.h"
-#include "pages_go_nowhere.h"
 #include "replay/input/call_stream_reader.h"
 #include "replay/play/component_document.h"
 #include "replay/play/player.h"
-#include "report_stream.h"
 
 namespace quillmark::bench {
 

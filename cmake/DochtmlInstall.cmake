@@ -30,7 +30,7 @@ foreach(header
         foundation/orx_exception.h foundation/orx_string.h foundation/process_wide.h
         host/app_profile_interface.h host/document_observer.h host/image_map_interface.h
         host/metamodel.h host/quillmark_mode.h
-        platform/drive_table.h platform/text_encoding.h platform/trace.h
+        platform/files/drive_table.h platform/text_encoding.h platform/trace.h
         settings/reg_entry.h settings/register_base.h settings/settings_store.h)
     cmake_path(GET header PARENT_PATH folder)
     install(FILES src/${header} DESTINATION ${DOCHTML_HEADER_DIR}/${folder} COMPONENT dev)

@@ -4,7 +4,7 @@
 
 #include "diagram/image_map.h"
 #include "replay/input/bad_input.h"
-#include "replay/input/image_map_file.h"
+#include "replay/input/host_files/image_map_file.h"
 #include "support/byte_source.h"
 #include "support/require.h"
 #include "support/temp_dir.h"

@@ -5,7 +5,7 @@
 #include "contents/entries/entry_icons.h"
 #include "host/metamodel.h"
 #include "replay/input/bad_input.h"
-#include "replay/input/model_file.h"
+#include "replay/input/host_files/model_file.h"
 #include "support/byte_source.h"
 #include "support/require.h"
 #include "support/temp_dir.h"

@@ -8,8 +8,8 @@
 
 #include "driver/boundary/operation_table.h"
 #include "driver/doc_html.h"
-#include "replay/input/image_map_file.h"
-#include "replay/input/model_file.h"
+#include "replay/input/host_files/image_map_file.h"
+#include "replay/input/host_files/model_file.h"
 #include "support/installed_file_system.h"
 #include "support/memory_file_system.h"
 #include "support/memory_settings_store.h"

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "command_line/installed_files.h"
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "platform/text_encoding.h"
 #include "settings/settings_table.h"
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 
 namespace quillmark {
 

@@ -1,6 +1,6 @@
 #include "contents/contents_names.h"
 
-#include "page/links.h"
+#include "page/links/links.h"
 
 namespace quillmark::contents_names {
 

@@ -10,9 +10,9 @@
 #include "contents/tree/archiver.h"
 #include "contents/tree/tree_data_file.h"
 #include "foundation/orx_exception.h"
-#include "platform/failure_lines.h"
+#include "platform/files/failure_lines.h"
+#include "platform/files/sys_directory.h"
 #include "platform/out_of_memory.h"
-#include "platform/sys_directory.h"
 
 namespace quillmark {
 

@@ -5,8 +5,8 @@
 #include "contents/contents_names.h"
 #include "contents/support_files.h"
 #include "page/doc_html_page.h"
-#include "page/links.h"
-#include "platform/sys_file.h"
+#include "page/links/links.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

@@ -4,7 +4,7 @@
 #include "contents/fixed_contents.h"
 #include "contents/static_listing.h"
 #include "page/doc_html_page.h"
-#include "page/links.h"
+#include "page/links/links.h"
 
 namespace quillmark {
 

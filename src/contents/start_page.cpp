@@ -5,7 +5,7 @@
 #include "contents/contents_names.h"
 #include "contents/frame_sets.h"
 #include "page/doc_html_page.h"
-#include "page/links.h"
+#include "page/links/links.h"
 
 namespace quillmark {
 

@@ -1,6 +1,6 @@
 #include "contents/support_files.h"
 
-#include "platform/sys_file.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

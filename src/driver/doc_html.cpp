@@ -9,9 +9,9 @@
 #include "driver/doc_html_impl.h"
 #include "driver/pages/arrow_bar.h"
 #include "foundation/orx_exception.h"
-#include "page/links.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "page/links/links.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

@@ -3,7 +3,7 @@
 #include "driver/doc_html.h"
 #include "driver/doc_html_impl.h"
 #include "driver/text/embedded_link.h"
-#include "page/page_marks.h"
+#include "page/marks/page_marks.h"
 
 namespace quillmark {
 

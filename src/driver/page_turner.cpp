@@ -4,8 +4,8 @@
 #include <string>
 #include <utility>
 
-#include "page/page_marks.h"
-#include "platform/sys_file.h"
+#include "page/marks/page_marks.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

@@ -13,9 +13,9 @@
 #include "navigator/support_pieces.h"
 #include "navigator/text/plain_text.h"
 #include "navigator/text/word_splitter.h"
-#include "page/links.h"
+#include "page/links/links.h"
+#include "platform/files/sys_file.h"
 #include "platform/out_of_memory.h"
-#include "platform/sys_file.h"
 
 namespace quillmark {
 

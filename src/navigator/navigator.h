@@ -12,7 +12,7 @@
 #include "navigator/index/word_index.h"
 #include "navigator/text/page_words.h"
 #include "navigator/text/text_decoder.h"
-#include "page/cached_link.h"
+#include "page/links/cached_link.h"
 #include "page/page_reader.h"
 #include "platform/trace.h"
 

@@ -7,11 +7,11 @@
 #include <string_view>
 
 #include "host/document_observer.h"
-#include "platform/failure_lines.h"
-#include "platform/file_failure.h"
-#include "platform/read_whole.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "platform/files/failure_lines.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/read_whole.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

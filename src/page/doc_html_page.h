@@ -8,7 +8,7 @@
 
 #include "foundation/orx_object.h"
 #include "foundation/orx_string.h"
-#include "page/html_mark_position.h"
+#include "page/marks/html_mark_position.h"
 #include "page/page_reader.h"
 #include "platform/trace.h"
 

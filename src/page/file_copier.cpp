@@ -1,9 +1,9 @@
 #include "page/file_copier.h"
 
 #include "host/document_observer.h"
-#include "platform/failure_lines.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "platform/files/failure_lines.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

@@ -8,7 +8,7 @@
 #include "foundation/code_page.h"
 #include "foundation/surrogates.h"
 #include "foundation/utf8.h"
-#include "platform/file_system.h"
+#include "platform/files/file_system.h"
 #include "platform/sys_text.h"
 
 namespace quillmark {

@@ -9,12 +9,12 @@
 
 #include "foundation/module_lifetime.h"
 #include "foundation/orx_exception.h"
-#include "platform/failure_lines.h"
-#include "platform/file_failure.h"
-#include "platform/file_system.h"
+#include "platform/files/failure_lines.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/file_system.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 #include "platform/line_end.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
 #include "platform/system_facts.h"
 #include "platform/text_encoding.h"
 

@@ -4,11 +4,11 @@
 #include <string>
 #include <utility>
 
-#include "platform/file_failure.h"
-#include "platform/file_system.h"
-#include "platform/read_whole.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/file_system.h"
+#include "platform/files/read_whole.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 #include "platform/text_encoding.h"
 #include "settings/ini_text.h"
 #include "settings/settings_store.h"

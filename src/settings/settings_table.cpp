@@ -4,7 +4,7 @@
 #include <array>
 
 #include "foundation/ascii.h"
-#include "platform/sys_file.h"
+#include "platform/files/sys_file.h"
 #include "settings/register_dynamic.h"
 
 namespace quillmark {

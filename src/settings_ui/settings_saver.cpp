@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 #include "settings/register_dynamic.h"
 #include "settings_ui/page_table.h"
 

@@ -7,7 +7,7 @@
 #include "command_line/installed_files.h"
 #include "command_line/option_parser.h"
 #include "command_line/scoped_drives.h"
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "support/memory_settings_store.h"
 #include "support/temp_dir.h"
 

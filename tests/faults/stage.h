@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "replay/input/image_map_file.h"
-#include "replay/input/model_file.h"
+#include "replay/input/host_files/image_map_file.h"
+#include "replay/input/host_files/model_file.h"
 #include "support/environment_variable.h"
 #include "support/memory_settings_store.h"
 #include "support/temp_dir.h"

@@ -15,10 +15,10 @@
 #include "foundation/pooled_lists.h"
 #include "navigator/index/postings.h"
 #include "navigator/index/word_table.h"
-#include "page/cached_link.h"
 #include "page/doc_html_page.h"
-#include "page/open_marks.h"
-#include "page/splice_text.h"
+#include "page/links/cached_link.h"
+#include "page/marks/open_marks.h"
+#include "page/marks/splice_text.h"
 
 namespace quillmark::testing {
 namespace {

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "page/html_head.h"
-#include "page/links.h"
+#include "page/links/links.h"
 #include "support/capturing_exception_log.h"
 #include "support/capturing_trace.h"
 #include "support/failing_file_system.h"

@@ -1,4 +1,4 @@
-#include "page/link_attribute.h"
+#include "page/links/link_attribute.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "page/links.h"
+#include "page/links/links.h"
 
 #include <gtest/gtest.h>
 

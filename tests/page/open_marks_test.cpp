@@ -1,4 +1,4 @@
-#include "page/open_marks.h"
+#include "page/marks/open_marks.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "page/splice_text.h"
+#include "page/marks/splice_text.h"
 
 #include <gtest/gtest.h>
 

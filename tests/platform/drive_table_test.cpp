@@ -1,4 +1,4 @@
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 
 #include <gtest/gtest.h>
 

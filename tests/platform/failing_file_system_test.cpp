@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
-#include "platform/file_failure.h"
-#include "platform/read_whole.h"
-#include "platform/sys_file.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/read_whole.h"
+#include "platform/files/sys_file.h"
 #include "support/installed_file_system.h"
 #include "support/memory_file_system.h"
 

@@ -7,10 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/file_system.h"
 #include "platform/file_system_subjects.h"
-#include "platform/read_whole.h"
-#include "platform/sys_file.h"
+#include "platform/files/file_system.h"
+#include "platform/files/read_whole.h"
+#include "platform/files/sys_file.h"
 #include "support/installed_file_system.h"
 
 namespace quillmark {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/file_system.h"
+#include "platform/files/file_system.h"
 #include "support/failing_file_system.h"
 #include "support/memory_file_system.h"
 #include "support/temp_dir.h"

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/path_text.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "platform/files/path_text.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 #include "platform/system_facts.h"
 
 namespace quillmark {

@@ -10,10 +10,10 @@
 #include <filesystem>
 #include <string>
 
-#include "platform/file_system.h"
-#include "platform/read_whole.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "platform/files/file_system.h"
+#include "platform/files/read_whole.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 #include "settings/settings_store.h"
 #include "support/temp_dir.h"
 

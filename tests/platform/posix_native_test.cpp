@@ -15,11 +15,11 @@
 #include <thread>
 
 #include "foundation/orx_exception.h"
-#include "platform/drive_table.h"
-#include "platform/file_failure.h"
+#include "platform/files/drive_table.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 #include "platform/signal_to_exception.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
 #include "platform/sys_shell.h"
 #include "platform/system_facts.h"
 #include "settings/ini_file.h"

@@ -11,7 +11,7 @@
 #include <string>
 #include <thread>
 
-#include "platform/file_system.h"
+#include "platform/files/file_system.h"
 #include "support/temp_dir.h"
 
 namespace quillmark {

@@ -13,8 +13,8 @@
 #include <string_view>
 #include <thread>
 
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 #include "platform/sys_shell.h"
 #include "support/environment_variable.h"
 #include "support/temp_dir.h"

@@ -15,10 +15,10 @@
 #include <iterator>
 #include <string>
 
-#include "platform/file_failure.h"
-#include "platform/file_system.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/file_system.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 #include "support/temp_dir.h"
 
 namespace quillmark {

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "foundation/orx_exception.h"
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
+#include "platform/files/sys_file.h"
 #include "platform/line_end.h"
 #include "platform/signal_to_exception.h"
-#include "platform/sys_file.h"
 #include "platform/sys_time.h"
 #include "platform/trace.h"
 #include "settings/register_cache.h"

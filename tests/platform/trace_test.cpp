@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/files/sys_directory.h"
 #include "platform/line_end.h"
-#include "platform/sys_directory.h"
 #include "platform/system_facts.h"
 #include "support/capturing_trace.h"
 #include "support/failing_file_system.h"

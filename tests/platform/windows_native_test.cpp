@@ -9,11 +9,11 @@
 #include <string>
 #include <thread>
 
-#include "platform/drive_table.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "platform/files/drive_table.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
+#include "platform/files/windows/native_file.h"
 #include "platform/sys_shell.h"
-#include "platform/windows/native_file.h"
 #include "platform/windows/windows_api.h"
 #include "settings/settings_store.h"
 #include "support/temp_dir.h"

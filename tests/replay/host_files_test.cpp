@@ -3,8 +3,8 @@
 
 #include "command_line/utf8_path.h"
 #include "replay/input/bad_input.h"
-#include "replay/input/image_map_file.h"
-#include "replay/input/model_file.h"
+#include "replay/input/host_files/image_map_file.h"
+#include "replay/input/host_files/model_file.h"
 #include "support/temp_dir.h"
 
 namespace quillmark::replay {

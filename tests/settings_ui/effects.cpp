@@ -4,7 +4,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "settings_ui/page_table.h"
 
 namespace quillmark {

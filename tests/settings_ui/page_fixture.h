@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "settings/register_base.h"
 #include "settings_ui/memory_controls.h"
 #include "settings_ui/recording_host.h"

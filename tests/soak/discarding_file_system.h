@@ -3,7 +3,7 @@
 #include <atomic>
 #include <cstddef>
 
-#include "platform/file_system.h"
+#include "platform/files/file_system.h"
 
 namespace quillmark::testing {
 

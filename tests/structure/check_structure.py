@@ -43,6 +43,7 @@ ALLOWED = {
 # Within these modules the same holds between folders: each includes itself and those before it.
 # The empty name is the module's own folder.
 FOLDERS_IN_ORDER = {
+    "page": ("marks", "links", ""),
     "contents": ("entries", "tree", ""),
     "navigator": ("text", "data", "index", "entries", ""),
     "driver": ("boundary", "pages", "links", "text", "files", ""),
@@ -58,6 +59,8 @@ FOLDERS_IN_ORDER = {
 SYSTEM_FOLDERS = (
     "src/platform/posix/",
     "src/platform/windows/",
+    "src/platform/files/posix/",
+    "src/platform/files/windows/",
     "src/settings/windows/",
     "src/component/posix/",
     "src/component/windows/",

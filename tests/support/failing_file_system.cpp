@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-#include "platform/file_failure.h"
+#include "platform/files/file_failure.h"
 
 namespace quillmark {
 

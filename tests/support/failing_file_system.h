@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "platform/file_system.h"
+#include "platform/files/file_system.h"
 
 namespace quillmark {
 

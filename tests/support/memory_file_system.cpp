@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/path_text.h"
-#include "platform/sys_directory.h"
+#include "platform/files/path_text.h"
+#include "platform/files/sys_directory.h"
 
 namespace quillmark {
 

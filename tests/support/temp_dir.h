@@ -9,9 +9,9 @@
 #include <string_view>
 #include <system_error>
 
-#include "platform/drive_table.h"
-#include "platform/file_system.h"
-#include "platform/sys_file.h"
+#include "platform/files/drive_table.h"
+#include "platform/files/file_system.h"
+#include "platform/files/sys_file.h"
 #include "platform/system_facts.h"
 
 namespace quillmark {

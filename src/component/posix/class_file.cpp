@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "foundation/ascii.h"
-#include "platform/posix/descriptor_io.h"
+#include "platform/files/posix/descriptor_io.h"
 #include "platform/posix/home_directory.h"
 
 namespace quillmark {

@@ -3,8 +3,8 @@
 #include <fcntl.h>
 #include <sys/file.h>
 
-#include "platform/posix/descriptor_io.h"
-#include "platform/posix/uninterrupted.h"
+#include "platform/files/posix/descriptor_io.h"
+#include "platform/files/posix/uninterrupted.h"
 
 namespace quillmark {
 namespace {

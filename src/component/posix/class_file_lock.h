@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "platform/posix/descriptor.h"
+#include "platform/files/posix/descriptor.h"
 
 namespace quillmark {
 

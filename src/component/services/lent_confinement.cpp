@@ -9,7 +9,7 @@
 
 #include "component/services/lent_text.h"
 #include "foundation/module_lifetime.h"
-#include "platform/confinement.h"
+#include "platform/files/confinement.h"
 
 namespace quillmark {
 namespace {

@@ -7,7 +7,7 @@
 #include "foundation/ascii.h"
 #include "foundation/module_lifetime.h"
 #include "host/quillmark_mode.h"
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "settings/register_base.h"
 
 namespace quillmark {

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "platform/failure_lines.h"
-#include "platform/file_failure.h"
-#include "platform/sys_file.h"
+#include "platform/files/failure_lines.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/sys_file.h"
 #include "platform/sys_shell.h"
 
 namespace quillmark {

@@ -11,8 +11,8 @@
 #include "contents/entries/indent_budget.h"
 #include "contents/tree/tree_text.h"
 #include "foundation/orx_exception.h"
-#include "platform/file_failure.h"
-#include "platform/file_system.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/file_system.h"
 #include "platform/line_end.h"
 
 namespace quillmark {

@@ -2,9 +2,9 @@
 
 #include "driver/files/line_reader.h"
 #include "driver/pages/picture_names.h"
-#include "platform/failure_lines.h"
-#include "platform/file_failure.h"
-#include "platform/sys_file.h"
+#include "platform/files/failure_lines.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

@@ -4,8 +4,8 @@
 
 #include "contents/support_files.h"
 #include "driver/pages/picture_names.h"
+#include "platform/files/sys_file.h"
 #include "platform/out_of_memory.h"
-#include "platform/sys_file.h"
 
 namespace quillmark {
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string>
 
-#include "platform/file_system.h"
+#include "platform/files/file_system.h"
 #include "platform/text_encoding.h"
 
 namespace quillmark {

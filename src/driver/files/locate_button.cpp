@@ -3,8 +3,8 @@
 #include <array>
 
 #include "contents/support_files.h"
-#include "page/links.h"
-#include "platform/sys_file.h"
+#include "page/links/links.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

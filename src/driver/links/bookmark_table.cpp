@@ -1,7 +1,7 @@
 #include "driver/links/bookmark_table.h"
 
 #include "foundation/growth.h"
-#include "platform/path_text.h"
+#include "platform/files/path_text.h"
 
 namespace quillmark {
 

@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "page/link_attribute.h"
-#include "page/links.h"
-#include "platform/path_text.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "page/links/link_attribute.h"
+#include "page/links/links.h"
+#include "platform/files/path_text.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 #include "platform/text_encoding.h"
 
 namespace quillmark {

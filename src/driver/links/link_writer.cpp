@@ -1,9 +1,9 @@
 #include "driver/links/link_writer.h"
 
 #include "driver/pages/picture_names.h"
-#include "page/link_attribute.h"
-#include "platform/path_text.h"
-#include "platform/sys_file.h"
+#include "page/links/link_attribute.h"
+#include "platform/files/path_text.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

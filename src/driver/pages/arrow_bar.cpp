@@ -2,7 +2,7 @@
 
 #include "contents/support_files.h"
 #include "driver/pages/picture_names.h"
-#include "platform/sys_file.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

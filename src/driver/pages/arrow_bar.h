@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "driver/pages/document_context.h"
-#include "page/cached_link.h"
+#include "page/links/cached_link.h"
 
 namespace quillmark {
 

@@ -1,8 +1,8 @@
 #include "driver/pages/document_context.h"
 
-#include "page/links.h"
-#include "platform/sys_directory.h"
-#include "platform/sys_file.h"
+#include "page/links/links.h"
+#include "platform/files/sys_directory.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

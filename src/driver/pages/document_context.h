@@ -3,8 +3,8 @@
 #include "driver/pages/document_settings.h"
 #include "driver/pages/output_names.h"
 #include "driver/pages/output_router.h"
-#include "page/cached_link.h"
 #include "page/file_copier.h"
+#include "page/links/cached_link.h"
 #include "platform/text_encoding.h"
 #include "platform/trace.h"
 

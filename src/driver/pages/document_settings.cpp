@@ -1,9 +1,9 @@
 #include "driver/pages/document_settings.h"
 
 #include "host/app_profile_interface.h"
-#include "platform/failure_lines.h"
-#include "platform/file_failure.h"
-#include "platform/sys_directory.h"
+#include "platform/files/failure_lines.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/sys_directory.h"
 #include "settings/ini_file.h"
 #include "settings/register_dynamic.h"
 

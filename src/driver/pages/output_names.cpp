@@ -4,8 +4,8 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/path_text.h"
-#include "platform/sys_file.h"
+#include "platform/files/path_text.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

@@ -1,6 +1,6 @@
 #include "driver/pages/picture_names.h"
 
-#include "platform/sys_file.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

@@ -6,7 +6,7 @@
 #include "contents/entries/entry_icons.h"
 #include "contents/static_listing.h"
 #include "driver/text/style_names.h"
-#include "page/page_marks.h"
+#include "page/marks/page_marks.h"
 
 namespace quillmark {
 

@@ -6,7 +6,7 @@
 #include "contents/entries/contents_entry_list.h"
 #include "driver/links/bookmark_writer.h"
 #include "driver/pages/output_router.h"
-#include "page/cached_link.h"
+#include "page/links/cached_link.h"
 
 namespace quillmark {
 

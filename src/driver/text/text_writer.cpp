@@ -2,7 +2,7 @@
 
 #include "driver/text/escape_text.h"
 #include "driver/text/style_names.h"
-#include "platform/sys_file.h"
+#include "platform/files/sys_file.h"
 #include "platform/sys_time.h"
 
 namespace quillmark {

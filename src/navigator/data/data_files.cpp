@@ -4,8 +4,8 @@
 #include <string>
 
 #include "foundation/orx_exception.h"
-#include "platform/failure_lines.h"
-#include "platform/sys_file.h"
+#include "platform/files/failure_lines.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

@@ -4,7 +4,7 @@
 
 #include "foundation/ascii.h"
 #include "page/file_copier.h"
-#include "platform/sys_file.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark {
 

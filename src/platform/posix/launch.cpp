@@ -8,8 +8,8 @@
 #include <csignal>
 #include <cstring>
 
-#include "platform/posix/descriptor_io.h"
-#include "platform/posix/uninterrupted.h"
+#include "platform/files/posix/descriptor_io.h"
+#include "platform/files/posix/uninterrupted.h"
 
 namespace quillmark {
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/drive_table.h"
-#include "platform/file_system.h"
+#include "platform/files/drive_table.h"
+#include "platform/files/file_system.h"
+#include "platform/files/sys_file.h"
 #include "platform/posix/launch.h"
-#include "platform/sys_file.h"
 
 namespace quillmark {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "platform/posix/home_directory.h"
 
 namespace quillmark::system_facts {

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "platform/argument_text.h"
-#include "platform/drive_table.h"
-#include "platform/file_system.h"
-#include "platform/sys_file.h"
-#include "platform/windows/wide_name.h"
+#include "platform/files/drive_table.h"
+#include "platform/files/file_system.h"
+#include "platform/files/sys_file.h"
+#include "platform/files/windows/wide_name.h"
 #include "platform/windows/windows_api.h"
 // Needs the types of the wrapper above.
 #include <shellapi.h>

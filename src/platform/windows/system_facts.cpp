@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "platform/windows/wide_name.h"
+#include "platform/files/windows/wide_name.h"
 
 namespace quillmark::system_facts {
 

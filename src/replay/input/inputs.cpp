@@ -8,7 +8,7 @@
 #include "command_line/utf8_path.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/call_stream_reader.h"
-#include "replay/input/host_file.h"
+#include "replay/input/host_files/host_file.h"
 #include "replay/input/recording_reader.h"
 
 namespace quillmark::replay {

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "platform/sys_file.h"
+#include "platform/files/sys_file.h"
 
 namespace quillmark::replay {
 

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "foundation/utf8.h"
-#include "platform/path_text.h"
-#include "platform/sys_directory.h"
+#include "platform/files/path_text.h"
+#include "platform/files/sys_directory.h"
 #include "platform/sys_text.h"
 #include "replay/input/bad_input.h"
 

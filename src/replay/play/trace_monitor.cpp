@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/failure_lines.h"
+#include "platform/files/failure_lines.h"
 #include "replay/input/recorded_call.h"
 #include "replay/play/line_text.h"
 

@@ -6,7 +6,7 @@
 #include <system_error>
 
 #include "command_line/utf8_path.h"
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "platform/system_facts.h"
 #include "replay/input/bad_input.h"
 #include "settings/settings_table.h"

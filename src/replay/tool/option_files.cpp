@@ -6,7 +6,7 @@
 #include "command_line/utf8_path.h"
 #include "foundation/ascii.h"
 #include "foundation/utf8.h"
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "platform/system_facts.h"
 #include "replay/input/bad_input.h"
 

@@ -2,7 +2,7 @@
 
 #include "command_line/default_install_dir.h"
 #include "replay/input/bad_input.h"
-#include "replay/input/host_file.h"
+#include "replay/input/host_files/host_file.h"
 #include "replay/play/document_encoding.h"
 #include "replay/services/settings_overlay.h"
 #include "settings/settings_table.h"

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string>
 
-#include "replay/input/image_map_file.h"
-#include "replay/input/model_file.h"
+#include "replay/input/host_files/image_map_file.h"
+#include "replay/input/host_files/model_file.h"
 #include "replay/services/host_services.h"
 #include "replay/tool/option_files.h"
 #include "replay/tool/options.h"

@@ -10,7 +10,7 @@
 #include "command_line/utf8_path.h"
 #include "foundation/surrogates.h"
 #include "foundation/utf8.h"
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "platform/text_encoding.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/inputs.h"

@@ -4,9 +4,9 @@
 #include <optional>
 #include <string>
 
-#include "platform/path_text.h"
-#include "platform/read_whole.h"
-#include "platform/sys_file.h"
+#include "platform/files/path_text.h"
+#include "platform/files/read_whole.h"
+#include "platform/files/sys_file.h"
 #include "platform/system_facts.h"
 #include "settings/ini_text.h"
 

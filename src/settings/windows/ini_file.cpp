@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/drive_table.h"
-#include "platform/file_failure.h"
-#include "platform/windows/wide_name.h"
+#include "platform/files/drive_table.h"
+#include "platform/files/file_failure.h"
+#include "platform/files/windows/wide_name.h"
 #include "platform/windows/windows_api.h"
 
 namespace quillmark {

@@ -6,7 +6,7 @@
 #include "command_line/bad_usage.h"
 #include "command_line/default_install_dir.h"
 #include "command_line/scoped_drives.h"
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "platform/text_encoding.h"
 #include "settings/register_base.h"
 #include "settings_ui/tool/settings_commands.h"

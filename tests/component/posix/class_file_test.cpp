@@ -11,7 +11,7 @@
 #include "component/client/posix/class_lookup.h"
 #include "component/registration/server_registration.h"
 #include "dochtml/client.h"
-#include "platform/posix/descriptor_io.h"
+#include "platform/files/posix/descriptor_io.h"
 #include "support/environment_variable.h"
 #include "support/temp_dir.h"
 

@@ -6,7 +6,7 @@
 
 #include "component/services/lent_text.h"
 #include "host/quillmark_mode.h"
-#include "platform/drive_table.h"
+#include "platform/files/drive_table.h"
 #include "settings/register_base.h"
 
 namespace quillmark::testing {

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "driver/boundary/i_document.h"
-#include "platform/file_system.h"
+#include "platform/files/file_system.h"
 
 namespace quillmark::testing {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "driver/doc_html.h"
-#include "platform/sys_directory.h"
+#include "platform/files/sys_directory.h"
 #include "platform/sys_text.h"
 #include "support/capturing_exception_log.h"
 #include "support/capturing_trace.h"

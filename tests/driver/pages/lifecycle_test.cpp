@@ -1,6 +1,6 @@
 #include "driver/document_fixture.h"
 #include "page/html_head.h"
-#include "page/links.h"
+#include "page/links/links.h"
 
 namespace quillmark {
 namespace {

@@ -1,0 +1,50 @@
+#include "platform/files/file_failure.h"
+
+#include <system_error>
+
+namespace quillmark {
+
+namespace {
+
+constexpr int nothing = 0;
+constexpr int notRegular = -1;
+
+thread_local int firstReason = nothing;
+
+}  // namespace
+
+void FileFailure::forget() noexcept {
+    firstReason = nothing;
+}
+
+void FileFailure::note(int systemError) noexcept {
+    if (firstReason == nothing) {
+        firstReason = systemError;
+    }
+}
+
+void FileFailure::noteNotRegular() noexcept {
+    note(notRegular);
+}
+
+bool FileFailure::isNoted() noexcept {
+    return firstReason != nothing;
+}
+
+bool FileFailure::isMissingFile() noexcept {
+    return isNoted() && meansMissing(firstReason);
+}
+
+std::string FileFailure::reason() {
+    if (firstReason == nothing) {
+        return {};
+    }
+    if (firstReason == notRegular) {
+        return "Not a regular file";
+    }
+    std::string text = std::system_category().message(firstReason);
+    text.erase(text.find_last_not_of(" \r\n.") + 1);
+    return text;
+}
+
+}  // namespace quillmark

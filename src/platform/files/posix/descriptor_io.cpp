@@ -1,0 +1,119 @@
+#include "platform/files/posix/descriptor_io.h"
+
+#include <fcntl.h>
+#include <sys/sendfile.h>
+#include <sys/uio.h>
+
+#include <algorithm>
+#include <array>
+
+#include "platform/files/posix/uninterrupted.h"
+
+namespace quillmark::descriptor_io {
+
+namespace {
+
+/// The part of `vectors` after the first `written` bytes.
+std::span<iovec> rest(std::span<iovec> vectors, std::size_t written) noexcept {
+    while (!vectors.empty() && written >= vectors.front().iov_len) {
+        written -= vectors.front().iov_len;
+        vectors = vectors.subspan(1);
+    }
+    if (!vectors.empty()) {
+        vectors.front().iov_base = static_cast<char*>(vectors.front().iov_base) + written;
+        vectors.front().iov_len -= written;
+    }
+    return vectors;
+}
+
+bool writeVectors(int number, std::span<iovec> vectors) noexcept {
+    vectors = rest(vectors, 0);
+    while (!vectors.empty()) {
+        const ssize_t written = uninterrupted(
+            [&] { return writev(number, vectors.data(), static_cast<int>(vectors.size())); });
+        if (written <= 0) {
+            return false;
+        }
+        vectors = rest(vectors, static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+enum class Copied { whole, nothing, part };
+
+/// The largest number of bytes to move with one system call.
+constexpr std::size_t portion = std::size_t{1} << 30U;
+
+/// Repeats a system call that moves bytes until it reports the end. If it moves nothing at all, the
+/// file may still have content: some file systems return 0 when they do not support the call.
+template <typename Call>
+Copied copyWith(Call call) noexcept {
+    Copied result = Copied::nothing;
+    for (;;) {
+        const ssize_t moved = uninterrupted(call);
+        if (moved == 0) {
+            return result == Copied::part ? Copied::whole : result;
+        }
+        if (moved < 0) {
+            return result;
+        }
+        result = Copied::part;
+    }
+}
+
+bool copyThroughBuffer(const Descriptor& source, const Descriptor& target) noexcept {
+    std::array<char, 65536> buffer{};
+    for (;;) {
+        const long taken = readSome(source, buffer);
+        if (taken <= 0) {
+            return taken == 0;
+        }
+        const std::string_view piece(buffer.data(), static_cast<std::size_t>(taken));
+        if (!writeAll(target, {&piece, 1})) {
+            return false;
+        }
+    }
+}
+
+}  // namespace
+
+Descriptor openFile(const char* path, int flags) noexcept {
+    constexpr mode_t readableAndWritable = 0666;
+    return Descriptor(
+        uninterrupted([&] { return open(path, flags | O_CLOEXEC, readableAndWritable); }));
+}
+
+bool writeAll(const Descriptor& file, std::span<const std::string_view> pieces) noexcept {
+    constexpr std::size_t batch = 256;
+    std::array<iovec, batch> vectors{};
+    while (!pieces.empty()) {
+        const std::size_t count = std::min(batch, pieces.size());
+        for (std::size_t i = 0; i < count; ++i) {
+            // The system uses this structure for reading too, so its pointer is not const.
+            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
+            vectors[i] = {const_cast<char*>(pieces[i].data()), pieces[i].size()};
+        }
+        if (!writeVectors(file.number(), {vectors.data(), count})) {
+            return false;
+        }
+        pieces = pieces.subspan(count);
+    }
+    return true;
+}
+
+long readSome(const Descriptor& file, std::span<char> buffer) noexcept {
+    return uninterrupted([&] { return read(file.number(), buffer.data(), buffer.size()); });
+}
+
+bool copyAll(const Descriptor& source, const Descriptor& target) noexcept {
+    const int from = source.number();
+    const int to = target.number();
+    // Each method continues where the one before stopped, because both files keep their positions.
+    const bool done =
+        copyWith([&] { return copy_file_range(from, nullptr, to, nullptr, portion, 0); }) ==
+            Copied::whole ||
+        copyWith([&] { return sendfile(to, from, nullptr, portion); }) == Copied::whole;
+    return done || copyThroughBuffer(source, target);
+}
+
+}  // namespace quillmark::descriptor_io
