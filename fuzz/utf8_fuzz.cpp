@@ -5,7 +5,7 @@
 
 #include "foundation/code_page.h"
 #include "foundation/utf8.h"
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 #include "support/byte_source.h"
 #include "support/require.h"
 
@@ -48,21 +48,21 @@ void checkEncoding(std::u16string_view units) {
     require(narrowed.size() == units.size(), "each unit gives one byte");
     std::string ascii(units.size(), '\0');
     require(!code_page::copyAscii(ascii.data(), units) || ascii == narrowed, "ASCII stays");
-    const bool holds = SysText::holds(units);
+    const TextEncoding& codePage = TextEncoding::codePage();
+    const bool holds = codePage.holds(units);
     // Counting takes much longer than all the rest.
-    require(units.size() % 8 != 0 || holds == (SysText::countLost(units) == 0),
+    require(units.size() % 8 != 0 || holds == (codePage.countLost(units) == 0),
             "nothing is lost that is held");
-    require(!holds || SysText::widen(narrowed) == units, "held text comes back");
+    require(!holds || codePage.toUtf16(narrowed) == units, "held text comes back");
 }
 
 void checkCodePage(std::string_view bytes) {
     std::string back;
     code_page::appendNarrowed(back, code_page::widened(bytes));
     require(back == bytes, "bytes of the code page come back");
-    require(SysText::fromUtf8(SysText::toUtf8(bytes)).view() == bytes,
+    const TextEncoding& codePage = TextEncoding::codePage();
+    require(codePage.fromUtf8(codePage.toUtf8(bytes)).view() == bytes,
             "bytes of the code page come back from UTF-8");
-    require(!SysText::holdsUtf8(bytes) || SysText::toUtf8(SysText::fromUtf8(bytes).view()) == bytes,
-            "UTF-8 that the code page holds comes back");
 }
 
 }  // namespace

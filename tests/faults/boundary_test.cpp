@@ -6,7 +6,7 @@
 #include <sstream>
 #include <string>
 
-#include "component/services/lent_text.h"
+#include "component/services/callback_text.h"
 #include "driver/doc_html.h"
 #include "faults/allocation_failure.h"
 #include "foundation/orx_exception.h"
@@ -123,12 +123,12 @@ TEST(OutOfMemory, InTheJsonReaderIsAnException) {
 
 TEST(OutOfMemory, InACallbackIsNotAnEmptyText) {
     const std::string text(100, 'x');
-    const DochtmlText lent{text.data(), text.size()};
+    const DochtmlText argument{text.data(), text.size()};
     CollectedTexts texts;
     const DochtmlSink sink = texts.sink();
     {
         const AllocationFailure failure(1, Mode::forGood);
-        sink.put(sink.context, &lent);
+        sink.put(sink.context, &argument);
     }
     EXPECT_THROW(static_cast<void>(texts.text()), std::bad_alloc);
 }

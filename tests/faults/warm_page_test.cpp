@@ -60,12 +60,12 @@ private:
     DocHtml document_;
 };
 
-TEST_F(WarmPage, isCountedWithTheAllocationsOfItsCalls) {
+TEST_F(WarmPage, IsCountedWithTheAllocationsOfItsCalls) {
     // A new page needs memory. If this were not counted, the other tests could not fail.
     EXPECT_GT(allocationsOnSecondPage([](DocHtml& document) { document.insertPageBreak(); }), 0U);
 }
 
-TEST_F(WarmPage, takesTextsWithoutAllocations) {
+TEST_F(WarmPage, TakesTextsWithoutAllocations) {
     const std::u16string paragraph(600, u'p');
     EXPECT_EQ(allocationsOnSecondPage([&](DocHtml& document) {
                   document.insertText(paragraph);
@@ -76,7 +76,7 @@ TEST_F(WarmPage, takesTextsWithoutAllocations) {
               0U);
 }
 
-TEST_F(WarmPage, takesReferencesToAKnownTargetWithoutAllocations) {
+TEST_F(WarmPage, TakesReferencesToAKnownTargetWithoutAllocations) {
     EXPECT_EQ(allocationsOnSecondPage([](DocHtml& document) {
                   document.insertXref(u"the text of a reference", u"a target with a long name");
                   document.insertXref(u"a page", u"Page 2");
@@ -85,7 +85,7 @@ TEST_F(WarmPage, takesReferencesToAKnownTargetWithoutAllocations) {
               0U);
 }
 
-TEST_F(WarmPage, takesCellsWithoutAllocations) {
+TEST_F(WarmPage, TakesCellsWithoutAllocations) {
     EXPECT_EQ(allocationsOnSecondPage([](DocHtml& document) {
                   document.setTextAlign(2);
                   document.startTable();
@@ -101,7 +101,7 @@ TEST_F(WarmPage, takesCellsWithoutAllocations) {
               0U);
 }
 
-TEST_F(WarmPage, takesStylesWithoutAllocations) {
+TEST_F(WarmPage, TakesStylesWithoutAllocations) {
     EXPECT_EQ(allocationsOnSecondPage([](DocHtml& document) {
                   document.setStyle(u"Normal");
                   document.setStyle(u"List Number 3");
@@ -113,7 +113,7 @@ TEST_F(WarmPage, takesStylesWithoutAllocations) {
               0U);
 }
 
-TEST(WarmReader, takesCallsWithoutAllocations) {
+TEST(WarmReader, TakesCallsWithoutAllocations) {
     std::string lines;
     for (int i = 0; i < 100; ++i) {
         lines +=

@@ -16,8 +16,6 @@ TEST(SystemText, KeepsAsciiByteForByte) {
     }
     EXPECT_EQ(SysText::narrow(wide), narrow);
     EXPECT_EQ(SysText::widen(narrow), wide);
-    EXPECT_EQ(SysText::toUtf8(narrow), narrow);
-    EXPECT_EQ(SysText::fromUtf8(narrow), narrow);
 }
 
 TEST(SystemText, AppendsAfterWhatIsThere) {
@@ -31,8 +29,6 @@ TEST(SystemText, AppendsAfterWhatIsThere) {
 TEST(SystemText, HoldsTheLettersOfWindows1252) {
     EXPECT_EQ(SysText::narrow(u"\u20AC\u0152\u00FC"), "\x80\x8C\xFC");
     EXPECT_EQ(SysText::widen("\x80\x8C\xFC"), u"\u20AC\u0152\u00FC");
-    EXPECT_EQ(SysText::fromUtf8("\xE2\x82\xAC"), "\x80");
-    EXPECT_EQ(SysText::toUtf8("\x80"), "\xE2\x82\xAC");
 }
 
 TEST(SystemText, PutsAQuestionMarkForEachUnitThatItCannotHold) {
@@ -47,32 +43,6 @@ TEST(SystemText, DoesNotMakeALetterOutOfOneThatLooksLikeIt) {
 
 TEST(SystemText, KeepsZeroUnits) {
     EXPECT_EQ(SysText::narrow(std::u16string_view(u"a\0b", 3)), std::string("a\0b", 3));
-}
-
-TEST(SystemText, SaysWhatTheCodePageCanHold) {
-    EXPECT_TRUE(SysText::holds(u""));
-    EXPECT_TRUE(SysText::holds(u"a?b\u20AC\u00FC"));
-    EXPECT_TRUE(SysText::holds(std::u16string_view(u"a\0b", 3)));
-    EXPECT_FALSE(SysText::holds(u"a\u4E2D"));
-    EXPECT_FALSE(SysText::holds(u"\u0100"));
-    EXPECT_FALSE(SysText::holds(u"\U0001F600"));
-    EXPECT_FALSE(SysText::holds(std::u16string(1, u'\xD83D')));
-}
-
-TEST(SystemText, SaysTheSameForUtf8ThatIsWellFormed) {
-    EXPECT_TRUE(SysText::holdsUtf8(""));
-    EXPECT_TRUE(SysText::holdsUtf8("a?\xE2\x82\xAC\xC3\xBC"));
-    EXPECT_FALSE(SysText::holdsUtf8("\xE4\xB8\xAD"));
-    EXPECT_FALSE(SysText::holdsUtf8("\xE9"));
-    EXPECT_FALSE(SysText::holdsUtf8("?\xC3"));
-}
-
-TEST(SystemText, CountsTheCharactersThatTheCodePageLoses) {
-    EXPECT_EQ(SysText::countLost(u""), 0U);
-    EXPECT_EQ(SysText::countLost(u"a?\u20AC"), 0U);
-    EXPECT_EQ(SysText::countLost(u"\u4E2Da\u20AC\u6587"), 2U);
-    EXPECT_EQ(SysText::countLost(u"\U0001F600\U0001F600"), 2U);
-    EXPECT_EQ(SysText::countLost(std::u16string{u'\xD83D', u'x', u'\xDE00'}), 2U);
 }
 
 TEST(SystemText, NamesTheCodePage) {

@@ -83,5 +83,28 @@ TEST(TextEncoding, TakesAFileAsUtf8WhenAllOfItIs) {
     EXPECT_EQ(&TextEncoding::codePage().ofFile("a"), codePage);
 }
 
+TEST(CodePageEncoding, SaysWhatItCanHold) {
+    EXPECT_TRUE(TextEncoding::codePage().holds(u""));
+    EXPECT_TRUE(TextEncoding::codePage().holds(u"a?b\u20AC\u00FC"));
+    EXPECT_TRUE(TextEncoding::codePage().holds(std::u16string_view(u"a\0b", 3)));
+    EXPECT_FALSE(TextEncoding::codePage().holds(u"a\u4E2D"));
+    EXPECT_FALSE(TextEncoding::codePage().holds(u"\u0100"));
+    EXPECT_FALSE(TextEncoding::codePage().holds(u"\U0001F600"));
+    EXPECT_FALSE(TextEncoding::codePage().holds(std::u16string(1, u'\xD83D')));
+}
+
+TEST(CodePageEncoding, CountsTheCharactersThatItLoses) {
+    EXPECT_EQ(TextEncoding::codePage().countLost(u""), 0U);
+    EXPECT_EQ(TextEncoding::codePage().countLost(u"a?\u20AC"), 0U);
+    EXPECT_EQ(TextEncoding::codePage().countLost(u"\u4E2Da\u20AC\u6587"), 2U);
+    EXPECT_EQ(TextEncoding::codePage().countLost(u"\U0001F600\U0001F600"), 2U);
+    EXPECT_EQ(TextEncoding::codePage().countLost(std::u16string{u'\xD83D', u'x', u'\xDE00'}), 2U);
+}
+
+TEST(CodePageEncoding, ConvertsFromAndToUtf8) {
+    EXPECT_EQ(TextEncoding::codePage().fromUtf8("a\xE2\x82\xAC"), "a\x80");
+    EXPECT_EQ(TextEncoding::codePage().toUtf8("a\x80"), "a\xE2\x82\xAC");
+}
+
 }  // namespace
 }  // namespace quillmark

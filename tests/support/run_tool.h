@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/line_end.h"
-#include "platform/sys_text.h"
+#include "platform/text_encoding.h"
 #include "support/temp_dir.h"
 
 namespace quillmark {
@@ -74,7 +74,7 @@ private:
     }
     /// The interpreter expects its command in the code page.
     static std::string inSystemForm(const std::string& utf8) {
-        return SysText::fromUtf8(utf8).str();
+        return TextEncoding::codePage().fromUtf8(utf8).str();
     }
 #else
     static constexpr const char* changeDirectory = "cd ";

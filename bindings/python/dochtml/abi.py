@@ -77,8 +77,8 @@ class Sink(ctypes.Structure):
     _fields_ = [("context", c_void_p), ("put_text", Put)]
 
     def put(self, text: bytes) -> None:
-        lent = Text(ctypes.cast(ctypes.c_char_p(text), c_void_p), len(text))
-        self.put_text(self.context, ctypes.byref(lent))
+        argument = Text(ctypes.cast(ctypes.c_char_p(text), c_void_p), len(text))
+        self.put_text(self.context, ctypes.byref(argument))
 
 
 SinkPointer = POINTER(Sink)

@@ -1,4 +1,4 @@
-"""The component: its library, its class object, and what it is lent."""
+"""The component: its library, its class object, and the services it is given."""
 
 import ctypes
 import threading

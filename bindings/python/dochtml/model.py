@@ -41,7 +41,7 @@ def _text_of(value: Value) -> str:
     return str(value).upper() if isinstance(value, bool) else str(value)
 
 
-class LentModel:
+class CallbackModel:
     """The record of callbacks. Elements and classes cross the boundary as numbers of ours.
 
     An element says itself what it has. So every class is said to have every attribute, and the

@@ -1,4 +1,4 @@
-"""What the component is lent: the records of callbacks, and the way from them to a document.
+"""The services the component is given: the records of callbacks, and their way to a document.
 
 The component knows each service once per process. It calls on the thread that drives a document,
 so every callback goes to the mailbox that this thread is working with.
@@ -12,7 +12,7 @@ from typing import Any, Callable
 
 from . import abi
 from .mailbox import ACTIVE, Mailbox
-from .model import LentModel
+from .model import CallbackModel
 from .regions import region_texts
 
 _ERRORS, _REPORTS = 1, 11
@@ -65,7 +65,7 @@ class Services:
         self._interface = interface
         self._table = ctypes.cast(interface, ctypes.POINTER(ctypes.POINTER(c_void_p)))[0]
         self._lock = threading.Lock()
-        self._model: LentModel | None = None
+        self._model: CallbackModel | None = None
         self._model_users = 0
         self._quiet = self._listener(_ERRORS)
         self._curious = self._listener(_REPORTS)
@@ -92,7 +92,7 @@ class Services:
         with self._lock:
             self._model_users += 1
             if self._model is None:
-                self._model = LentModel()
+                self._model = CallbackModel()
                 self._lend(abi.SET_MODEL, self._model.record)
 
     def close_model(self) -> None:

@@ -1,4 +1,4 @@
-"""What Python objects lend the driver: a model and image maps."""
+"""What Python objects provide to the driver: a model and image maps."""
 
 import gc
 from pathlib import Path

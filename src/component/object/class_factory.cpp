@@ -1,8 +1,8 @@
 #include "component/object/class_factory.h"
 
 #include "component/module/boundary.h"
-#include "component/services/lent_confinement.h"
-#include "component/services/lent_services.h"
+#include "component/services/module_confinement.h"
+#include "component/services/module_services.h"
 
 namespace quillmark {
 
@@ -52,39 +52,39 @@ HRESULT ClassFactory::LockServer(BOOL lock) {
 }
 
 HRESULT ClassFactory::setSettingsStore(const DochtmlSettingsStore* store) {
-    return runGuarded([&] { return LentServices::module().setSettingsStore(store); });
+    return runGuarded([&] { return ModuleServices::module().setSettingsStore(store); });
 }
 
 HRESULT ClassFactory::setProfilePath(const DochtmlText* path) {
-    return runGuarded([&] { return LentServices::module().setProfilePath(path); });
+    return runGuarded([&] { return ModuleServices::module().setProfilePath(path); });
 }
 
 HRESULT ClassFactory::setImageMaps(const DochtmlImageMaps* maps) {
-    return runGuarded([&] { return LentServices::module().setImageMaps(maps); });
+    return runGuarded([&] { return ModuleServices::module().setImageMaps(maps); });
 }
 
 HRESULT ClassFactory::setModel(const DochtmlModel* model) {
-    return runGuarded([&] { return LentServices::module().setModel(model); });
+    return runGuarded([&] { return ModuleServices::module().setModel(model); });
 }
 
 HRESULT ClassFactory::setSchemaType(LONG schemaType) {
-    return LentServices::setSchemaType(schemaType);
+    return ModuleServices::setSchemaType(schemaType);
 }
 
 HRESULT ClassFactory::setDrive(SHORT letter, const DochtmlText* directory) {
-    return runGuarded([&] { return LentServices::setDrive(letter, directory); });
+    return runGuarded([&] { return ModuleServices::setDrive(letter, directory); });
 }
 
 HRESULT ClassFactory::setTraceListener(const DochtmlTraceListener* listener) {
-    return runGuarded([&] { return LentServices::module().setTraceListener(listener); });
+    return runGuarded([&] { return ModuleServices::module().setTraceListener(listener); });
 }
 
 HRESULT ClassFactory::setExceptionLog(const DochtmlExceptionLog* log) {
-    return runGuarded([&] { return LentServices::module().setExceptionLog(log); });
+    return runGuarded([&] { return ModuleServices::module().setExceptionLog(log); });
 }
 
 HRESULT ClassFactory::setObserver(const DochtmlObserver* observer) {
-    return runGuarded([&] { return LentServices::module().setObserver(observer); });
+    return runGuarded([&] { return ModuleServices::module().setObserver(observer); });
 }
 
 HRESULT ClassFactory::setConfinement(const DochtmlConfinement* confinement) {

@@ -7,7 +7,7 @@
 
 #include "component/module/module_state.h"
 #include "component/object/recorded_object.h"
-#include "component/services/lent_services.h"
+#include "component/services/module_services.h"
 
 namespace quillmark::testing {
 namespace {
@@ -24,8 +24,8 @@ class ReplacedService : public ::testing::Test {
 protected:
     void TearDown() override {
         // Without a user this also releases the services that a test has left.
-        EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
-        EXPECT_EQ(LentServices::module().retiredCount(), 0U);
+        EXPECT_EQ(ModuleServices::module().setObserver(nullptr), S_OK);
+        EXPECT_EQ(ModuleServices::module().retiredCount(), 0U);
     }
 };
 
@@ -33,9 +33,9 @@ TEST_F(ReplacedService, CanStillBeCalledByWhoeverFetchedItBefore) {
     const ServiceUser another;
     int calls = 0;
     const DochtmlObserver observer = observerOf(calls);
-    ASSERT_EQ(LentServices::module().setObserver(&observer), S_OK);
+    ASSERT_EQ(ModuleServices::module().setObserver(&observer), S_OK);
     DocumentObserver& takenUp = DocumentObserver::current();
-    EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
+    EXPECT_EQ(ModuleServices::module().setObserver(nullptr), S_OK);
     takenUp.contentsEntryAdded();
     EXPECT_EQ(calls, 1);
 }
@@ -44,25 +44,25 @@ TEST_F(ReplacedService, IsReleasedWhenNobodyCanHaveFetchedIt) {
     const DochtmlObserver deaf{};
     {
         const ServiceUser another;
-        ASSERT_EQ(LentServices::module().setObserver(&deaf), S_OK);
-        ASSERT_EQ(LentServices::module().setObserver(&deaf), S_OK);
-        ASSERT_EQ(LentServices::module().setObserver(&deaf), S_OK);
-        EXPECT_EQ(LentServices::module().retiredCount(), 2U);
+        ASSERT_EQ(ModuleServices::module().setObserver(&deaf), S_OK);
+        ASSERT_EQ(ModuleServices::module().setObserver(&deaf), S_OK);
+        ASSERT_EQ(ModuleServices::module().setObserver(&deaf), S_OK);
+        EXPECT_EQ(ModuleServices::module().retiredCount(), 2U);
     }
-    EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
-    EXPECT_EQ(LentServices::module().retiredCount(), 0U);
+    EXPECT_EQ(ModuleServices::module().setObserver(nullptr), S_OK);
+    EXPECT_EQ(ModuleServices::module().retiredCount(), 0U);
 }
 
 TEST_F(ReplacedService, IsKeptForADocument) {
     const DochtmlObserver deaf{};
     {
         const RecordedObject document;
-        ASSERT_EQ(LentServices::module().setObserver(&deaf), S_OK);
-        EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
-        EXPECT_EQ(LentServices::module().retiredCount(), 1U);
+        ASSERT_EQ(ModuleServices::module().setObserver(&deaf), S_OK);
+        EXPECT_EQ(ModuleServices::module().setObserver(nullptr), S_OK);
+        EXPECT_EQ(ModuleServices::module().retiredCount(), 1U);
     }
-    EXPECT_EQ(LentServices::module().setObserver(nullptr), S_OK);
-    EXPECT_EQ(LentServices::module().retiredCount(), 0U);
+    EXPECT_EQ(ModuleServices::module().setObserver(nullptr), S_OK);
+    EXPECT_EQ(ModuleServices::module().retiredCount(), 0U);
 }
 
 TEST_F(ReplacedService, MayBeReplacedWhileAnotherThreadWritesItsTrace) {
@@ -72,7 +72,7 @@ TEST_F(ReplacedService, MayBeReplacedWhileAnotherThreadWritesItsTrace) {
                                         [](void* context, std::int32_t, const DochtmlText*) {
                                             ++*static_cast<std::atomic<int>*>(context);
                                         }};
-    ASSERT_EQ(LentServices::module().setTraceListener(&listener), S_OK);
+    ASSERT_EQ(ModuleServices::module().setTraceListener(&listener), S_OK);
     std::thread writer([] {
         const ServiceUser document;
         Trace trace;
@@ -81,10 +81,10 @@ TEST_F(ReplacedService, MayBeReplacedWhileAnotherThreadWritesItsTrace) {
         }
     });
     for (int round = 0; round < rounds; ++round) {
-        EXPECT_EQ(LentServices::module().setTraceListener(&listener), S_OK);
+        EXPECT_EQ(ModuleServices::module().setTraceListener(&listener), S_OK);
     }
     writer.join();
-    EXPECT_EQ(LentServices::module().setTraceListener(nullptr), S_OK);
+    EXPECT_EQ(ModuleServices::module().setTraceListener(nullptr), S_OK);
     EXPECT_EQ(heard, rounds);
 }
 

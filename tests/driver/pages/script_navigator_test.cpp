@@ -46,7 +46,7 @@ protected:
     }
 };
 
-TEST_F(ScriptNavigatorTest, headsOfPagesAndStartPageEndWithTheNavigator) {
+TEST_F(ScriptNavigatorTest, HeadsOfPagesAndStartPageEndWithTheNavigator) {
     open();
     doc().insertText(u"text");
     doc().close();
@@ -54,7 +54,7 @@ TEST_F(ScriptNavigatorTest, headsOfPagesAndStartPageEndWithTheNavigator) {
     EXPECT_EQ(headEnd("rep.htm"), headLines);
 }
 
-TEST_F(ScriptNavigatorTest, pagesInDirectoriesLinkUpwards) {
+TEST_F(ScriptNavigatorTest, PagesInDirectoriesLinkUpwards) {
     open();
     doc().pushDirectory(u"a\\b");
     doc().insertText(u"text");
@@ -65,19 +65,19 @@ TEST_F(ScriptNavigatorTest, pagesInDirectoriesLinkUpwards) {
               std::string::npos);
 }
 
-TEST_F(ScriptNavigatorTest, scriptAndStyleSheetArePutTogetherInOrder) {
+TEST_F(ScriptNavigatorTest, ScriptAndStyleSheetArePutTogetherInOrder) {
     open();
     EXPECT_EQ(out("rep_nav\\navigator.js"), "words();\n\nstart();\n\n");
     EXPECT_EQ(out("rep_nav\\navigator.css"), "LOOK { }\n\nPRINT { }\n\n");
 }
 
-TEST_F(ScriptNavigatorTest, dontCopyDoesNotConcernIt) {
+TEST_F(ScriptNavigatorTest, DontCopyDoesNotConcernIt) {
     html("DontCopy", ".js.css.gif");
     open();
     EXPECT_TRUE(isWritten("C:\\out\\rep_nav\\navigator.js"));
 }
 
-TEST_F(ScriptNavigatorTest, dataFilesDescribeTheDocument) {
+TEST_F(ScriptNavigatorTest, DataFilesDescribeTheDocument) {
     open();
     doc().setOption(u"title", u"A & B");
     heading(u"First OrderLine");
@@ -101,7 +101,7 @@ TEST_F(ScriptNavigatorTest, dataFilesDescribeTheDocument) {
               "Asecond,C,A;\"");
 }
 
-TEST_F(ScriptNavigatorTest, startPageShowsTitleAndContentsAsText) {
+TEST_F(ScriptNavigatorTest, StartPageShowsTitleAndContentsAsText) {
     html("PassThrough", "true");
     open();
     doc().setOption(u"title", u"<IMG> &amp; caf\u00E9");
@@ -118,7 +118,7 @@ TEST_F(ScriptNavigatorTest, startPageShowsTitleAndContentsAsText) {
               "<LI><A HREF=\"rep_dtl.htm#toc4\">Four</A></LI>\n</UL>\n</BODY>");
 }
 
-TEST_F(ScriptNavigatorTest, startPageOfALongContentsShowsUpperLevelsOnly) {
+TEST_F(ScriptNavigatorTest, StartPageOfALongContentsShowsUpperLevelsOnly) {
     open();
     for (int chapter = 0; chapter < 30; ++chapter) {
         heading(u"Chapter");
@@ -131,7 +131,7 @@ TEST_F(ScriptNavigatorTest, startPageOfALongContentsShowsUpperLevelsOnly) {
     EXPECT_EQ(startPage().find("Section"), std::string::npos);
 }
 
-TEST_F(ScriptNavigatorTest, otherContentsFilesAreAsWithoutIt) {
+TEST_F(ScriptNavigatorTest, OtherContentsFilesAreAsWithoutIt) {
     html("SupportOld", "true");
     const auto write = [&](const char* navigator) {
         html("ScriptNavigator", navigator);
@@ -154,7 +154,7 @@ TEST_F(ScriptNavigatorTest, otherContentsFilesAreAsWithoutIt) {
     }
 }
 
-TEST_F(ScriptNavigatorTest, pagesAreOnlyChangedInTheirHeads) {
+TEST_F(ScriptNavigatorTest, PagesAreOnlyChangedInTheirHeads) {
     const auto page = [&](const char* navigator) {
         html("ScriptNavigator", navigator);
         renew();
@@ -171,7 +171,7 @@ TEST_F(ScriptNavigatorTest, pagesAreOnlyChangedInTheirHeads) {
     EXPECT_EQ(with, page("false"));
 }
 
-TEST_F(ScriptNavigatorTest, pagesThatAreHeldBackHaveTheirWordsToo) {
+TEST_F(ScriptNavigatorTest, PagesThatAreHeldBackHaveTheirWordsToo) {
     open();
     doc().insertXref(u"forward", u"target");
     doc().insertPageBreak();
@@ -185,7 +185,7 @@ TEST_F(ScriptNavigatorTest, pagesThatAreHeldBackHaveTheirWordsToo) {
     EXPECT_NE(data("word0").find("second,,B;"), std::string::npos);
 }
 
-TEST_F(ScriptNavigatorTest, everyPageIsWrittenOnce) {
+TEST_F(ScriptNavigatorTest, EveryPageIsWrittenOnce) {
     FailingFileSystem counting(files);
     const InstalledFileSystem countingInForce(counting);
     const auto writes = [&](const char* navigator) {
@@ -203,7 +203,7 @@ TEST_F(ScriptNavigatorTest, everyPageIsWrittenOnce) {
     EXPECT_EQ(writes("true"), writes("false"));
 }
 
-TEST_F(ScriptNavigatorTest, iconsOfEntriesAreCopiedAndNamed) {
+TEST_F(ScriptNavigatorTest, IconsOfEntriesAreCopiedAndNamed) {
     files.put("C:\\mine\\__None.gif", "own");
     files.put("C:\\inst\\navigator\\icons\\__None.gif", "shipped");
     html("IconFile", "C:\\mine\\icons.zip");
@@ -215,7 +215,7 @@ TEST_F(ScriptNavigatorTest, iconsOfEntriesAreCopiedAndNamed) {
     EXPECT_EQ(data("tree0"), "[[[\"First\",\"rep_dtl.htm#toc1\",0,0,1]],[]]");
 }
 
-TEST_F(ScriptNavigatorTest, withoutContentsThereIsNone) {
+TEST_F(ScriptNavigatorTest, WithoutContentsThereIsNone) {
     html("Navig", "2");
     open();
     doc().insertText(u"text");
@@ -224,7 +224,7 @@ TEST_F(ScriptNavigatorTest, withoutContentsThereIsNone) {
     EXPECT_FALSE(isWritten("C:\\out\\rep_nav\\navigator.js"));
 }
 
-TEST_F(ScriptNavigatorTest, missingSupportFilesAreTracedAndNothingRefersToThem) {
+TEST_F(ScriptNavigatorTest, MissingSupportFilesAreTracedAndNothingRefersToThem) {
     files.deleteFile("C:\\inst\\navigator\\look.css");
     open();
     EXPECT_NE(traced().find("ERR Could not read file C:\\inst\\navigator\\look.css\n"),
@@ -236,7 +236,7 @@ TEST_F(ScriptNavigatorTest, missingSupportFilesAreTracedAndNothingRefersToThem) 
     EXPECT_FALSE(isWritten("C:\\out\\rep_nav\\set.js"));
 }
 
-TEST_F(ScriptNavigatorTest, scriptThatCannotBeWrittenIsLoggedAndNothingRefersToIt) {
+TEST_F(ScriptNavigatorTest, ScriptThatCannotBeWrittenIsLoggedAndNothingRefersToIt) {
     files.makeDirectories("C:\\out\\rep_nav\\navigator.js");
     open();
     doc().insertText(u"text");
@@ -247,7 +247,7 @@ TEST_F(ScriptNavigatorTest, scriptThatCannotBeWrittenIsLoggedAndNothingRefersToI
               std::string::npos);
 }
 
-TEST_F(ScriptNavigatorTest, dataFileThatCannotBeWrittenIsLoggedAndTheOthersAreWritten) {
+TEST_F(ScriptNavigatorTest, DataFileThatCannotBeWrittenIsLoggedAndTheOthersAreWritten) {
     files.makeDirectories("C:\\out\\rep_nav\\tree0.js");
     open();
     heading(u"First");
@@ -257,7 +257,7 @@ TEST_F(ScriptNavigatorTest, dataFileThatCannotBeWrittenIsLoggedAndTheOthersAreWr
     EXPECT_NE(data("word0"), "(none)");
 }
 
-TEST_F(ScriptNavigatorTest, documentThatIsClosedAgainHasTheNewEntries) {
+TEST_F(ScriptNavigatorTest, DocumentThatIsClosedAgainHasTheNewEntries) {
     open();
     heading(u"Deep", u"Heading 2");
     doc().insertText(u"one");
@@ -269,7 +269,7 @@ TEST_F(ScriptNavigatorTest, documentThatIsClosedAgainHasTheNewEntries) {
     EXPECT_NE(data("word0").find("deep,A,A;"), std::string::npos);
 }
 
-TEST_F(ScriptNavigatorTest, theNextDocumentStartsAnew) {
+TEST_F(ScriptNavigatorTest, TheNextDocumentStartsAnew) {
     open();
     doc().insertText(u"first");
     doc().close();

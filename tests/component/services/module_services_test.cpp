@@ -1,10 +1,10 @@
 // The services that a host provides through callbacks reach the driver through its own interfaces.
 
-#include "component/services/lent_services.h"
+#include "component/services/module_services.h"
 
 #include <gmock/gmock.h>
 
-#include "component/services/lent_text.h"
+#include "component/services/callback_text.h"
 #include "host/quillmark_mode.h"
 #include "platform/files/drive_table.h"
 #include "settings/register_base.h"
@@ -28,12 +28,12 @@ std::string shown(const DochtmlText* text) {
 }
 
 void answer(const DochtmlSink* sink, std::string_view text) {
-    const DochtmlText lent = lend(text);
-    sink->put(sink->context, &lent);
+    const DochtmlText argument = callbackText(text);
+    sink->put(sink->context, &argument);
 }
 
-LentServices& services() {
-    return LentServices::module();
+ModuleServices& services() {
+    return ModuleServices::module();
 }
 
 DochtmlSettingsStore settingsOf(Host& host) {
@@ -55,7 +55,7 @@ DochtmlSettingsStore settingsOf(Host& host) {
             }};
 }
 
-TEST(LentSettings, AreTheStoreInForce) {
+TEST(CallbackSettings, AreTheStoreInForce) {
     Host host;
     const DochtmlSettingsStore store = settingsOf(host);
     ASSERT_EQ(services().setSettingsStore(&store), S_OK);
@@ -68,8 +68,8 @@ TEST(LentSettings, AreTheStoreInForce) {
                                         "write Html.Kept=1", "write Html.Lost=2"));
 }
 
-TEST(LentProfilePath, ReplacesTheIniFile) {
-    const DochtmlText path = lend("C:\\my.ini");
+TEST(CallbackProfilePath, ReplacesTheIniFile) {
+    const DochtmlText path = callbackText("C:\\my.ini");
     ASSERT_EQ(services().setProfilePath(&path), S_OK);
     ASSERT_NE(AppProfileInterface::getInterface(), nullptr);
     EXPECT_EQ(AppProfileInterface::getInterface()->profilePath(), "C:\\my.ini");
@@ -77,7 +77,7 @@ TEST(LentProfilePath, ReplacesTheIniFile) {
     EXPECT_EQ(AppProfileInterface::getInterface(), nullptr);
 }
 
-TEST(LentImageMaps, AnswerWithTheRegionsOfAPicture) {
+TEST(CallbackImageMaps, AnswerWithTheRegionsOfAPicture) {
     Host host;
     const DochtmlImageMaps maps{&host,
                                 [](void*, const DochtmlText* picture, const DochtmlSink* texts) {
@@ -93,7 +93,7 @@ TEST(LentImageMaps, AnswerWithTheRegionsOfAPicture) {
     EXPECT_EQ(CImageMapInterface::getInterface(), nullptr);
 }
 
-TEST(LentTraceListener, ReceivesLinesUpToItsLevel) {
+TEST(CallbackTraceListener, ReceivesLinesUpToItsLevel) {
     Host host;
     const DochtmlTraceListener listener{
         &host, Trace::calls, [](void* context, std::int32_t level, const DochtmlText* text) {
@@ -108,7 +108,7 @@ TEST(LentTraceListener, ReceivesLinesUpToItsLevel) {
     EXPECT_THAT(host.heard, ElementsAre("1 ERR one\n"));
 }
 
-TEST(LentExceptionLog, IsAskedBeforeItReceivesAMessage) {
+TEST(CallbackExceptionLog, IsAskedBeforeItReceivesAMessage) {
     Host host;
     const DochtmlExceptionLog log{
         &host,
@@ -125,7 +125,7 @@ TEST(LentExceptionLog, IsAskedBeforeItReceivesAMessage) {
                 ElementsAre("records Throw", "records Catch", "Exception catch: boom\n"));
 }
 
-TEST(LentObserver, ReceivesTheEventsOfADocument) {
+TEST(CallbackObserver, ReceivesTheEventsOfADocument) {
     Host host;
     DochtmlObserver observer{};
     observer.context = &host;
@@ -148,7 +148,7 @@ TEST(LentObserver, ReceivesTheEventsOfADocument) {
     EXPECT_THAT(host.heard, ElementsAre("page a.htm", "file b.gif", "entry", "3 in a.htm"));
 }
 
-TEST(LentObserver, MayLackCallbacks) {
+TEST(CallbackObserver, MayLackCallbacks) {
     const DochtmlObserver deaf{};
     ASSERT_EQ(services().setObserver(&deaf), S_OK);
     EXPECT_NO_FATAL_FAILURE({
@@ -160,21 +160,21 @@ TEST(LentObserver, MayLackCallbacks) {
     EXPECT_EQ(services().setObserver(nullptr), S_OK);
 }
 
-TEST(LentMode, SetsTheSchemaType) {
-    EXPECT_EQ(LentServices::setSchemaType(2), S_OK);
+TEST(CallbackMode, SetsTheSchemaType) {
+    EXPECT_EQ(ModuleServices::setSchemaType(2), S_OK);
     EXPECT_EQ(CQuillmarkMode::GetSchemaType(), 2);
-    EXPECT_EQ(LentServices::setSchemaType(0), S_OK);
+    EXPECT_EQ(ModuleServices::setSchemaType(0), S_OK);
     EXPECT_EQ(CQuillmarkMode::GetSchemaType(), 0);
 }
 
-TEST(LentDrives, AreLettersOnly) {
-    const DochtmlText directory = lend("/srv/out");
-    EXPECT_EQ(LentServices::setDrive('Q', &directory), S_OK);
+TEST(CallbackDrives, AreLettersOnly) {
+    const DochtmlText directory = callbackText("/srv/out");
+    EXPECT_EQ(ModuleServices::setDrive('Q', &directory), S_OK);
     EXPECT_EQ(DriveTable::find('Q'), "/srv/out");
-    EXPECT_EQ(LentServices::setDrive('Q', nullptr), S_OK);
+    EXPECT_EQ(ModuleServices::setDrive('Q', nullptr), S_OK);
     EXPECT_EQ(DriveTable::find('Q'), std::nullopt);
-    EXPECT_EQ(LentServices::setDrive('1', &directory), E_INVALIDARG);
-    EXPECT_EQ(LentServices::setDrive('A' + 0x100, &directory), E_INVALIDARG);
+    EXPECT_EQ(ModuleServices::setDrive('1', &directory), E_INVALIDARG);
+    EXPECT_EQ(ModuleServices::setDrive('A' + 0x100, &directory), E_INVALIDARG);
 }
 
 /// A model of one class "Operation" and two elements, 1 and 2; 1 leads to 2.
@@ -242,7 +242,7 @@ DochtmlModel modelOf(Host& host) {
     return model;
 }
 
-class LentModel : public ::testing::Test {
+class CallbackModel : public ::testing::Test {
 protected:
     void SetUp() override {
         const DochtmlModel model = modelOf(host_);
@@ -257,14 +257,14 @@ protected:
     Host host_;
 };
 
-TEST_F(LentModel, KnowsItsObjectsAndNoOthers) {
+TEST_F(CallbackModel, KnowsItsObjectsAndNoOthers) {
     EXPECT_NE(schema().object(1), nullptr);
     EXPECT_EQ(schema().object(1), schema().object(1));
     EXPECT_NE(schema().object(1), schema().object(2));
     EXPECT_EQ(schema().object(3), nullptr);
 }
 
-TEST_F(LentModel, DescribesClasses) {
+TEST_F(CallbackModel, DescribesClasses) {
     const MMClass* found = schema().object(1)->getClass();
     ASSERT_NE(found, nullptr);
     EXPECT_EQ(found, schema().findClass("Operation"));
@@ -276,7 +276,7 @@ TEST_F(LentModel, DescribesClasses) {
     EXPECT_FALSE(found->associationExists("visibility"));
 }
 
-TEST_F(LentModel, DescribesAttributes) {
+TEST_F(CallbackModel, DescribesAttributes) {
     const MMAttribute* attribute = (*schema().object(1))["visibility"];
     ASSERT_NE(attribute, nullptr);
     EXPECT_EQ(attribute->asString(), "public");
@@ -286,13 +286,13 @@ TEST_F(LentModel, DescribesAttributes) {
     EXPECT_EQ((*schema().object(2))["visibility"], nullptr);
 }
 
-TEST_F(LentModel, FollowsAssociationsInOrder) {
+TEST_F(CallbackModel, FollowsAssociationsInOrder) {
     const MMObject* second = schema().object(2);
     EXPECT_THAT(schema().object(1)->objects("next"), ElementsAre(second, second));
     EXPECT_THAT(second->objects("next"), ElementsAre());
 }
 
-TEST_F(LentModel, ThrowsWhenTheHostReportsAFailure) {
+TEST_F(CallbackModel, ThrowsWhenTheHostReportsAFailure) {
     const MMAttribute* attribute = (*schema().object(1))["visibility"];
     host_.fails = true;
     EXPECT_THROW(static_cast<void>(schema().object(1)), OrxException);
@@ -304,7 +304,7 @@ TEST_F(LentModel, ThrowsWhenTheHostReportsAFailure) {
     }
 }
 
-TEST(LentServices, RefuseRecordsWithoutTheirCallbacks) {
+TEST(ModuleServices, RefuseRecordsWithoutTheirCallbacks) {
     const DochtmlSettingsStore store{};
     const DochtmlImageMaps maps{};
     const DochtmlModel model{};

@@ -1,4 +1,4 @@
-#include "component/services/lent_text.h"
+#include "component/services/callback_text.h"
 
 namespace quillmark {
 

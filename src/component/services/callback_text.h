@@ -10,7 +10,7 @@
 namespace quillmark {
 
 /// A text to pass to a callback. It refers to the bytes of `text`.
-[[nodiscard]] inline DochtmlText lend(std::string_view text) noexcept {
+[[nodiscard]] inline DochtmlText callbackText(std::string_view text) noexcept {
     return {text.data(), text.size()};
 }
 

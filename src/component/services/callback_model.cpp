@@ -1,4 +1,4 @@
-#include "component/services/lent_model.h"
+#include "component/services/callback_model.h"
 
 #include <array>
 #include <cstdio>
@@ -6,7 +6,7 @@
 #include <mutex>
 #include <utility>
 
-#include "component/services/lent_text.h"
+#include "component/services/callback_text.h"
 #include "foundation/orx_exception.h"
 
 namespace quillmark {
@@ -21,11 +21,11 @@ void check(HRESULT result) {
     }
 }
 
-class LentSchema;
+class CallbackSchema;
 
-class LentClass final : public MMClass {
+class CallbackClass final : public MMClass {
 public:
-    LentClass(const DochtmlModel& host, DochtmlClass handle) : host_(host), handle_(handle) {}
+    CallbackClass(const DochtmlModel& host, DochtmlClass handle) : host_(host), handle_(handle) {}
 
     [[nodiscard]] OrxString name() const override {
         CollectedTexts texts;
@@ -44,7 +44,7 @@ private:
     using Question = decltype(DochtmlModel::attributeExists);
 
     [[nodiscard]] bool ask(Question question, const OrxString& name) const {
-        const DochtmlText text = lend(name);
+        const DochtmlText text = callbackText(name);
         std::int32_t exists = 0;
         check(question(host_.context, handle_, &text, &exists));
         return exists != 0;
@@ -54,13 +54,13 @@ private:
     DochtmlClass handle_;
 };
 
-class LentAttribute final : public MMAttribute {
+class CallbackAttribute final : public MMAttribute {
 public:
-    LentAttribute(const DochtmlModel& host, DochtmlObject object, OrxString name)
+    CallbackAttribute(const DochtmlModel& host, DochtmlObject object, OrxString name)
         : host_(host), object_(object), name_(std::move(name)) {}
 
     [[nodiscard]] OrxString asString() const override {
-        const DochtmlText text = lend(name_);
+        const DochtmlText text = callbackText(name_);
         CollectedTexts texts;
         const DochtmlSink sink = texts.sink();
         check(host_.attributeText(host_.context, object_, &text, &sink));
@@ -77,7 +77,7 @@ public:
 private:
     template <typename Value, typename Question>
     [[nodiscard]] Value ask(Question question) const {
-        const DochtmlText text = lend(name_);
+        const DochtmlText text = callbackText(name_);
         Value value{};
         check(question(host_.context, object_, &text, &value));
         return value;
@@ -88,23 +88,24 @@ private:
     OrxString name_;
 };
 
-class LentObject final : public MMObject {
+class CallbackObject final : public MMObject {
 public:
-    LentObject(const LentSchema& schema, DochtmlObject handle) : schema_(schema), handle_(handle) {}
+    CallbackObject(const CallbackSchema& schema, DochtmlObject handle)
+        : schema_(schema), handle_(handle) {}
 
     [[nodiscard]] const MMClass* getClass() const override;
     [[nodiscard]] const MMAttribute* operator[](const OrxString& attribute) const override;
     [[nodiscard]] std::vector<const MMObject*> objects(const OrxString& association) const override;
 
 private:
-    const LentSchema& schema_;
+    const CallbackSchema& schema_;
     DochtmlObject handle_;
 };
 
 /// Keeps every object that it has returned, because the driver holds plain pointers to them.
-class LentSchema final : public MMSchema {
+class CallbackSchema final : public MMSchema {
 public:
-    explicit LentSchema(const DochtmlModel& host) : host_(host) {}
+    explicit CallbackSchema(const DochtmlModel& host) : host_(host) {}
 
     [[nodiscard]] const DochtmlModel& host() const noexcept { return host_; }
 
@@ -114,7 +115,7 @@ public:
         return objectOf(found);
     }
     [[nodiscard]] const MMClass* findClass(const OrxString& name) const override {
-        const DochtmlText text = lend(name);
+        const DochtmlText text = callbackText(name);
         DochtmlClass found = nullptr;
         check(host_.findClass(host_.context, &text, &found));
         return classOf(found);
@@ -139,29 +140,29 @@ public:
 private:
     DochtmlModel host_;
     mutable std::mutex mutex_;
-    mutable std::map<DochtmlObject, LentObject> objects_;
-    mutable std::map<DochtmlClass, LentClass> classes_;
-    mutable std::map<std::pair<DochtmlObject, OrxString>, LentAttribute> attributes_;
+    mutable std::map<DochtmlObject, CallbackObject> objects_;
+    mutable std::map<DochtmlClass, CallbackClass> classes_;
+    mutable std::map<std::pair<DochtmlObject, OrxString>, CallbackAttribute> attributes_;
 };
 
-const MMClass* LentObject::getClass() const {
+const MMClass* CallbackObject::getClass() const {
     const DochtmlModel& host = schema_.host();
     DochtmlClass found = nullptr;
     check(host.classOf(host.context, handle_, &found));
     return schema_.classOf(found);
 }
 
-const MMAttribute* LentObject::operator[](const OrxString& attribute) const {
+const MMAttribute* CallbackObject::operator[](const OrxString& attribute) const {
     const DochtmlModel& host = schema_.host();
-    const DochtmlText text = lend(attribute);
+    const DochtmlText text = callbackText(attribute);
     std::int32_t exists = 0;
     check(host.hasAttribute(host.context, handle_, &text, &exists));
     return exists == 0 ? nullptr : schema_.attributeOf(handle_, attribute);
 }
 
-std::vector<const MMObject*> LentObject::objects(const OrxString& association) const {
+std::vector<const MMObject*> CallbackObject::objects(const OrxString& association) const {
     const DochtmlModel& host = schema_.host();
-    const DochtmlText text = lend(association);
+    const DochtmlText text = callbackText(association);
     std::vector<const MMObject*> found;
     for (std::uint32_t index = 0;; ++index) {
         DochtmlObject other = nullptr;
@@ -175,7 +176,7 @@ std::vector<const MMObject*> LentObject::objects(const OrxString& association) c
 
 }  // namespace
 
-std::unique_ptr<MMSchema> lentModel(const DochtmlModel& model) {
+std::unique_ptr<MMSchema> callbackModel(const DochtmlModel& model) {
     const bool whole = model.object != nullptr && model.findClass != nullptr &&
                        model.classOf != nullptr && model.className != nullptr &&
                        model.attributeExists != nullptr && model.associationExists != nullptr &&
@@ -185,7 +186,7 @@ std::unique_ptr<MMSchema> lentModel(const DochtmlModel& model) {
     if (!whole) {
         return nullptr;
     }
-    return std::make_unique<LentSchema>(model);
+    return std::make_unique<CallbackSchema>(model);
 }
 
 }  // namespace quillmark

@@ -23,12 +23,12 @@ namespace quillmark {
 /// The driver uses a plain pointer while it calls a service. A service that is replaced or removed
 /// therefore stays in memory, and may still be called, as long as there are users that may have
 /// fetched the pointer before. The first later change without users frees all such services.
-class LentServices {
+class ModuleServices {
 public:
-    LentServices(const LentServices&) = delete;
-    LentServices& operator=(const LentServices&) = delete;
+    ModuleServices(const ModuleServices&) = delete;
+    ModuleServices& operator=(const ModuleServices&) = delete;
 
-    [[nodiscard]] static LentServices& module();
+    [[nodiscard]] static ModuleServices& module();
 
     HRESULT setSettingsStore(const DochtmlSettingsStore* store);
     HRESULT setProfilePath(const DochtmlText* path);
@@ -44,11 +44,11 @@ public:
     [[nodiscard]] std::size_t retiredCount() const;
 
 private:
-    friend class ModuleLifetime<LentServices>;
+    friend class ModuleLifetime<ModuleServices>;
 
-    LentServices() = default;
+    ModuleServices() = default;
     /// Removes all services, because none may be used after the library is unloaded.
-    ~LentServices();
+    ~ModuleServices();
 
     template <typename Service, typename Record, typename Install>
     HRESULT replace(std::shared_ptr<Service>& kept, const Record* record,

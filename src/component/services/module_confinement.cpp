@@ -1,4 +1,4 @@
-#include "component/services/lent_confinement.h"
+#include "component/services/module_confinement.h"
 
 #include <memory>
 #include <mutex>
@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "component/services/lent_text.h"
+#include "component/services/callback_text.h"
 #include "foundation/module_lifetime.h"
 #include "platform/files/confinement.h"
 
@@ -72,7 +72,7 @@ HRESULT setModuleConfinement(const DochtmlConfinement* confinement) {
         return E_INVALIDARG;
     }
     const auto tell = [host = *confinement](const std::string& name, RefusedAccess access) {
-        const DochtmlText text = lend(name);
+        const DochtmlText text = callbackText(name);
         host.refused(host.context, &text, accessCode(access));
     };
     auto files =
