@@ -43,7 +43,14 @@ std::string outputProblem(std::ostream& out) {
     if (out.flush()) {
         return {};
     }
-    const int reason = errno;
+    int reason = errno;
+    if (reason == 0) {
+        // It failed earlier. The system gives its reason again for one more byte.
+        out.clear();
+        out.put('\n').flush();
+        reason = errno;
+        out.setstate(std::ios::badbit);
+    }
     const std::string problem = "cannot write the output";
     return reason == 0 ? problem : problem + ": " + std::generic_category().message(reason);
 }
