@@ -7,6 +7,7 @@
 #include "component/object/driver_document.h"
 #include "component/object/page_object.h"
 #include "component/registration/server_registration.h"
+#include "platform/files/file_failure.h"
 
 namespace quillmark {
 namespace {
@@ -20,6 +21,16 @@ ObjectMaker findClass(REFCLSID classId) noexcept {
         return &createDocumentObject;
     }
     return IsEqualIID(classId, CLSID_HtmlComPage) ? &makePageObject : nullptr;
+}
+
+/// Lets the caller find the system's reason of a failure where the system itself puts it.
+HRESULT changeRegistration(HRESULT (*change)()) noexcept {
+    FileFailure::forget();
+    const HRESULT result = runGuarded(change);
+    if (FAILED(result)) {
+        FileFailure::passOn();
+    }
+    return result;
 }
 
 }  // namespace
@@ -43,9 +54,9 @@ extern "C" HRESULT STDAPICALLTYPE DllCanUnloadNow() {
 }
 
 extern "C" HRESULT STDAPICALLTYPE DllRegisterServer() {
-    return quillmark::runGuarded(&quillmark::registerServer);
+    return quillmark::changeRegistration(&quillmark::registerServer);
 }
 
 extern "C" HRESULT STDAPICALLTYPE DllUnregisterServer() {
-    return quillmark::runGuarded(&quillmark::unregisterServer);
+    return quillmark::changeRegistration(&quillmark::unregisterServer);
 }

@@ -2,8 +2,6 @@
 
 #include "driver/doc_html.h"
 
-#include <utility>
-
 #include "contents/contents_pages.h"
 #include "contents/support_files.h"
 #include "driver/doc_html_impl.h"
@@ -12,6 +10,7 @@
 #include "page/links/links.h"
 #include "platform/files/sys_directory.h"
 #include "platform/files/sys_file.h"
+#include "platform/recoding.h"
 
 namespace quillmark {
 
@@ -63,12 +62,15 @@ DocResult DocHtml::create(WideText fileName) {
 
 void DocHtml::takeEncoding() {
     const TextEncoding& next = encodingIn(impl_->settings);
-    const TextEncoding& before = *std::exchange(impl_->context.encoding, &next);
-    if (&next != &before) {
-        impl_->context.out.recode(before, next);
-        impl_->contents.recode(before, next);
-        impl_->pages.recode(before, next);
+    if (&next == impl_->context.encoding) {
+        return;
     }
+    Recoding recoding(*impl_->context.encoding, next);
+    impl_->context.out.recode(recoding);
+    impl_->contents.recode(recoding);
+    impl_->pages.recode(recoding);
+    recoding.commit();
+    impl_->context.encoding = &next;
 }
 
 void DocHtml::startDocument(const OrxString& name) {

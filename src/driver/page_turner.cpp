@@ -179,10 +179,10 @@ void PageTurner::dispatchPage(bool last) {
     }
 }
 
-void PageTurner::recode(const TextEncoding& from, const TextEncoding& to) {
-    title_ = to.recoded(title_, from);
-    subDirectory_ = to.recoded(subDirectory_, from);
-    savedState_.recode(from, to);
+void PageTurner::recode(Recoding& recoding) {
+    recoding.add(title_);
+    recoding.add(subDirectory_);
+    savedState_.recode(recoding);
 }
 
 void PageTurner::releaseHeldPages() {

@@ -48,7 +48,7 @@ public:
     void setNavigator(std::shared_ptr<Navigator> navigator) { navigator_ = std::move(navigator); }
 
     /// Converts the texts that stay when a new document starts between two encodings.
-    void recode(const TextEncoding& from, const TextEncoding& to);
+    void recode(Recoding& recoding);
 
     void setTitle(const OrxString& title) { title_ = title; }
     [[nodiscard]] const OrxString& title() const noexcept { return title_; }

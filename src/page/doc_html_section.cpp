@@ -40,9 +40,9 @@ void DocHtmlSection::clear() {
     record_->testLevel = 0;
 }
 
-void DocHtmlSection::recode(const TextEncoding& from, const TextEncoding& to) {
-    record_->text = to.recoded(record_->text, from);
-    record_->state.recode(from, to);
+void DocHtmlSection::recode(Recoding& recoding) {
+    recoding.add(record_->text);
+    record_->state.recode(recoding);
 }
 
 void DocHtmlSection::insertText(std::string_view html) {

@@ -22,7 +22,7 @@ public:
     /// Removes the text, resets the text state and sets the test level to 0.
     void clear();
     /// Converts its text and its state between two encodings.
-    void recode(const TextEncoding& from, const TextEncoding& to);
+    void recode(Recoding& recoding);
     /// Appends HTML, which is not escaped.
     void insertText(std::string_view html);
     /// Appends a field. An unknown kind appends nothing.

@@ -18,9 +18,9 @@ void DocHtmlTextState::reset() {
     fontOpen = false;
 }
 
-void DocHtmlTextState::recode(const TextEncoding& from, const TextEncoding& to) {
-    styleName = to.recoded(styleName, from);
-    font.name = to.recoded(font.name, from);
+void DocHtmlTextState::recode(Recoding& recoding) {
+    recoding.add(styleName);
+    recoding.add(font.name);
 }
 
 }  // namespace quillmark

@@ -4,7 +4,7 @@
 
 #include "foundation/orx_object.h"
 #include "foundation/orx_string.h"
-#include "platform/text_encoding.h"
+#include "platform/recoding.h"
 
 namespace quillmark {
 
@@ -46,8 +46,7 @@ public:
 
     /// Resets everything but the font.
     void reset();
-    /// Converts the names between two encodings.
-    void recode(const TextEncoding& from, const TextEncoding& to);
+    void recode(Recoding& recoding);
 };
 
 }  // namespace quillmark

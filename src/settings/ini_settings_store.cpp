@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/files/drive_table.h"
 #include "platform/files/file_failure.h"
 #include "platform/files/file_system.h"
 #include "platform/files/read_whole.h"
@@ -56,7 +57,8 @@ public:
         const std::lock_guard lock(mutex_);
         refresh();
         if (state_ == State::unreadable) {
-            return "Cannot read the settings file " + shownName();
+            const OrxString reason = reason_.empty() ? reason_ : ": " + reason_;
+            return "Cannot read the settings file " + shownName() + reason;
         }
         const std::optional<std::size_t> line = ini_.firstUnknownLine();
         if (!line) {
@@ -69,12 +71,15 @@ public:
 private:
     enum class State { unknown, missing, read, unreadable };
 
-    /// The name in the encoding of the caller.
+    /// The name as the system writes it, in the encoding of the caller.
     [[nodiscard]] OrxString shownName() const {
-        return TextEncoding::current().recoded(fileName_, encoding_);
+        const TextEncoding& callers = TextEncoding::current();
+        const TextEncoding& utf8 = TextEncoding::utf8();
+        const TextEncoding::Scope scope(utf8);
+        return callers.fromUtf8(nativePath(utf8.recoded(fileName_, encoding_)));
     }
 
-    /// Reads the file again if it has changed.
+    /// Reads the file again if it has changed. Without memory everything stays as it was.
     void refresh() const {
         const TextEncoding::Scope scope(encoding_);
         FileSystem& files = FileSystem::current();
@@ -87,12 +92,16 @@ private:
         }
         const std::optional<std::string> bytes = readWhole(fileName_);
         const bool something = unknown || stamp || files.directoryExists(fileName_);
-        state_ = bytes ? State::read : something ? State::unreadable : State::missing;
         std::string_view text = bytes ? std::string_view(*bytes) : std::string_view();
-        hasByteOrderMark_ = text.starts_with(byteOrderMark);
-        text.remove_prefix(hasByteOrderMark_ ? byteOrderMark.size() : 0);
-        ini_ = IniText(text);
+        const bool isMarked = text.starts_with(byteOrderMark);
+        text.remove_prefix(isMarked ? byteOrderMark.size() : 0);
+        IniText ini(text);
+        std::string reason = bytes ? std::string() : FileFailure::reason();
+        ini_ = std::move(ini);
+        reason_ = std::move(reason);
+        hasByteOrderMark_ = isMarked;
         stamp_ = stamp;
+        state_ = bytes ? State::read : something ? State::unreadable : State::missing;
     }
 
     /// Other processes wait from before the file is read until the new one is in its place.
@@ -112,6 +121,7 @@ private:
         if (!files.rewriteFile(fileName_, text)) {
             return false;
         }
+        state_ = State::unknown;
         stamp_ = files.stamp(fileName_);
         state_ = State::read;
         return true;
@@ -123,6 +133,8 @@ private:
     mutable std::mutex mutex_;
     mutable State state_ = State::unknown;
     mutable IniText ini_;
+    /// The system's reason why the file is unreadable.
+    mutable std::string reason_;
     mutable std::optional<FileStamp> stamp_;
     mutable bool hasByteOrderMark_ = false;
 };

@@ -164,8 +164,19 @@ class HostsTest(unittest.TestCase):
         self.assertEqual(
             ended.stderr,
             "dochtml-register: DllRegisterServer failed with result 0x80040151; "
-            f"the classes are kept in {self.classes}\n",
+            f"the classes are kept in {self.classes}: Not a directory\n",
         )
+
+    def test_tools_report_an_output_that_cannot_be_written(self):
+        for program in ("dochtml-register --version", "dochtml-register --help",
+                        "dochtml-settings get Navig", "dochtml-settings --help"):
+            command = f"'{BUILD}'/bin/{program} >/dev/full; echo $?"
+            ended = subprocess.run(["sh", "-c", command + " >&2"], env=self.environment,
+                                   stderr=subprocess.PIPE, text=True, timeout=60)
+            name = program.split()[0]
+            self.assertEqual(
+                ended.stderr, f"{name}: cannot write the output: No space left on device\n1\n"
+            )
 
     def replay(self):
         out = pathlib.Path(tempfile.mkdtemp(dir=self.work))

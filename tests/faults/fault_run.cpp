@@ -151,15 +151,19 @@ std::size_t FaultRun::prepare(const CallStream& stream, Player player) {
     stream_ = &stream;
     player_ = player;
     calls_ = parseCalls(stream.text);
-    const Outcome outcome = player == Player::tool
-                                ? playTool(AllocationFailure::never, {})
-                                : playDocument(AllocationFailure::never, {}, false);
-    undisturbed_ = outcome.files;
+    if (player == Player::tool) {
+        const Outcome outcome = playTool(AllocationFailure::never, {});
+        undisturbed_ = outcome.files;
+        return outcome.allocations;
+    }
+    undisturbed_ = playDocument(AllocationFailure::never, {}, Then::secondDocument).files;
+    const Outcome outcome = playDocument(AllocationFailure::never, {}, Then::release);
+    released_ = outcome.files;
     return outcome.allocations;
 }
 
 FaultRun::Outcome FaultRun::playDocument(std::size_t position, AllocationFailure::Mode mode,
-                                         bool withSecond) {
+                                         Then then) {
     stage_.clear();
     const StageServices services(stage_);
     Outcome outcome;
@@ -185,17 +189,18 @@ FaultRun::Outcome FaultRun::playDocument(std::size_t position, AllocationFailure
                 // A style sheet that is missing.
             }
         }
-        if (!withSecond) {
+        const bool hasDocument = document != nullptr;
+        if (then == Then::release) {
             document.reset();
         }
         outcome.failureHappened = AllocationFailure::hasHappened();
         outcome.allocations = AllocationFailure::count();
         const UncountedAllocations own;
-        outcome.told = outcome.told || told.told() || document == nullptr;
+        outcome.told = outcome.told || told.told() || !hasDocument;
         outcome.finished = told.finished();
         outcome.files = stage_.written();
     }
-    if (withSecond && document != nullptr) {
+    if (document != nullptr) {
         for (const auto* const calls : {&settling_, &second_}) {
             for (const OwnedCall& call : *calls) {
                 call.play(*document);
@@ -253,28 +258,31 @@ FaultRun::Outcome FaultRun::playTool(std::size_t position, AllocationFailure::Mo
 
 std::string FaultRun::play(std::size_t position, AllocationFailure::Mode mode) {
     if (player_ == Player::tool) {
-        return compare(playTool(position, mode));
+        return compare(playTool(position, mode), undisturbed_);
     }
-    const Outcome outcome = playDocument(position, mode, true);
-    std::string problem = compare(outcome);
+    const Outcome outcome = playDocument(position, mode, Then::secondDocument);
+    if (!outcome.failureHappened) {
+        return compare(playDocument(position, mode, Then::release), released_);
+    }
+    std::string problem = compare(outcome, undisturbed_);
     return problem.empty() && !outcome.second.empty() ? compareSecond(outcome.second) : problem;
 }
 
-std::string FaultRun::compare(const Outcome& outcome) const {
+std::string FaultRun::compare(const Outcome& outcome, const FileTree& undisturbed) {
     if (!outcome.failureHappened) {
         return {};
     }
     if (outcome.escaped) {
         return "std::bad_alloc came out of the driver";
     }
-    const bool complete = outcome.files == undisturbed_;
+    const bool complete = outcome.files == undisturbed;
     if (!outcome.told && !complete) {
         return "something is missing and nothing was told";
     }
     if (outcome.status && *outcome.status != replay::exitFailed && !complete) {
         return "the exit status is " + std::to_string(*outcome.status);
     }
-    for (const auto& [name, bytes] : undisturbed_) {
+    for (const auto& [name, bytes] : undisturbed) {
         const std::string page = name.substr(name.rfind('/') + 1);
         const auto found = outcome.files.find(name);
         if (outcome.finished.contains(page) &&

@@ -39,9 +39,13 @@ private:
     class Told;
     struct Outcome;
 
-    Outcome playDocument(std::size_t position, AllocationFailure::Mode mode, bool withSecond);
+    /// What happens to the object after the calls: the failure continues while it is released, or
+    /// it writes another document.
+    enum class Then { release, secondDocument };
+
+    Outcome playDocument(std::size_t position, AllocationFailure::Mode mode, Then then);
     Outcome playTool(std::size_t position, AllocationFailure::Mode mode);
-    [[nodiscard]] std::string compare(const Outcome& outcome) const;
+    [[nodiscard]] static std::string compare(const Outcome& outcome, const FileTree& undisturbed);
     [[nodiscard]] std::string compareSecond(const FileTree& second);
     [[nodiscard]] const FileTree& secondFrom(std::uint32_t pageNumber);
 
@@ -54,7 +58,10 @@ private:
     const CallStream* stream_ = nullptr;
     std::vector<OwnedCall> calls_;
     Player player_ = Player::driver;
+    /// What the calls leave, and what is there once the object is released too: that closes the
+    /// document.
     FileTree undisturbed_;
+    FileTree released_;
 };
 
 }  // namespace quillmark::testing

@@ -2,12 +2,15 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+#include <memory>
 #include <new>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "contents/entries/contents_entry_list.h"
+#include "driver/doc_html.h"
 #include "driver/links/bookmark_table.h"
 #include "faults/allocation_failure.h"
 #include "foundation/name_table.h"
@@ -19,11 +22,18 @@
 #include "page/links/cached_link.h"
 #include "page/marks/open_marks.h"
 #include "page/marks/splice_text.h"
+#include "replay/input/host_files/image_map_file.h"
+#include "settings/settings_store.h"
+#include "support/installed_file_system.h"
+#include "support/memory_file_system.h"
+#include "support/memory_settings_store.h"
+#include "support/temp_dir.h"
 
 namespace quillmark::testing {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 
 /// A name that needs memory of its own, wherever it is kept.
 std::string longName(int number) {
@@ -276,6 +286,91 @@ TEST(AfterAFailedAllocation, APageThatWasClosedIsEmpty) {
             EXPECT_TRUE(page.isEmpty());
             EXPECT_FALSE(page.hasMarks());
         });
+}
+
+TEST(AfterAFailedAllocation, APictureHasAllItsRegionsOrTheyAreReadAgain) {
+    const TempDir dir;
+    dir.put("maps.json", R"({"a.gif": ["a name", "a target", "1,2,3,4,5,6,7,8"],
+                             "another picture with a long name.gif": ["b", "b", "1,1,2,2"]})");
+    const std::filesystem::path file = dir.nativeFile("maps.json");
+    forEachAllocation([&](std::size_t position) {
+        replay::ImageMapFile maps(file, "maps.json");
+        bool happened = false;
+        {
+            const AllocationFailure failure(position);
+            std::vector<OrxString> regions;
+            try {
+                maps.getRegions("a.gif", regions);
+            } catch (const std::bad_alloc&) {
+                happened = true;
+            }
+        }
+        std::vector<OrxString> regions;
+        maps.getRegions("a.gif", regions);
+        EXPECT_THAT(regions, ElementsAre("a name", "a target", "1,2,3,4,5,6,7,8")) << position;
+        return happened;
+    });
+}
+
+TEST(AfterAFailedAllocation, ADocumentInAnotherEncodingHasTheTitleAndTheHeaderOfTheOneBefore) {
+    MemoryFileSystem files;
+    const InstalledFileSystem installed(files);
+    InstalledSettingsStore settings;
+    settings.set("Html", "Navig", "4");
+    settings.set("Html", "StyleSheet", "");
+    forEachAllocation([&](std::size_t position) {
+        DocHtml document;
+        document.create(u"C:\\out\\a.htm");
+        document.setOption(u"title", u"Gr\u00F6\u00DFen einer l\u00E4ngeren \u00DCbersicht");
+        document.startHeader();
+        document.insertText(u"\u00C4hnliches in jeder Kopfzeile der Seiten");
+        document.endHeader();
+        document.close();
+        document.overrideRegistry(u"Html", u"CharSet", u"UTF-8", 2);
+        bool happened = false;
+        {
+            const AllocationFailure failure(position);
+            document.create(u"C:\\out\\b.htm");
+            happened = AllocationFailure::hasHappened();
+        }
+        document.create(u"C:\\out\\c.htm");
+        document.insertText(u"text");
+        document.close();
+        const std::string page = files.content("C:\\out\\c.htm").value_or("");
+        EXPECT_THAT(page, HasSubstr("Gr\xC3\xB6\xC3\x9F"
+                                    "en einer l\xC3\xA4ngeren"))
+            << position;
+        EXPECT_THAT(page, HasSubstr("\xC3\x84hnliches in jeder")) << position;
+        files.deleteFile("C:\\out\\c.htm");
+        return happened;
+    });
+}
+
+TEST(AfterAFailedAllocation, ASettingsFileIsReadAgain) {
+    MemoryFileSystem files;
+    const InstalledFileSystem installed(files);
+    const OrxString place = "C:\\conf\\settings.ini";
+    forEachAllocation([&](std::size_t position) {
+        files.put(place, "[Html]\nBodyTags=the text of the first version of the file\n");
+        const std::shared_ptr<SettingsStore> store = makeIniSettingsStore(place);
+        static_cast<void>(store->read("Html", "BodyTags"));
+        files.put(place, "\xEF\xBB\xBF[Html]\r\nBodyTags=the text of the second one\r\n");
+        bool happened = false;
+        {
+            const AllocationFailure failure(position);
+            try {
+                static_cast<void>(store->read("Html", "BodyTags"));
+            } catch (const std::bad_alloc&) {
+                happened = true;
+            }
+        }
+        EXPECT_EQ(store->read("Html", "BodyTags"), "the text of the second one") << position;
+        EXPECT_TRUE(store->write("Html", "Navig", "2"));
+        EXPECT_EQ(files.content(place),
+                  "\xEF\xBB\xBF[Html]\r\nBodyTags=the text of the second "
+                  "one\r\nNavig=2\r\n");
+        return happened;
+    });
 }
 
 }  // namespace

@@ -389,5 +389,12 @@ INSTANTIATE_TEST_SUITE_P(
                     NamedMaker{"NotFailing", [] { return std::make_unique<FailingSubject>(); }}),
     [](const auto& subject) { return std::string(subject.param.name); });
 
+#ifndef _WIN32
+INSTANTIATE_TEST_SUITE_P(OfPosix, FileSystemContract,
+                         testing::Values(NamedMaker{
+                             "Confined", [] { return std::make_unique<ConfinedSubject>(); }}),
+                         [](const auto& subject) { return std::string(subject.param.name); });
+#endif
+
 }  // namespace
 }  // namespace quillmark

@@ -13,12 +13,15 @@
 #include <filesystem>
 #include <functional>
 #include <iterator>
+#include <memory>
 #include <string>
 
+#include "platform/files/confinement.h"
 #include "platform/files/file_failure.h"
 #include "platform/files/file_system.h"
 #include "platform/files/sys_directory.h"
 #include "platform/files/sys_file.h"
+#include "support/installed_file_system.h"
 #include "support/temp_dir.h"
 
 namespace quillmark {
@@ -54,6 +57,25 @@ protected:
             const rlimit limit = {bytes, bytes};
             setrlimit(RLIMIT_FSIZE, &limit);
             _exit(body() ? 0 : 1);
+        }
+        int status = -1;
+        EXPECT_EQ(waitpid(child, &status, 0), child);
+        return status;
+    }
+
+    /// Runs `body` as a user who owns "a.htm" and the directory, and may only write the file.
+    [[nodiscard]] int statusOfAnOrdinaryUser(const std::function<bool()>& body) const {
+        constexpr uid_t ordinaryUser = 65534;
+        const bool isRoot = geteuid() == 0;
+        for (const std::string& name : {dir.native(), dir.nativeFile("a.htm")}) {
+            EXPECT_TRUE(!isRoot || chown(name.c_str(), ordinaryUser, ordinaryUser) == 0);
+        }
+        EXPECT_EQ(chmod(dir.nativeFile("a.htm").c_str(), 0200), 0);
+        const pid_t child = fork();
+        if (child == 0) {
+            const bool isOrdinary =
+                !isRoot || (setegid(ordinaryUser) == 0 && seteuid(ordinaryUser) == 0);
+            _exit(isOrdinary && body() ? 0 : 1);
         }
         int status = -1;
         EXPECT_EQ(waitpid(child, &status, 0), child);
@@ -140,6 +162,84 @@ TEST_P(OldPage, IsOverwrittenInADirectoryThatTakesNoNewFile) {
     EXPECT_EQ(write("a.htm", "new"), WriteResult::done);
     ASSERT_EQ(chmod(dir.native().c_str(), 0700), 0);
     EXPECT_EQ(dir.content("a.htm"), "new");
+}
+
+TEST_P(OldPage, IsReplacedWhenItMayBeWrittenButNotRead) {
+    EXPECT_EQ(statusOfAnOrdinaryUser([&] { return write("a.htm", "new") == WriteResult::done; }),
+              0);
+    EXPECT_EQ(dir.content("a.htm"), "new");
+    EXPECT_EQ(permissions("a.htm"), 0200U);
+    EXPECT_EQ(countOfFiles(), 1);
+}
+
+/// A page in the reach of a confined file system.
+class ConfinedPage : public OldPage {
+protected:
+    std::unique_ptr<FileSystem> files =
+        makeConfinedFileSystem({{dir.native()}, {dir.native()}, {}});
+    InstalledFileSystem installed_{*files};
+};
+
+INSTANTIATE_TEST_SUITE_P(OfEverySize, ConfinedPage, ::testing::Values(0, 3, 9000, 300000));
+
+TEST_P(ConfinedPage, IsReplacedAndKeepsItsPermissions) {
+    ASSERT_EQ(chmod(dir.nativeFile("a.htm").c_str(), 0640), 0);
+    for (const std::size_t size : {400000U, 10U, 0U}) {
+        EXPECT_EQ(write("a.htm", std::string(size, 'n')), WriteResult::done);
+        EXPECT_EQ(dir.content("a.htm"), std::string(size, 'n'));
+    }
+    EXPECT_EQ(permissions("a.htm"), 0640U);
+    EXPECT_EQ(countOfFiles(), 1);
+}
+
+TEST_P(ConfinedPage, StaysWhenThePageOrTheCopyDoesNotFit) {
+    const std::string text(500000, 'n');
+    dir.put("large", text);
+    constexpr rlim_t limit = 400000;
+    EXPECT_EQ(statusWithLimit(limit,
+                              [&] {
+                                  return write("a.htm", text) == WriteResult::writeFailed &&
+                                         FileFailure::reason() == "File too large" &&
+                                         write("b.htm", text) == WriteResult::writeFailed;
+                              }),
+              0);
+    EXPECT_EQ(statusWithLimit(limit,
+                              [&] {
+                                  return !SysFile::copy(dir.file("large"), dir.file("a.htm")) &&
+                                         FileFailure::reason() == "File too large";
+                              }),
+              0);
+    EXPECT_EQ(dir.content("a.htm"), old);
+    EXPECT_EQ(countOfFiles(), 2);
+}
+
+TEST_P(ConfinedPage, IsItsOwnCopyAndStaysAsItIs) {
+    ASSERT_EQ(link(dir.nativeFile("a.htm").c_str(), dir.nativeFile("second").c_str()), 0);
+    EXPECT_TRUE(SysFile::copy(dir.file("a.htm"), dir.file("second")));
+    EXPECT_EQ(dir.content("a.htm"), old);
+    // A page with two names is overwritten.
+    EXPECT_EQ(write("second", "new"), WriteResult::done);
+    EXPECT_EQ(dir.content("a.htm"), "new");
+}
+
+TEST_P(ConfinedPage, IsNotWrittenThroughALink) {
+    ASSERT_EQ(symlink("a.htm", dir.nativeFile("link").c_str()), 0);
+    EXPECT_EQ(write("link", "new"), WriteResult::openFailed);
+    EXPECT_EQ(FileFailure::reason(), "Refused");
+    EXPECT_FALSE(SysFile::copy(dir.file("a.htm"), dir.file("link")));
+    EXPECT_EQ(FileFailure::reason(), "Refused");
+    EXPECT_EQ(dir.content("a.htm"), old);
+}
+
+TEST_P(ConfinedPage, HasAReasonWhenItCannotBeWritten) {
+    EXPECT_EQ(write("none\\a.htm", "new"), WriteResult::openFailed);
+    EXPECT_EQ(FileFailure::reason(), "No such file or directory");
+    ASSERT_EQ(mkfifo(dir.nativeFile("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(write("pipe", "new"), WriteResult::openFailed);
+    EXPECT_EQ(FileFailure::reason(), "Not a regular file");
+    FileFailure::forget();
+    EXPECT_FALSE(SysDirectory::create(dir.file("a.htm\\below")));
+    EXPECT_EQ(FileFailure::reason(), "Not a directory");
 }
 
 TEST_F(WholePage, HasThePermissionsThatTheUserGivesNewFiles) {

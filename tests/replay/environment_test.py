@@ -42,10 +42,11 @@ class Environment(unittest.TestCase):
         self.assertEqual(self.play("TOOL - </"), refused)
 
     def test_answers_that_cannot_be_written_are_reported(self):
-        failed = (1, "dochtml-replay: cannot write the output\n")
-        self.assertEqual(self.play("TOOL calls >/dev/full"), failed)
-        self.assertEqual(self.play("TOOL calls >&-"), failed)
-        self.assertEqual(self.play("TOOL --help >/dev/full"), failed)
+        failed = "dochtml-replay: cannot write the output: "
+        full = (1, failed + "No space left on device\n")
+        self.assertEqual(self.play("TOOL calls >/dev/full"), full)
+        self.assertEqual(self.play("TOOL calls >&-"), (1, failed + "Bad file descriptor\n"))
+        self.assertEqual(self.play("TOOL --help >/dev/full"), full)
 
     def test_a_trace_that_cannot_be_written_is_reported_once(self):
         failed = (1, "dochtml-replay: Error writing to file: /dev/full: No space left on device\n")
@@ -82,7 +83,10 @@ class Environment(unittest.TestCase):
         self.store.mkdir()
         status, errors = self.play("TOOL calls")
         self.assertEqual(status, 2)
-        self.assertRegex(errors, "Cannot read the settings file ")
+        self.assertEqual(
+            errors,
+            f"dochtml-replay: Cannot read the settings file {self.store}: Not a regular file\n",
+        )
 
     def test_an_unknown_setting_is_reported_and_does_no_harm(self):
         status, errors = self.play("TOOL --set Html.Navigg=2 calls")
@@ -148,7 +152,7 @@ class Environment(unittest.TestCase):
 
     def test_answers_that_nobody_reads_are_reported(self):
         status, errors = self.play("{ sleep 0.3; TOOL calls; echo $? >status; } | true; cat status >&2")
-        self.assertEqual(errors, "dochtml-replay: cannot write the output\n1\n")
+        self.assertEqual(errors, "dochtml-replay: cannot write the output: Broken pipe\n1\n")
         self.assertTrue((self.work / "rep_dtl.htm").exists())
 
     def test_a_killed_run_leaves_at_most_the_page_in_hand(self):

@@ -138,6 +138,16 @@ TEST_F(ConfinedTool, LeavesItsDirectoryByNoSettingAndNoSubdirectory) {
     EXPECT_FALSE(exists("secret/docs"));
 }
 
+TEST_F(ConfinedTool, CountsARefusedCopyOnce) {
+    dir_.put("out\\own.txt", "not to be read");
+    const ToolResult result = play("[\"insertXref\",\"x\",\"" + native("out/own.txt") + "\"]\n");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.errors, HasSubstr(refusal("read " + native("out/own.txt"))));
+    EXPECT_THAT(result.errors,
+                HasSubstr("Could not copy file out/own.txt to directory out/docs: Refused\n"));
+    EXPECT_THAT(result.errors, HasSubstr(", 1 error\n"));
+}
+
 TEST_F(ConfinedTool, WritesNoTraceThatTheCallsName) {
     const ToolResult result =
         play("[\"overrideRegistry\",\"Log\",\"LogName\",\"" + native("secret/trace.txt") +

@@ -62,9 +62,9 @@ TEST_F(ReplayToolDrives, RefusesADamagedSettingsFileOnADrive) {
     const ToolResult result = run({"--drive", "C=disk", "--settings", "C:\\store.ini", "-"},
                                   "[\"create\",\"rep.htm\"]\n[\"close\"]\n");
     EXPECT_EQ(result.status, 2);
-    EXPECT_EQ(result.errors,
-              "dochtml-replay: Line 2 of the settings file C:\\store.ini is neither a section nor "
-              "a setting\n");
+    EXPECT_EQ(result.errors, "dochtml-replay: Line 2 of the settings file " +
+                                 native("disk/store.ini") +
+                                 " is neither a section nor a setting\n");
     EXPECT_FALSE(exists("rep_dtl.htm"));
 }
 

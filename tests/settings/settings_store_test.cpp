@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/files/drive_table.h"
 #include "support/failing_file_system.h"
 #include "support/installed_file_system.h"
 #include "support/memory_file_system.h"
@@ -110,16 +111,15 @@ TEST_F(IniStore, RejectsAValueThatAnIniFileCannotHold) {
 
 TEST_F(IniStore, ReportsTheDamagedLine) {
     put("[Html]\nNavig=1\n\x01\x02garbage\n");
-    EXPECT_EQ(store->problem(),
-              "Line 3 of the settings file C:\\conf\\quillmark\\settings.ini is "
-              "neither a section nor a setting");
+    EXPECT_EQ(store->problem(), "Line 3 of the settings file " + nativePath(place) +
+                                    " is neither a section nor a setting");
     EXPECT_EQ(store->read("Html", "Navig"), "1");
 }
 
 TEST_F(IniStore, ReportsThatItsFileCannotBeReadAndDoesNotOverwriteIt) {
     put("[Html]\nNavig=1\n");
     files.failAll(Operation::openForReading);
-    EXPECT_EQ(store->problem(), "Cannot read the settings file C:\\conf\\quillmark\\settings.ini");
+    EXPECT_EQ(store->problem(), "Cannot read the settings file " + nativePath(place));
     EXPECT_EQ(store->read("Html", "Navig"), std::nullopt);
     EXPECT_FALSE(store->write("Html", "Navig", "3"));
     EXPECT_EQ(text(), "[Html]\nNavig=1\n");
@@ -137,13 +137,13 @@ TEST_F(IniStore, DoesNotMistakeHalfAFileForAllOfIt) {
     EXPECT_TRUE(store->write("Html", "TOCLevel", "5"));
     files.failAt(Operation::read, 2);
     put(whole);
-    EXPECT_EQ(store->problem(), "Cannot read the settings file C:\\conf\\quillmark\\settings.ini");
+    EXPECT_EQ(store->problem(), "Cannot read the settings file " + nativePath(place));
     EXPECT_EQ(store->problem(), "");
 }
 
 TEST_F(IniStore, ReportsADirectoryInItsPlace) {
     memory.makeDirectories(place);
-    EXPECT_EQ(store->problem(), "Cannot read the settings file C:\\conf\\quillmark\\settings.ini");
+    EXPECT_EQ(store->problem(), "Cannot read the settings file " + nativePath(place));
     EXPECT_FALSE(store->write("Html", "Navig", "3"));
 }
 

@@ -16,6 +16,7 @@
 
 #include "foundation/ascii.h"
 #include "platform/files/posix/descriptor_io.h"
+#include "platform/files/posix/noted.h"
 #include "platform/posix/home_directory.h"
 
 namespace quillmark {
@@ -125,12 +126,16 @@ std::optional<std::string_view> keyPathIn(std::string_view line) noexcept {
 std::optional<std::string> contentOf(const std::filesystem::path& file) {
     struct stat status {};
     if (stat(file.c_str(), &status) != 0) {
-        return errno == ENOENT || errno == ENOTDIR ? std::optional<std::string>("") : std::nullopt;
+        const bool isMissing = noted(errno == ENOENT || errno == ENOTDIR);
+        return isMissing ? std::optional<std::string>("") : std::nullopt;
     }
     // Reading from a pipe or a device may never end.
-    const Descriptor in =
-        S_ISREG(status.st_mode) ? descriptor_io::openFile(file.c_str(), O_RDONLY) : Descriptor();
-    if (!in.isOpen()) {
+    if (!S_ISREG(status.st_mode)) {
+        FileFailure::noteNotRegular();
+        return std::nullopt;
+    }
+    const Descriptor in = descriptor_io::openFile(file.c_str(), O_RDONLY);
+    if (!noted(in.isOpen())) {
         return std::nullopt;
     }
     std::string content;
@@ -139,7 +144,7 @@ std::optional<std::string> contentOf(const std::filesystem::path& file) {
     while ((size = descriptor_io::readSome(in, piece)) > 0) {
         content.append(piece.data(), static_cast<std::size_t>(size));
     }
-    return size == 0 ? std::optional(std::move(content)) : std::nullopt;
+    return noted(size == 0) ? std::optional(std::move(content)) : std::nullopt;
 }
 
 bool isSection(std::string_view line) noexcept {
@@ -244,10 +249,11 @@ bool writeClassFile(const std::filesystem::path& file, const KeyTree& root) {
     std::ofstream out(next, std::ios::trunc);
     writeAll(out, root, commentsOf(*before));
     out.close();
-    if (out) {
+    if (noted(out.good())) {
         std::filesystem::rename(next, file, error);
     }
     if (!out || error) {
+        FileFailure::note(error.value());
         std::filesystem::remove(next, error);
         return false;
     }

@@ -4,6 +4,7 @@
 #include <sys/file.h>
 
 #include "platform/files/posix/descriptor_io.h"
+#include "platform/files/posix/noted.h"
 #include "platform/files/posix/uninterrupted.h"
 
 namespace quillmark {
@@ -23,6 +24,6 @@ bool lock(const Descriptor& file) noexcept {
 
 ClassFileLock::ClassFileLock(const std::filesystem::path& classFile)
     : file_(descriptor_io::openFile(lockFileOf(classFile).c_str(), O_RDWR | O_CREAT)),
-      isHeld_(lock(file_)) {}
+      isHeld_(noted(file_.isOpen() && lock(file_))) {}
 
 }  // namespace quillmark

@@ -37,10 +37,10 @@ void OutputRouter::freeSections() noexcept {
     footer_.wasOpened = false;
 }
 
-void OutputRouter::recode(const TextEncoding& from, const TextEncoding& to) {
-    bodyState_.recode(from, to);
-    header_.section->recode(from, to);
-    footer_.section->recode(from, to);
+void OutputRouter::recode(Recoding& recoding) {
+    bodyState_.recode(recoding);
+    header_.section->recode(recoding);
+    footer_.section->recode(recoding);
 }
 
 void OutputRouter::makeCurrent(SectionMode mode) noexcept {

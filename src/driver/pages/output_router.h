@@ -58,7 +58,7 @@ public:
     /// Makes the body current. Afterwards there are no sections.
     void freeSections() noexcept;
     /// Converts the names in the text states, and the sections, between two encodings.
-    void recode(const TextEncoding& from, const TextEncoding& to);
+    void recode(Recoding& recoding);
 
     /// Makes the body current for its lifetime, then the section that was open before.
     class BodyScope {

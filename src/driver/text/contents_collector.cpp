@@ -15,9 +15,9 @@ void ContentsCollector::reset() noexcept {
     tocAnchorCount_ = 0;
 }
 
-void ContentsCollector::recode(const TextEncoding& from, const TextEncoding& to) {
-    tocAnchor_ = to.recoded(tocAnchor_, from);
-    tocText_ = to.recoded(tocText_, from);
+void ContentsCollector::recode(Recoding& recoding) {
+    recoding.add(tocAnchor_);
+    recoding.add(tocText_);
 }
 
 void ContentsCollector::openAnchor() {

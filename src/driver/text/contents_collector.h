@@ -21,7 +21,7 @@ public:
         : out_(out), bookmarks_(bookmarks) {}
 
     /// Converts the texts that stay when a new document starts between two encodings.
-    void recode(const TextEncoding& from, const TextEncoding& to);
+    void recode(Recoding& recoding);
     /// Starts a new document. An open entry stays open.
     void reset() noexcept;
     /// Ends the open entry without adding it.

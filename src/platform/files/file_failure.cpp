@@ -1,5 +1,6 @@
 #include "platform/files/file_failure.h"
 
+#include <algorithm>
 #include <system_error>
 
 namespace quillmark {
@@ -8,6 +9,7 @@ namespace {
 
 constexpr int nothing = 0;
 constexpr int notRegular = -1;
+constexpr int refused = -2;
 
 thread_local int firstReason = nothing;
 
@@ -27,6 +29,14 @@ void FileFailure::noteNotRegular() noexcept {
     note(notRegular);
 }
 
+void FileFailure::noteRefused() noexcept {
+    note(refused);
+}
+
+void FileFailure::passOn() noexcept {
+    setSystemError(std::max(firstReason, nothing));
+}
+
 bool FileFailure::isNoted() noexcept {
     return firstReason != nothing;
 }
@@ -41,6 +51,9 @@ std::string FileFailure::reason() {
     }
     if (firstReason == notRegular) {
         return "Not a regular file";
+    }
+    if (firstReason == refused) {
+        return refusal;
     }
     std::string text = std::system_category().message(firstReason);
     text.erase(text.find_last_not_of(" \r\n.") + 1);

@@ -19,15 +19,25 @@ public:
     static void note(int systemError) noexcept;
     /// Notes that a name is that of a pipe, a device or a directory where a file is needed.
     static void noteNotRegular() noexcept;
+    /// Notes that a confined file system refuses a file.
+    static void noteRefused() noexcept;
 
     [[nodiscard]] static bool isNoted() noexcept;
     /// True if what was noted only says that there is no such file.
     [[nodiscard]] static bool isMissingFile() noexcept;
     /// The reason in the system's words, without a line end. Empty if none is noted.
     [[nodiscard]] static std::string reason();
+    /// The reason after `noteRefused`. A host was told of the refusal itself.
+    static constexpr const char* refusal = "Refused";
+    /// Passes the system's number on to a caller outside of this module, in the system's own place
+    /// for it (`errno` or `GetLastError()`). 0 if none is noted.
+    static void passOn() noexcept;
 
     /// True for the error of a name that no file has.
     [[nodiscard]] static bool meansMissing(int systemError) noexcept;
+
+private:
+    static void setSystemError(int systemError) noexcept;
 };
 
 }  // namespace quillmark

@@ -53,10 +53,12 @@ bool InputBuffer::fill() {
     // pipe is not delayed.
     std::size_t count = 0;
     if (input_.peek() != std::istream::traits_type::eof()) {
-        const auto room = static_cast<std::streamsize>(bytes_.size() - end_ - 1);
+        // With a very long line the buffer may have room for all that follows it, too.
+        const std::size_t room = std::min(bytes_.size() - end_ - 1, firstSize);
+        const auto wanted = static_cast<std::streamsize>(room);
         const std::streamsize ready = std::max<std::streamsize>(input_.rdbuf()->in_avail(), 1);
         count = static_cast<std::size_t>(
-            input_.rdbuf()->sgetn(bytes_.data() + end_, std::min(ready, room)));
+            input_.rdbuf()->sgetn(bytes_.data() + end_, std::min(ready, wanted)));
     }
     end_ += count;
     bytes_.data()[end_] = '\0';

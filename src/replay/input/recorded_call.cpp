@@ -158,6 +158,8 @@ std::string parseRecorded(std::string_view line, const RecordedOperation& what,
     std::string_view inner = line.substr(what.arguments);
     inner.remove_suffix(callEnd.size());
     bool fine = true;
+    // The texts of the call before may be very long.
+    texts = {};
     call.argumentCount = what.operation->parameters.size();
     switch (what.form) {
         case RecordedForm::plain:

@@ -1,6 +1,7 @@
 #include "replay/input/recording_reader.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 namespace quillmark::replay {
@@ -11,8 +12,8 @@ namespace {
 constexpr std::size_t farEnough = std::size_t{1} << 20U;
 
 /// Removes the carriage returns of line ends. Some systems write them into logs; the driver wrote
-/// line feeds only.
-void keepLineFeedsAlone(std::string& text) {
+/// line feeds only. Returns what is left of the text.
+std::span<char> keepLineFeedsAlone(std::span<char> text) noexcept {
     std::size_t to = 0;
     for (std::size_t from = 0; from < text.size(); ++from) {
         const bool pair = text[from] == '\r' && from + 1 < text.size() && text[from + 1] == '\n';
@@ -20,7 +21,7 @@ void keepLineFeedsAlone(std::string& text) {
             text[to++] = text[from];
         }
     }
-    text.resize(to);
+    return text.first(to);
 }
 
 std::size_t countLines(std::string_view text) {
@@ -143,7 +144,7 @@ ReadResult RecordingReader::malformed(std::string problem) {
 bool RecordingReader::looksForeign() {
     const std::string_view rest = input_.view();
     const std::size_t first = rest.find_first_not_of(" \t\r\n");
-    return recorded_.empty() && first != std::string_view::npos &&
+    return !hasCalls_ && first != std::string_view::npos &&
            (rest[first] == '{' || rest[first] == '#');
 }
 
@@ -163,15 +164,17 @@ ReadResult RecordingReader::readCall(Call& call) {
         return malformed("the call of " + name + " is not complete");
     }
     carriageReturns_ = extent->size == extent->textSize ? carriageReturns_ : extent->carriageReturn;
-    recorded_ = input_.view().substr(0, extent->textSize);
-    if (carriageReturns_) {
-        keepLineFeedsAlone(recorded_);
-    }
     nextLine_ += countLines(input_.view().substr(0, extent->size));
+    // The line stays in the input's buffer: a copy of a very long one would cost too much.
+    std::span<char> text = input_.unread().first(extent->textSize);
+    if (carriageReturns_) {
+        text = keepLineFeedsAlone(text);
+    }
     input_.drop(extent->size);
+    hasCalls_ = true;
     call.operation = what->operation;
-    call.recorded = recorded_;
-    std::string problem = parseRecorded(recorded_, *what, texts_, call);
+    call.recorded = {text.data(), text.size()};
+    std::string problem = parseRecorded(call.recorded, *what, texts_, call);
     return problem.empty() ? ReadResult::call : malformed(std::move(problem));
 }
 

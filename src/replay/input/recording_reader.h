@@ -45,12 +45,12 @@ private:
 
     InputBuffer& input_;
     RecordedTexts texts_;
-    std::string recorded_;
     std::string problem_;
     std::size_t line_ = 0;
     std::size_t nextLine_ = 1;
     bool carriageReturns_ = false;
     bool inReport_ = false;
+    bool hasCalls_ = false;
 };
 
 }  // namespace quillmark::replay

@@ -1,7 +1,6 @@
-#include <cstdio>
 #include <iostream>
-#include <new>
 
+#include "command_line/program.h"
 #include "platform/console.h"
 #include "replay/play/loaded_component.h"
 #include "replay/tool/messages.h"
@@ -9,11 +8,9 @@
 
 namespace {
 
-int runProgram(int argc, char** argv) {
+int runReplay(int argc, char** argv) {
     using quillmark::Console;
     std::ios::sync_with_stdio(false);
-    Console::readInputAsBytes();
-    Console::reportFailedWrites();
     quillmark::replay::Messages messages(std::cerr, false);
     quillmark::replay::LoadedComponent component(
         Console::executablePath(), [&messages](const std::string& warning) {
@@ -32,11 +29,5 @@ int runProgram(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    try {
-        return runProgram(argc, argv);
-    } catch (const std::bad_alloc&) {
-        // Needs no memory: standard error has no buffer.
-        std::fputs("dochtml-replay: out of memory\n", stderr);
-        return quillmark::replay::exitFailed;
-    }
+    return quillmark::runProgram("dochtml-replay", argc, argv, &runReplay);
 }

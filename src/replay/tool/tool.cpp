@@ -6,11 +6,13 @@
 #include <new>
 #include <system_error>
 
+#include "command_line/program.h"
 #include "command_line/scoped_drives.h"
 #include "command_line/utf8_path.h"
 #include "foundation/surrogates.h"
 #include "foundation/utf8.h"
 #include "platform/files/drive_table.h"
+#include "platform/files/file_failure.h"
 #include "platform/text_encoding.h"
 #include "replay/input/bad_input.h"
 #include "replay/input/inputs.h"
@@ -183,7 +185,10 @@ private:
 
     Player::Listeners listeners() {
         return {[this](WideText answer) {
-                    environment_.output << utf8::fromUtf16(answer) << '\n' << std::flush;
+                    if (outputProblem_.empty()) {
+                        environment_.output << utf8::fromUtf16(answer) << '\n';
+                        outputProblem_ = outputProblem(environment_.output);
+                    }
                 },
                 [this](std::size_t line, const std::string& how) {
                     ++errors_;
@@ -260,8 +265,11 @@ private:
     }
 
     void checkOutput() {
-        if (!environment_.output.flush()) {
-            reportError("cannot write the output");
+        if (outputProblem_.empty()) {
+            outputProblem_ = outputProblem(environment_.output);
+        }
+        if (!outputProblem_.empty()) {
+            reportError(outputProblem_);
         }
         if (exceptionFile_ && !exceptionFile_->close()) {
             reportExceptionFile();
@@ -273,9 +281,10 @@ private:
         messages_.write(current_->name + ":" + std::to_string(line) + ": " + what);
     }
 
-    /// Reports a failure in the driver's words. Callbacks of the driver may not throw.
+    /// Reports a failure in the driver's words. Callbacks of the driver may not throw. What follows
+    /// from a refusal is not one more error.
     void reportDriver(std::string_view what, std::string_view reason) {
-        ++errors_;
+        errors_ += reason == FileFailure::refusal ? 0 : 1;
         write(shown_.message(what, reason));
     }
 
@@ -339,6 +348,8 @@ private:
     std::shared_ptr<ProvidedServices> provided_;
     const Inputs::Input* current_ = nullptr;
     std::size_t failedBefore_ = failedCallbacks;
+    /// Why an answer could not be written; empty if all were.
+    std::string outputProblem_;
     std::size_t errors_ = 0;
     std::size_t charactersLost_ = 0;
     std::size_t unknownSettings_ = 0;
@@ -359,12 +370,11 @@ int runTool(std::span<const std::string> arguments, const ReplayEnvironment& env
             environment.output << toolName << ' ' << DOCHTML_VERSION << '\n'
                                << environment.describeComponent() << '\n';
         }
-        if (!environment.output.flush()) {
-            Messages(environment.errors, false)
-                .write(std::string(toolName) + ": cannot write the output");
-            return exitFailed;
+        const std::string problem = outputProblem(environment.output);
+        if (!problem.empty()) {
+            Messages(environment.errors, false).write(std::string(toolName) + ": " + problem);
         }
-        return exitDone;
+        return problem.empty() ? exitDone : exitFailed;
     } catch (const std::bad_alloc&) {
         Messages(environment.errors, false).write(outOfMemory);
         return exitFailed;

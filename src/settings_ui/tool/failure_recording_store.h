@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -23,12 +24,18 @@ public:
                              const OrxString& value) override;
     [[nodiscard]] OrxString problem() const override { return store_->problem(); }
 
-    /// "GROUP.NAME" of each failed write, in order.
-    [[nodiscard]] const std::vector<OrxString>& failures() const noexcept { return failures_; }
+    struct Failure {
+        /// "GROUP.NAME".
+        OrxString setting;
+        /// The system's reason; empty if it gave none.
+        std::string reason;
+    };
+    /// The failed writes, in order.
+    [[nodiscard]] const std::vector<Failure>& failures() const noexcept { return failures_; }
 
 private:
     std::shared_ptr<SettingsStore> store_;
-    std::vector<OrxString> failures_;
+    std::vector<Failure> failures_;
 };
 
 }  // namespace quillmark

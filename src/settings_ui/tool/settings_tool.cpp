@@ -5,6 +5,7 @@
 
 #include "command_line/bad_usage.h"
 #include "command_line/default_install_dir.h"
+#include "command_line/program.h"
 #include "command_line/scoped_drives.h"
 #include "platform/files/drive_table.h"
 #include "platform/text_encoding.h"
@@ -54,8 +55,9 @@ ToolStatus runCommand(const ToolOptions& options, const SettingsToolEnvironment&
     const std::string place = placeOf(options);
     const bool accepted =
         SettingsCommands(*store, defaults->directory(), place, environment).run(options);
-    for (const OrxString& name : store->failures()) {
-        report(environment.errors, "cannot write " + name.str() + " to " + place);
+    for (const auto& [setting, reason] : store->failures()) {
+        report(environment.errors, "cannot write " + setting.str() + " to " + place +
+                                       (reason.empty() ? "" : ": " + reason));
     }
     const bool kept = store->failures().empty();
     return accepted && kept ? ToolStatus::done : ToolStatus::failed;
@@ -88,12 +90,11 @@ ToolStatus runSettingsTool(std::span<const std::string> arguments,
         report(environment.errors, usage.what());
         environment.errors << "Try dochtml-settings --help.\n";
     }
-    environment.out.flush();
-    if (!environment.out) {
-        report(environment.errors, "cannot write the output");
+    if (const std::string problem = outputProblem(environment.out); !problem.empty()) {
+        report(environment.errors, problem);
         return ToolStatus::failed;
     }
-    return status;
+    return environment.errors ? status : ToolStatus::failed;
 }
 
 }  // namespace quillmark

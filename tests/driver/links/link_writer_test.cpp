@@ -91,6 +91,13 @@ TEST_F(AbsoluteLinks, AreFileUrlsAndCopyNothing) {
     EXPECT_FALSE(isWritten("C:\\out\\docs\\a.doc"));
 }
 
+TEST_F(AbsoluteLinks, GiveARelativeNameTheAddressOfTheFile) {
+    files.put("C:\\home\\docs\\a.doc", "doc");
+    ASSERT_TRUE(files.setCurrentDirectory("C:\\home"));
+    EXPECT_EQ(linkTo(u"docs\\a.doc"), "<A HREF=\"file:///C|/home/docs/a.doc\">x</A>");
+    EXPECT_EQ(linkTo(u"docs\\..\\docs/a.doc"), "<A HREF=\"file:///C|/home/docs/a.doc\">x</A>");
+}
+
 TEST_F(AbsoluteLinks, LeaveBookmarksRelative) {
     doc().insertTag(u"target");
     EXPECT_EQ(linkTo(u"target"), "<a name=\"target\"></a><A HREF=\"rep.htm#target\">x</A>");

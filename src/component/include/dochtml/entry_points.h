@@ -16,7 +16,8 @@ extern "C" {
 HRESULT STDAPICALLTYPE DllGetClassObject(REFCLSID classId, REFIID iid, void** object);
 /* Returns `S_OK` when no object of the library and no lock on it is alive, else `S_FALSE`. */
 HRESULT STDAPICALLTYPE DllCanUnloadNow(void);
-/* Write and remove the registration by which hosts find the classes. */
+/* Write and remove the registration by which hosts find the classes. After a failure `errno` is the
+ * system's reason, or 0 if there is none. */
 HRESULT STDAPICALLTYPE DllRegisterServer(void);
 HRESULT STDAPICALLTYPE DllUnregisterServer(void);
 

@@ -1,13 +1,16 @@
-#include <exception>
+#include <cerrno>
 #include <filesystem>
 #include <iostream>
 #include <sstream>
+#include <stdexcept>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "command_line/bad_usage.h"
 #include "command_line/installed_files.h"
 #include "command_line/option_parser.h"
+#include "command_line/program.h"
 #include "component/client/shared_library.h"
 #include "component/posix/class_file.h"
 #include "dochtml/client.h"
@@ -20,7 +23,7 @@
 namespace quillmark {
 namespace {
 
-enum ExitStatus { exitDone = 0, exitFailed = 1, exitBadUsage = 2 };
+enum ExitStatus { exitDone = 0, exitBadUsage = 2 };
 
 struct Options {
     bool unregister = false;
@@ -85,11 +88,16 @@ void callEntryPoint(const std::string& file, const char* name) {
     if (found == nullptr) {
         throw ComponentError(file + " does not export " + name, CO_E_ERRORINDLL);
     }
+    errno = 0;
     const HRESULT result = reinterpret_cast<DochtmlEntryPoint>(found)();
+    const int reason = errno;
     if (FAILED(result)) {
         std::ostringstream words;
         words << name << " failed with result 0x" << std::hex << static_cast<unsigned>(result)
               << "; the classes are kept in " << classFilePath().string();
+        if (reason != 0) {
+            words << ": " << std::generic_category().message(reason);
+        }
         throw ComponentError(words.str(), result);
     }
 }
@@ -109,18 +117,22 @@ void run(const std::vector<std::string>& arguments) {
     }
 }
 
+int runRegister(int argc, char** argv) {
+    try {
+        run(Console::arguments(argc, argv));
+    } catch (const BadUsage& usage) {
+        std::cerr << "dochtml-register: " << usage.what() << "\nTry dochtml-register --help.\n";
+        return exitBadUsage;
+    }
+    if (const std::string problem = outputProblem(std::cout); !problem.empty()) {
+        throw std::runtime_error(problem);
+    }
+    return exitDone;
+}
+
 }  // namespace
 }  // namespace quillmark
 
 int main(int argc, char** argv) {
-    try {
-        quillmark::run(quillmark::Console::arguments(argc, argv));
-        return quillmark::exitDone;
-    } catch (const quillmark::BadUsage& usage) {
-        std::cerr << "dochtml-register: " << usage.what() << "\nTry dochtml-register --help.\n";
-        return quillmark::exitBadUsage;
-    } catch (const std::exception& failure) {
-        std::cerr << "dochtml-register: " << failure.what() << '\n';
-        return quillmark::exitFailed;
-    }
+    return quillmark::runProgram("dochtml-register", argc, argv, &quillmark::runRegister);
 }

@@ -2,6 +2,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <memory>
 #include <mutex>
@@ -12,64 +13,53 @@
 
 #include "platform/files/confinement.h"
 #include "platform/files/drive_table.h"
+#include "platform/files/file_failure.h"
 #include "platform/files/posix/confined_places.h"
 #include "platform/files/posix/descriptor_io.h"
+#include "platform/files/posix/noted.h"
+#include "platform/files/posix/open_files.h"
 #include "platform/files/posix/uninterrupted.h"
 
 namespace quillmark {
 
 namespace {
 
-class ConfinedInputFile final : public InputFile {
-public:
-    explicit ConfinedInputFile(Descriptor file) noexcept : file_(std::move(file)) {}
+/// Notes why there is no file: the place was not reached, or the system's reason.
+void noteFailure(const ConfinedPlace& place) noexcept {
+    FileFailure::note(place.isOpen() || place.failure == 0 ? errno : place.failure);
+}
 
-    std::size_t read(std::span<char> buffer) override {
-        const long taken = descriptor_io::readSome(file_, buffer);
-        failed_ = failed_ || taken < 0;
-        return taken > 0 ? static_cast<std::size_t>(taken) : 0;
-    }
-    bool failed() const override { return failed_; }
-
-private:
-    Descriptor file_;
-    bool failed_ = false;
-};
-
-class ConfinedOutputFile final : public OutputFile {
-public:
-    explicit ConfinedOutputFile(Descriptor file) noexcept : file_(std::move(file)) {}
-
-    bool write(std::span<const std::string_view> pieces) override {
-        return descriptor_io::writeAll(file_, pieces);
-    }
-    bool close() override { return file_.close(); }
-
-private:
-    Descriptor file_;
-};
-
+/// Nothing, without a note, if there is no such file.
 std::optional<struct stat> statusAt(const ConfinedPlace& place) noexcept {
-    struct stat status {};
-    const bool known = place.isOpen() && fstatat(place.parent.number(), place.name.c_str(), &status,
-                                                 AT_SYMLINK_NOFOLLOW) == 0;
-    return known ? std::optional(status) : std::nullopt;
+    errno = ENOENT;
+    std::optional<struct stat> status;
+    if (place.isOpen()) {
+        status = descriptor_io::statusIn(place.parent, place.name.c_str());
+    }
+    const int failure = place.isOpen() || place.failure == 0 ? errno : place.failure;
+    if (!status && !FileFailure::meansMissing(failure)) {
+        FileFailure::note(failure);
+    }
+    return status;
 }
 
 /// Opens a file with content, not a device or a pipe.
 Descriptor openAt(const ConfinedPlace& place, int flags) noexcept {
-    constexpr mode_t readableAndWritable = 0666;
-    if (!place.isOpen()) {
+    errno = ENOENT;
+    Descriptor file;
+    if (place.isOpen()) {
+        file = descriptor_io::openFileIn(place.parent, place.name.c_str(), flags | O_NONBLOCK);
+    }
+    struct stat status {};
+    if (!file.isOpen() || fstat(file.number(), &status) != 0) {
+        noteFailure(place);
         return {};
     }
-    Descriptor file(uninterrupted([&] {
-        return openat(place.parent.number(), place.name.c_str(),
-                      flags | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, readableAndWritable);
-    }));
-    struct stat status {};
-    const bool isFile =
-        file.isOpen() && fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode);
-    return isFile ? std::move(file) : Descriptor();
+    if (!S_ISREG(status.st_mode)) {
+        FileFailure::noteNotRegular();
+        return {};
+    }
+    return file;
 }
 
 class ConfinedFileSystem final : public FileSystem {
@@ -104,7 +94,7 @@ public:
 
     bool copyFile(const OrxString& source, const OrxString& target) override {
         const ConfinedPlace from = writable_.find(nativePath(source));
-        const ConfinedPlace to = place(writable_, target, RefusedAccess::write);
+        ConfinedPlace to = place(writable_, target, RefusedAccess::write);
         const std::optional<struct stat> one = statusAt(from);
         const std::optional<struct stat> other = statusAt(to);
         if (one && other && S_ISREG(one->st_mode) && one->st_dev == other->st_dev &&
@@ -112,7 +102,12 @@ public:
             return true;
         }
         const Descriptor content = openAt(place(readable_, source, RefusedAccess::read), O_RDONLY);
-        return content.isOpen() && to.isOpen() && copyInto(content, to, !other);
+        if (!content.isOpen()) {
+            return false;
+        }
+        WholeFile copy = whole(std::move(to));
+        return copy.isOpen() && noted(descriptor_io::copyAll(content, copy.descriptor())) &&
+               copy.commit();
     }
 
     bool deleteFile(const OrxString& name) override {
@@ -122,7 +117,7 @@ public:
             reportHidden(path, RefusedAccess::write);
             return false;
         }
-        return unlinkat(found.parent.number(), found.name.c_str(), 0) == 0;
+        return noted(descriptor_io::removeIn(found.parent, found.name));
     }
 
     bool makeDirectories(const OrxString& name) override {
@@ -130,9 +125,14 @@ public:
         if (path.empty()) {
             return false;
         }
+        errno = 0;
         const bool made = writable_.makeDirectories(path);
+        const int failure = errno;
         if (!made && (!writable_.contain(path) || writable_.find(path).behindLink)) {
             report(path, RefusedAccess::write);
+            FileFailure::noteRefused();
+        } else if (!made) {
+            FileFailure::note(failure);
         }
         return made;
     }
@@ -155,11 +155,16 @@ public:
 
     std::unique_ptr<InputFile> openForReading(const OrxString& name) override {
         Descriptor file = openAt(place(readable_, name, RefusedAccess::read), O_RDONLY);
-        return file.isOpen() ? std::make_unique<ConfinedInputFile>(std::move(file)) : nullptr;
+        return file.isOpen() ? std::make_unique<OpenInputFile>(std::move(file)) : nullptr;
     }
 
     std::unique_ptr<OutputFile> openForWriting(const OrxString& name) override {
         return output(name, O_TRUNC);
+    }
+
+    std::unique_ptr<OutputFile> openForReplacing(const OrxString& name) override {
+        WholeFile file = whole(place(writable_, name, RefusedAccess::write));
+        return file.isOpen() ? std::make_unique<WholeOutputFile>(std::move(file)) : nullptr;
     }
 
     std::unique_ptr<OutputFile> openForAppending(const OrxString& name) override {
@@ -171,8 +176,8 @@ public:
         const ConfinedPlace to = place(writable_, target, RefusedAccess::write);
         const std::optional<struct stat> status = statusAt(from);
         return status && S_ISREG(status->st_mode) && to.isOpen() &&
-               renameat(from.parent.number(), from.name.c_str(), to.parent.number(),
-                        to.name.c_str()) == 0;
+               noted(renameat(from.parent.number(), from.name.c_str(), to.parent.number(),
+                              to.name.c_str()) == 0);
     }
 
     bool mayStart(const OrxString& program) const override {
@@ -189,10 +194,11 @@ private:
         ConfinedPlace found = places.find(path);
         if (found.behindLink) {
             report(path, access);
+            FileFailure::noteRefused();
             return {};
         }
         if (!path.empty() && !places.contain(path)) {
-            access == RefusedAccess::read ? reportHidden(path) : report(path, access);
+            noteOutside(path, access);
         }
         return found;
     }
@@ -209,25 +215,39 @@ private:
     std::unique_ptr<OutputFile> output(const OrxString& name, int flags) const {
         Descriptor file =
             openAt(place(writable_, name, RefusedAccess::write), O_WRONLY | O_CREAT | flags);
-        return file.isOpen() ? std::make_unique<ConfinedOutputFile>(std::move(file)) : nullptr;
+        return file.isOpen() ? std::make_unique<OpenOutputFile>(std::move(file)) : nullptr;
     }
 
-    static bool copyInto(const Descriptor& content, const ConfinedPlace& to, bool isNew) {
-        Descriptor target = openAt(to, O_WRONLY | O_CREAT | O_TRUNC);
-        const bool copied = target.isOpen() && descriptor_io::copyAll(content, target);
-        const bool done = target.close() && copied;
-        if (!done && isNew) {
-            unlinkat(to.parent.number(), to.name.c_str(), 0);
+    [[nodiscard]] static WholeFile whole(ConfinedPlace place) {
+        if (!place.isOpen()) {
+            noteFailure(place);
+            return {};
         }
-        return done;
+        return WholeFile::openIn(std::move(place.parent), place.name);
     }
 
-    /// Reports a file that is there but must not be used. What is not there is not missed.
-    void reportHidden(const std::string& path, RefusedAccess access = RefusedAccess::read) const {
-        struct stat status {};
-        if (!path.empty() && stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode)) {
+    void noteOutside(const std::string& path, RefusedAccess access) const {
+        if (access == RefusedAccess::read) {
+            if (!reportHidden(path)) {
+                FileFailure::note(ENOENT);
+                return;
+            }
+        } else {
             report(path, access);
         }
+        FileFailure::noteRefused();
+    }
+
+    /// Reports a file that is there but must not be used. False for one that is not there, and is
+    /// not missed.
+    bool reportHidden(const std::string& path, RefusedAccess access = RefusedAccess::read) const {
+        struct stat status {};
+        const bool isThere =
+            !path.empty() && stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+        if (isThere) {
+            report(path, access);
+        }
+        return isThere;
     }
 
     void report(const std::string& path, RefusedAccess access) const {

@@ -128,7 +128,7 @@ ConfinedPlace ConfinedPlaces::find(const std::string& path) const {
     if (!hit) {
         return {};
     }
-    ConfinedPlace place{openDirectory(hit->root->directory, "."), ".", false};
+    ConfinedPlace place{openDirectory(hit->root->directory, "."), ".", false, 0};
     if (!hit->root->onlyFile.empty()) {
         place.name = hit->root->onlyFile;
     }
@@ -136,6 +136,7 @@ ConfinedPlace ConfinedPlaces::find(const std::string& path) const {
         place.name = hit->below[i];
         if (i + 1 < hit->below.size()) {
             Descriptor next = openDirectory(place.parent, place.name);
+            place.failure = next.isOpen() ? 0 : errno;
             place.behindLink = !next.isOpen() && isLink(place.parent, place.name);
             place.parent = std::move(next);
         }

@@ -9,13 +9,14 @@
 namespace quillmark {
 
 /// A file below a directory that is open: its parent, itself open, and its name in that. The name
-/// is
-/// "." for the directory itself.
+/// is "." for the directory itself.
 struct ConfinedPlace {
     Descriptor parent;
     std::string name;
     /// What the place was reached through has a symbolic link in it.
     bool behindLink = false;
+    /// The system's reason if a directory on the way cannot be opened.
+    int failure = 0;
 
     [[nodiscard]] bool isOpen() const noexcept { return parent.isOpen(); }
 };

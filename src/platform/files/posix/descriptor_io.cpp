@@ -3,9 +3,11 @@
 #include <fcntl.h>
 #include <sys/sendfile.h>
 #include <sys/uio.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 
 #include "platform/files/posix/uninterrupted.h"
 
@@ -78,9 +80,39 @@ bool copyThroughBuffer(const Descriptor& source, const Descriptor& target) noexc
 }  // namespace
 
 Descriptor openFile(const char* path, int flags) noexcept {
+    return openFileIn({}, path, flags);
+}
+
+Descriptor openFileIn(const Descriptor& directory, const char* name, int flags) noexcept {
     constexpr mode_t readableAndWritable = 0666;
-    return Descriptor(
-        uninterrupted([&] { return open(path, flags | O_CLOEXEC, readableAndWritable); }));
+    if (!directory.isOpen()) {
+        return Descriptor(
+            uninterrupted([&] { return open(name, flags | O_CLOEXEC, readableAndWritable); }));
+    }
+    return Descriptor(uninterrupted([&] {
+        return openat(directory.number(), name, flags | O_NOFOLLOW | O_CLOEXEC,
+                      readableAndWritable);
+    }));
+}
+
+std::optional<struct stat> statusIn(const Descriptor& directory, const char* name) noexcept {
+    struct stat status {};
+    const bool known = directory.isOpen()
+                           ? fstatat(directory.number(), name, &status, AT_SYMLINK_NOFOLLOW) == 0
+                           : stat(name, &status) == 0;
+    return known ? std::optional(status) : std::nullopt;
+}
+
+bool renameIn(const Descriptor& directory, const std::string& from,
+              const std::string& to) noexcept {
+    const int place = directory.number();
+    return directory.isOpen() ? renameat(place, from.c_str(), place, to.c_str()) == 0
+                              : std::rename(from.c_str(), to.c_str()) == 0;
+}
+
+bool removeIn(const Descriptor& directory, const std::string& name) noexcept {
+    return directory.isOpen() ? unlinkat(directory.number(), name.c_str(), 0) == 0
+                              : unlink(name.c_str()) == 0;
 }
 
 bool writeAll(const Descriptor& file, std::span<const std::string_view> pieces) noexcept {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/files/posix/descriptor_io.h"
+#include "platform/files/posix/noted.h"
 #include "platform/files/posix/uninterrupted.h"
 
 namespace quillmark {
@@ -37,7 +38,9 @@ std::unique_ptr<FileLock> lockDirectoryOf(const std::string& path) {
         return held;
     }
     const std::string beside = path + ".lock";
-    return lock(descriptor_io::openFile(beside.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW));
+    auto held = lock(descriptor_io::openFile(beside.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW));
+    static_cast<void>(noted(held != nullptr));
+    return held;
 }
 
 }  // namespace quillmark

@@ -9,4 +9,8 @@ bool FileFailure::meansMissing(int systemError) noexcept {
     return systemError == ENOENT || systemError == ENOTDIR || systemError == ENAMETOOLONG;
 }
 
+void FileFailure::setSystemError(int systemError) noexcept {
+    errno = systemError;
+}
+
 }  // namespace quillmark

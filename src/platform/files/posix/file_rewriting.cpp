@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "platform/files/posix/descriptor_io.h"
+#include "platform/files/posix/noted.h"
 #include "platform/files/posix/uninterrupted.h"
 
 namespace quillmark::file_rewriting {
@@ -39,7 +40,7 @@ public:
                             mode);
             }));
         }
-        exists_ = file_.isOpen();
+        exists_ = noted(file_.isOpen());
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -51,7 +52,7 @@ public:
 
     [[nodiscard]] const Descriptor& file() const noexcept { return file_; }
     [[nodiscard]] bool replace(const std::string& path) noexcept {
-        const bool done = file_.close() && std::rename(name_.c_str(), path.c_str()) == 0;
+        const bool done = noted(file_.close() && std::rename(name_.c_str(), path.c_str()) == 0);
         exists_ = exists_ && !done;
         return done;
     }
@@ -65,15 +66,15 @@ private:
 /// Gives a file the owner and group of another one.
 bool takeOwner(const Descriptor& file, const struct stat& old) noexcept {
     struct stat own {};
-    if (fstat(file.number(), &own) != 0) {
+    if (!noted(fstat(file.number(), &own) == 0)) {
         return false;
     }
     return (own.st_uid == old.st_uid && own.st_gid == old.st_gid) ||
-           fchown(file.number(), old.st_uid, old.st_gid) == 0;
+           noted(fchown(file.number(), old.st_uid, old.st_gid) == 0);
 }
 
 bool fill(const Descriptor& file, std::string_view content) noexcept {
-    return file.isOpen() && descriptor_io::writeAll(file, std::array{content});
+    return file.isOpen() && noted(descriptor_io::writeAll(file, std::array{content}));
 }
 
 bool create(const std::string& path, std::string_view content) {
@@ -85,7 +86,8 @@ bool replace(const std::string& path, const struct stat& old, std::string_view c
     // The owner comes before the permissions: until then the group is another one.
     TemporaryFile next(path, old.st_mode & ownersPermissions);
     return fill(next.file(), content) && takeOwner(next.file(), old) &&
-           fchmod(next.file().number(), old.st_mode & permissionBits) == 0 && next.replace(path);
+           noted(fchmod(next.file().number(), old.st_mode & permissionBits) == 0) &&
+           next.replace(path);
 }
 
 }  // namespace
@@ -107,14 +109,19 @@ std::optional<std::string> withoutLinks(const std::string& path) {
 bool rewrite(const std::string& path, std::string_view content) {
     const std::optional<std::string> name = withoutLinks(path);
     if (!name) {
+        FileFailure::note(ELOOP);
         return false;
     }
     struct stat old {};
     if (stat(name->c_str(), &old) != 0) {
-        return errno == ENOENT && create(*name, content);
+        return noted(errno == ENOENT) && create(*name, content);
     }
     // A device or a pipe has no content that could be replaced.
-    return S_ISREG(old.st_mode) && replace(*name, old, content);
+    if (!S_ISREG(old.st_mode)) {
+        FileFailure::noteNotRegular();
+        return false;
+    }
+    return replace(*name, old, content);
 }
 
 }  // namespace quillmark::file_rewriting

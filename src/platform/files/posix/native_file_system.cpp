@@ -17,6 +17,8 @@
 #include "platform/files/posix/descriptor_io.h"
 #include "platform/files/posix/directory_lock.h"
 #include "platform/files/posix/file_rewriting.h"
+#include "platform/files/posix/noted.h"
+#include "platform/files/posix/open_files.h"
 #include "platform/files/posix/whole_file.h"
 
 namespace quillmark {
@@ -43,14 +45,6 @@ std::optional<struct stat> statusOf(const Descriptor& file) noexcept {
     }
     FileFailure::note(errno);
     return std::nullopt;
-}
-
-/// Passes the result of a system call on, and notes the reason of a failure.
-bool noted(bool done) noexcept {
-    if (!done) {
-        FileFailure::note(errno);
-    }
-    return done;
 }
 
 bool isDirectory(const std::optional<struct stat>& status) noexcept {
@@ -86,59 +80,9 @@ struct ReadableFile {
     std::optional<struct stat> status;
 };
 
-class NativeInputFile final : public InputFile {
-public:
-    explicit NativeInputFile(Descriptor file) noexcept : file_(std::move(file)) {}
-
-    std::size_t read(std::span<char> buffer) override {
-        const long taken = descriptor_io::readSome(file_, buffer);
-        failed_ = !noted(taken >= 0) || failed_;
-        return taken > 0 ? static_cast<std::size_t>(taken) : 0;
-    }
-    bool failed() const override { return failed_; }
-
-private:
-    Descriptor file_;
-    bool failed_ = false;
-};
-
-class NativeOutputFile final : public OutputFile {
-public:
-    explicit NativeOutputFile(Descriptor file) noexcept : file_(std::move(file)) {}
-
-    bool write(std::span<const std::string_view> pieces) override {
-        return noted(descriptor_io::writeAll(file_, pieces));
-    }
-    bool close() override { return noted(file_.close()); }
-
-private:
-    Descriptor file_;
-};
-
-/// Output that takes its name whole or not at all.
-class WholeOutputFile final : public OutputFile {
-public:
-    explicit WholeOutputFile(WholeFile file) noexcept : file_(std::move(file)) {}
-
-    bool write(std::span<const std::string_view> pieces) override {
-        failed_ = !noted(descriptor_io::writeAll(file_.descriptor(), pieces)) || failed_;
-        return !failed_;
-    }
-    bool close() override {
-        if (failed_) {
-            file_ = WholeFile();
-        }
-        return !failed_ && file_.commit();
-    }
-
-private:
-    WholeFile file_;
-    bool failed_ = false;
-};
-
 std::unique_ptr<OutputFile> outputFile(const OrxString& name, int flags) {
     Descriptor file = openFile(nativePath(name).c_str(), O_WRONLY | O_CREAT | flags);
-    return noted(file.isOpen()) ? std::make_unique<NativeOutputFile>(std::move(file)) : nullptr;
+    return noted(file.isOpen()) ? std::make_unique<OpenOutputFile>(std::move(file)) : nullptr;
 }
 
 bool makeDirectoryChain(const std::string& path) {
@@ -150,7 +94,7 @@ bool makeDirectoryChain(const std::string& path) {
         const int reason = errno;
         const bool isThere = isDirectory(statusOf(path));
         if (!isThere) {
-            FileFailure::note(reason);
+            FileFailure::note(reason == EEXIST ? ENOTDIR : reason);
         }
         return isThere;
     }
@@ -227,7 +171,7 @@ public:
 
     std::unique_ptr<InputFile> openForReading(const OrxString& name) override {
         ReadableFile file(nativePath(name));
-        return file.isUsable() ? std::make_unique<NativeInputFile>(std::move(file.file)) : nullptr;
+        return file.isUsable() ? std::make_unique<OpenInputFile>(std::move(file.file)) : nullptr;
     }
 
     std::unique_ptr<OutputFile> openForWriting(const OrxString& name) override {

@@ -6,7 +6,6 @@
 
 #include <atomic>
 #include <cerrno>
-#include <cstdio>
 #include <filesystem>
 #include <span>
 #include <string_view>
@@ -15,12 +14,16 @@
 
 #include "platform/files/file_failure.h"
 #include "platform/files/posix/descriptor_io.h"
+#include "platform/files/posix/noted.h"
 
 namespace quillmark {
 
 namespace {
 
-using descriptor_io::openFile;
+using descriptor_io::openFileIn;
+using descriptor_io::removeIn;
+using descriptor_io::renameIn;
+using descriptor_io::statusIn;
 
 /// A name in the directory of `target` that no other process or thread uses. It is short, so that
 /// it fits wherever the name of a page fits.
@@ -32,12 +35,6 @@ std::string temporaryNameBeside(const std::string& target) {
 
 bool isSameFile(const struct stat& one, const struct stat& other) noexcept {
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
-}
-
-/// Another file in its place would not have all that this one has.
-bool cannotBeReplaced(const std::string& path, const struct stat& status) noexcept {
-    return status.st_nlink > 1 ||
-           lgetxattr(path.c_str(), "system.posix_acl_access", nullptr, 0) >= 0;
 }
 
 /// The directory takes no new file, but the old one may still be writable.
@@ -78,17 +75,18 @@ bool becomesLike(const struct stat& old, const Descriptor& file) noexcept {
 
 }  // namespace
 
-WholeFile::WholeFile(Descriptor file, std::string written) noexcept
-    : file_(std::move(file)), written_(std::move(written)) {}
+WholeFile::WholeFile(Descriptor directory) noexcept : directory_(std::move(directory)) {}
 
 WholeFile::WholeFile(WholeFile&& other) noexcept
-    : file_(std::move(other.file_)),
+    : directory_(std::move(other.directory_)),
+      file_(std::move(other.file_)),
       written_(std::exchange(other.written_, {})),
       target_(std::exchange(other.target_, {})),
       old_(std::exchange(other.old_, std::nullopt)),
       isSource_(other.isSource_) {}
 
 WholeFile& WholeFile::operator=(WholeFile&& other) noexcept {
+    std::swap(directory_, other.directory_);
     std::swap(file_, other.file_);
     std::swap(written_, other.written_);
     std::swap(target_, other.target_);
@@ -102,101 +100,139 @@ WholeFile::~WholeFile() {
 }
 
 WholeFile WholeFile::open(const std::string& path, const struct stat* source) {
-    // Copied first: nothing may fail between the creation of the file and its owner's.
-    std::string written = path;
-    Descriptor fresh = openFile(path.c_str(), O_WRONLY | O_CREAT | O_EXCL);
-    if (fresh.isOpen()) {
-        return {std::move(fresh), std::move(written)};
-    }
-    if (errno == EEXIST) {
-        return overExisting(path, source);
-    }
-    FileFailure::note(errno);
-    return {};
+    return openIn({}, path, source);
 }
 
-WholeFile WholeFile::overExisting(const std::string& path, const struct stat* source) {
-    struct stat old {};
-    if (stat(path.c_str(), &old) != 0) {
-        if (errno == ENOENT) {
-            return throughLink(path);
-        }
+WholeFile WholeFile::openIn(Descriptor directory, const std::string& name,
+                            const struct stat* source) {
+    WholeFile file(std::move(directory));
+    file.start(name, source);
+    return file;
+}
+
+void WholeFile::start(const std::string& name, const struct stat* source) {
+    // Copied first: nothing may fail between the creation of the file and its owner's.
+    std::string written = name;
+    file_ = openFileIn(directory_, name.c_str(), O_WRONLY | O_CREAT | O_EXCL);
+    if (file_.isOpen()) {
+        written_ = std::move(written);
+    } else if (errno == EEXIST) {
+        startOverExisting(name, source);
+    } else {
         FileFailure::note(errno);
-        return {};
     }
-    if (source != nullptr && isSameFile(old, *source)) {
-        WholeFile same;
-        same.isSource_ = true;
-        return same;
+}
+
+void WholeFile::startOverExisting(const std::string& name, const struct stat* source) {
+    const std::optional<struct stat> old = statusIn(directory_, name.c_str());
+    if (!old) {
+        if (errno == ENOENT && !directory_.isOpen()) {
+            startThroughLink(name);
+        } else {
+            FileFailure::note(errno);
+        }
+        return;
+    }
+    if (source != nullptr && isSameFile(*old, *source)) {
+        isSource_ = true;
+        return;
     }
     // Checked before opening, since opening a device or a pipe has side effects.
-    if (!S_ISREG(old.st_mode)) {
+    if (!S_ISREG(old->st_mode)) {
         FileFailure::noteNotRegular();
-        return {};
+        return;
     }
-    std::error_code failure;
-    if (old.st_size <= largestInPlace) {
-        return inPlace(path, source);
+    if (old->st_size > largestInPlace || !startInPlace(name, source)) {
+        startReplacing(name, *old);
     }
-    const std::string target = std::filesystem::canonical(path, failure).string();
-    return failure || cannotBeReplaced(target, old) ? inPlace(path, source) : beside(target, old);
 }
 
 /// Creates the file that a link leads to.
-WholeFile WholeFile::throughLink(const std::string& path) {
-    Descriptor created = openFile(path.c_str(), O_WRONLY | O_CREAT);
-    if (!created.isOpen()) {
-        FileFailure::note(errno);
-        return {};
+void WholeFile::startThroughLink(const std::string& name) {
+    Descriptor created = openFileIn(directory_, name.c_str(), O_WRONLY | O_CREAT);
+    if (!noted(created.isOpen())) {
+        return;
     }
-    std::error_code failure;
-    return {std::move(created), std::filesystem::canonical(path, failure).string()};
+    written_ = withoutLinks(name).value_or(std::string());
+    file_ = std::move(created);
 }
 
-WholeFile WholeFile::beside(const std::string& target, const struct stat& old) {
-    // A file that may not be written is not replaced either.
-    if (faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) {
-        FileFailure::note(errno);
-        return {};
+void WholeFile::startReplacing(const std::string& name, const struct stat& old) {
+    const std::optional<std::string> target = withoutLinks(name);
+    const bool replaced = target && !cannotBeReplaced(*target, old) && startBeside(*target, old);
+    if (!replaced && !startInPlace(target.value_or(name), nullptr)) {
+        FileFailure::note(EACCES);
     }
+}
+
+/// False if only overwriting is left.
+bool WholeFile::startBeside(const std::string& target, const struct stat& old) {
+    // A file that may not be written is not replaced either.
+    const int from = directory_.isOpen() ? directory_.number() : AT_FDCWD;
+    if (!noted(faccessat(from, target.c_str(), W_OK, AT_EACCESS) == 0)) {
+        return true;
+    }
+    std::string taken = target;
     std::string name = temporaryNameBeside(target);
-    Descriptor temporary = openFile(name.c_str(), O_WRONLY | O_CREAT | O_EXCL);
-    if (!temporary.isOpen()) {
+    file_ = openFileIn(directory_, name.c_str(), O_WRONLY | O_CREAT | O_EXCL);
+    if (!file_.isOpen()) {
         if (onlyOverwritingIsLeft(errno)) {
-            return inPlace(target, nullptr);
+            return false;
         }
         FileFailure::note(errno);
-        return {};
+        return true;
     }
-    WholeFile result(std::move(temporary), std::move(name));
-    if (!becomesLike(old, result.file_)) {
-        return inPlace(target, nullptr);
+    written_ = std::move(name);
+    if (!becomesLike(old, file_)) {
+        discard();
+        return false;
     }
-    result.target_ = target;
-    return result;
+    target_ = std::move(taken);
+    return true;
 }
 
-WholeFile WholeFile::inPlace(const std::string& target, const struct stat* source) {
+/// False if the old bytes may not be read.
+bool WholeFile::startInPlace(const std::string& target, const struct stat* source) {
     std::string written = target;
-    Descriptor file = openFile(target.c_str(), O_RDWR | O_NONBLOCK);
+    Descriptor file = openFileIn(directory_, target.c_str(), O_RDWR | O_NONBLOCK);
+    if (!file.isOpen() && errno == EACCES) {
+        return false;
+    }
     struct stat status {};
-    if (!file.isOpen() || fstat(file.number(), &status) != 0) {
-        FileFailure::note(errno);
-        return {};
+    if (!noted(file.isOpen() && fstat(file.number(), &status) == 0)) {
+        return true;
     }
     // Compared once more, now as opened, because the source must not be overwritten.
     if (!S_ISREG(status.st_mode) || (source != nullptr && isSameFile(status, *source))) {
         FileFailure::noteNotRegular();
-        return {};
+        return true;
     }
     std::optional<std::string> old = bytesOf(file, status.st_size);
-    if (!old) {
-        FileFailure::note(errno);
-        return {};
+    if (noted(old.has_value())) {
+        file_ = std::move(file);
+        written_ = std::move(written);
+        old_ = std::move(old);
     }
-    WholeFile result(std::move(file), std::move(written));
-    result.old_ = std::move(old);
-    return result;
+    return true;
+}
+
+/// The name of the file itself, which in an open directory is no link.
+std::optional<std::string> WholeFile::withoutLinks(const std::string& name) const {
+    if (directory_.isOpen()) {
+        return name;
+    }
+    std::error_code failure;
+    const std::filesystem::path found = std::filesystem::canonical(name, failure);
+    return failure ? std::nullopt : std::optional(found.string());
+}
+
+/// Another file in its place would not have all that this one has.
+bool WholeFile::cannotBeReplaced(const std::string& name, const struct stat& status) const {
+    const std::string path =
+        directory_.isOpen() ? "/proc/self/fd/" + std::to_string(directory_.number()) + "/" + name
+                            : name;
+    return status.st_nlink > 1 ||
+           lgetxattr(path.c_str(), "system.posix_acl_access", nullptr, 0) >= 0;
 }
 
 bool WholeFile::cutOldRest() const noexcept {
@@ -215,8 +251,7 @@ bool WholeFile::commit() noexcept {
         discard();
         return false;
     }
-    const bool done =
-        file_.close() && (target_.empty() || std::rename(written_.c_str(), target_.c_str()) == 0);
+    const bool done = file_.close() && (target_.empty() || renameIn(directory_, written_, target_));
     if (done) {
         written_.clear();
     } else {
@@ -228,7 +263,7 @@ bool WholeFile::commit() noexcept {
 
 bool WholeFile::restoreOld() noexcept {
     if (!file_.isOpen()) {
-        file_ = openFile(written_.c_str(), O_WRONLY | O_NONBLOCK);
+        file_ = openFileIn(directory_, written_.c_str(), O_WRONLY | O_NONBLOCK);
     }
     const std::string_view bytes = *old_;
     const bool done = file_.isOpen() && lseek(file_.number(), 0, SEEK_SET) == 0 &&
@@ -239,7 +274,7 @@ bool WholeFile::restoreOld() noexcept {
 
 void WholeFile::discard() noexcept {
     if (!written_.empty() && !(old_ && restoreOld())) {
-        unlink(written_.c_str());
+        removeIn(directory_, written_);
     }
     static_cast<void>(file_.close());
     written_.clear();

@@ -17,4 +17,8 @@ bool FileFailure::meansMissing(int systemError) noexcept {
     return std::ranges::find(missing, static_cast<DWORD>(systemError)) != missing.end();
 }
 
+void FileFailure::setSystemError(int systemError) noexcept {
+    SetLastError(static_cast<DWORD>(systemError));
+}
+
 }  // namespace quillmark

@@ -1,6 +1,7 @@
 #include "replay/input/host_files/image_map_file.h"
 
 #include <string>
+#include <utility>
 
 #include "replay/input/bad_input.h"
 #include "replay/input/host_files/json_file.h"
@@ -34,17 +35,19 @@ ImageMapFile::ImageMapFile(const std::filesystem::path& file, std::string_view s
 }
 
 const ImageMapFile::Pictures& ImageMapFile::picturesIn(const TextEncoding& encoding) {
-    Pictures& known = encoded_[&encoding];
-    if (known.empty()) {
-        for (const auto& [name, texts] : pictures_) {
-            std::vector<OrxString>& converted = known[encoding.fromUtf8(name)];
-            converted.clear();
-            for (const OrxString& text : texts) {
-                converted.push_back(encoding.fromUtf8(text));
-            }
+    if (const auto known = encoded_.find(&encoding); known != encoded_.end()) {
+        return known->second;
+    }
+    Pictures converted;
+    for (const auto& [name, texts] : pictures_) {
+        std::vector<OrxString>& list = converted[encoding.fromUtf8(name)];
+        list.clear();
+        for (const OrxString& text : texts) {
+            list.push_back(encoding.fromUtf8(text));
         }
     }
-    return known;
+    // Without memory for all of them none is known.
+    return encoded_.emplace(&encoding, std::move(converted)).first->second;
 }
 
 void ImageMapFile::getRegions(const OrxString& picture, std::vector<OrxString>& regions) {
