@@ -260,9 +260,9 @@ TEST_F(PlayerTest, AcceptsEveryNameAfterAnOverrideThatAsksForUtf8) {
     EXPECT_TRUE(playStream(utf8 +
                            "[\"create\",\"\\u4e2d\"]\n[\"insertText\",\"\\u4e2d\"]\n[\"new\"]\n"
                            "[\"create\",\"\\u4e2d\"]\n"));
-    EXPECT_THAT(stage_.calls,
-                ElementsAre("overrideRegistry(\"Html\",\"CharSet\",\"UTF-8\",2)",
-                            "create(\"\\start\\\u4e2d\")", "insertText(\"\u4e2d\")", "gone"));
+    EXPECT_THAT(stage_.calls, ElementsAre("overrideRegistry(\"Html\",\"CharSet\",\"UTF-8\",2)",
+                                          "create(\"\\start\\\u4e2d\")", "insertText(\"\u4e2d\")",
+                                          "gone", "gone"));
     EXPECT_EQ(refusals_.size(), 1U) << "the override ended with its object";
 }
 
