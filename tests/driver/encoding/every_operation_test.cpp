@@ -272,6 +272,18 @@ TEST_F(EveryOperation, FramePagesLinkToTheirFiles) {
     });
 }
 
+TEST_F(EveryOperation, ArrowsLinkToTheNeighbours) {
+    html("Navig", "2");
+    forEveryText([&] {
+        open(u"C:\\out\\" + text + u"%#?.htm");
+        doc().insertPageBreak();
+        doc().insertText(u"x");
+        doc().close();
+        EXPECT_THAT(out(utf8 + "%#?.htm"), HasSubstr("<A HREF=\"./" + link + "%25%23%3F2.htm\">"));
+        EXPECT_THAT(out(utf8 + "%#?2.htm"), HasSubstr("<A HREF=\"./" + link + "%25%23%3F.htm\">"));
+    });
+}
+
 TEST_F(EveryOperation, TheLogAndTheExceptionLogKeepTheirTexts) {
     forEveryText([&] {
         setting("Log", "LogName", "C:\\logs\\" + utf8 + ".txt");

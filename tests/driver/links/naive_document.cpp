@@ -169,7 +169,7 @@ String NaiveDocument::wayTo(const String& file, const String& base) const {
 }
 
 String NaiveDocument::relativeReference(const Bookmark& bookmark, const String& name,
-                                                const Page& page) const {
+                                        const Page& page) const {
     return wayTo(bookmark.pageFile, page.file) + U"#" + name;
 }
 
