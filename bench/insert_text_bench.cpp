@@ -6,15 +6,13 @@
 
 #include "common/bench_settings.h"
 #include "common/measure.h"
+#include "common/open_document.h"
 #include "common/texts.h"
-#include "driver/boundary/operation_table.h"
-#include "driver/doc_html.h"
 
 namespace quillmark::bench {
 
 namespace {
 
-constexpr int insertTextId = 3;
 constexpr std::size_t bytesPerRound = 8'000'000;
 
 char narrowed(char16_t unit) {
@@ -50,15 +48,6 @@ Seconds secondsOfBlockLoop(const std::u16string& text, std::size_t count) {
     });
 }
 
-Seconds secondsOfTable(IDocument& document, const std::u16string& text, std::size_t count) {
-    const std::array<Argument, 1> arguments = {WideText(text)};
-    return secondsOf([&] {
-        for (std::size_t i = 0; i < count; ++i) {
-            benchmark::DoNotOptimize(invoke(document, insertTextId, arguments));
-        }
-    });
-}
-
 Seconds secondsOfInterface(IDocument& document, const std::u16string& text, std::size_t count) {
     return secondsOf([&] {
         for (std::size_t i = 0; i < count; ++i) {
@@ -66,16 +55,6 @@ Seconds secondsOfInterface(IDocument& document, const std::u16string& text, std:
         }
     });
 }
-
-/// A document without contents pages, open for text, that is never finished.
-class OpenDocument {
-public:
-    OpenDocument() { document_.create((freshDirectory(Place::memory) / "report.htm").u16string()); }
-    IDocument& operator*() { return document_; }
-
-private:
-    DocHtml document_;
-};
 
 void insertText(benchmark::State& state, const std::u16string& text, double goal) {
     const SettingsInForce settings({{"Navig", "4"}});

@@ -1,8 +1,11 @@
 // A host's session becomes a document set in memory; whatever the session is, nothing may crash,
 // leak or run away, and nothing but the driver's own exception may come out.
 
+#include <algorithm>
 #include <string_view>
 
+#include "foundation/ascii.h"
+#include "foundation/utf8.h"
 #include "support/byte_source.h"
 #include "support/call_lines.h"
 #include "support/line_mutator.h"
@@ -24,6 +27,27 @@ void checkNavigators(const MemoryFileSystem& files) {
         if (name.ends_with(set)) {
             const NavigatorFiles written(files, name.substr(0, name.size() - set.size() + 5));
             written.checkAll();
+        }
+    }
+}
+
+/// Whether all of the session's documents are in UTF-8: it asks for that first, and never again.
+bool isInUtf8(std::string_view session) {
+    constexpr std::string_view start = "set\tHtml.CharSet\tUTF-8\n";
+    constexpr std::string_view name = "charset";
+    const std::string_view rest = session.substr(std::min(start.size(), session.size()));
+    const auto again = std::ranges::search(rest, name, {}, ascii::toLower<char>);
+    return session.starts_with(start) && again.empty();
+}
+
+/// The driver's own pages have whole characters. A session may bring files with any bytes.
+void checkCharacters(const MemoryFileSystem& files) {
+    constexpr std::string_view head = "CONTENT=\"text/html; charset=utf-8\">\n";
+    for (const std::string& name : files.fileNames()) {
+        const std::string bytes = files.content(name).value_or("");
+        utf8::Check check;
+        if (bytes.starts_with("<!DOCTYPE") && bytes.find(head) != std::string::npos) {
+            require(check.take(bytes) && check.isComplete(), "a page has whole characters");
         }
     }
 }
@@ -61,6 +85,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     session.play(textOf(data, size));
     session.finish();
     checkNavigators(session.files());
+    if (isInUtf8(textOf(data, size))) {
+        checkCharacters(session.files());
+    }
     require(session.files().openFiles() == 0, "every file is closed");
     return 0;
 }

@@ -1,16 +1,17 @@
 #include "common/texts.h"
 
-#include <array>
-
 namespace quillmark::bench {
 
 std::u16string words(std::size_t count) {
-    constexpr std::array vocabulary = {u"every", u"class", u"of",      u"the", u"model", u"keeps",
-                                       u"its",   u"own",   u"account", u"of",  u"what",  u"passes"};
+    return wordsOf(count, {u"every", u"class", u"of", u"the", u"model", u"keeps", u"its", u"own",
+                           u"account", u"of", u"what", u"passes"});
+}
+
+std::u16string wordsOf(std::size_t count, std::initializer_list<std::u16string_view> vocabulary) {
     std::u16string text;
     for (std::size_t i = 0; i < count; ++i) {
         text += i == 0 ? u"" : u" ";
-        text += vocabulary[i * i % vocabulary.size()];
+        text += vocabulary.begin()[i * i % vocabulary.size()];
     }
     return text + u".";
 }

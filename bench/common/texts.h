@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -8,6 +9,9 @@ namespace quillmark::bench {
 
 /// A paragraph of that many words, always the same for the same number.
 [[nodiscard]] std::u16string words(std::size_t count);
+/// The same of other words.
+[[nodiscard]] std::u16string wordsOf(std::size_t count,
+                                     std::initializer_list<std::u16string_view> vocabulary);
 
 /// The prefix with the number behind it.
 [[nodiscard]] std::u16string numbered(const char16_t* prefix, std::size_t number);

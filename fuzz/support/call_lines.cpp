@@ -29,7 +29,9 @@ std::string madeText(Random& random) {
         "Html", "Settings", "Log", "true", "false", "2", "C:\\\\out\\\\r.htm", "C:\\\\out\\\\s.htm",
         "<a href=\"#GUID-1\">x</a>", "<B>bold</B>", "&amp;&#233;", "caf\xC3\xA9", "\\ud800x",
         "\xE6\x9D\xB1\xE4\xBA\xAC", "Arial", "Courier New", "#target", "r_dtl2.htm", "a\\r\\nb",
-        "OrderLine", "\"quoted\"", "page.doc", "C:\\\\in\\\\page.doc"};
+        "OrderLine", "\"quoted\"", "page.doc", "C:\\\\in\\\\page.doc",
+        "UTF-8", "\\ud83d\\ud83d\\ude00", "\\ude00\\ud83d", "\xD7\xA9\xD7\x9C", "cafe\xCC\x81",
+        "100%#?"};
     // clang-format on
     return oneOf(random, texts);
 }
@@ -61,7 +63,8 @@ std::string madeSetting(Random& random) {
                                           "sub",
                                           "BGCOLOR=\"#ffffff\"",
                                           "C:\\\\in\\\\icons.zip",
-                                          "C:\\\\out\\\\log.txt"};
+                                          "C:\\\\out\\\\log.txt",
+                                          "UTF-8"};
     const SettingDescription& setting = allSettings()[below(random, allSettings().size())];
     std::string value = oneOf(random, values);
     if (setting.type == SettingType::boolean) {

@@ -124,57 +124,54 @@ char16_t* decodeStrictly(std::string_view utf8, char16_t* out,
                   [](char16_t* /*out*/) noexcept -> char16_t* { return nullptr; });
 }
 
-void append(std::string& out, char32_t point) {
-    const auto put = [&out](char32_t byte) { out.push_back(static_cast<char>(byte)); };
-    if (point < 0x80) {
-        put(point);
-    } else if (point < 0x800) {
-        put(0xC0U | (point >> 6U));
-        put(0x80U | (point & 0x3FU));
-    } else if (point < 0x10000) {
-        put(0xE0U | (point >> 12U));
-        put(0x80U | ((point >> 6U) & 0x3FU));
-        put(0x80U | (point & 0x3FU));
-    } else {
-        put(0xF0U | (point >> 18U));
-        put(0x80U | ((point >> 12U) & 0x3FU));
-        put(0x80U | ((point >> 6U) & 0x3FU));
-        put(0x80U | (point & 0x3FU));
-    }
-}
-
 namespace {
 
-/// The code point at `pos`, which is beyond ASCII; moves `pos` past it.
-char32_t takePoint(std::u16string_view text, std::size_t& pos) noexcept {
-    const char32_t unit = text[pos++];
-    if (!surrogates::isAny(unit)) {
-        return unit;
-    }
-    if (surrogates::isHigh(unit) && pos < text.size() && surrogates::isLow(text[pos])) {
-        return 0x10000U + ((unit - 0xD800U) << 10U) + (char32_t{text[pos++]} - 0xDC00U);
-    }
-    return replacement;
+char toByte(char32_t byte) noexcept {
+    return static_cast<char>(static_cast<unsigned char>(byte));
 }
 
-char* writeBeyondAscii(char* out, char32_t point) noexcept {
-    const auto put = [&out](char32_t byte) { *out++ = static_cast<char>(byte); };
-    if (point < 0x800) {
-        put(0xC0U | (point >> 6U));
-    } else {
-        if (point < 0x10000) {
-            put(0xE0U | (point >> 12U));
-        } else {
-            put(0xF0U | (point >> 18U));
-            put(0x80U | ((point >> 12U) & 0x3FU));
-        }
-        put(0x80U | ((point >> 6U) & 0x3FU));
+/// Writes one to four bytes, and returns their end.
+char* writePoint(char* out, char32_t point) noexcept {
+    if (point < 0x80) {
+        out[0] = toByte(point);
+        return out + 1;
     }
-    put(0x80U | (point & 0x3FU));
-    return out;
+    const char last = toByte(0x80U | (point & 0x3FU));
+    if (point < 0x800) {
+        out[0] = toByte(0xC0U | (point >> 6U));
+        out[1] = last;
+        return out + 2;
+    }
+    const char lastButOne = toByte(0x80U | ((point >> 6U) & 0x3FU));
+    if (point < 0x10000) {
+        out[0] = toByte(0xE0U | (point >> 12U));
+        out[1] = lastButOne;
+        out[2] = last;
+        return out + 3;
+    }
+    out[0] = toByte(0xF0U | (point >> 18U));
+    out[1] = toByte(0x80U | ((point >> 12U) & 0x3FU));
+    out[2] = lastButOne;
+    out[3] = last;
+    return out + 4;
+}
+
+/// Takes the pair or the lone surrogate at the front of `text` off it.
+char32_t takeSurrogates(std::u16string_view& text) noexcept {
+    const std::size_t length = surrogates::firstLength(text);
+    const char32_t point = length == 1 ? replacement
+                                       : 0x10000U + ((char32_t{text[0]} - 0xD800U) << 10U) +
+                                             (char32_t{text[1]} - 0xDC00U);
+    text.remove_prefix(length);
+    return point;
 }
 
 }  // namespace
+
+void append(std::string& out, char32_t point) {
+    std::array<char, 4> bytes{};
+    out.append(bytes.data(), writePoint(bytes.data(), point));
+}
 
 std::string fromUtf16(std::u16string_view text) {
     std::string utf8;
@@ -191,11 +188,12 @@ void append(std::string& out, std::u16string_view text) {
     // A unit needs at most three bytes; a pair, which is two units, needs four.
     out.resize(start + 3 * text.size());
     char* target = out.data() + start;
-    for (std::size_t pos = 0; pos < text.size();) {
-        if (text[pos] < 0x80) {
-            *target++ = static_cast<char>(text[pos++]);
+    while (!text.empty()) {
+        if (surrogates::isAny(text.front())) {
+            target = writePoint(target, takeSurrogates(text));
         } else {
-            target = writeBeyondAscii(target, takePoint(text, pos));
+            target = writePoint(target, text.front());
+            text.remove_prefix(1);
         }
     }
     out.resize(static_cast<std::size_t>(target - out.data()));

@@ -8,7 +8,8 @@ namespace quillmark {
 class AppProfileInterface {
 public:
     virtual ~AppProfileInterface() = default;
-    /// The path to use instead of the name "Veltrano.ini".
+    /// The path to use instead of the name "Veltrano.ini", in the 8-bit code page. A document in
+    /// UTF-8 takes a path that is valid UTF-8 as such.
     [[nodiscard]] virtual OrxString profilePath() const = 0;
 
     /// The installed profile, or null.

@@ -38,6 +38,9 @@ public:
         return "text/html; iso-8859-1";
     }
     [[nodiscard]] OrxString inLink(OrxString path) const override { return path; }
+    [[nodiscard]] const TextEncoding& ofText(std::string_view /*bytes*/) const override {
+        return *this;
+    }
     [[nodiscard]] const TextEncoding& ofFile(const OrxString& /*name*/) const override {
         return *this;
     }
@@ -93,6 +96,10 @@ public:
             }
         }
         return link;
+    }
+    [[nodiscard]] const TextEncoding& ofText(std::string_view bytes) const override {
+        utf8::Check check;
+        return check.take(bytes) && check.isComplete() ? *this : codePage();
     }
     [[nodiscard]] const TextEncoding& ofFile(const OrxString& name) const override {
         return isUtf8File(name) ? *this : codePage();

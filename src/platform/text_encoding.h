@@ -69,7 +69,10 @@ public:
     /// bytes outside ASCII, "%", "#" and "?". A path in the code page stays as it is.
     [[nodiscard]] virtual OrxString inLink(OrxString path) const = 0;
 
-    /// The encoding of a text file that a document in this encoding includes. A document in UTF-8
+    /// The encoding of a text from a side that does not know the document. A document in UTF-8
+    /// takes what is valid UTF-8 as such, and anything else as a text in the code page.
+    [[nodiscard]] virtual const TextEncoding& ofText(std::string_view bytes) const = 0;
+    /// The same for a text file that a document in this encoding includes. A document in UTF-8
     /// reads the file to find out.
     [[nodiscard]] virtual const TextEncoding& ofFile(const OrxString& name) const = 0;
     /// Whether a byte begins a character. Only the others may follow it.

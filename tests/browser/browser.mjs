@@ -36,15 +36,16 @@ export function launch(...furtherFlags) {
 const contentTypes = {
   '.htm': 'text/html',
   '.css': 'text/css',
+  '.js': 'text/javascript',
   '.gif': 'image/gif',
   '.JPG': 'image/jpeg',
   '.txt': 'text/plain',
 };
 
-async function answer(request, response) {
+async function answer(directory, request, response) {
   const path = decodeURIComponent(new URL(request.url, 'http://set').pathname);
   try {
-    const bytes = await readFile(join(setDirectory, normalize(path)));
+    const bytes = await readFile(join(directory, normalize(path)));
     response.writeHead(200, { 'Content-Type': contentTypes[extname(path)] ?? 'application/octet-stream' });
     response.end(bytes);
   } catch {
@@ -56,9 +57,9 @@ async function answer(request, response) {
 
 // The two ways to read a document set. Each gives the address of the set and a way to end it.
 export const ways = {
-  disk: async () => ({ address: pathToFileURL(setDirectory).href, close: () => {} }),
-  server: async () => {
-    const server = createServer(answer);
+  disk: async (directory = setDirectory) => ({ address: pathToFileURL(directory).href, close: () => {} }),
+  server: async (directory = setDirectory) => {
+    const server = createServer((request, response) => answer(directory, request, response));
     await new Promise((listening) => server.listen(0, '127.0.0.1', listening));
     return {
       address: `http://127.0.0.1:${server.address().port}`,

@@ -6,6 +6,7 @@ The native tool is built below the build directory, unless DOCHTML_NATIVE_BUILD 
 has it. Both run with the same arguments: the drive C: is the prefix's for the one and a directory
 (--drive) for the other, and streams are named from there."""
 
+import json
 import os
 import pathlib
 import shutil
@@ -19,6 +20,33 @@ import document_set
 BUILD, SOURCE, CMAKE = map(pathlib.Path, sys.argv[1:4])
 SETTINGS = ["--install-dir", "C:\\support", "--set", "Settings.UserFilesDir=C:\\support"]
 MANUAL = [*SETTINGS, "--settings", "C:\\manual.ini", "--ini", "C:\\manual.ini"]
+
+# Texts of several scripts, half a surrogate pair, and every kind of file.
+UTF8_CALLS = [
+    ["setOption", "title", "注文の概要 – Обзор"],
+    ["startFooter"],
+    ["insertText", "سعر"],
+    ["endFooter"],
+    ["setStyle", "Heading 1"],
+    ["insertText", "Größe żółw"],
+    ["insertEndl"],
+    ["setStyle", "Normal"],
+    ["insertXref", "→ 価格", "GUID-価格"],
+    ["pushDirectory", "注文 #1\\Цена"],
+    ["insertPageBreak"],
+    ["setStyle", "Heading 1"],
+    ["insertTag", "GUID-価格"],
+    ["insertText", "価格 👨‍👩‍👧 \ud83d"],
+    ["insertEndl"],
+    ["setStyle", "Normal"],
+    ["insertXref", "nowhere", "GUID-どこにもない"],
+    ["insertImage", "C:\\report\\図 Größe#.gif", ""],
+    ["insertXref", "メモ", "C:\\report\\メモ 100%.txt"],
+    ["insertFile", "C:\\report\\メモ 100%.txt", 3],
+    ["insertFile", "C:\\report\\8-bit.txt", 3],
+    ["close"],
+]
+IMAGE_MAPS = {"C:\\report\\図 Größe#.gif": ["価格", "GUID-価格", "0,0,9,0,9,9"]}
 
 
 def native_build():
@@ -167,6 +195,46 @@ class ReplayTest(unittest.TestCase):
         for name, content in files.items():
             if not is_text(name):
                 self.assertEqual(again[1][name], content, name)
+
+    def furnish_utf8(self):
+        """Inputs with names and texts that no 8-bit code page holds together."""
+        calls = [["create", "C:\\out\\報告 żółw%#.htm"], *UTF8_CALLS]
+        for drive in self.drives.values():
+            shutil.copy(SOURCE / "support" / "pix" / "backON.gif", drive / "report" / "図 Größe#.gif")
+            (drive / "report" / "メモ 100%.txt").write_bytes("全部 ąęß\r\n".encode())
+            (drive / "report" / "8-bit.txt").write_bytes(b"Gr\xf6\xdfe\n")
+            (drive / "report" / "地図.json").write_text(json.dumps(IMAGE_MAPS), encoding="utf-8")
+            stream = "".join(json.dumps(call) + "\n" for call in calls)
+            (drive / "report" / "utf8.jsonl").write_text(stream, encoding="utf-8")
+
+    def test_document_in_utf8_and_its_recording(self):
+        self.furnish_utf8()
+        utf8 = [*SETTINGS, "--set", "Html.CharSet=UTF-8", "--image-maps", "report/地図.json"]
+        utf8 += ["--set", "Html.BodyTags=ID='価'", "--set", "Html.Navig=1"]
+        utf8 += ["--set", "Html.ScriptNavigator=true", "--ini", "C:\\report\\設定.ini"]
+        status, files = self.check(
+            *utf8, "--trace", "11", "--log", "C:\\log\\記録.log", "report/utf8.jsonl"
+        )
+        self.assertEqual(status, 0, files["errors.said"])
+        names = [
+            "報告 żółw%#_dtl.htm",
+            "注文 #1/Цена/報告 żółw%#_dtl2.htm",
+            "報告 żółw%#_toc.dat",
+            "pix/図 Größe#.gif",
+            "docs/メモ 100%.txt",
+            "記録.log",
+        ]
+        self.assertEqual([name for name in names if name not in files], [])
+        page = files["注文 #1/Цена/報告 żółw%#_dtl2.htm"].decode("utf-8")
+        for text in ["charset=utf-8", "価格 👨‍👩‍👧 \ufffd", "全部 ąęß", "Größe", "ID='価'"]:
+            self.assertIn(text, page)
+        for drive in self.drives.values():
+            (drive / "report" / "recorded.txt").write_bytes(files["記録.log"])
+        again = self.check(*utf8, "report/recorded.txt")
+        self.assertEqual(again[0], 0, again[1]["errors.said"])
+        # A recording has no calls of pushDirectory, so its pages are all in one directory.
+        self.assertIn("報告 żółw%#_dtl2.htm", again[1])
+        self.assertEqual(again[1]["pix/図 Größe#.gif"], files["pix/図 Größe#.gif"])
 
     def test_streams_with_faults(self):
         faults = {

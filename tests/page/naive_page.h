@@ -3,27 +3,31 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quillmark::testing {
 
 /// The simplest implementation of a page: a map of lines, a multimap of marks, and an insertion
 /// point. It moves the columns of marks one by one. DocHtmlPage must behave in the same way.
-struct NaivePage {
+/// `Text` is a string of bytes, or of the characters of another encoding.
+template <typename Text>
+struct BasicNaivePage {
+    using Character = typename Text::value_type;
     struct Mark {
         std::uint32_t line = 0;
         std::uint32_t column = 0;  // counted from 1
         std::uint32_t sequence = 0;
-        std::string markup;
+        Text markup;
     };
 
-    std::map<int, std::string> lines;
+    std::map<int, Text> lines;
     int lineCount = 0;
-    std::multimap<std::string, Mark> marks;
+    std::multimap<Text, Mark> marks;
     Mark insertPoint;
     bool insertPointSet = false;
 
-    void append(const std::string& text) {
+    void append(const Text& text) {
         if (lineCount == 0) {
             lineCount = 1;
         }
@@ -32,12 +36,12 @@ struct NaivePage {
             return;
         }
         lines[lineCount] += text;
-        if (text.find('\n') != std::string::npos) {
+        if (text.find(Character{'\n'}) != Text::npos) {
             ++lineCount;
         }
     }
 
-    void addMark(const std::string& name, const std::string& markup) {
+    void addMark(const Text& name, const Text& markup) {
         if (lineCount == 0) {
             lineCount = 1;
         }
@@ -46,7 +50,7 @@ struct NaivePage {
                                  static_cast<std::uint32_t>(marks.size()) + 1, markup});
     }
 
-    bool setInsertPoint(const std::string& name) {
+    bool setInsertPoint(const Text& name) {
         const auto mark = marks.find(name);
         if (mark == marks.end()) {
             return false;
@@ -56,15 +60,15 @@ struct NaivePage {
         return true;
     }
 
-    void resolve(const std::string& name, const std::string& reference) {
-        const std::string href = "HREF=\"" + reference + "\"";
+    void resolve(const Text& name, const Text& reference) {
+        const Text href = ascii("HREF=\"") + reference + ascii("\"");
         for (auto [mark, last] = marks.equal_range(name); mark != last; ++mark) {
-            const std::string markup = mark->second.markup;
+            const Text markup = mark->second.markup;
             insertPoint = mark->second;
             insertPointSet = true;
             if (markup.empty()) {
                 append(href);
-            } else if (const std::size_t hit = markup.find(name); hit != std::string::npos) {
+            } else if (const std::size_t hit = markup.find(name); hit != Text::npos) {
                 append(markup.substr(0, hit));
                 append(href);
                 append(markup.substr(hit + name.size()));
@@ -76,8 +80,8 @@ struct NaivePage {
         insertPointSet = false;
     }
 
-    [[nodiscard]] std::string text() const {
-        std::string all;
+    [[nodiscard]] Text text() const {
+        Text all;
         for (const auto& [number, line] : lines) {
             all += line;
         }
@@ -85,8 +89,10 @@ struct NaivePage {
     }
 
 private:
-    void insert(const std::string& text) {
-        std::string& line = lines[static_cast<int>(insertPoint.line)];
+    static Text ascii(std::string_view text) { return Text(text.begin(), text.end()); }
+
+    void insert(const Text& text) {
+        Text& line = lines[static_cast<int>(insertPoint.line)];
         const std::uint32_t at = insertPoint.column - 1;
         if (at > line.size()) {
             line += text;
@@ -104,5 +110,7 @@ private:
         insertPoint.column += length;
     }
 };
+
+using NaivePage = BasicNaivePage<std::string>;
 
 }  // namespace quillmark::testing

@@ -55,6 +55,16 @@ TEST(TextEncoding, RecodesBetweenDocuments) {
     EXPECT_EQ(utf8.fromUtf8("a\xFF"), "a\xEF\xBF\xBD");
 }
 
+TEST(TextEncoding, OfATextThatDoesNotKnowTheDocumentIsUtf8WhereItIsValid) {
+    const TextEncoding& utf8 = TextEncoding::utf8();
+    EXPECT_EQ(&utf8.ofText("\xC3\xA4"), &utf8);
+    EXPECT_EQ(&utf8.ofText(""), &utf8);
+    for (const char* const text : {"\xE4", "\xC3", "\xED\xA0\x80", "\xC0\x80"}) {
+        EXPECT_EQ(&utf8.ofText(text), &TextEncoding::codePage()) << text;
+    }
+    EXPECT_EQ(&TextEncoding::codePage().ofText("\xC3\xA4"), &TextEncoding::codePage());
+}
+
 TEST(TextEncoding, EncodesInLinksWhatABrowserNeeds) {
     EXPECT_EQ(TextEncoding::utf8().inLink("a b/\xE4\xBB\xB7%#?&~+.gif"),
               "a b/%E4%BB%B7%25%23%3F&~+.gif");

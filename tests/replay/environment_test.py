@@ -66,6 +66,23 @@ class Environment(unittest.TestCase):
         self.assertRegex(errors, "8-bit code page cannot hold the file name .*/日 \\(--set Html.CharSet=UTF-8 keeps all names\\)\n$")
         self.assertEqual(sorted(path.name for path in self.work.iterdir()), ["calls", "日"])
 
+    def test_documents_in_utf8_hold_every_name(self):
+        place = self.work / "日"
+        place.mkdir()
+        (place / "設定.ini").write_text("[Quillmark]\nUseJavaPre7=TRUE\n")
+        command = "TOOL -q -o 報告.htm --ini 設定.ini ../calls"
+        status, errors = self.play(command, cwd=place)
+        self.assertEqual(status, 2)
+        self.assertIn("--set Html.CharSet=UTF-8 keeps all names", errors)
+        utf8 = command.replace("TOOL", "TOOL --set Html.CharSet=UTF-8")
+        self.assertEqual(self.play(utf8, cwd=place), (0, ""))
+        names = {path.name for path in place.iterdir()}
+        self.assertIn("報告_dtl.htm", names)
+        # For the applet of an old Java there is no file that starts it.
+        self.assertNotIn("toc2.jnlp", names)
+        self.play(utf8.replace("--ini 設定.ini", ""), cwd=place)
+        self.assertTrue((place / "toc2.jnlp").exists())
+
     def test_a_working_directory_that_is_gone_is_refused(self):
         gone = self.work / "gone"
         gone.mkdir()

@@ -16,9 +16,11 @@
 namespace quillmark::replay {
 namespace {
 
+using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
 /// The calls that the documents of a test received, and the trace lines that they write when they
 /// are called.
@@ -251,6 +253,38 @@ TEST_F(PlayerTest, DoesNotRefuseANameThatTheOutputNameReplaces) {
     playStream("[\"create\",\"\\u4e2d\"]\n[\"create\",\"\\u4e2d\"]\n");
     EXPECT_THAT(stage_.calls, ElementsAre("create(\"D:\\b.htm\")", "gone"));
     EXPECT_EQ(refusals_.size(), 1U);
+}
+
+TEST_F(PlayerTest, AcceptsEveryNameAfterAnOverrideThatAsksForUtf8) {
+    const std::string utf8 = "[\"overrideRegistry\",\"Html\",\"CharSet\",\"UTF-8\",2]\n";
+    EXPECT_TRUE(playStream(utf8 +
+                           "[\"create\",\"\\u4e2d\"]\n[\"insertText\",\"\\u4e2d\"]\n[\"new\"]\n"
+                           "[\"create\",\"\\u4e2d\"]\n"));
+    EXPECT_THAT(stage_.calls, ElementsAre("overrideRegistry(\"Html\",\"CharSet\",\"UTF-8\",2)",
+                                          "create(\"\\start\\\u4e2d\")", "insertText(\"\u4e2d\")",
+                                          "gone", "gone"));
+    EXPECT_EQ(refusals_.size(), 1U) << "the override ended with its object";
+}
+
+TEST_F(PlayerTest, CountsNoCharactersLostInUtf8ButHalvesOfPairs) {
+    Player player = makePlayer(false);
+    EXPECT_TRUE(playInto<CallStreamReader>(
+        player,
+        "[\"overrideRegistry\",\"Html\",\"CharSet\",\"UTF-8\",2]\n[\"create\",\"a\"]\n"
+        "[\"insertText\",\"\\u4e2d\\ud83d\\ude00\"]\n[\"insertXref\",\"\\u0100\",\"\\ud800\"]\n"));
+    EXPECT_EQ(player.charactersLost(), 1U);
+}
+
+TEST_F(PlayerTest, SaysOnceThatARecordingIsInAnotherEncoding) {
+    traces("insertText(\"\u4e2d\")");
+    EXPECT_TRUE(
+        playRecording("dochtml->insertText(\"\u4e2d\");\n"
+                      "dochtml->insertText(\"\u4e2d\");\n"));
+    ASSERT_FALSE(divergences_.empty());
+    EXPECT_EQ(divergences_[0],
+              "1: the recording is in UTF-8; it was made with --set Html.CharSet=UTF-8");
+    EXPECT_THAT(std::vector<std::string>(divergences_.begin() + 1, divergences_.end()),
+                Each(Not(HasSubstr("Html.CharSet"))));
 }
 
 TEST_F(PlayerTest, CountsTheCharactersThatTheCodePageLoses) {

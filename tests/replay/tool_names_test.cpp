@@ -58,5 +58,15 @@ TEST_F(ReplayTool, CountsTheCharactersThatPagesLose) {
     EXPECT_THAT(content("rep_dtl.htm"), HasSubstr("?\x80??"));
 }
 
+TEST_F(ReplayTool, NamesTheSettingOnlyForCharactersThatItKeeps) {
+    const std::string calls =
+        "[\"create\",\"rep.htm\"]\n[\"insertText\",\"\u4e2d\\ud800\"]\n[\"close\"]\n";
+    EXPECT_THAT(run({"-"}, calls).errors,
+                HasSubstr("2 characters lost (--set Html.CharSet=UTF-8 keeps all but 1)\n"));
+    EXPECT_THAT(run({"--set", "Html.CharSet=UTF-8", "-"}, calls).errors,
+                HasSubstr("1 character lost\n"));
+    EXPECT_THAT(content("rep_dtl.htm"), HasSubstr("\xE4\xB8\xAD\xEF\xBF\xBD"));
+}
+
 }  // namespace
 }  // namespace quillmark::replay

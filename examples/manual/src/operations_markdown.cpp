@@ -26,6 +26,27 @@ constexpr const char* preface =
     "A\n"
     "test plays all of them and compares.\n";
 
+constexpr const char* limits =
+    "\n## Limits\n"
+    "\n"
+    "- Texts and names are 8-bit unless the setting \"CharSet\" asks for UTF-8: a character that "
+    "the\n"
+    "  system's code page (Windows-1252 off Windows) does not hold becomes `?`, in file names "
+    "too.\n"
+    "  With \"UTF-8\" every character is kept, and half a surrogate pair becomes U+FFFD\n"
+    "  ([settings.md](settings.md#documents-in-utf-8)).\n"
+    "- A text keeps the form in which it comes. Nothing is normalized, so a composed and a "
+    "decomposed\n"
+    "  \"é\" are two names, as they are for most file systems.\n"
+    "- The directories of `pushDirectory` and the output directory together may have 210 bytes; "
+    "names\n"
+    "  are left out at the end until they fit.\n"
+    "- A line of a file that `insertFile` inserts is cut after 2000 characters and goes on in a "
+    "new\n"
+    "  line.\n"
+    "- A list style opens at most 65,535 lists, and each file of contents has at most 256 MiB of\n"
+    "  indentation.\n";
+
 std::string lowered(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(),
                    [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
@@ -177,7 +198,7 @@ std::string operationsMarkdown(const ManualData& data) {
             markdown += operationMarkdown(text);
         }
     }
-    return markdown;
+    return markdown + limits;
 }
 
 }  // namespace quillmark::manual

@@ -2,6 +2,7 @@
 
 #include "contents/support_files.h"
 #include "driver/pages/picture_names.h"
+#include "page/links/links.h"
 #include "platform/files/sys_file.h"
 
 namespace quillmark {
@@ -23,7 +24,7 @@ OrxString ArrowBar::pictureLink(Picture picture) {
 
 void ArrowBar::appendArrow(OrxString& bar, std::uint32_t pageNumber, Picture picture) {
     bar.append("<A HREF=\"./");
-    bar.append(SysFile::stripDir(context_.names.pageFileName(pageNumber, "")));
+    bar.append(links::fromFilePart(context_.names.pageFileName(pageNumber, "")));
     bar.append("\"><IMG SRC=\"").append(pictureLink(picture));
     bar.append("\" BORDER=\"0\" HSPACE=5 NOSAVE HEIGHT=20 WIDTH=19></A>\n");
 }

@@ -31,8 +31,9 @@ OrxString iniFileName() {
     if (profile == nullptr) {
         return "Veltrano.ini";
     }
-    // The host's profile does not know the document.
-    return TextEncoding::current().recoded(profile->profilePath(), TextEncoding::codePage());
+    const TextEncoding& encoding = TextEncoding::current();
+    const OrxString path = profile->profilePath();
+    return encoding.recoded(path, encoding.ofText(path));
 }
 
 }  // namespace

@@ -56,11 +56,9 @@ RequestedServices::RequestedServices(const Options& options, const OptionFiles& 
     }
     services_.drives = files.allDrives();
     if (options.iniFile) {
-        // The documents take it over from their host, which does not know their encoding.
-        const TextEncoding& encoding = TextEncoding::codePage();
         const OrxString name = files.driver(*options.iniFile);
-        checkFileName(name, encoding);
-        services_.profilePath = encoding.fromUtf8(name);
+        checkFileName(name, *encoding_);
+        services_.profilePath = encoding_->fromUtf8(name);
     }
     if (options.modelFile) {
         model_.emplace(files.native(*options.modelFile), *options.modelFile);

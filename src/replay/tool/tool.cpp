@@ -206,6 +206,7 @@ private:
                     }
                 },
                 [this](std::size_t line, WideText text) {
+                    lostInUtf8_ += TextEncoding::utf8().countLost(text);
                     findings_.addLost(current_->name + ":" + std::to_string(line) + ": " +
                                       lostCharacters(text));
                 }};
@@ -295,6 +296,16 @@ private:
 
     void write(const std::string& what) { messages_.write(std::string(toolName) + ": " + what); }
 
+    /// What UTF-8 would keep of the lost characters: all, except halves of surrogate pairs.
+    [[nodiscard]] std::string utf8Hint() const {
+        if (lostInUtf8_ == charactersLost_) {
+            return {};
+        }
+        const std::string kept =
+            lostInUtf8_ == 0 ? "them" : "all but " + std::to_string(lostInUtf8_);
+        return " (--set Html.CharSet=UTF-8 keeps " + kept + ")";
+    }
+
     void writeSummary() {
         std::string text = counted(counts_.pages, "page") + " written, " +
                            counted(counts_.contentsEntries, "contents entry", "contents entries") +
@@ -305,8 +316,7 @@ private:
             text += ", " + counted(trace_.warnings(), "warning");
         }
         if (charactersLost_ > 0) {
-            text += ", " + counted(charactersLost_, "character") +
-                    " lost (--set Html.CharSet=UTF-8 keeps them)";
+            text += ", " + counted(charactersLost_, "character") + " lost" + utf8Hint();
         }
         messages_.write(std::string(toolName) + ": " + text);
         findings_.write(messages_, std::string(toolName));
@@ -352,6 +362,7 @@ private:
     std::string outputProblem_;
     std::size_t errors_ = 0;
     std::size_t charactersLost_ = 0;
+    std::size_t lostInUtf8_ = 0;
     std::size_t unknownSettings_ = 0;
     bool badInput_ = false;
 };

@@ -1,8 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
-#include <string>
 #include <string_view>
 
 namespace quillmark::testing {
@@ -30,30 +28,12 @@ inline constexpr std::array<ScriptSample, 12> scriptSamples = {{
     {"Emoji", u"\U0001F468\u200D\U0001F469\u200D\U0001F467 \U0001F1E9\U0001F1EA \u2764\uFE0F"},
 }};
 
-/// The same in UTF-8, converted one code point at a time in the simplest way.
-[[nodiscard]] inline std::string naiveUtf8(std::u16string_view text) {
-    std::string bytes;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        unsigned long point = text[i];
-        const bool isHigh = point >= 0xD800 && point < 0xDC00;
-        if (isHigh && i + 1 < text.size() && text[i + 1] >= 0xDC00 && text[i + 1] < 0xE000) {
-            point = 0x10000 + (point - 0xD800) * 0x400 + (text[++i] - 0xDC00UL);
-        } else if (point >= 0xD800 && point < 0xE000) {
-            point = 0xFFFD;
-        }
-        const int more = point < 0x80 ? 0 : point < 0x800 ? 1 : point < 0x10000 ? 2 : 3;
-        constexpr std::array<unsigned long, 4> leads = {0, 0xC0, 0xE0, 0xF0};
-        unsigned long divisor = 1;
-        for (int k = 0; k < more; ++k) {
-            divisor *= 64;
-        }
-        bytes += static_cast<char>(leads.at(static_cast<std::size_t>(more)) + point / divisor);
-        for (int k = 0; k < more; ++k) {
-            divisor /= 64;
-            bytes += static_cast<char>(0x80 + point / divisor % 64);
-        }
-    }
-    return bytes;
-}
+/// Halves of surrogate pairs, which UTF-8 does not have.
+inline constexpr std::array<ScriptSample, 4> illFormedSamples = {{
+    {"HighAlone", {u"a\xD83D", 2}},
+    {"LowAlone", {u"\xDE00z", 2}},
+    {"PairTurnedAround", {u"\xDE00\xD83D", 2}},
+    {"HighBeforeAPair", {u"\xD83D\xD83D\xDE00", 3}},
+}};
 
 }  // namespace quillmark::testing

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "driver/document_fixture.h"
+#include "driver/encoding/naive_char_set.h"
 #include "driver/encoding/scripts.h"
 
 namespace quillmark::testing {
@@ -22,21 +23,6 @@ protected:
         renew();
     }
 };
-
-/// A path in a link, byte by byte.
-std::string naiveLink(const std::string& path) {
-    std::string link;
-    for (const char c : path) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x80 && c != '%' && c != '#' && c != '?') {
-            link += c;
-            continue;
-        }
-        constexpr std::string_view digits = "0123456789ABCDEF";
-        link += {'%', digits[byte / 16], digits[byte % 16]};
-    }
-    return link;
-}
 
 TEST_F(Utf8Document, SaysSoInItsHead) {
     open();

@@ -1,40 +1,40 @@
 #include "driver/links/naive_document.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillmark::testing {
 
 namespace {
 
-const std::string outputDir = "C:\\out";
+using String = std::u32string;
 
-std::string narrow(std::u16string_view text) {
-    std::string bytes;
-    for (const char16_t unit : text) {
-        bytes += static_cast<char>(unit);
-    }
-    return bytes;
+const String outputDir = U"C:\\out";
+
+String decimal(std::uint32_t number) {
+    const std::string digits = std::to_string(number);
+    return {digits.begin(), digits.end()};
 }
 
 /// Tabs and doubled blanks are left to the tests of the escaping.
-std::string escaped(const std::string& text) {
-    std::string html;
-    for (const char c : text) {
-        html += c == '\n' ? "<BR>\n" : std::string(1, c);
+String escaped(const String& text) {
+    String html;
+    for (const char32_t c : text) {
+        html += c == '\n' ? U"<BR>\n" : String(1, c);
     }
     return html;
 }
 
-std::string directoryOf(const std::string& file) {
+String directoryOf(const String& file) {
     return file.substr(0, file.rfind('\\'));
 }
-std::string filePartOf(const std::string& file) {
+String filePartOf(const String& file) {
     return file.substr(file.rfind('\\') + 1);
 }
 
-std::vector<std::string> components(const std::string& path) {
-    std::vector<std::string> parts(1);
-    for (const char c : path) {
+std::vector<String> components(const String& path) {
+    std::vector<String> parts(1);
+    for (const char32_t c : path) {
         if (c == '\\') {
             parts.emplace_back();
         } else {
@@ -44,56 +44,55 @@ std::vector<std::string> components(const std::string& path) {
     return parts;
 }
 
-/// The link from directory to directory. Both are below the output directory.
-std::string wayTo(const std::string& target, const std::string& base) {
-    const std::vector<std::string> to = components(target);
-    const std::vector<std::string> from = components(base);
+/// A path as links write it: "sub\a:b" is "sub/a|b".
+String inLinkForm(const String& path) {
+    String link = path;
+    std::replace(link.begin(), link.end(), U'\\', U'/');
+    std::replace(link.begin(), link.end(), U':', U'|');
+    return link;
+}
+
+/// The way from directory to directory. Both are below the output directory.
+String relativeDirectory(const String& target, const String& base) {
+    const std::vector<String> to = components(target);
+    const std::vector<String> from = components(base);
     std::size_t common = 0;
     while (common < to.size() && common < from.size() && to[common] == from[common]) {
         ++common;
     }
-    std::string way;
-    const auto step = [&way](const std::string& name) {
-        way += way.empty() ? "" : "/";
-        for (const char c : name) {
-            way += c == ':' ? '|' : c;
-        }
-    };
+    String way;
     for (std::size_t i = common; i < from.size(); ++i) {
-        step("..");
+        way += U"..\\";
     }
     for (std::size_t i = common; i < to.size(); ++i) {
-        step(to[i]);
+        way += to[i] + U"\\";
     }
     return way;
 }
 
-std::string joined(const std::string& way, const std::string& file) {
-    return way.empty() ? file : way + "/" + file;
-}
-
 }  // namespace
 
-NaiveDocument::NaiveDocument() {
+NaiveDocument::NaiveDocument(const NaiveCharSet& charSet, std::u16string_view name)
+    : charSet_(charSet), name_(charSet.characters(name)) {
     startPage();
 }
 
-std::string NaiveDocument::fileName() const {
-    const std::string number = pageNumber_ == 1 ? "" : std::to_string(pageNumber_);
-    const std::string directory = subDirectory_.empty() ? "" : subDirectory_ + "\\";
-    return outputDir + "\\" + directory + "rep" + number + ".htm";
+String NaiveDocument::fileName() const {
+    const String number = pageNumber_ == 1 ? U"" : decimal(pageNumber_);
+    const String directory = subDirectory_.empty() ? U"" : subDirectory_ + U"\\";
+    return outputDir + U"\\" + directory + name_ + number + U".htm";
 }
 
 void NaiveDocument::startPage() {
     page_ = std::make_shared<Page>();
     page_->number = pageNumber_;
     page_->file = fileName();
-    page_->text.addMark("TOPOFPAGE", "");
-    define("Page " + std::to_string(pageNumber_));
+    page_->text.addMark(U"TOPOFPAGE", U"");
+    define(U"Page " + decimal(pageNumber_));
     pageHasTocEntry_ = false;
 }
 
-void NaiveDocument::writeOut(const std::string& html) {
+void NaiveDocument::writeOut(const String& html) {
     if (inHeader_) {
         header_ += html;
     } else {
@@ -101,7 +100,7 @@ void NaiveDocument::writeOut(const std::string& html) {
     }
 }
 
-void NaiveDocument::emitText(const std::string& html) {
+void NaiveDocument::emitText(const String& html) {
     if (!inHeader_ && inTocEntry_) {
         tocText_ += html;
     }
@@ -109,54 +108,54 @@ void NaiveDocument::emitText(const std::string& html) {
 }
 
 void NaiveDocument::insertText(std::u16string_view text) {
-    emitText(escaped(narrow(text)));
+    emitText(escaped(charSet_.characters(text)));
 }
 
 void NaiveDocument::insertEndl() {
     completeEntry();
-    writeOut("<BR>\n");
+    writeOut(U"<BR>\n");
 }
 
 void NaiveDocument::insertTag(std::u16string_view name) {
-    define(narrow(name));
+    define(charSet_.characters(name));
 }
 
 void NaiveDocument::insertXref(std::u16string_view text, std::u16string_view name) {
-    const std::string target = narrow(name);
-    reference(target, "<A " + target + ">");
-    emitText(escaped(narrow(text)));
+    const String target = charSet_.characters(name);
+    reference(target, U"<A " + target + U">");
+    emitText(escaped(charSet_.characters(text)));
     if (target.empty()) {
-        writeOut("</A>");
+        writeOut(U"</A>");
     } else {
-        reference(target, "</A>");
+        reference(target, U"</A>");
     }
 }
 
 void NaiveDocument::insertTOC() {
-    page_->text.addMark("TOC", "");
+    page_->text.addMark(U"TOC", U"");
 }
 
-void NaiveDocument::define(const std::string& name) {
+void NaiveDocument::define(const String& name) {
     if (name.empty()) {
         return;
     }
     Bookmark& bookmark = bookmarks_[name];
-    if (!bookmark.reference.empty()) {
-        reports_ +=
-            "WARNING: bookmark \"" + name + "\" already exists as " + bookmark.reference + "\n";
+    if (!bookmark.pageFile.empty()) {
+        reports_ += U"WARNING: bookmark \"" + name + U"\" already exists as " +
+                    filePartOf(bookmark.pageFile) + U"#" + name + U"\n";
         return;
     }
-    page_->text.append("<a name=\"" + name + "\"></a>");
-    bookmark.reference = filePartOf(page_->file) + "#" + name;
+    page_->text.append(U"<a name=\"" + name + U"\"></a>");
     bookmark.pageFile = page_->file;
-    reports_ += "created bookmark:" + name + " as " + bookmark.reference + "\n";
+    reports_ +=
+        U"created bookmark:" + name + U" as " + filePartOf(page_->file) + U"#" + name + U"\n";
     resolve(bookmark, name);
 }
 
-void NaiveDocument::resolve(Bookmark& bookmark, const std::string& name) {
+void NaiveDocument::resolve(Bookmark& bookmark, const String& name) {
     const auto waiting = std::exchange(bookmark.waitingPages, {});
     for (const PagePtr& page : waiting) {
-        page->text.resolve(name, relativeReference(bookmark, *page));
+        page->text.resolve(name, relativeReference(bookmark, name, *page));
         if (page != page_ && page->text.marks.empty()) {
             write(*page);
             keptPages_.erase(page->number);
@@ -164,27 +163,32 @@ void NaiveDocument::resolve(Bookmark& bookmark, const std::string& name) {
     }
 }
 
-std::string NaiveDocument::relativeReference(const Bookmark& bookmark, const Page& page) {
-    return joined(wayTo(directoryOf(bookmark.pageFile), directoryOf(page.file)),
-                  bookmark.reference);
+String NaiveDocument::wayTo(const String& file, const String& base) const {
+    const String directory = relativeDirectory(directoryOf(file), directoryOf(base));
+    return charSet_.link(inLinkForm(directory + filePartOf(file)));
 }
 
-void NaiveDocument::reference(const std::string& name, const std::string& markup) {
+String NaiveDocument::relativeReference(const Bookmark& bookmark, const String& name,
+                                        const Page& page) const {
+    return wayTo(bookmark.pageFile, page.file) + U"#" + name;
+}
+
+void NaiveDocument::reference(const String& name, const String& markup) {
     Bookmark& bookmark = bookmarks_[name];
-    if (bookmark.reference.empty()) {
+    if (bookmark.pageFile.empty()) {
         page_->text.addMark(name, markup);
         bookmark.waitingPages.insert(page_);
         return;
     }
     const std::size_t hit = markup.find(name);
-    if (hit == std::string::npos) {
+    if (hit == String::npos) {
         writeOut(markup);
         return;
     }
     writeOut(markup.substr(0, hit));
-    writeOut("HREF=\"");
-    writeOut(relativeReference(bookmark, *page_));
-    writeOut("\"");
+    writeOut(U"HREF=\"");
+    writeOut(relativeReference(bookmark, name, *page_));
+    writeOut(U"\"");
     writeOut(markup.substr(hit + name.size()));
 }
 
@@ -199,7 +203,7 @@ void NaiveDocument::endTOCEntry() {
 }
 
 void NaiveDocument::openTocAnchor() {
-    const std::string name = "toc" + std::to_string(++tocAnchorCount_);
+    const String name = U"toc" + decimal(++tocAnchorCount_);
     define(name);
     tocAnchor_ = name;
     tocText_.clear();
@@ -209,13 +213,13 @@ void NaiveDocument::completeEntry() {
     addEntry(tocAnchor_, tocText_);
 }
 
-void NaiveDocument::addEntry(std::string& anchor, const std::string& text) {
+void NaiveDocument::addEntry(String& anchor, const String& text) {
     if (anchor.empty() || text.empty()) {
         return;
     }
     pageHasTocEntry_ = true;
-    const std::string way = wayTo(directoryOf(page_->file), outputDir);
-    entries_.push_back({joined(way, filePartOf(page_->file)) + "#" + anchor, text});
+    const String href = wayTo(page_->file, outputDir + U"\\") + U"#" + anchor;
+    entries_.push_back({href, text});
     anchor.clear();
 }
 
@@ -241,7 +245,7 @@ void NaiveDocument::insertPageBreak() {
 }
 
 void NaiveDocument::pushDirectory(std::u16string_view directory) {
-    subDirectory_ = narrow(directory);
+    subDirectory_ = charSet_.characters(directory);
     if (page_->text.lineCount > 1) {
         insertPageBreak();
         breakJustMade_ = true;
@@ -256,7 +260,7 @@ void NaiveDocument::popDirectory() {
 
 void NaiveDocument::endPage(bool last) {
     const bool header = std::exchange(inHeader_, false);
-    page_->top = "<BODY  >\n" + (hasHeader_ ? header_ + "<HR>\n" : "");
+    page_->top = U"<BODY  >\n" + (hasHeader_ ? header_ + U"<HR>\n" : U"");
     finishContents();
     if (last) {
         for (const auto& [number, page] : std::exchange(keptPages_, {})) {
@@ -277,44 +281,47 @@ void NaiveDocument::endPage(bool last) {
 
 void NaiveDocument::finishContents() {
     if (!pageHasTocEntry_) {
-        std::string anchor = "Page " + std::to_string(pageNumber_);
-        addEntry(anchor, std::string(anchor));
-        if (page_->text.setInsertPoint("TOPOFPAGE")) {
+        String anchor = U"Page " + decimal(pageNumber_);
+        addEntry(anchor, String(anchor));
+        if (page_->text.setInsertPoint(U"TOPOFPAGE")) {
             openTocAnchor();
             page_->text.insertPointSet = false;
         }
     }
-    page_->text.marks.erase("TOPOFPAGE");
+    page_->text.marks.erase(U"TOPOFPAGE");
 }
 
 void NaiveDocument::fillListing(Page& page) {
-    if (!page.text.setInsertPoint("TOC")) {
+    if (!page.text.setInsertPoint(U"TOC")) {
         return;
     }
-    page.text.append("<BASE TARGET=\"main\">\n");
-    page.text.append("<H2>Table of Contents</H2>\n");
+    page.text.append(U"<BASE TARGET=\"main\">\n");
+    page.text.append(U"<H2>Table of Contents</H2>\n");
     for (const Entry& entry : entries_) {
-        page.text.append("<A HREF=\"" + entry.href + "\">" + entry.text + "</a>");
-        page.text.append("<BR>\n");
+        page.text.append(U"<A HREF=\"" + entry.href + U"\">" + entry.text + U"</a>");
+        page.text.append(U"<BR>\n");
     }
     page.text.insertPointSet = false;
-    page.text.marks.erase("TOC");
+    page.text.marks.erase(U"TOC");
 }
 
 void NaiveDocument::write(Page& page) {
     if (std::exchange(page.written, true)) {
         return;
     }
-    const std::string styleSheet = joined(wayTo(outputDir, directoryOf(page.file)), "default.css");
-    files_[page.file] =
-        "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0 Transitional//EN\">\n"
-        "  <!-- Generated by Quillmark from Zorvane Tessaline (http://www.zorvane.example/) -->\n"
-        "<HTML>\n<HEAD>\n"
-        "  <META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; iso-8859-1\">\n"
-        "  <META NAME=\"GENERATOR\" CONTENT=\"Quillmark [Zorvane Tessaline]\">\n"
-        "  <TITLE></TITLE>\n"
-        "  <LINK REL=STYLESHEET TYPE=\"text/css\" HREF=\"" +
-        styleSheet + "\" >\n</HEAD>\n\n" + page.top + page.text.text() + "\n\n</BODY>\n</HTML>\n";
+    const String styleSheet = wayTo(outputDir + U"\\default.css", page.file);
+    files_[charSet_.bytes(page.file)] = charSet_.bytes(
+        U"<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0 Transitional//EN\">\n"
+        U"  <!-- Generated by Quillmark from Zorvane Tessaline (http://www.zorvane.example/) -->\n"
+        U"<HTML>\n<HEAD>\n"
+        U"  <META HTTP-EQUIV=\"Content-Type\" CONTENT=\"" +
+        String(charSet_.contentType) +
+        U"\">\n"
+        U"  <META NAME=\"GENERATOR\" CONTENT=\"Quillmark [Zorvane Tessaline]\">\n"
+        U"  <TITLE></TITLE>\n"
+        U"  <LINK REL=STYLESHEET TYPE=\"text/css\" HREF=\"" +
+        styleSheet + U"\" >\n</HEAD>\n\n" + page.top + page.text.text() +
+        U"\n\n</BODY>\n</HTML>\n");
     report(page);
 }
 
@@ -322,10 +329,10 @@ void NaiveDocument::report(const Page& page) {
     if (page.text.marks.empty()) {
         return;
     }
-    reports_ += "Unresolved references on page " + page.file + "\n";
+    reports_ += U"Unresolved references on page " + page.file + U"\n";
     for (const auto& [name, mark] : page.text.marks) {
-        reports_ += "  " + name + " near line " + std::to_string(mark.line) +
-                    (mark.markup.empty() ? "" : " " + mark.markup) + "\n";
+        reports_ += U"  " + name + U" near line " + decimal(mark.line) +
+                    (mark.markup.empty() ? U"" : U" " + mark.markup) + U"\n";
     }
 }
 

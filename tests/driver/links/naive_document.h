@@ -7,17 +7,19 @@
 #include <string_view>
 #include <vector>
 
+#include "driver/encoding/naive_char_set.h"
 #include "page/naive_page.h"
 
 namespace quillmark::testing {
 
 /// A second implementation of the driver's document, as simple as possible: pages, bookmarks,
-/// references, directories, header, contents entries and listing, on plain strings and maps. It
-/// knows what the random documents use and nothing else: a document "C:\out\rep.htm" without
-/// contents pages and arrows, in style "Normal", texts without embedded links.
+/// references, directories, header, contents entries and listing, on plain strings of characters
+/// and on maps. It knows what the random documents use and nothing else: a document in "C:\out"
+/// without contents pages and arrows, in style "Normal", texts without embedded links.
 class NaiveDocument {
 public:
-    NaiveDocument();
+    /// The name is without directory and suffix.
+    NaiveDocument(const NaiveCharSet& charSet, std::u16string_view name);
 
     void insertText(std::u16string_view text);
     void insertEndl();
@@ -36,14 +38,16 @@ public:
     /// The files written, by name, each as often as it was written last.
     [[nodiscard]] const std::map<std::string, std::string>& files() const { return files_; }
     /// Warnings and reports, without the call lines.
-    [[nodiscard]] const std::string& reports() const { return reports_; }
+    [[nodiscard]] std::string reports() const { return charSet_.bytes(reports_); }
 
 private:
+    using String = std::u32string;
+
     struct Page {
         int number = 0;  // pages wait in the order of their making
-        std::string file;
-        std::string top;
-        NaivePage text;
+        String file;
+        String top;
+        BasicNaivePage<String> text;
         bool written = false;
     };
     using PagePtr = std::shared_ptr<Page>;
@@ -51,49 +55,52 @@ private:
         bool operator()(const PagePtr& a, const PagePtr& b) const { return a->number < b->number; }
     };
     struct Bookmark {
-        std::string reference;
-        std::string pageFile;
+        String pageFile;  // empty while it is not defined
         std::set<PagePtr, ByNumber> waitingPages;
     };
     struct Entry {
-        std::string href;
-        std::string text;
+        String href;
+        String text;
     };
 
     void startPage();
     void endPage(bool last);
-    void writeOut(const std::string& html);
-    void emitText(const std::string& html);
-    void define(const std::string& name);
-    void resolve(Bookmark& bookmark, const std::string& name);
-    void reference(const std::string& name, const std::string& markup);
+    void writeOut(const String& html);
+    void emitText(const String& html);
+    void define(const String& name);
+    void resolve(Bookmark& bookmark, const String& name);
+    void reference(const String& name, const String& markup);
     void openTocAnchor();
-    void addEntry(std::string& anchor, const std::string& text);
+    void addEntry(String& anchor, const String& text);
     void completeEntry();
     void finishContents();
     void fillListing(Page& page);
     void write(Page& page);
     void report(const Page& page);
-    [[nodiscard]] std::string fileName() const;
-    [[nodiscard]] static std::string relativeReference(const Bookmark& bookmark, const Page& page);
+    [[nodiscard]] String fileName() const;
+    [[nodiscard]] String wayTo(const String& file, const String& base) const;
+    [[nodiscard]] String relativeReference(const Bookmark& bookmark, const String& name,
+                                           const Page& page) const;
 
+    NaiveCharSet charSet_;
+    String name_;
     PagePtr page_;
     int pageNumber_ = 1;
     std::map<int, PagePtr> keptPages_;
-    std::string subDirectory_;
+    String subDirectory_;
     bool breakJustMade_ = false;
     bool inHeader_ = false;
     bool hasHeader_ = false;
-    std::string header_;
-    std::map<std::string, Bookmark> bookmarks_;
+    String header_;
+    std::map<String, Bookmark> bookmarks_;
     std::vector<Entry> entries_;
     int tocAnchorCount_ = 0;
-    std::string tocAnchor_;
-    std::string tocText_;
+    String tocAnchor_;
+    String tocText_;
     bool pageHasTocEntry_ = false;
     bool inTocEntry_ = false;
     std::map<std::string, std::string> files_;
-    std::string reports_;
+    String reports_;
 };
 
 }  // namespace quillmark::testing

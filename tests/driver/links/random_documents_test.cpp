@@ -1,5 +1,5 @@
 // Random documents, made by the driver and by the naive document: every file and every report
-// must be the same.
+// must be the same, in the 8-bit code page and in UTF-8.
 //
 // The default run is the same every time. DOCHTML_TEST_SEED=n starts at another document,
 // DOCHTML_TEST_ROUNDS=n makes another number of them.
@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdlib>
 #include <random>
+#include <span>
 #include <sstream>
 
 #include "driver/document_fixture.h"
@@ -32,27 +33,37 @@ struct Step {
         entryEnd,
     };
     Kind kind = Kind::text;
-    std::string text;
-    std::string name;
+    std::u16string_view text;
+    std::u16string_view name;
 };
 using Steps = std::vector<Step>;
 
+using Choices = std::span<const std::u16string_view>;
+
+/// What a series of documents has in common: its encoding, and the few texts that it is made of.
+struct Series {
+    const char* charSet;
+    testing::NaiveCharSet naive;
+    std::u16string_view document;
+    Choices directories;
+    Choices texts;
+    Choices names;
+};
+
 template <typename Document>
 void apply(Document& document, const Step& step) {
-    const std::u16string text = testing::wide(step.text);
-    const std::u16string name = testing::wide(step.name);
     switch (step.kind) {
         case Step::Kind::text:
-            document.insertText(text);
+            document.insertText(step.text);
             break;
         case Step::Kind::endLine:
             document.insertEndl();
             break;
         case Step::Kind::tag:
-            document.insertTag(name);
+            document.insertTag(step.name);
             break;
         case Step::Kind::reference:
-            document.insertXref(text, name);
+            document.insertXref(step.text, step.name);
             break;
         case Step::Kind::listing:
             document.insertTOC();
@@ -61,7 +72,7 @@ void apply(Document& document, const Step& step) {
             document.insertPageBreak();
             break;
         case Step::Kind::directory:
-            document.pushDirectory(text);
+            document.pushDirectory(step.text);
             break;
         case Step::Kind::noDirectory:
             document.popDirectory();
@@ -87,8 +98,8 @@ std::string shown(const Steps& steps) {
                                   "headerStart", "headerEnd", "entryStart", "entryEnd"};
     std::ostringstream all;
     for (const Step& step : steps) {
-        all << names.at(static_cast<std::size_t>(step.kind)) << " \"" << step.text << "\" \""
-            << step.name << "\"\n";
+        all << names.at(static_cast<std::size_t>(step.kind)) << " \""
+            << testing::naiveUtf8(step.text) << "\" \"" << testing::naiveUtf8(step.name) << "\"\n";
     }
     return all.str();
 }
@@ -96,7 +107,7 @@ std::string shown(const Steps& steps) {
 /// Makes documents of few names, so that they meet.
 class StepMaker {
 public:
-    explicit StepMaker(std::uint32_t seed) : random_(seed) {}
+    StepMaker(const Series& series, std::uint32_t seed) : series_(series), random_(seed) {}
 
     Steps document() {
         Steps steps(1 + below(24));
@@ -108,10 +119,7 @@ public:
 
 private:
     std::size_t below(std::size_t count) { return random_() % count; }
-    template <std::size_t n>
-    std::string oneOf(const std::array<const char*, n>& choices) {
-        return choices.at(below(n));
-    }
+    std::u16string_view oneOf(Choices choices) { return choices[below(choices.size())]; }
 
     Step one() {
         // How often each kind comes, in the order of the kinds.
@@ -123,19 +131,75 @@ private:
         }
         Step step;
         step.kind = static_cast<Step::Kind>(kind);
-        step.text = step.kind == Step::Kind::directory ? oneOf(directories) : oneOf(texts);
-        step.name = oneOf(names);
+        step.text = oneOf(step.kind == Step::Kind::directory ? series_.directories : series_.texts);
+        step.name = oneOf(series_.names);
         return step;
     }
 
-    static constexpr std::array directories = {"", "sub", "sub\\deep", "other", "a:b"};
-    static constexpr std::array texts = {"", "", "x", "text", "a\nb", "\n", "</A>", "<A a>"};
-    static constexpr std::array names = {"A",      "a",    "HREF", "TOC",  "TOPOFPAGE", "Page 2",
-                                         "Page 1", "toc1", "toc2", "a\nb", "\n",        "",
-                                         ">",      "<A ",  "/A",   "x",    "y",         "z",
-                                         "one",    "=\"",  "rep",  "\"",   "#",         "</A>"};
+    const Series& series_;
     std::mt19937 random_;
 };
+
+constexpr std::array<std::u16string_view, 5> eightBitDirectories = {u"", u"sub", u"sub\\deep",
+                                                                    u"other", u"a:b"};
+constexpr std::array<std::u16string_view, 8> eightBitTexts = {u"",     u"",   u"x",    u"text",
+                                                              u"a\nb", u"\n", u"</A>", u"<A a>"};
+constexpr std::array<std::u16string_view, 24> eightBitNames = {
+    u"A",    u"a",    u"HREF", u"TOC", u"TOPOFPAGE", u"Page 2", u"Page 1", u"toc1",
+    u"toc2", u"a\nb", u"\n",   u"",    u">",         u"<A ",    u"/A",     u"x",
+    u"y",    u"z",    u"one",  u"=\"", u"rep",       u"\"",     u"#",      u"</A>"};
+
+Series eightBitSeries() {
+    return {"",           testing::naiveEightBit(), u"rep", eightBitDirectories, eightBitTexts,
+            eightBitNames};
+}
+
+constexpr std::u16string_view halfAPair(u"x\xD83D", 2);
+constexpr std::u16string_view otherHalf(u"\xDE00\xFFFD", 2);
+
+constexpr std::array<std::u16string_view, 6> utf8Directories = {
+    u"", u"sub", u"\u4FA1\u683C\\50%#?", u"\u0446\u0435\u043D\u0430", halfAPair, u"\U0001F600:b"};
+constexpr std::array<std::u16string_view, 12> utf8Texts = {u"",
+                                                           u"x",
+                                                           u"\u05DE\u05D7\u05D9\u05E8",
+                                                           u"a\n\u0308b",
+                                                           u"\n",
+                                                           u"</A>",
+                                                           u"<A \u4FA1>",
+                                                           halfAPair,
+                                                           otherHalf,
+                                                           u"\U0001F468\u200D\U0001F469",
+                                                           u"cafe\u0301",
+                                                           u"\uFEFF\uFFFF"};
+constexpr std::array<std::u16string_view, 24> utf8Names = {u"A",
+                                                           u"\u4FA1",
+                                                           u"HREF",
+                                                           u"TOC",
+                                                           u"\u4FA1\u683C",
+                                                           u"Page 2",
+                                                           u"Page 1",
+                                                           u"toc1",
+                                                           u"\u017C\u00F3\u0142w",
+                                                           u"\u4FA1\n\u683C",
+                                                           u"\U0001F600",
+                                                           u"",
+                                                           u"\u683C",
+                                                           u"<A ",
+                                                           u"caf\u00E9",
+                                                           u"cafe\u0301",
+                                                           halfAPair,
+                                                           otherHalf,
+                                                           u"\uFFFD",
+                                                           u"\u0301",
+                                                           u"\u00E9",
+                                                           u"\"",
+                                                           u"#%",
+                                                           u"</A>"};
+
+Series utf8Series() {
+    return {"UTF-8",  testing::naiveUnicode(), u"\u5831\u544A %#", utf8Directories, utf8Texts,
+            utf8Names};
+}
 
 /// Hears what is not a call.
 class Reports : public TraceListener {
@@ -172,8 +236,8 @@ std::ostream& operator<<(std::ostream& stream, const Outcome& outcome) {
     return stream << "== reports\n" << outcome.reports;
 }
 
-Outcome naiveOutcome(const Steps& steps) {
-    testing::NaiveDocument document;
+Outcome naiveOutcome(const Series& series, const Steps& steps) {
+    testing::NaiveDocument document(series.naive, series.document);
     for (const Step& step : steps) {
         apply(document, step);
     }
@@ -181,7 +245,9 @@ Outcome naiveOutcome(const Steps& steps) {
     return {document.files(), document.reports()};
 }
 
-Outcome driverOutcome(const Steps& steps) {
+Outcome driverOutcome(const Series& series, const Steps& steps) {
+    std::u16string fileName(u"C:\\out\\");
+    fileName.append(series.document).append(u".htm");
     MemoryFileSystem files;
     const InstalledFileSystem installed(files);
     files.put("C:\\inst\\default.css", "P { }\n");
@@ -190,7 +256,7 @@ Outcome driverOutcome(const Steps& steps) {
         const Reports reports;
         {
             DocHtml document;
-            document.create(u"C:\\out\\rep.htm");
+            document.create(fileName);
             for (const Step& step : steps) {
                 apply(document, step);
             }
@@ -207,11 +273,11 @@ Outcome driverOutcome(const Steps& steps) {
 }
 
 /// The same document with every step left out that the difference does not need.
-Steps shrunk(Steps steps) {
+Steps shrunk(const Series& series, Steps steps) {
     for (std::size_t i = steps.size(); i-- > 0;) {
         Steps fewer = steps;
         fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(i));
-        if (naiveOutcome(fewer) != driverOutcome(fewer)) {
+        if (naiveOutcome(series, fewer) != driverOutcome(series, fewer)) {
             steps = std::move(fewer);
         }
     }
@@ -223,22 +289,31 @@ std::uint32_t numberFromEnvironment(const char* name, std::uint32_t fallback) {
     return text == nullptr ? fallback : static_cast<std::uint32_t>(std::strtoul(text, nullptr, 10));
 }
 
-TEST(RandomDocuments, AreTheSameByBothMakings) {
+void expectTheSameByBothMakings(const Series& series, std::uint32_t usualRounds) {
     InstalledSettingsStore settings;
     settings.set("Settings", "InstallDir", "C:\\inst");
     settings.set("Html", "Navig", "4");
+    settings.set("Html", "CharSet", series.charSet);
     const std::uint32_t first = numberFromEnvironment("DOCHTML_TEST_SEED", 1);
-    const std::uint32_t rounds = numberFromEnvironment("DOCHTML_TEST_ROUNDS", 10000);
+    const std::uint32_t rounds = numberFromEnvironment("DOCHTML_TEST_ROUNDS", usualRounds);
     for (std::uint32_t seed = first; seed != first + rounds; ++seed) {
-        const Steps steps = StepMaker(seed).document();
-        if (naiveOutcome(steps) != driverOutcome(steps)) {
-            const Steps few = shrunk(steps);
-            EXPECT_EQ(driverOutcome(few), naiveOutcome(few))
+        const Steps steps = StepMaker(series, seed).document();
+        if (naiveOutcome(series, steps) != driverOutcome(series, steps)) {
+            const Steps few = shrunk(series, steps);
+            EXPECT_EQ(driverOutcome(series, few), naiveOutcome(series, few))
                 << "DOCHTML_TEST_SEED=" << seed << ", shrunk to\n"
                 << shown(few);
             return;
         }
     }
+}
+
+TEST(RandomDocuments, AreTheSameByBothMakings) {
+    expectTheSameByBothMakings(eightBitSeries(), 10000);
+}
+
+TEST(RandomDocuments, AreTheSameByBothMakingsInUtf8) {
+    expectTheSameByBothMakings(utf8Series(), 2000);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "driver/document_fixture.h"
 #include "host/app_profile_interface.h"
+#include "platform/files/sys_file.h"
 #include "support/temp_dir.h"
 
 namespace quillmark {
@@ -176,7 +177,14 @@ protected:
     IniFileValues(const IniFileValues&) = delete;
     IniFileValues& operator=(const IniFileValues&) = delete;
 
-    void ini(const std::string& lines) { place.put("tool.ini", "[Quillmark]\n" + lines); }
+    /// Puts the file where the host says that it is, as a document in that encoding sees it.
+    void ini(const std::string& lines,
+             const TextEncoding& encoding = TextEncoding::codePage()) const {
+        const TextEncoding::Scope scope(encoding);
+        const std::string text = "[Quillmark]\n" + lines;
+        const std::string_view piece = text;
+        ASSERT_EQ(SysFile::writeWhole(place.file(iniName), {&piece, 1}), WriteResult::done);
+    }
     void openOnDisk() {
         const std::string name = place.file("out\\rep.htm").str();
         doc().create(testing::wide(name));
@@ -199,14 +207,34 @@ protected:
     }
 
     TempDir place;
+    /// As the host gives it.
+    std::string iniName = "tool.ini";
 
 private:
-    [[nodiscard]] OrxString profilePath() const override { return place.file("tool.ini"); }
+    [[nodiscard]] OrxString profilePath() const override { return place.file(iniName); }
 
     OrxString startedIn_ = FileSystem::native().currentDirectory();
     AppProfileInterface* before_;
     InstalledFileSystem disk_{FileSystem::native()};
 };
+
+TEST_F(IniFileValues, AreReadByADocumentInUtf8FromAFileOfAnyName) {
+    html("CharSet", "UTF-8");
+    renew();
+    iniName = "\xE8\xA8\xAD\xE5\xAE\x9A.ini";
+    ini("ExpandRelativeDocumentNames=FALSE\n", TextEncoding::utf8());
+    EXPECT_FALSE(expandsNames());
+}
+
+TEST_F(IniFileValues, AreReadByADocumentInUtf8FromANameInTheCodePage) {
+    html("CharSet", "UTF-8");
+    renew();
+    iniName =
+        "Gr\xF6\xDF"
+        "e.ini";
+    ini("ExpandRelativeDocumentNames=FALSE\n");
+    EXPECT_FALSE(expandsNames());
+}
 
 TEST_F(IniFileValues, ExpandNamesByDefault) {
     EXPECT_TRUE(expandsNames());

@@ -17,7 +17,8 @@
 /// record that lacks a callback.
 struct IHostServices : IUnknown {
     virtual HRESULT STDMETHODCALLTYPE setSettingsStore(const DochtmlSettingsStore* store) = 0;
-    /// The path of the ini file that replaces "Veltrano.ini".
+    /// The path of the ini file that replaces "Veltrano.ini", in the driver's 8-bit code page. A
+    /// document in UTF-8 takes a path that is valid UTF-8 as such.
     virtual HRESULT STDMETHODCALLTYPE setProfilePath(const DochtmlText* path) = 0;
     virtual HRESULT STDMETHODCALLTYPE setImageMaps(const DochtmlImageMaps* maps) = 0;
     virtual HRESULT STDMETHODCALLTYPE setModel(const DochtmlModel* model) = 0;
