@@ -33,8 +33,8 @@ for (const browserName of browsers) {
     if (browserName === 'chrome') await page.setJavaScriptEnabled(false);
     const { address } = await ways.disk(directory);
     await page.goto(`${address}/rep.htm`, { waitUntil: 'load' });
-    const indents = await page.$$eval('.rn-start > li > a, .rn-start ul a', (links) => links.slice(0, 2).map((one) => one.getBoundingClientRect().left));
-    assert.ok(indents[1] > indents[0] + 10);
+    const leftOf = (selector) => page.$eval(selector, (one) => one.getBoundingClientRect().left);
+    assert.ok(await leftOf('.rn-start ul a') > await leftOf('.rn-start > li > a') + 10);
     assert.equal(await page.$('.rn-bar'), null);
     const link = await page.$eval('li:nth-child(3) a', (one) => one.href);
     assert.equal(link, `${address}/parts/rep_dtl3.htm#toc5`);
