@@ -1,16 +1,16 @@
 // A report of pages of about 7 KB with and without the script navigator: what the search index
 // costs, in time, in bytes and in memory, and as it grows.
 
-#include <algorithm>
-#include <array>
-#include <cmath>
+#include <fstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "common/bench_settings.h"
+#include "common/child_process.h"
 #include "common/measure.h"
 #include "common/peak_memory.h"
-#include "common/texts.h"
+#include "common/varied_report.h"
 #include "navigator/index/word_index.h"
 #include "navigator/text/page_words.h"
 #include "platform/text_encoding.h"
@@ -18,73 +18,6 @@
 namespace quillmark::bench {
 
 namespace {
-
-constexpr std::size_t vocabulary = 50'000;
-constexpr std::size_t paragraphCount = 4'000;
-constexpr std::size_t paragraphsPerPage = 12;
-constexpr std::size_t wordsPerParagraph = 80;
-
-/// The same numbers in every run.
-class Numbers {
-public:
-    /// From 0 up to 1, without it.
-    double next() {
-        state_ = state_ * 6364136223846793005U + 1442695040888963407U;
-        return static_cast<double>(state_ >> 11U) / static_cast<double>(1ULL << 53U);
-    }
-
-private:
-    std::uint64_t state_ = 14;
-};
-
-/// A word of a vocabulary; the first ones are the shortest.
-std::u16string wordOf(std::size_t rank) {
-    constexpr std::array<const char16_t*, 16> syllables = {
-        u"re",  u"la", u"to", u"mi", u"sen", u"con", u"der", u"pa",
-        u"ver", u"ti", u"on", u"ex", u"um",  u"ist", u"ba",  u"ko"};
-    std::u16string word;
-    for (std::size_t rest = rank + 1; rest != 0; rest /= syllables.size()) {
-        word += syllables[rest % syllables.size()];
-    }
-    return word;
-}
-
-/// Paragraphs whose words are as frequent as those of a language: the n-th one 1/n of the first.
-const std::vector<std::u16string>& paragraphs() {
-    static const std::vector<std::u16string> all = [] {
-        Numbers numbers;
-        std::vector<std::u16string> made(paragraphCount);
-        for (std::u16string& text : made) {
-            for (std::size_t word = 0; word < wordsPerParagraph; ++word) {
-                const double rank = std::pow(static_cast<double>(vocabulary), numbers.next());
-                text += wordOf(static_cast<std::size_t>(rank) - 1) + u' ';
-            }
-        }
-        return made;
-    }();
-    return all;
-}
-
-void insertPage(IDocument& document, std::size_t number) {
-    document.setStyle(u"Heading 1");
-    document.insertText(numbered(u"Chapter ", number));
-    document.insertEndl();
-    document.setStyle(u"Normal");
-    for (std::size_t part = 0; part < paragraphsPerPage; ++part) {
-        document.insertText(
-            paragraphs()[(number * paragraphsPerPage + part * part * 37) % paragraphCount]);
-        document.insertEndl();
-    }
-}
-
-void report(IDocument& document, std::size_t pages) {
-    for (std::size_t number = 1; number <= pages; ++number) {
-        if (number > 1) {
-            document.insertPageBreak();
-        }
-        insertPage(document, number);
-    }
-}
 
 struct Run {
     Seconds seconds;
@@ -95,7 +28,7 @@ Run runReport(const std::filesystem::path& directory, std::size_t pages, const c
     const SettingsInForce settings({{"ScriptNavigator", navigator}});
     settle(Place::memory);
     resetPeakMemory();
-    const Seconds seconds = secondsOfDocument(directory, report, pages);
+    const Seconds seconds = secondsOfDocument(directory, varied_report::play, pages);
     return {seconds, peakMemoryGrowth()};
 }
 
@@ -126,11 +59,12 @@ Sizes sizesOf(const std::filesystem::path& directory) {
     return sizes;
 }
 
-/// "ratio_cpu": with the navigator by without it. "share": the index by the pages' bytes.
-/// "bytes_per_pair": memory that the navigator adds, the words among it, by (word, page) pairs.
+/// The driver alone. "ratio_cpu": with the navigator by without it. "share": the index by the
+/// pages' bytes. "bytes_per_pair": memory that the navigator adds, the words among it, by (word,
+/// page) pairs.
 void navigatorReport(benchmark::State& state) {
     const auto pages = static_cast<std::size_t>(state.range(0));
-    static_cast<void>(paragraphs());
+    varied_report::prepare();
     std::vector<Seconds> with;
     std::vector<Seconds> without;
     double memoryWith = 0;
@@ -171,6 +105,44 @@ BENCHMARK(navigatorReport)
     ->Arg(100'000)
     ->UseManualTime()
     ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+
+ChildRun runTool(const std::string& stream, const std::string& navigator) {
+    const std::filesystem::path directory = freshDirectory(Place::disk);
+    settle(Place::disk);
+    const ChildRun run =
+        runChild({DOCHTML_REPLAY_TOOL, "--quiet", "--install-dir", DOCHTML_SUPPORT_DIR, "--set",
+                  "Html.ScriptNavigator=" + navigator, "--output",
+                  (directory / "report.htm").string(), stream});
+    if (!run.succeeded) {
+        throw std::runtime_error("the replay tool failed");
+    }
+    return run;
+}
+
+/// The replay tool as a process, with pages on disk. "ratio", "ratio_cpu": with the navigator by
+/// without it.
+void navigatorWholeRun(benchmark::State& state) {
+    const auto pages = static_cast<std::size_t>(state.range(0));
+    const std::filesystem::path stream = freshDirectory(Place::memory) / "report.jsonl";
+    std::ofstream(stream, std::ios::binary) << varied_report::stream(pages);
+    std::vector<Seconds> with;
+    std::vector<Seconds> without;
+    for ([[maybe_unused]] auto _ : state) {
+        without.push_back(runTool(stream.string(), "false").seconds);
+        with.push_back(runTool(stream.string(), "true").seconds);
+        state.SetIterationTime(with.back().clock);
+    }
+    state.counters["ratio_cpu"] = median(with).processor / median(without).processor;
+    state.counters["ratio"] = median(with).clock / median(without).clock;
+    state.counters["goal"] = 1.5;
+    state.counters["us_per_page"] = median(with).processor * 1e6 / static_cast<double>(pages);
+}
+BENCHMARK(navigatorWholeRun)
+    ->Arg(1'000)
+    ->Arg(10'000)
+    ->UseManualTime()
+    ->Iterations(5)
     ->Unit(benchmark::kMillisecond);
 
 }  // namespace

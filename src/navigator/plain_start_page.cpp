@@ -65,7 +65,7 @@ public:
 
     void add(const ContentsEntryView& entry, std::uint32_t level) {
         if (level > open_) {
-            page_.append(open_ == 0 ? "<UL>\n" : "\n<UL>\n");
+            page_.append(open_ == 0 ? "<UL CLASS=\"rn-start\">\n" : "\n<UL>\n");
             ++open_;
         } else {
             page_.append("</LI>\n");

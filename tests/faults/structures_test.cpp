@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <filesystem>
 #include <memory>
 #include <new>
@@ -230,28 +231,15 @@ TEST(AfterAFailedAllocation, AListOfContentsEntriesHasWholeEntries) {
         });
 }
 
-/// A word as the index takes it.
-class PaddedWord {
-public:
-    explicit PaddedWord(const std::string& word) : bytes_(word) {
-        bytes_.append(FoldedWord::blockSize - bytes_.size() % FoldedWord::blockSize, '\0');
-    }
-    operator FoldedWord() const { return {bytes_.data(), size()}; }
-
-private:
-    [[nodiscard]] std::size_t size() const { return bytes_.find('\0'); }
-    std::string bytes_;
-};
-
 TEST(AfterAFailedAllocation, ATableOfWordsHasWholeWords) {
     failEverywhere<WordTable>(
         [](WordTable& words) {
             for (int i = 0; i < 20; ++i) {
-                words.add(PaddedWord(longName(i)));
+                words.add(longName(i));
             }
         },
         [](WordTable& words) {
-            const auto next = words.add(PaddedWord("next"));
+            const auto next = words.add("next");
             EXPECT_EQ(words.word(next), "next");
             for (WordTable::Id id = 0; id < next; ++id) {
                 EXPECT_EQ(words.word(id), longName(static_cast<int>(id)));
@@ -260,15 +248,16 @@ TEST(AfterAFailedAllocation, ATableOfWordsHasWholeWords) {
 }
 
 TEST(AfterAFailedAllocation, APlaceCanStillGetItsWord) {
+    static constexpr std::array<std::uint32_t, 1> word = {0};
     failEverywhere<Postings>(
         [](Postings& postings) {
             postings.startPlace(4);
-            postings.add(0);
+            postings.add(word);
         },
         [](Postings& postings) {
             if (postings.pairs() == 0) {
                 postings.startPlace(4);
-                postings.add(0);
+                postings.add(word);
             }
             EXPECT_EQ(postings.pairs(), 1U);
         });

@@ -1,6 +1,7 @@
 #include "navigator/data/number_list_text.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstddef>
 
@@ -9,32 +10,69 @@ namespace quillmark::number_list_text {
 namespace {
 
 constexpr std::uint32_t gapBase = 32;
+constexpr unsigned bitsPerGroup = 5;
+constexpr std::size_t mostGroups = 7;
 constexpr std::uint32_t bitsEach = 6;
 
-/// How many characters a gap takes.
-std::size_t gapLength(std::uint32_t gap) noexcept {
-    return gap < gapBase ? 1 : (static_cast<std::size_t>(std::bit_width(gap)) + 4) / 5;
-}
+/// A gap as it is written: up to two characters.
+struct ShortGap {
+    std::array<char, 2> text;
+    unsigned char length;
+};
 
-template <typename Each>
-void forEachGap(std::span<const std::uint32_t> numbers, const Each& each) {
-    std::uint32_t expected = 0;
-    for (const std::uint32_t number : numbers) {
-        each(number - expected);
-        expected = number + 1;
+constexpr std::uint32_t firstLongGap = gapBase * gapBase;
+constexpr auto shortGaps = [] {
+    std::array<ShortGap, firstLongGap> gaps{};
+    for (std::uint32_t gap = 0; gap < gaps.size(); ++gap) {
+        const char last = alphabet[gap % gapBase];
+        gaps[gap] = gap < gapBase ? ShortGap{{last, '\0'}, 1}
+                                  : ShortGap{{alphabet[gapBase + gap / gapBase], last}, 2};
     }
-}
+    return gaps;
+}();
 
-char* writeGap(char* to, std::uint32_t gap) noexcept {
-    for (std::size_t rest = gapLength(gap) - 1; rest != 0; --rest) {
-        *to++ = alphabet[gapBase + ((gap >> (5 * rest)) % gapBase)];
+char* writeLongGap(char* to, std::uint32_t gap) noexcept {
+    const unsigned groups =
+        (static_cast<unsigned>(std::bit_width(gap)) + bitsPerGroup - 1) / bitsPerGroup;
+    for (unsigned rest = groups - 1; rest != 0; --rest) {
+        *to++ = alphabet[gapBase + ((gap >> (bitsPerGroup * rest)) % gapBase)];
     }
     *to++ = alphabet[gap % gapBase];
     return to;
 }
 
-void writeBits(std::span<char> to, std::span<const std::uint32_t> numbers) {
-    std::ranges::fill(to, '\0');
+/// Nearly all gaps are short, and their length cannot be predicted.
+char* writeGap(char* to, std::uint32_t gap) noexcept {
+    if (gap >= firstLongGap) {
+        return writeLongGap(to, gap);
+    }
+    const ShortGap& text = shortGaps[gap];
+    to[0] = text.text[0];
+    to[1] = text.text[1];
+    return to + text.length;
+}
+
+void appendGaps(std::string& out, std::span<const std::uint32_t> numbers) {
+    constexpr std::size_t atOnce = 64;
+    std::array<char, atOnce * mostGroups> buffer{};
+    std::uint32_t expected = 0;
+    while (!numbers.empty()) {
+        const auto some = numbers.first(std::min(numbers.size(), atOnce));
+        char* to = buffer.data();
+        for (const std::uint32_t number : some) {
+            to = writeGap(to, number - expected);
+            expected = number + 1;
+        }
+        out.append(buffer.data(), to);
+        numbers = numbers.subspan(some.size());
+    }
+}
+
+void appendBits(std::string& out, std::span<const std::uint32_t> numbers) {
+    out.push_back('.');
+    const std::size_t start = out.size();
+    out.resize(start + numbers.back() / bitsEach + 1, '\0');
+    const std::span to = std::span(out).subspan(start);
     for (const std::uint32_t number : numbers) {
         char& value = to[number / bitsEach];
         value = static_cast<char>(static_cast<unsigned>(value) | (1U << (number % bitsEach)));
@@ -49,19 +87,17 @@ void append(std::string& out, std::span<const std::uint32_t> numbers) {
     if (numbers.empty()) {
         return;
     }
-    std::size_t gapsLength = 0;
-    forEachGap(numbers, [&](std::uint32_t gap) { gapsLength += gapLength(gap); });
-    const std::size_t bitsLength = std::size_t{numbers.back() / bitsEach} + 2;
     const std::size_t start = out.size();
-    if (gapsLength <= bitsLength) {
-        out.resize(start + gapsLength);
-        char* to = out.data() + start;
-        forEachGap(numbers, [&](std::uint32_t gap) { to = writeGap(to, gap); });
-    } else {
-        out.resize(start + bitsLength);
-        out[start] = '.';
-        writeBits(std::span(out).subspan(start + 1), numbers);
+    const std::size_t bitsLength = std::size_t{numbers.back() / bitsEach} + 2;
+    // Each gap takes a character at least.
+    if (numbers.size() <= bitsLength) {
+        appendGaps(out, numbers);
+        if (out.size() - start <= bitsLength) {
+            return;
+        }
+        out.resize(start);
     }
+    appendBits(out, numbers);
 }
 
 }  // namespace quillmark::number_list_text

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <optional>
 
 namespace quillmark {
 
@@ -20,26 +21,40 @@ std::vector<std::size_t> Postings::ascendingPlaces() const {
     return order;
 }
 
+std::vector<std::size_t> Postings::startsOfWords(std::size_t wordCount) const {
+    std::vector<std::size_t> starts(wordCount);
+    for (const std::uint32_t word : words_) {
+        ++starts[word];
+    }
+    std::exclusive_scan(starts.begin(), starts.end(), starts.begin(), std::size_t{0});
+    return starts;
+}
+
+template <typename Each>
+void Postings::forEachWordAt(std::size_t place, const Each& each) const {
+    const auto start = words_.begin() + static_cast<std::ptrdiff_t>(places_[place].start);
+    const auto end = words_.begin() + static_cast<std::ptrdiff_t>(endOf(place));
+    std::for_each(start, end, each);
+}
+
 Postings::Sorted Postings::sorted(std::size_t wordCount) const {
     Sorted sorted;
-    sorted.starts_.resize(wordCount);
-    for (const std::uint32_t word : words_) {
-        ++sorted.starts_[word];
-    }
-    std::exclusive_scan(sorted.starts_.begin(), sorted.starts_.end(), sorted.starts_.begin(),
-                        std::size_t{0});
+    sorted.starts_ = startsOfWords(wordCount);
     sorted.ends_ = sorted.starts_;
     sorted.places_.resize(words_.size());
+    std::optional<std::uint32_t> last;
     for (const std::size_t place : ascendingPlaces()) {
         const std::uint32_t number = places_[place].number;
-        for (std::size_t at = places_[place].start; at < endOf(place); ++at) {
-            const std::uint32_t word = words_[at];
+        // A place that was started twice has its words side by side here.
+        const bool isAgain = number == last;
+        last = number;
+        forEachWordAt(place, [&](std::uint32_t word) {
             std::size_t& end = sorted.ends_[word];
-            // A place that was started twice has its words side by side here.
-            if (end == sorted.starts_[word] || sorted.places_[end - 1] != number) {
-                sorted.places_[end++] = number;
+            if (isAgain && end != sorted.starts_[word] && sorted.places_[end - 1] == number) {
+                return;
             }
-        }
+            sorted.places_[end++] = number;
+        });
     }
     return sorted;
 }
@@ -47,7 +62,6 @@ Postings::Sorted Postings::sorted(std::size_t wordCount) const {
 void Postings::clear() noexcept {
     places_.clear();
     words_.clear();
-    lastStart_.clear();
 }
 
 }  // namespace quillmark

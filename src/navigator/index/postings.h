@@ -18,15 +18,9 @@ public:
 
     /// The following words are at this place. Places may come in any order, and more than once.
     void startPlace(std::uint32_t place);
-    /// Adds a word, unless the place has it since `startPlace`.
-    void add(std::uint32_t word) {
-        if (word >= lastStart_.size()) {
-            lastStart_.resize(std::size_t{word} + 1 + word / 2, 0);
-        }
-        if (lastStart_[word] != places_.size()) {
-            words_.push_back(word);
-            lastStart_[word] = static_cast<std::uint32_t>(places_.size());
-        }
+    /// Adds words, each at most once since `startPlace`.
+    void add(std::span<const std::uint32_t> words) {
+        words_.insert(words_.end(), words.begin(), words.end());
     }
 
     [[nodiscard]] Sorted sorted(std::size_t wordCount) const;
@@ -41,12 +35,13 @@ private:
     };
     [[nodiscard]] std::size_t endOf(std::size_t place) const noexcept;
     [[nodiscard]] std::vector<std::size_t> ascendingPlaces() const;
+    [[nodiscard]] std::vector<std::size_t> startsOfWords(std::size_t wordCount) const;
+    template <typename Each>
+    void forEachWordAt(std::size_t place, const Each& each) const;
 
     std::vector<Place> places_;
     /// A block at a time, so that growing copies nothing.
     std::deque<std::uint32_t> words_;
-    /// For each word, how many places there were when it was added last.
-    std::vector<std::uint32_t> lastStart_;
 };
 
 /// The places of each word, ascending, each once.

@@ -1,49 +1,55 @@
 #include "navigator/index/word_index.h"
 
-#include <algorithm>
 #include <array>
-#include <numeric>
 #include <vector>
 
 #include "navigator/index/word_files.h"
 
 namespace quillmark {
 
+void WordIndex::start(bool onPage, bool inEntry) noexcept {
+    ++mark_;
+    onPage_ = onPage;
+    inEntry_ = inEntry;
+}
+
 void WordIndex::startPage(std::uint32_t page) {
     pages_.startPlace(page);
-    onPage_ = true;
-    inEntry_ = false;
+    start(true, false);
 }
 
 void WordIndex::startEntry(std::uint32_t entry) {
     entries_.startPlace(entry);
-    onPage_ = false;
-    inEntry_ = true;
+    start(false, true);
 }
 
 void WordIndex::startEntry(std::uint32_t entry, std::uint32_t page) {
-    startPage(page);
+    pages_.startPlace(page);
     entries_.startPlace(entry);
-    inEntry_ = true;
+    start(true, true);
 }
 
-void WordIndex::words(std::span<const FoldedWord> words) {
-    std::array<WordTable::Id, mostAtOnce> numbers{};
-    words_.add(words, numbers);
-    for (const WordTable::Id number : std::span(numbers).first(words.size())) {
-        if (onPage_) {
-            pages_.add(number);
-        }
-        if (inEntry_) {
-            entries_.add(number);
-        }
+void WordIndex::word(std::string_view word) {
+    std::array<WordTable::Id, 1> numbers{};
+    addPairs(std::span(numbers).first(words_.addUnmarked(word, mark_, numbers)));
+}
+
+void WordIndex::shortWords(std::span<const ShortWord> words) {
+    std::array<WordTable::Id, mostAtOnce> numbers;
+    addPairs(std::span(numbers).first(words_.addUnmarked(words, mark_, numbers)));
+}
+
+void WordIndex::addPairs(std::span<const WordTable::Id> words) {
+    if (onPage_) {
+        pages_.add(words);
+    }
+    if (inEntry_) {
+        entries_.add(words);
     }
 }
 
 void WordIndex::write(const DataFiles& files) const {
-    std::vector<WordTable::Id> order(words_.size());
-    std::iota(order.begin(), order.end(), WordTable::Id{0});
-    std::ranges::sort(order, {}, [this](WordTable::Id id) { return words_.word(id); });
+    const std::vector<WordTable::Id> order = words_.ascending();
     const Postings::Sorted pages = pages_.sorted(words_.size());
     const Postings::Sorted entries = entries_.sorted(words_.size());
     WordFiles wordFiles(files);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 #include "navigator/data/data_files.h"
 #include "navigator/index/postings.h"
@@ -24,8 +25,8 @@ public:
     void startEntry(std::uint32_t entry);
     /// The following words are in the text of an entry, and on the page that it leads to.
     void startEntry(std::uint32_t entry, std::uint32_t page);
-    void word(const FoldedWord& word) override { words({&word, 1}); }
-    void words(std::span<const FoldedWord> words) override;
+    void word(std::string_view word) override;
+    void shortWords(std::span<const ShortWord> words) override;
     /// Forgets the entries, but not the pages of their words.
     void clearEntries() noexcept { entries_.clear(); }
 
@@ -37,9 +38,14 @@ public:
     [[nodiscard]] std::size_t pairs() const noexcept { return pages_.pairs() + entries_.pairs(); }
 
 private:
+    void start(bool onPage, bool inEntry) noexcept;
+    void addPairs(std::span<const WordTable::Id> words);
+
     WordTable words_;
     Postings pages_;
     Postings entries_;
+    /// Words with this mark are at the place already.
+    WordTable::Mark mark_ = 0;
     bool onPage_ = false;
     bool inEntry_ = false;
 };

@@ -1,124 +1,169 @@
 #include "navigator/index/word_table.h"
 
+#include <algorithm>
 #include <array>
-#include <cstring>
+#include <functional>
 #include <utility>
 
 namespace quillmark {
 
 namespace {
 
-constexpr std::size_t firstTableSize = 1024;
-constexpr std::size_t blocksInSlot = 2;
+constexpr unsigned hashBits = 64;
+constexpr unsigned firstTableBits = 10;
 
-std::uint64_t blockOf(const FoldedWord& word, std::size_t index) noexcept {
-    std::uint64_t block = 0;
-    std::memcpy(&block, word.block(index), sizeof block);
-    return block;
+/// The first bytes of a word, so that numbers are in the order of words.
+std::uint64_t firstBytes(std::string_view word) noexcept {
+    std::uint64_t bytes = 0;
+    for (std::size_t i = 0; i < byte_blocks::size; ++i) {
+        bytes = (bytes << 8U) | (i < word.size() ? static_cast<unsigned char>(word[i]) : 0U);
+    }
+    return bytes;
 }
 
 }  // namespace
 
-WordTable::WordTable() : slots_(firstTableSize) {}
+WordTable::WordTable()
+    : slots_(std::size_t{1} << firstTableBits), unusedBits_(hashBits - firstTableBits) {}
 
-/// What the slot of a word holds, but for its number.
-WordTable::Slot WordTable::slotOf(const FoldedWord& word) noexcept {
-    constexpr std::uint64_t factor = 0x9E3779B97F4A7C15U;
-    std::uint64_t hash = 0;
-    for (std::size_t i = 0; i < word.blocks(); ++i) {
-        hash = (hash ^ blockOf(word, i)) * factor;
-        hash ^= hash >> 32U;
-    }
-    return {blockOf(word, 0), word.blocks() > 1 ? blockOf(word, 1) : 0,
-            static_cast<std::uint32_t>(hash), none};
+/// The key of a long word is none of a short one: in its second half, other bytes follow a zero.
+/// Several long words may share a key.
+ShortWord WordTable::keyOfLong(std::string_view word) noexcept {
+    constexpr std::uint64_t firstByte = 0xFF;
+    constexpr std::uint64_t lastByte = std::uint64_t{1} << 63U;
+    ShortWord key = ShortWord::of(word.substr(0, ShortWord::longest));
+    key.second = (std::uint64_t{std::hash<std::string_view>()(word)} | lastByte) & ~firstByte;
+    return key;
 }
 
-/// The zeros after a word of less than two blocks tell it from a longer one.
-bool WordTable::holds(const Slot& slot, const Slot& wanted, const FoldedWord& word) const noexcept {
-    return slot.hash == wanted.hash && slot.firstBlock == wanted.firstBlock &&
-           slot.secondBlock == wanted.secondBlock && slot.id != none &&
-           (word.text().size() < blocksInSlot * FoldedWord::blockSize || hasRest(slot.id, word));
+/// The top bits of a product depend on all bits of the key.
+std::size_t WordTable::homeOf(const ShortWord& key) const noexcept {
+    constexpr std::uint64_t firstFactor = 0x9E3779B97F4A7C15U;
+    constexpr std::uint64_t secondFactor = 0xD6E8FEB86659FD93U;
+    return (key.first * firstFactor + key.second * secondFactor) >> unusedBits_;
 }
 
-/// Whether a word with the same first blocks is the same.
-bool WordTable::hasRest(Id id, const FoldedWord& word) const noexcept {
-    const std::size_t start = startOf(id);
-    if (ends_[id] - start != word.blocks()) {
-        return false;
+WordTable::Slot& WordTable::freeSlot(const ShortWord& key) noexcept {
+    const std::size_t mask = slots_.size() - 1;
+    std::size_t at = homeOf(key);
+    while (slots_[at].id != none) {
+        at = (at + 1) & mask;
     }
-    for (std::size_t i = blocksInSlot; i < word.blocks(); ++i) {
-        if (blocks_[start + i] != blockOf(word, i)) {
-            return false;
+    return slots_[at];
+}
+
+/// The slot with the key for which `isWord` holds, or null.
+template <typename IsWord>
+WordTable::Slot* WordTable::find(const ShortWord& key, const IsWord& isWord) noexcept {
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t at = homeOf(key); slots_[at].id != none; at = (at + 1) & mask) {
+        if (slots_[at].key == key && isWord(slots_[at])) {
+            return &slots_[at];
         }
     }
-    return true;
+    return nullptr;
 }
 
-WordTable::Id WordTable::add(const FoldedWord& word) {
-    return add(slotOf(word), word);
+WordTable::Slot& WordTable::slotOf(const ShortWord& word) {
+    Slot* const found = find(word, [](const Slot&) { return true; });
+    return found != nullptr ? *found : insert(word, ShortWordText(word).view());
 }
 
-WordTable::Id WordTable::add(Slot wanted, const FoldedWord& word) {
-    const std::size_t mask = slots_.size() - 1;
-    std::size_t at = wanted.hash & mask;
-    for (; slots_[at].id != none; at = (at + 1) & mask) {
-        if (holds(slots_[at], wanted, word)) {
-            return slots_[at].id;
-        }
+WordTable::Slot& WordTable::slotOf(std::string_view word) {
+    if (word.size() <= ShortWord::longest) {
+        return slotOf(ShortWord::of(word));
     }
-    if ((size() + 1) * 4 > slots_.size() * 3) {
-        grow();
-        return add(wanted, word);
-    }
-    wanted.id = append(word);
-    slots_[at] = wanted;
-    return wanted.id;
+    const ShortWord key = keyOfLong(word);
+    Slot* const found = find(key, [&](const Slot& slot) { return this->word(slot.id) == word; });
+    return found != nullptr ? *found : insert(key, word);
 }
 
-void WordTable::add(std::span<const FoldedWord> words, std::span<Id> ids) {
-    std::array<Slot, WordSink::mostAtOnce> wanted{};
-    std::array<Slot, WordSink::mostAtOnce> found{};
-    const std::size_t mask = slots_.size() - 1;
+WordTable::Slot& WordTable::insert(const ShortWord& key, std::string_view word) {
+    const Id id = append(word);
+    return freeSlot(key) = {key, id, 0};
+}
+
+WordTable::Id WordTable::add(std::string_view word) {
+    makeRoomFor(1);
+    return slotOf(word).id;
+}
+
+/// Writes the number in any case, and returns whether it counts: there is no branch, because
+/// nothing predicts it.
+std::size_t WordTable::setMark(Slot& slot, Mark mark, Id& id) noexcept {
+    const std::size_t count = slot.mark != mark ? 1 : 0;
+    slot.mark = mark;
+    id = slot.id;
+    return count;
+}
+
+std::size_t WordTable::addUnmarked(std::span<const ShortWord> words, Mark mark, std::span<Id> ids) {
+    makeRoomFor(words.size());
+    // First all looks into the table, which do not wait for each other.
+    std::array<Look, mostAtOnce> looks;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        wanted[i] = slotOf(words[i]);
-        found[i] = slots_[wanted[i].hash & mask];
+        Slot& slot = slots_[homeOf(words[i])];
+        looks[i] = {&slot, slot.key == words[i]};
     }
+    std::size_t count = 0;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        ids[i] = holds(found[i], wanted[i], words[i]) ? found[i].id : add(wanted[i], words[i]);
+        Slot& slot = looks[i].isHit ? *looks[i].slot : slotOf(words[i]);
+        count += setMark(slot, mark, ids[count]);
     }
+    return count;
 }
 
-WordTable::Id WordTable::append(const FoldedWord& word) {
-    // A word for which memory ran out has left blocks.
-    blocks_.resize(startOf(static_cast<Id>(size())));
-    for (std::size_t i = 0; i < word.blocks(); ++i) {
-        blocks_.push_back(blockOf(word, i));
-    }
-    ends_.push_back(static_cast<std::uint32_t>(blocks_.size()));
+std::size_t WordTable::addUnmarked(std::string_view word, Mark mark, std::span<Id> ids) {
+    makeRoomFor(1);
+    return setMark(slotOf(word), mark, ids.front());
+}
+
+WordTable::Id WordTable::append(std::string_view word) {
+    // A word for which memory ran out has left its text.
+    texts_.resize(ends_.empty() ? 0 : ends_.back());
+    texts_.append(word);
+    ends_.push_back(texts_.size());
     return static_cast<Id>(ends_.size() - 1);
+}
+
+void WordTable::makeRoomFor(std::size_t words) {
+    while ((size() + words) * 4 > slots_.size() * 3) {
+        grow();
+    }
 }
 
 void WordTable::grow() {
     std::vector<Slot> grown(slots_.size() * 2);
-    const std::size_t mask = grown.size() - 1;
-    for (const Slot& slot : slots_) {
-        if (slot.id == none) {
-            continue;
+    std::swap(slots_, grown);
+    --unusedBits_;
+    for (const Slot& slot : grown) {
+        if (slot.id != none) {
+            freeSlot(slot.key) = slot;
         }
-        std::size_t at = slot.hash & mask;
-        while (grown[at].id != none) {
-            at = (at + 1) & mask;
-        }
-        grown[at] = slot;
     }
-    slots_ = std::move(grown);
 }
 
 std::string_view WordTable::word(Id id) const noexcept {
-    const std::size_t start = startOf(id);
-    const auto* const text = reinterpret_cast<const char*>(blocks_.data() + start);
-    const std::string_view padded(text, (ends_[id] - start) * FoldedWord::blockSize);
-    return padded.substr(0, padded.find('\0'));
+    const std::size_t start = id == 0 ? 0 : ends_[id - 1];
+    return std::string_view(texts_).substr(start, ends_[id] - start);
+}
+
+std::vector<WordTable::Id> WordTable::ascending() const {
+    struct Ordered {
+        std::uint64_t firstBytes;
+        Id id;
+    };
+    std::vector<Ordered> words;
+    words.reserve(size());
+    for (Id id = 0; id < size(); ++id) {
+        words.push_back({firstBytes(word(id)), id});
+    }
+    std::ranges::sort(words, [this](const Ordered& a, const Ordered& b) {
+        return a.firstBytes != b.firstBytes ? a.firstBytes < b.firstBytes : word(a.id) < word(b.id);
+    });
+    std::vector<Id> ids(words.size());
+    std::ranges::transform(words, ids.begin(), &Ordered::id);
+    return ids;
 }
 
 }  // namespace quillmark

@@ -12,24 +12,24 @@ namespace quillmark {
 
 namespace {
 
-constexpr std::size_t blockSize = FoldedWord::blockSize;
+/// What ends a run of ASCII letters.
+enum class Byte : unsigned char { separator, tag, reference, other };
 
-enum class Byte : unsigned char { separator, letter, tag, reference, other };
-
-constexpr std::array<Byte, 256> bytes = [] {
+constexpr std::array<Byte, 256> kinds = [] {
     std::array<Byte, 256> table{};
-    for (std::size_t byte = 0; byte < table.size(); ++byte) {
-        const bool isLetter = (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') ||
-                              (byte >= 'a' && byte <= 'z');
-        table[byte] = isLetter ? Byte::letter : byte < 0x80 ? Byte::separator : Byte::other;
-    }
+    std::fill(table.begin() + 0x80, table.end(), Byte::other);
     table['<'] = Byte::tag;
     table['&'] = Byte::reference;
     return table;
 }();
 
 Byte kindOf(char c) noexcept {
-    return bytes[static_cast<unsigned char>(c)];
+    return kinds[static_cast<unsigned char>(c)];
+}
+
+/// Named references are separators.
+bool isLetterReference(std::string_view html) noexcept {
+    return html.starts_with("&#") && html_reference::at(html).length != 0;
 }
 
 /// A separator in every encoding, wherever it stands.
@@ -40,88 +40,89 @@ bool separatesAlways(char c) noexcept {
 }  // namespace
 
 void PageWords::read(std::span<const std::string_view> pieces) {
+    join(pieces);
+    const std::size_t start = html_tags::bodyStart(html_);
+    fold(start);
+    batch_.clear();
+    readFrom(start);
+    batch_.flush();
+}
+
+void PageWords::join(std::span<const std::string_view> pieces) {
     bytes_.clear();
     for (const std::string_view piece : pieces) {
         bytes_.append(piece);
     }
-    const std::size_t size = bytes_.size();
-    bytes_.append(blockSize, '\0');
-    html_ = std::string_view(bytes_).substr(0, size);
-    at_ = html_tags::bodyStart(html_);
-    batch_.clear();
-    readBody();
+    html_ = bytes_;
+}
+
+void PageWords::fold(std::size_t start) {
+    const std::size_t size = html_.size() + ShortWord::longest;
+    if (folded_.size() < size) {
+        folded_.resize(size);
+    }
+    ascii_words::fold(html_.substr(start), folded_.data() + start);
+    folded_.replace(html_.size(), ShortWord::longest, ShortWord::longest, '\0');
+}
+
+void PageWords::readFrom(std::size_t at) {
+    const std::size_t size = html_.size();
+    const char* const bytes = bytes_.data();
+    const char* const folded = folded_.data();
+    while (at < size) {
+        const ascii_words::Front front = ascii_words::frontOf(folded + at);
+        const std::size_t end = at + front.length;
+        if (front.length == ShortWord::longest) {
+            at = readLongWord(at);
+        } else if (kindOf(bytes[end]) == Byte::separator) {
+            batch_.add(front.word);
+            at = end + 1;
+        } else if (goesOnAt(end)) {
+            at = readSlowly(at);
+        } else {
+            batch_.add(front.word);
+            at = behindSeparator(end);
+        }
+    }
+}
+
+/// Whether a character there belongs to the word in front of it, but is not an ASCII letter.
+bool PageWords::goesOnAt(std::size_t at) const noexcept {
+    const Byte kind = kindOf(bytes_[at]);
+    return kind == Byte::other || (kind == Byte::reference && isLetterReference(html_.substr(at)));
+}
+
+std::size_t PageWords::behindSeparator(std::size_t at) const noexcept {
+    switch (kindOf(bytes_[at])) {
+        case Byte::tag:
+            return std::max(at + 1, html_tags::endAt(html_, at));
+        case Byte::reference:
+            return at + std::max<std::size_t>(html_reference::at(html_.substr(at)).length, 1);
+        default:
+            return at + 1;
+    }
+}
+
+std::size_t PageWords::readLongWord(std::size_t start) {
+    const std::size_t end = folded_.find('\0', start);
+    if (goesOnAt(end)) {
+        return readSlowly(start);
+    }
     batch_.flush();
+    sink_.word(
+        std::string_view(folded_).substr(start, std::min(end - start, WordSplitter::longestWord)));
+    return end;
 }
 
-void PageWords::readBody() {
-    while (at_ < html_.size()) {
-        switch (kindOf(html_[at_])) {
-            case Byte::letter:
-                readWord();
-                break;
-            case Byte::separator:
-                ++at_;
-                break;
-            case Byte::tag:
-                at_ = std::max(at_ + 1, html_tags::endAt(html_, at_));
-                break;
-            case Byte::reference:
-                readReference();
-                break;
-            case Byte::other:
-                readSlowly(at_);
-                break;
-        }
-    }
-}
-
-void PageWords::readWord() {
-    static_assert(WordBatch::longestWord == WordSplitter::longestWord);
-    static_assert(WordBatch::longestWord % blockSize == 0);
-    char* const word = batch_.next();
-    const char* const html = html_.data();
-    std::size_t at = at_;
-    std::size_t length = 0;
-    ascii_words::Block block{};
-    do {
-        block = ascii_words::classify(ascii_words::load(html + at));
-        if (length < WordBatch::longestWord) {
-            ascii_words::store(word + length, block.letters);
-            length += block.length;
-        }
-        at += block.length;
-    } while (block.length == blockSize);
-    // Behind the page are zeros, which are separators.
-    const Byte next = kindOf(html[at]);
-    if (next == Byte::other || (next == Byte::reference && isLetterReference(at))) {
-        readSlowly(at_);
-        return;
-    }
-    at_ = at;
-    batch_.add(length);
-}
-
-/// Named references are separators.
-bool PageWords::isLetterReference(std::size_t at) const noexcept {
-    return html_.substr(at).starts_with("&#") && html_reference::at(html_.substr(at)).length != 0;
-}
-
-void PageWords::readReference() {
-    if (isLetterReference(at_)) {
-        readSlowly(at_);
-    } else {
-        at_ += std::max<std::size_t>(html_reference::at(html_.substr(at_)).length, 1);
-    }
-}
-
-void PageWords::readSlowly(std::size_t start) {
-    at_ = slowEnd(start);
+std::size_t PageWords::readSlowly(std::size_t start) {
+    const std::size_t end = slowEnd(start);
     wide_.clear();
-    decoder_.append(wide_, html_.substr(start, at_ - start));
+    decoder_.append(wide_, html_.substr(start, end - start));
     decoded_.clear();
     plain_text::appendDecoded(decoded_, wide_);
     batch_.flush();
     splitter_.split(decoded_);
+    return end;
 }
 
 std::size_t PageWords::slowEnd(std::size_t start) const noexcept {

@@ -18,27 +18,32 @@ class PageWords {
 public:
     /// The objects must outlive this one.
     PageWords(const TextDecoder& decoder, WordSink& sink) noexcept
-        : decoder_(decoder), batch_(sink), splitter_(sink) {}
+        : decoder_(decoder), sink_(sink), batch_(sink), splitter_(sink) {}
 
     /// Passes the words behind the BODY tag to the sink. The pieces form one page.
     void read(std::span<const std::string_view> pieces);
 
 private:
-    void readBody();
-    void readWord();
-    void readReference();
-    [[nodiscard]] bool isLetterReference(std::size_t at) const noexcept;
-    /// Reads from `start` up to the next separator the long way.
-    void readSlowly(std::size_t start);
+    void join(std::span<const std::string_view> pieces);
+    void fold(std::size_t start);
+    void readFrom(std::size_t at);
+    /// Reads the word of more than `ShortWord::longest` letters at `start`, and returns its end.
+    [[nodiscard]] std::size_t readLongWord(std::size_t start);
+    /// Reads from `start` up to the next separator the long way, and returns where that is.
+    [[nodiscard]] std::size_t readSlowly(std::size_t start);
+    [[nodiscard]] bool goesOnAt(std::size_t at) const noexcept;
+    [[nodiscard]] std::size_t behindSeparator(std::size_t at) const noexcept;
     [[nodiscard]] std::size_t slowEnd(std::size_t start) const noexcept;
 
     const TextDecoder& decoder_;
+    WordSink& sink_;
     WordBatch batch_;
     WordSplitter splitter_;
-    /// The page, with a few zero bytes at its end, so that eight bytes can be read anywhere.
+    /// The page. The zero behind it is a separator.
     std::string bytes_;
     std::string_view html_;
-    std::size_t at_ = 0;
+    /// The same, folded, with zeros at the end, so that whole blocks can be read anywhere.
+    std::string folded_;
     std::u16string wide_;
     std::u16string decoded_;
 };

@@ -2,27 +2,23 @@
 
 #include <array>
 #include <cstddef>
-#include <cstring>
 #include <span>
-#include <string_view>
 
 #include "navigator/text/word_sink.h"
 
 namespace quillmark {
 
-/// Collects words and passes them to a sink several at a time.
+/// Collects short words and passes them to a sink several at a time.
 class WordBatch {
 public:
-    static constexpr std::size_t longestWord = 32;
-
     explicit WordBatch(WordSink& sink) noexcept : sink_(sink) {}
 
-    /// Where the next word is written: `longestWord` bytes.
-    [[nodiscard]] char* next() noexcept { return texts_[count_].data(); }
-    /// The word at `next()` has this length; up to a multiple of eight, zeros follow it.
-    void add(std::size_t length) {
-        words_[count_] = FoldedWord(next(), length);
-        if (++count_ == words_.size()) {
+    /// Adds a word, unless it is empty.
+    void add(ShortWord word) {
+        words_[count_].first = word.first;
+        words_[count_].second = word.second;
+        count_ += word.first != 0 ? 1 : 0;
+        if (count_ == words_.size()) {
             flush();
         }
     }
@@ -31,7 +27,7 @@ public:
         const std::size_t count = count_;
         count_ = 0;
         if (count != 0) {
-            sink_.words(std::span(words_).first(count));
+            sink_.shortWords(std::span(words_).first(count));
         }
     }
     /// Drops them.
@@ -39,8 +35,7 @@ public:
 
 private:
     WordSink& sink_;
-    std::array<std::array<char, longestWord>, WordSink::mostAtOnce> texts_{};
-    std::array<FoldedWord, WordSink::mostAtOnce> words_{};
+    std::array<ShortWord, WordSink::mostAtOnce> words_{};
     std::size_t count_ = 0;
 };
 

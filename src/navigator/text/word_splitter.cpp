@@ -82,9 +82,7 @@ void WordSplitter::putWord(std::size_t start) {
     for (const char32_t point : std::u32string_view(run_).substr(start, longestWord)) {
         utf8::append(word_, point);
     }
-    const std::size_t length = word_.size();
-    word_.append(FoldedWord::blockSize, '\0');
-    sink_.word({word_.data(), length});
+    sink_.word(word_);
 }
 
 bool WordSplitter::beginsWithin(std::size_t letter) const noexcept {

@@ -111,7 +111,7 @@ TEST_F(ScriptNavigatorTest, StartPageShowsTitleAndContentsAsText) {
     heading(u"Four");
     doc().close();
     EXPECT_EQ(startPage(),
-              "<BODY  >\n<H1>&lt;IMG&gt; &amp; caf&#233;</H1>\n<UL>\n"
+              "<BODY  >\n<H1>&lt;IMG&gt; &amp; caf&#233;</H1>\n<UL CLASS=\"rn-start\">\n"
               "<LI><A HREF=\"rep_dtl.htm#toc1\">One &lt;B&gt;x&lt;/B&gt;</A>\n<UL>\n"
               "<LI><A HREF=\"rep_dtl.htm#toc2\">Two</A>\n<UL>\n"
               "<LI><A HREF=\"rep_dtl.htm#toc3\">Three</A></LI>\n</UL></LI>\n</UL></LI>\n"

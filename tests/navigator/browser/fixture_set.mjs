@@ -62,7 +62,7 @@ function detailPage({ path, headings }, number, nextAnchor) {
   return { entries, html: page(path, body) };
 }
 
-// The frame set of the static contents, and a page with a style sheet that knows no themes.
+// The frame set of the static contents, tables that are wide for a phone, and a page with a style sheet that knows no themes.
 function writeOddPages(directory) {
   writeFileSync(
     join(directory, 'rep_sfrm.htm'),
@@ -71,8 +71,23 @@ function writeOddPages(directory) {
   );
   writeFileSync(join(directory, 'rep_scnt.htm'), '<HTML><BODY>Static</BODY></HTML>');
   writeFileSync(join(directory, 'own.css'), 'BODY { color: #222; background: #fff; }');
+  const table = (cells) => `<TABLE BORDER=1 CELLSPACING=0 CELLPADDING=2>\n<TR>\n${cells.map((text) => `<TD>${text}</TD>`).join('\n')}</TR>\n</TABLE>\n`;
+  writeFileSync(join(directory, 'tables.htm'), page('tables.htm',
+    `<BODY  >\n${table(['children_foreach', 'void', filler])}${table(Array(9).fill('double'))}</BODY>`), 'latin1');
   const foreign = page('foreign.htm', '<BODY>Foreign</BODY>').replace('default.css', 'own.css');
   writeFileSync(join(directory, 'foreign.htm'), foreign);
+}
+
+// The upper levels of the contents, as the start page lists them.
+function upperLevels(entries) {
+  const link = ({ href, text }) => `<A HREF="${href}">${text.slice(0, 200)}</A>`;
+  const starts = entries.flatMap(({ level }, index) => (level === 1 ? [index] : []));
+  const items = starts.map((start, index) => {
+    const below = entries.slice(start + 1, starts[index + 1]).filter(({ level }) => level === 2);
+    const list = below.map((entry) => `<LI>${link(entry)}</LI>\n`).join('');
+    return `<LI>${link(entries[start])}${list && `\n<UL>\n${list}</UL>`}</LI>\n`;
+  });
+  return `<UL CLASS="rn-start">\n${items.join('')}</UL>`;
 }
 
 // Writes the set; gives { entries, paths }.
@@ -88,9 +103,7 @@ export function writeFixture(directory) {
     cpSync(join(support, name), join(directory, name), { recursive: true });
   }
   const entries = made.flatMap((each) => each.entries);
-  const roots = entries.filter(({ level }) => level === 1);
-  const links = roots.map(({ href, text }) => `<LI><A HREF="${href}">${text}</A></LI>`).join('\n');
-  writeFileSync(join(directory, 'rep.htm'), page('rep.htm', `<BODY>\n<H1>Fixture</H1>\n<UL>\n${links}\n</UL>\n</BODY>`), 'latin1');
+  writeFileSync(join(directory, 'rep.htm'), page('rep.htm', `<BODY>\n<H1>Fixture</H1>\n${upperLevels(entries)}\n</BODY>`), 'latin1');
   const set = { title: 'Fixture', start: 'rep.htm', name: 'rep_dtl', extension: '.htm',
     icons: ['Package.gif', 'Class.gif', '__None.gif'], iconDirectory: iconDirectoryIn(directory) };
   buildNavigator(join(directory, 'rep_nav'), set, entries, made.map(({ html }, index) => [index + 1, html]));

@@ -1,15 +1,13 @@
 // The navigator as a whole, in real browsers: each row of what it promises a reader.
 
 import assert from 'node:assert/strict';
-import { mkdtempSync, readFileSync, rmSync } from 'node:fs';
-import { createRequire } from 'node:module';
+import { mkdtempSync, rmSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 import { after, afterEach, before, beforeEach, describe, test } from 'node:test';
 import { writeFixture } from './fixture_set.mjs';
-import { browsers, collectComplaints, follow, launch, open, picture, ready, ways } from './reading.mjs';
+import { browsers, collectComplaints, follow, launch, open, picture, ready, violations, ways } from './reading.mjs';
 
-const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
 const directory = mkdtempSync(join(tmpdir(), 'navigator-set-'));
 writeFixture(directory);
 after(() => rmSync(directory, { recursive: true }));
@@ -332,7 +330,30 @@ for (const browserName of browsers) {
         assert.ok(await fits(page));
       });
 
+      test('on a phone short words in tables stay whole, and only a table scrolls', async () => {
+        await page.setViewport(narrow);
+        await to('tables.htm');
+        const broken = await page.$$eval('td', (cells) => cells.filter(({ firstChild }) => {
+          const range = document.createRange();
+          range.selectNode(firstChild);
+          return firstChild.length < 7 && range.getClientRects().length > 1;
+        }).map(({ textContent }) => textContent));
+        assert.deepEqual(broken, []);
+        assert.ok(await fits(page));
+        await picture(page, `tables-${browserName}-${way}`);
+      });
+
       for (const [size, viewport] of Object.entries({ wide, narrow })) {
+        test(`the start page shows its levels, ${size}`, async () => {
+          await page.setViewport(viewport);
+          await to('rep.htm');
+          const lefts = await page.$$eval('.rn-start a', (links) => ['Introduction', 'Purpose'].map((text) =>
+            links.find(({ textContent }) => textContent === text).getBoundingClientRect().left));
+          assert.ok(lefts[1] > lefts[0] + 10, `${lefts}`);
+          assert.ok(await fits(page));
+          await picture(page, `start-${size}-${browserName}-${way}`);
+        });
+
         test(`axe finds nothing against WCAG 2.1 AA, ${size}, light and dark`, async () => {
           await page.setViewport(viewport);
           await to('parts/rep_dtl3.htm');
@@ -351,44 +372,4 @@ for (const browserName of browsers) {
       }
     });
   }
-}
-
-for (const browserName of browsers) {
-  test(`${browserName} in a dark system shows dark pages`, async () => {
-    const browser = await launch(browserName, 'dark');
-    const page = await browser.newPage();
-    if (browserName === 'chrome') {
-      await page.emulateMediaFeatures([{ name: 'prefers-color-scheme', value: 'dark' }]);
-    }
-    await open(page, `${(await ways.disk(directory)).address}/rep_dtl.htm`);
-    assert.equal(await page.evaluate(() => getComputedStyle(document.body).backgroundColor), 'rgb(20, 24, 30)');
-    assert.deepEqual(await violations(page), []);
-    await browser.close();
-  });
-}
-
-for (const browserName of browsers) {
-  test(`${browserName} without scripts shows pages as they always were`, async () => {
-    const browser = await launch(browserName, 'light', { 'javascript.enabled': false });
-    const page = await browser.newPage();
-    if (browserName === 'chrome') await page.setJavaScriptEnabled(false);
-    const { address } = await ways.disk(directory);
-    await page.goto(`${address}/rep.htm`, { waitUntil: 'load' });
-    assert.equal(await page.$('.rn-bar'), null);
-    const link = await page.$eval('li:nth-child(3) a', (one) => one.href);
-    assert.equal(link, `${address}/parts/rep_dtl3.htm#toc5`);
-    await page.goto(link, { waitUntil: 'load' });
-    assert.match(await page.$eval('body', (body) => body.innerText), /Parts/);
-    await browser.close();
-  });
-}
-
-async function violations(page) {
-  await page.evaluate(axe);
-  return page.evaluate(async () => {
-    const own = ['.rn-bar', '.rn-contents', '.rn-path', '.rn-neighbours', '.rn-skip'];
-    const runOnly = ['wcag2a', 'wcag2aa', 'wcag21a', 'wcag21aa'];
-    const { violations: found } = await globalThis.axe.run({ include: own }, { runOnly, resultTypes: ['violations'], preload: false });
-    return found.flatMap(({ id, nodes }) => nodes.map(({ html, failureSummary }) => `${id}: ${html} ${failureSummary}`));
-  });
 }

@@ -1,8 +1,9 @@
 // Browsers and the ways to read a document set: what the browser tests of the navigator share.
 
-import { mkdirSync } from 'node:fs';
+import { mkdirSync, readFileSync } from 'node:fs';
 import { readFile } from 'node:fs/promises';
 import { createServer } from 'node:http';
+import { createRequire } from 'node:module';
 import { extname, join, normalize } from 'node:path';
 import { pathToFileURL } from 'node:url';
 import puppeteer from 'puppeteer-core';
@@ -95,4 +96,17 @@ export async function picture(page, name) {
   if (!directory) return;
   mkdirSync(directory, { recursive: true });
   await page.screenshot({ path: join(directory, `${name}.png`) });
+}
+
+const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core/axe.min.js'), 'utf8');
+
+// What axe finds in the navigator's own markup.
+export async function violations(page) {
+  await page.evaluate(axe);
+  return page.evaluate(async () => {
+    const own = ['.rn-bar', '.rn-contents', '.rn-path', '.rn-neighbours', '.rn-skip'];
+    const runOnly = ['wcag2a', 'wcag2aa', 'wcag21a', 'wcag21aa'];
+    const { violations: found } = await globalThis.axe.run({ include: own }, { runOnly, resultTypes: ['violations'], preload: false });
+    return found.flatMap(({ id, nodes }) => nodes.map(({ html, failureSummary }) => `${id}: ${html} ${failureSummary}`));
+  });
 }

@@ -12,15 +12,15 @@ std::string stringOf(std::u16string_view text) {
     return json;
 }
 
-TEST(JsonText, printableAsciiStandsForItself) {
+TEST(JsonText, PrintableAsciiStandsForItself) {
     EXPECT_EQ(stringOf(u"a Z~&>/;()"), "\"a Z~&>/;()\"");
 }
 
-TEST(JsonText, whatMayEndAStringOrAScriptIsEscaped) {
+TEST(JsonText, WhatMayEndAStringOrAScriptIsEscaped) {
     EXPECT_EQ(stringOf(u"\"'\\<"), R"("\\u0022\\u0027\\u005c\\u003c")");
 }
 
-TEST(JsonText, otherCharactersAreEscapedByUnits) {
+TEST(JsonText, OtherCharactersAreEscapedByUnits) {
     EXPECT_EQ(stringOf(u"\n\x7F\u00E9\u2028\U0001F600"),
               R"("\\u000a\\u007f\\u00e9\\u2028\\ud83d\\ude00")");
 }

@@ -26,11 +26,11 @@ std::vector<std::uint32_t> numbersOf(std::initializer_list<std::int32_t> levels)
     return found;
 }
 
-TEST(EntryNumbers, countLevelByLevel) {
+TEST(EntryNumbers, CountLevelByLevel) {
     EXPECT_EQ(numbersOf({1, 2, 3, 2, 1, 2}), (std::vector<std::uint32_t>{0, 2, 5, 3, 1, 4}));
 }
 
-TEST(EntryNumbers, childrenOfAnEntryAreConsecutive) {
+TEST(EntryNumbers, ChildrenOfAnEntryAreConsecutive) {
     const EntryNumbers numbers(entriesOf({1, 2, 3, 2, 1, 2}));
     EXPECT_EQ(numbers.nodes()[0].firstChild, 2U);
     EXPECT_EQ(numbers.nodes()[0].children, 2U);
@@ -40,7 +40,7 @@ TEST(EntryNumbers, childrenOfAnEntryAreConsecutive) {
     EXPECT_EQ(numbers.nodes()[0].parent, EntryNumbers::none);
 }
 
-TEST(EntryNumbers, levelsArePutRight) {
+TEST(EntryNumbers, LevelsArePutRight) {
     const EntryNumbers numbers(entriesOf({5, 5, -3, 0, 99}));
     std::vector<std::uint32_t> levels;
     for (std::size_t index = 0; index < 5; ++index) {
@@ -49,7 +49,7 @@ TEST(EntryNumbers, levelsArePutRight) {
     EXPECT_EQ(levels, (std::vector<std::uint32_t>{1, 2, 1, 1, 2}));
 }
 
-TEST(EntryNumbers, levelsEndAtTheDeepest) {
+TEST(EntryNumbers, LevelsEndAtTheDeepest) {
     ContentsEntryList entries;
     for (std::int32_t level = 1; level <= 40; ++level) {
         entries.add({.href = "h", .text = "x", .level = level});
@@ -59,7 +59,7 @@ TEST(EntryNumbers, levelsEndAtTheDeepest) {
     EXPECT_EQ(numbers.nodes()[39].parent, 30U);
 }
 
-TEST(EntryNumbers, noEntriesHaveNoNumbers) {
+TEST(EntryNumbers, NoEntriesHaveNoNumbers) {
     EXPECT_TRUE(EntryNumbers(ContentsEntryList()).nodes().empty());
 }
 

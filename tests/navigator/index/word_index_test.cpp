@@ -41,7 +41,7 @@ protected:
     WordIndex index;
 };
 
-TEST_F(WordIndexTest, wordsHaveTheirEntriesAndPages) {
+TEST_F(WordIndexTest, WordsHaveTheirEntriesAndPages) {
     index.startPage(0);
     add(u"order line");
     index.startPage(2);
@@ -54,7 +54,7 @@ TEST_F(WordIndexTest, wordsHaveTheirEntriesAndPages) {
     EXPECT_EQ(written("index.js"), "repNav(\"index\",'[\"line\"]');\n");
 }
 
-TEST_F(WordIndexTest, wordsAreInTheOrderOfTheirCodePoints) {
+TEST_F(WordIndexTest, WordsAreInTheOrderOfTheirCodePoints) {
     index.startPage(0);
     add(u"z \U00020BB7 \u6771 \u00B5 \uFF9E");
     EXPECT_EQ(
@@ -62,14 +62,14 @@ TEST_F(WordIndexTest, wordsAreInTheOrderOfTheirCodePoints) {
         "repNav(\"word0\",'\"Az,,A;A\\\\u6771,,A;A\\\\uff9e,,A;A\\\\ud842\\\\udfb7,,A;\"');\n");
 }
 
-TEST_F(WordIndexTest, wordsShareNoHalfOfAPair) {
+TEST_F(WordIndexTest, WordsShareNoHalfOfAPair) {
     index.startPage(0);
     add(u"a\U00010400 a\U00010401");
     EXPECT_EQ(written("word0.js"),
               "repNav(\"word0\",'\"Aa\\\\ud801\\\\udc00,,A;B\\\\ud801\\\\udc01,,A;\"');\n");
 }
 
-TEST_F(WordIndexTest, entriesCanBeTakenUpAgain) {
+TEST_F(WordIndexTest, EntriesCanBeTakenUpAgain) {
     index.startEntry(3, 0);
     add(u"word");
     index.clearEntries();
@@ -78,12 +78,12 @@ TEST_F(WordIndexTest, entriesCanBeTakenUpAgain) {
     EXPECT_EQ(written("word0.js"), "repNav(\"word0\",'\"Aword,B,A;\"');\n");
 }
 
-TEST_F(WordIndexTest, anEmptyIndexHasNoFilesOfWords) {
+TEST_F(WordIndexTest, AnEmptyIndexHasNoFilesOfWords) {
     EXPECT_EQ(written("index.js"), "repNav(\"index\",'[]');\n");
     EXPECT_EQ(written("word0.js"), "(none)");
 }
 
-TEST_F(WordIndexTest, aFileThatCannotBeWrittenIsLogged) {
+TEST_F(WordIndexTest, AFileThatCannotBeWrittenIsLogged) {
     CapturingExceptionLog log;
     index.startPage(0);
     add(u"word");
@@ -159,7 +159,7 @@ private:
     }
 };
 
-TEST_F(WordIndexTest, randomWordsAreWhereANaiveModelHasThem) {
+TEST_F(WordIndexTest, RandomWordsAreWhereANaiveModelHasThem) {
     for (unsigned seed = 1; seed <= 6; ++seed) {
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);

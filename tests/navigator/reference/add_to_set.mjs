@@ -40,7 +40,7 @@ function startPage(set, entries, directoryName, styleSheet) {
   return (
     '<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.0 Transitional//EN">\n<HTML>\n<HEAD>\n' +
     `<TITLE>${set.title}</TITLE>\n${styleSheet}${headLines('', directoryName)}</HEAD>\n\n` +
-    `<BODY>\n<H1>${set.title}</H1>\n<UL>\n${list}</UL>\n</BODY>\n</HTML>\n`
+    `<BODY>\n<H1>${set.title}</H1>\n<UL CLASS="rn-start">\n${list}</UL>\n</BODY>\n</HTML>\n`
   );
 }
 

@@ -21,33 +21,33 @@ std::string repeated(std::string_view text, int times) {
     return all;
 }
 
-TEST(PlainText, decodesReferencesOnce) {
+TEST(PlainText, DecodesReferencesOnce) {
     EXPECT_EQ(plain("a&amp;lt;b &lt;i&gt; &#38;#60;"), "a&lt;b <i> &#60;");
 }
 
-TEST(PlainText, keepsWhatIsNotAReference) {
+TEST(PlainText, KeepsWhatIsNotAReference) {
     EXPECT_EQ(plain("&eacute; &amp &#; &#x; &#xg; & <"), "&eacute; &amp &#; &#x; &#xg; & <");
 }
 
-TEST(PlainText, hugeReferencesAreReplacementCharacters) {
+TEST(PlainText, HugeReferencesAreReplacementCharacters) {
     EXPECT_EQ(plain("&#99999999999999999999;&#x110000;&#xDFFF;"),
               "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
-TEST(PlainText, joinsBlanksAndLineBreaks) {
+TEST(PlainText, JoinsBlanksAndLineBreaks) {
     EXPECT_EQ(plain(" \t a<BR>\n&nbsp;b\x7F "), "a b");
 }
 
-TEST(PlainText, textOfTheFullLengthStays) {
+TEST(PlainText, TextOfTheFullLengthStays) {
     EXPECT_EQ(plain(repeated("\xF0\x9F\x98\x80", 200)), repeated("\xF0\x9F\x98\x80", 200));
 }
 
-TEST(PlainText, longerTextIsCutWithAnEllipsis) {
+TEST(PlainText, LongerTextIsCutWithAnEllipsis) {
     EXPECT_EQ(plain(repeated("\xF0\x9F\x98\x80", 201)),
               repeated("\xF0\x9F\x98\x80", 199) + "\xE2\x80\xA6");
 }
 
-TEST(PlainText, blanksAtTheEndDoNotCountForTheLength) {
+TEST(PlainText, BlanksAtTheEndDoNotCountForTheLength) {
     EXPECT_EQ(plain(repeated("a", 200) + "  "), repeated("a", 200));
 }
 

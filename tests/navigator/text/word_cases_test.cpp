@@ -69,31 +69,31 @@ Words pageWords(const std::string& html) {
     return collected.words;
 }
 
-TEST(WordCases, textsOfEntriesAreSplit) {
+TEST(WordCases, TextsOfEntriesAreSplit) {
     forEachCase("entry", [](const std::string& text, const rapidjson::Value& expected) {
         EXPECT_EQ(split(text, WordSplitter::Within::alsoWithin), wordsOf(expected));
     });
 }
 
-TEST(WordCases, textsOfPagesAreSplit) {
+TEST(WordCases, TextsOfPagesAreSplit) {
     forEachCase("page", [](const std::string& text, const rapidjson::Value& expected) {
         EXPECT_EQ(split(text, WordSplitter::Within::whole), wordsOf(expected));
     });
 }
 
-TEST(WordCases, pagesAreReadWithoutTheirTags) {
+TEST(WordCases, PagesAreReadWithoutTheirTags) {
     forEachCase("html", [](const std::string& html, const rapidjson::Value& expected) {
         EXPECT_EQ(pageWords(html), wordsOf(expected));
     });
 }
 
-TEST(WordCases, entriesTextsBecomePlain) {
+TEST(WordCases, EntriesTextsBecomePlain) {
     forEachCase("text", [](const std::string& html, const rapidjson::Value& expected) {
         EXPECT_EQ(utf8::fromUtf16(plain_text::ofHtml(html, Utf8Decoder())), textOf(expected));
     });
 }
 
-TEST(WordCases, pagesBytesAreSplitLikeTheirText) {
+TEST(WordCases, PagesBytesAreSplitLikeTheirText) {
     forEachCase("page", [](const std::string& text, const rapidjson::Value& expected) {
         if (text.find('<') == std::string::npos && text.find('&') == std::string::npos) {
             EXPECT_EQ(pageWords("<BODY>" + text), wordsOf(expected));
