@@ -24,7 +24,8 @@ def older_package(file, work):
         (support / "default.css").write_text("BODY { color: black }\n")
         (support / "older.txt").write_text("The new version does without it.\n")
     (changes,) = root.glob("usr/share/doc/*/changelog.Debian.gz")
-    changes.write_bytes(gzip.compress(gzip.decompress(changes.read_bytes()).replace(new.encode(), VERSION.encode())))
+    text = gzip.decompress(changes.read_bytes()).decode()
+    changes.write_bytes(gzip.compress(text.replace(new, VERSION).encode()))
     made = root.with_suffix(".deb")
     command = ["dpkg-deb", "--root-owner-group", "-Znone", "--build", root, made]
     subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
