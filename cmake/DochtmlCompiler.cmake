@@ -12,6 +12,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     target_compile_options(dochtml_warnings INTERFACE -Wno-restrict)
 endif()
 
+# What is shipped does not know where it was built.
+add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>")
+
 if(DOCHTML_SANITIZE)
     # -g1 gives reports with line numbers and costs less than full debug information.
     set(sanitizers -fsanitize=${DOCHTML_SANITIZE} -fno-sanitize-recover=all)

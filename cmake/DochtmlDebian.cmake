@@ -50,6 +50,8 @@ set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-dochtml)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "python3 (>= 3.11), dochtml ${same_version}")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/debian/python/postinst
+                                              ${PROJECT_SOURCE_DIR}/packaging/debian/python/prerm)
 set(CPACK_DEBIAN_PYTHON_DESCRIPTION "HTML output driver of a report generator - Python package
 The driver turns the document calls of a report generator into a set of linked
 HTML pages with a table of contents.

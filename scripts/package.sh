@@ -1,19 +1,32 @@
 #!/bin/bash
 # Makes the packages: for Debian, the zip for Windows, and their bill of materials (SPDX).
-#   scripts/package.sh [--no-windows] [OUTPUT]
-# OUTPUT (default: build/packages) gets the files. The same sources make the same bytes: all times in
-# the packages are SOURCE_DATE_EPOCH, or the time of the last commit.
+#   scripts/package.sh [--no-windows] [--from PRESET] [--check] [OUTPUT]
+#     OUTPUT         gets the files (default: build/packages)
+#     --from PRESET  takes the Debian packages from this configured build, which has the options of
+#                    the preset "package"; default: a build of their own
+#     --check        makes the packages a second time: elsewhere, a day later, under other
+#                    conditions, without a cache; and compares
+# The same sources make the same bytes: all times in the packages are SOURCE_DATE_EPOCH, or the time
+# of the last commit.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh
 
-windows=true output=build/packages
-for argument in "$@"; do
-    case $argument in
+usage() {
+    echo "usage: scripts/package.sh [--no-windows] [--from PRESET] [--check] [OUTPUT]" >&2
+    exit 2
+}
+
+windows=true check=false preset=package output=build/packages
+while [ $# -gt 0 ]; do
+    case $1 in
         --no-windows) windows=false ;;
-        -*) echo "usage: scripts/package.sh [--no-windows] [OUTPUT]" >&2; exit 2 ;;
-        *) output=$argument ;;
+        --check) check=true ;;
+        --from) [ $# -gt 1 ] || usage; preset=$2; shift ;;
+        -*) usage ;;
+        *) output=$1 ;;
     esac
+    shift
 done
 mkdir -p "$output"
 output=$(cd "$output" && pwd)
@@ -29,17 +42,40 @@ pack() {
     cpack --config "build/$1/CPackConfig.cmake" -B "$work" >"build/$1.pack.log" 2>&1 ||
         { cat "build/$1.pack.log"; exit 1; }
     find "$work" -maxdepth 1 -type f \( -name '*.deb' -o -name '*.zip' \) -exec mv -t "$output" {} +
+    # The tests pack these builds again.
+    echo "$1" >>build/packed-builds.txt
+}
+
+# Makes the packages again from a copy of the sources, and compares them byte for byte. A compiler
+# cache would hide paths and times, so it is off.
+make_again() {
+    local sources option=()
+    $windows || option=(--no-windows)
+    again=$(mktemp -d)
+    trap 'rm -rf "$again"' EXIT
+    sources="$again/a directory of another length"
+    mkdir "$sources"
+    (
+        umask 077
+        git ls-files -z --cached --others --exclude-standard |
+            xargs -0 cp --parents --target-directory="$sources"
+        cd "$sources"
+        CCACHE_DISABLE=1 TZ=Asia/Tokyo LC_ALL=C faketime -f +30h \
+            scripts/package.sh "${option[@]}" "$again/packages"
+    )
+    (cd "$again/packages" && sha256sum -- *) >"$again/sums"
+    (cd "$output" && sha256sum --check --quiet "$again/sums")
 }
 
 need build package
-rm -f "$output"/*.deb "$output"/*.zip "$output"/*.spdx.json
+rm -f "$output"/*.deb "$output"/*.zip "$output"/*.spdx.json build/packed-builds.txt
 
 say "Building for Debian"
-configure package
+[ "$preset" != package ] || configure package
 # The manual is made again, because it shows the time.
-rm -f build/package/manual-set.stamp
-cmake --build --preset package
-pack package
+rm -f "build/$preset/manual-set.stamp"
+cmake --build --preset "$preset"
+pack "$preset"
 
 if $windows; then
     need full
@@ -53,7 +89,14 @@ if $windows; then
 fi
 
 say "Writing the bill of materials"
-cmake -D PACKAGES="$output" -D BUILD="$PWD/build/package" -P cmake/bill_of_materials.cmake
+cmake -D PACKAGES="$output" -D BUILD="$PWD/build/$preset" -P cmake/bill_of_materials.cmake
 
-say "Done:"
+if $check; then
+    say "Making the packages again, to compare"
+    need full
+    make_again
+    say "The same bytes:"
+else
+    say "Done:"
+fi
 (cd "$output" && sha256sum -- *)

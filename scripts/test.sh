@@ -42,7 +42,7 @@ case ${1-} in
         # Debian's 64-bit Wine cannot run 32-bit programs, so the tests only look at the binaries.
         build mingw32 -D DOCHTML_TEST_PROGRAMS=OFF
         say "Making the packages"
-        scripts/package.sh
+        scripts/package.sh --from gcc
         # This build compiles nothing; its native tests are those of the other builds.
         configure tidy
         test_builds gcc asan tsan mingw64 mingw32 tidy/tests/lint

@@ -69,6 +69,15 @@ class CommandPages(unittest.TestCase):
         self.assertEqual(completed("dochtml-settings", "get", ""), settings)
         self.assertEqual(completed("dochtml-replay", "--set", ""), {f"{name}=" for name in settings})
         self.assertEqual(completed("dochtml-replay", "--set", "Log."), {"Log.LogName="})
+        self.assertEqual(completed("dochtml-replay", "--set", "=", "Log."), {"Log.LogName="})
+
+    def test_bash_knows_the_command_behind_options_and_settings(self):
+        options = ("--settings", "other.ini")
+        self.assertEqual(completed("dochtml-settings", *options, "li"), {"list"})
+        self.assertEqual(completed("dochtml-settings", *options, "get", "Log."), {"Log.LogName"})
+        first = ("set", "Html.Navig", "=", "2")
+        self.assertEqual(completed("dochtml-settings", *first, "Log."), {"Log.LogName="})
+        self.assertEqual(completed("dochtml-settings", "set", "Html.StyleSheet", "=", "de"), set())
 
     def test_zsh_offers_the_options(self):
         for tool in TOOLS:

@@ -1,18 +1,17 @@
-"""The Debian packages as a user installs them, in a minimal system.
+"""The Debian packages as a user installs them, in a minimal system: over an older version of them,
+and until they are purged.
 
     debian_test.py PACKAGES SOURCES WORK ROOT-ARCHIVE
 """
 
-import functools
 import pathlib
-import re
-import shutil
 import subprocess
 import sys
 import unittest
 
 from markdown_links import broken_links
 from minimal_system import MinimalSystem
+from older_package import older_package
 from required_tools import require
 
 require("mmdebstrap")
@@ -20,6 +19,7 @@ PACKAGES, SOURCES, WORK, ARCHIVE = (pathlib.Path(argument).resolve() for argumen
 NAMES = ("dochtml", "dochtml-dev", "dochtml-doc", "python3-dochtml")
 STARTS = ("manual.htm", "manual_cnt.htm", "manual_sfrm.htm", "manual_ffrm.htm")
 HELLO = '["create","hello.htm"]\n["insertText","Hello"]\n["close"]\n'
+OF_THE_USER = ".config/quillmark/settings.ini .local/share/quillmark/classes.ini"
 
 
 def package(name):
@@ -29,62 +29,73 @@ def package(name):
     return files[0]
 
 
-def field(file, name):
-    command = ["dpkg-deb", "--field", file, name]
-    return subprocess.run(command, check=True, capture_output=True, text=True).stdout.strip()
+class Installation:
+    """All packages in a minimal system, upgraded from an older version that the user has used."""
+
+    def __init__(self, system):
+        self.system = system
+        self.files_before = self.system.files()
+        self.system.install(*(older_package(package(name), WORK / "older") for name in NAMES))
+        self.old_version = self.version()
+        self.old_files = self.system.files()
+        self.system.shell("dochtml-settings set Navig=2 TOCLevel=7; dochtml-register")
+        self.of_the_user = self.system.shell(f"cat {OF_THE_USER}")
+        self.system.install(*map(package, NAMES))
+
+    def version(self):
+        return self.system.run("dpkg-query", "-W", "-f", "${Version}", "dochtml")
 
 
-def older(file, version):
-    """The same package under an older version."""
-    work = WORK / "older" / file.stem
-    subprocess.run(["dpkg-deb", "--raw-extract", file, work], check=True)
-    control = work / "DEBIAN/control"
-    control.write_text(control.read_text().replace(field(file, "Version"), version))
-    made = work.with_suffix(".deb")
-    command = ["dpkg-deb", "--root-owner-group", "-Znone", "--build", work, made]
-    subprocess.run(command, check=True, stdout=subprocess.DEVNULL)
-    return made
+def setUpModule():
+    global installation
+    system = MinimalSystem(ARCHIVE, WORK / "root")
+    unittest.addModuleCleanup(system.remove)
+    installation = Installation(system)
 
 
-@functools.cache
-def system():
-    made = MinimalSystem(ARCHIVE, WORK / "root")
-    unittest.addModuleCleanup(made.remove)
-    return made
+class Upgraded(unittest.TestCase):
+    def setUp(self):
+        self.system = installation.system
+
+    def test_the_new_version_takes_the_place_of_the_old_one(self):
+        field = ["dpkg-deb", "--field", package("dochtml"), "Version"]
+        new = subprocess.run(field, check=True, capture_output=True, text=True).stdout.strip()
+        self.assertEqual((installation.old_version, installation.version()), ("2.0.9-1", new))
+        files = self.system.files()
+        self.assertIn("usr/share/dochtml/older.txt", installation.old_files)
+        self.assertNotIn("usr/share/dochtml/older.txt", files)
+        style_sheet = self.system.shell("cat /usr/share/dochtml/default.css")
+        self.assertEqual(style_sheet, (SOURCES / "support/default.css").read_text())
+
+    def test_settings_and_registration_of_the_user_stay(self):
+        before = installation.of_the_user
+        self.assertEqual((before.count("TOCLevel=7"), before.count("libdochtmlcom")), (1, 2))
+        self.assertEqual(self.system.shell(f"cat {OF_THE_USER}"), before)
+        self.assertEqual(self.system.shell("dochtml-settings get TOCLevel"), "7\n")
+        self.assertIn("(registered)", self.system.shell("dochtml-replay --version"))
 
 
 class Installed(unittest.TestCase):
-    """Each test begins with all packages installed and ends with none."""
-
     def setUp(self):
-        self.system = system()
-        self.before = self.system.files()
-        self.system.install(*map(package, NAMES))
-
-    def tearDown(self):
-        self.system.purge(*NAMES)
-        self.system.shell("rm -rf ./* .config .local .cache")
-
-    def test_nothing_is_left_after_purge(self):
-        self.assertTrue(self.system.needs_nothing())
-        self.assertLess(self.before, self.system.files())
-        self.system.purge(*NAMES)
-        self.assertEqual(self.before ^ self.system.files(), set())
+        self.system = installation.system
+        self.addCleanup(self.system.shell, "rm -rf ./*")
 
     def test_a_user_makes_a_document_with_the_tools(self):
         self.system.shell(f"cat >hello.jsonl <<'end'\n{HELLO}end\n")
-        self.system.shell("dochtml-settings set Navig=2; dochtml-replay --quiet hello.jsonl")
+        self.system.shell("dochtml-replay --quiet hello.jsonl")
         page = self.system.shell("cat hello.htm; ls")
         self.assertIn("Hello", page)
         self.assertIn("default.css", page)
-        version = self.system.shell("dochtml-replay --version").splitlines()
+
+    def test_the_component_is_found_without_a_registration(self):
+        version = self.system.shell("XDG_DATA_HOME=$PWD/none dochtml-replay --version").splitlines()
         self.assertRegex(version[0], r"^dochtml-replay \d+\.\d+\.\d+$")
         self.assertRegex(
             version[1],
             r"^component: /usr/lib/[\w-]+/dochtml/libdochtmlcom\.so \(installed with this program\)$",
         )
 
-    def build_and_run(self, source, command, *sources):
+    def build_and_run(self, source, command):
         self.system.put(SOURCES / source, pathlib.Path(source).name)
         return self.system.shell(command)
 
@@ -92,15 +103,15 @@ class Installed(unittest.TestCase):
         output = self.build_and_run(
             "examples/hosts/hello.cpp",
             "c++ -std=c++20 hello.cpp $(pkg-config --cflags --libs dochtml_client) -o hello;"
-            "dochtml-register; ./hello $PWD/out.htm /usr/share/dochtml/default.css; cat out_dtl.htm",
+            "./hello $PWD/out.htm /usr/share/dochtml/default.css; cat out.htm",
         )
         self.assertIn("Hello", output)
 
     def test_a_host_in_c_builds_by_the_documented_line(self):
         output = self.build_and_run(
             "examples/hosts/hello_c.c",
-            "cc hello_c.c $(pkg-config --cflags --libs dochtml_client) -o hello;"
-            "dochtml-register; ./hello $PWD/out.htm /usr/share/dochtml/default.css; cat out_dtl.htm",
+            "cc hello_c.c $(pkg-config --cflags --libs dochtml_client) -o hello_c;"
+            "./hello_c $PWD/out.htm /usr/share/dochtml/default.css; cat out.htm",
         )
         self.assertIn("Hello", output)
 
@@ -112,10 +123,12 @@ class Installed(unittest.TestCase):
         )
         self.assertEqual(output, "the page tells what it was told\n")
 
-    def test_a_host_in_python_runs(self):
-        program = "from dochtml import Document\nwith Document('r.htm') as r: r.heading(1, 'Hello')\n"
-        self.system.shell(f"python3 - <<'end'\n{program}end\n")
-        self.assertIn("Hello", self.system.shell("cat r_dtl.htm"))
+    def test_a_host_in_python_runs_for_users_and_for_root(self):
+        lines = "from dochtml import Document", "with Document('r.htm') as r: r.heading(1, 'Hello')"
+        program = "\n".join(lines)
+        for user in ("tester", "root"):
+            self.system.shell(f"python3 - <<'end'\n{program}\nend\n", user=user)
+            self.assertIn("Hello", self.system.shell("cat r*.htm", user=user))
 
     def test_the_component_is_no_library_of_the_linker(self):
         found = self.system.run("sh", "-c", "ldconfig; ldconfig -p")
@@ -134,23 +147,23 @@ class Installed(unittest.TestCase):
         self.assertEqual(names, {f"dochtml-{tool}.1.gz" for tool in tools})
 
 
-class Upgrade(unittest.TestCase):
-    def test_settings_and_registration_of_the_user_stay(self):
-        self.addCleanup(shutil.rmtree, WORK / "older", ignore_errors=True)
-        shutil.rmtree(WORK / "older", ignore_errors=True)
-        (WORK / "older").mkdir()
-        minimal = system()
-        self.addCleanup(minimal.purge, *NAMES)
-        minimal.install(*(older(package(name), "2.0.9-1") for name in NAMES))
-        minimal.shell("dochtml-settings set Navig=2 TOCLevel=7; dochtml-register")
-        kept = ".config/quillmark/settings.ini .local/share/quillmark/classes.ini"
-        before = minimal.shell(f"cat {kept}")
-        self.assertEqual(len(re.findall("TOCLevel=7|libdochtmlcom", before)), 3)
-        minimal.install(*map(package, NAMES))
-        self.assertEqual(minimal.run("dpkg-query", "-W", "-f", "${Version}", "dochtml"),
-                         field(package("dochtml"), "Version"))
-        self.assertEqual(minimal.shell(f"cat {kept}"), before)
-        self.assertIn("(registered)", minimal.shell("dochtml-replay --version"))
+class Removed(unittest.TestCase):
+    """Runs last."""
+
+    def test_removing_and_purging_leave_nothing_but_what_is_the_users(self):
+        system, before = installation.system, installation.files_before
+        self.assertLess(before, system.files())
+        system.remove_packages("dochtml-doc", "python3-dochtml")
+        # With what depends on it.
+        system.purge("dochtml")
+        self.assertEqual(before ^ system.files(), set())
+        self.assertEqual(system.run("dpkg-query", "-W", "-f", "${Package} ").count("dochtml"), 0)
+        self.assertEqual(system.shell(f"cat {OF_THE_USER}"), installation.of_the_user)
+
+
+def load_tests(loader, _tests, _pattern):
+    cases = (Upgraded, Installed, Removed)
+    return unittest.TestSuite(map(loader.loadTestsFromTestCase, cases))
 
 
 if __name__ == "__main__":

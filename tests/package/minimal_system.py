@@ -7,7 +7,8 @@ import subprocess
 
 HERE = pathlib.Path(__file__).resolve().parent
 # What the tools of the system itself write while packages come and go.
-CHANGING = ("proc", "tmp", "home", "root", "var/lib/dpkg", "var/cache", "var/log", "run")
+CHANGING = ("proc", "tmp", "home", "root", "run", "var/cache", "var/lib/apt", "var/lib/dpkg", "var/log")
+APT = ("apt-get", "--quiet", "--yes", "--option", "Dpkg::Use-Pty=0")
 ENTER = """
 mount -t proc proc "$1/proc"
 root=$1 user=$2
@@ -56,13 +57,18 @@ class MinimalSystem:
         return self.run("sh", "-ec", f"cd; {text}", user=user, **environment)
 
     def install(self, *packages):
+        """Installs package files by apt-get, which sees to what they depend on. There is no network."""
         for package in packages:
             self._as_root("cp", package, self.root / "tmp")
         names = [f"/tmp/{pathlib.Path(package).name}" for package in packages]
-        self.run("dpkg", "--install", *names)
+        self.run(*APT, "install", *names)
+
+    def remove_packages(self, *packages):
+        """Removes packages, as a user does it who may want them again."""
+        self.run(*APT, "remove", *packages)
 
     def purge(self, *packages):
-        self.run("dpkg", "--purge", *packages)
+        self.run(*APT, "purge", *packages)
 
     def put(self, file, place):
         """Copies a file into the home directory of the user."""
@@ -77,7 +83,3 @@ class MinimalSystem:
         )
         names = set(listed.stdout.splitlines())
         return {name for name in names if not name.startswith(CHANGING)}
-
-    def needs_nothing(self):
-        """Whether all packages have what they depend on."""
-        return self.run("dpkg", "--audit") == ""

@@ -1,5 +1,5 @@
 """The files that scripts/package.sh has made: what lintian says, that packing again gives the same
-bytes, and the bill of materials.
+bytes, and the bill of materials. (`scripts/package.sh --check` also builds them again, elsewhere.)
 
     package_files_test.py PACKAGES SOURCES CPACK
 """
@@ -19,6 +19,7 @@ require("lintian", "dpkg-shlibdeps")
 PACKAGES, SOURCES = map(pathlib.Path, sys.argv[1:3])
 CPACK = sys.argv[3]
 DEBIAN = sorted(PACKAGES.glob("*.deb"))
+ZIP = sorted(PACKAGES.glob("*.zip"))
 if not DEBIAN:
     sys.exit(f"{PACKAGES} has no packages; run scripts/package.sh first")
 
@@ -62,20 +63,38 @@ class DebianPackages(unittest.TestCase):
                 (copyright_file,) = pathlib.Path(directory).glob("usr/share/doc/*/copyright")
                 self.assertIn("License: unlicensed\n", copyright_file.read_text())
 
+
+class AllPackages(unittest.TestCase):
     def test_packing_again_gives_the_same_bytes(self):
-        times = {file: epoch_of(file) for file in DEBIAN}
-        self.assertEqual(len(set(times.values())), 1)
-        environment = dict(os.environ, SOURCE_DATE_EPOCH=times[DEBIAN[0]], TZ="UTC", LC_ALL="C.UTF-8")
-        config = SOURCES / "build/package/CPackConfig.cmake"
-        with tempfile.TemporaryDirectory() as directory:
-            os.umask(0o022)
-            run(CPACK, "--config", config, "-B", directory, env=environment, check=True)
-            for file in DEBIAN:
-                self.assertEqual(sha256(pathlib.Path(directory) / file.name), sha256(file), file.name)
+        (epoch,) = {epoch_of(file) for file in DEBIAN}
+        environment = dict(os.environ, SOURCE_DATE_EPOCH=epoch, TZ="UTC", LC_ALL="C.UTF-8")
+        self.addCleanup(os.umask, os.umask(0o022))
+        for build in (SOURCES / "build/packed-builds.txt").read_text().split():
+            config = SOURCES / "build" / build / "CPackConfig.cmake"
+            with tempfile.TemporaryDirectory() as directory:
+                run(CPACK, "--config", config, "-B", directory, env=environment, check=True)
+                made = {
+                    file.name: sha256(file)
+                    for file in pathlib.Path(directory).iterdir() if file.suffix in (".deb", ".zip")
+                }
+            self.assertEqual(made, {name: sha256(PACKAGES / name) for name in made})
+            self.assertGreater(len(made), 0)
+
+    def test_no_file_knows_where_it_was_built(self):
+        places = [bytes(path) for path in (SOURCES, pathlib.Path.home()) if len(path.parts) > 2]
+        for package in (*DEBIAN, *ZIP):
+            unpack = ["dpkg-deb", "--extract", package]
+            if package in ZIP:
+                unpack = ["unzip", "-q", package, "-d"]
+            with tempfile.TemporaryDirectory() as directory:
+                run(*unpack, directory, check=True)
+                for file in filter(pathlib.Path.is_file, pathlib.Path(directory).rglob("*")):
+                    content = file.read_bytes()
+                    self.assertFalse([place for place in places if place in content], file)
 
 
 def epoch_of(file):
-    """The time that a package is of: that of the first member of its archive."""
+    """The time that a Debian package is of: that of the first member of its archive."""
     return file.read_bytes()[8 + 16 : 8 + 28].decode().strip()
 
 
@@ -97,8 +116,7 @@ class BillOfMaterials(unittest.TestCase):
             self.packages[each]["packageFileName"]: self.packages[each]["checksums"][0]["checksumValue"]
             for each in described
         }
-        made = [*DEBIAN, *PACKAGES.glob("*.zip")]
-        self.assertEqual(sums, {file.name: sha256(file) for file in made})
+        self.assertEqual(sums, {file.name: sha256(file) for file in (*DEBIAN, *ZIP)})
 
     def test_it_names_what_is_compiled_in_and_needed(self):
         def names(kind):

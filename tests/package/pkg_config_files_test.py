@@ -26,15 +26,22 @@ def run(*command, **options):
 class Staged(unittest.TestCase):
     """Packages that are put into a staging directory, as those who make packages do it."""
 
-    def setUp(self):
+    @classmethod
+    def setUpClass(cls):
         shutil.rmtree(WORK, ignore_errors=True)
-        self.addCleanup(shutil.rmtree, WORK)
+        cls.addClassCleanup(shutil.rmtree, WORK)
+        run(CMAKE, "--install", BUILD, "--prefix", WORK / "prefix", "--component", "dev")
+
+    def setUp(self):
         self.stage = WORK / "stage"
+        shutil.rmtree(self.stage, ignore_errors=True)
 
     def install(self, *options):
         """Configures with these options, and installs into the stage."""
         off = [f"-DDOCHTML_BUILD_{part}=OFF" for part in ("TESTS", "PYTHON")]
-        run(CMAKE, "-S", SOURCES, "-B", WORK / "build", "-G", "Ninja", *off, *options)
+        # What it found out about the compiler stays. What it chose for the last prefix does not.
+        fresh = ["-U", "CMAKE_INSTALL_*"]
+        run(CMAKE, "-S", SOURCES, "-B", WORK / "build", "-G", "Ninja", *fresh, *off, *options)
         script = WORK / "build/install_pkg_config.cmake"
         prefix = self.cached("CMAKE_INSTALL_PREFIX")
         stage = {"DESTDIR": str(self.stage), "PATH": "/usr/bin:/bin"}
@@ -42,9 +49,7 @@ class Staged(unittest.TestCase):
         library_dir = self.staged(prefix, self.cached("CMAKE_INSTALL_LIBDIR"))
         shutil.copy(BUILD / "libdochtml.a", library_dir)
         shutil.copy(BUILD / "src/component/libdochtml_client.a", library_dir)
-        headers = WORK / "headers"
-        run(CMAKE, "--install", BUILD, "--prefix", headers, "--component", "dev")
-        shutil.copytree(headers / "include", self.staged(prefix, "include"))
+        shutil.copytree(WORK / "prefix/include", self.staged(prefix, "include"))
 
     def cached(self, name):
         cache = (WORK / "build/CMakeCache.txt").read_text()
@@ -91,6 +96,7 @@ class Staged(unittest.TestCase):
     def test_a_prefix_that_is_moved(self):
         self.install("-DCMAKE_INSTALL_PREFIX=/opt/dochtml", "-DCMAKE_INSTALL_LIBDIR=lib/here/there")
         moved = WORK / "moved"
+        shutil.rmtree(moved, ignore_errors=True)
         (self.stage / "opt/dochtml").rename(moved)
         pc_dir = moved / "lib/here/there/pkgconfig"
         self.check(pc_dir, moved / "include", moved / "share/dochtml")

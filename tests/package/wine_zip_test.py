@@ -13,7 +13,8 @@ import zipfile
 
 from required_tools import require
 
-require("wine")
+COMPILER = "x86_64-w64-mingw32-g++-posix"
+require("wine", COMPILER)
 PACKAGES, SOURCES, WORK = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
 ARCHIVES = list(PACKAGES.glob("*-windows.zip"))
 if len(ARCHIVES) != 1:
@@ -42,10 +43,19 @@ class Zip(unittest.TestCase):
             archive.extractall(place)
         (cls.root,) = place.iterdir()
         cls.addClassCleanup(shutil.rmtree, WORK)
-        cls.wine("wineboot", "--init")
-        # The system is complete when its last process has ended.
-        subprocess.run(["wineserver", "--wait"], env=cls.environment, check=True)
+        cls.make_system()
         cls.addClassCleanup(subprocess.run, ["wineserver", "--kill"], env=cls.environment)
+
+    @classmethod
+    def make_system(cls):
+        """A copy of the system that the tests of the Windows build use: to make one takes long."""
+        made = SOURCES / "build/mingw64/wine"
+        run_wine = SOURCES / "cmake/run-wine.sh"
+        subprocess.run([run_wine, made, "cmd", "/c", "exit"], check=True, capture_output=True)
+        # It is complete when its last process has ended.
+        environment = {**cls.environment, "WINEPREFIX": str(made)}
+        subprocess.run(["wineserver", "--wait"], env=environment, check=True)
+        subprocess.run(["cp", "-a", made, WORK / "prefix"], check=True)
 
     @classmethod
     def wine(cls, *command, **options):
@@ -132,17 +142,42 @@ class Zip(unittest.TestCase):
         (system / "System32").mkdir(parents=True)
         ended = self.batch("register.cmd", f"set SystemRoot={windows_name(system)}")
         self.assertEqual(ended.returncode, 1, ended.stdout + ended.stderr)
-        self.assertIn('register.cmd: cannot change the registry. Run this as an administrator:', ended.stderr)
+        self.assertIn("register.cmd: cannot change the registry. Run this as an admin", ended.stderr)
         self.assertIn('choose "Run as administrator"', ended.stderr)
 
-    def test_a_missing_component_is_named(self):
+    def hide_component(self):
+        """Takes the component away until the end of the test; answers with its place."""
         library = self.root / "bin/dochtmlcom.dll"
         hidden = library.rename(library.with_suffix(".hidden"))
-        self.addCleanup(hidden.rename, library)
-        ended = self.batch("register.cmd")
-        self.assertEqual(ended.returncode, 1, ended.stdout + ended.stderr)
-        self.assertIn("dochtmlcom.dll", ended.stderr)
-        self.assertIn("is missing. Unpack the whole archive first.", ended.stderr)
+        self.addCleanup(hidden.replace, library)
+        return library
+
+    def check_failure(self, name, words):
+        """The batch file fails, and the last thing it says names the component and what to do."""
+        ended = self.batch(name)
+        self.assertEqual((ended.returncode, ended.stdout), (1, ""), ended.stderr)
+        library = windows_name(self.root / "bin/dochtmlcom.dll")
+        self.assertIn(f'{name}: "{library}" {words}', ended.stderr)
+
+    def test_a_missing_component_is_named(self):
+        self.hide_component()
+        self.check_failure("register.cmd", "is missing. Unpack the whole archive first.")
+
+    def test_a_damaged_component_is_named(self):
+        self.hide_component().write_text("This is not a library.")
+        self.check_failure("register.cmd", "cannot be loaded. It may be damaged.")
+
+    def test_a_component_that_is_refused_by_the_registry_is_named(self):
+        source = WORK / "refused.cpp"
+        source.write_text("".join(
+            f'extern "C" __declspec(dllexport) long __stdcall {name}() {{ return 0x80070005; }}\n'
+            for name in ("DllRegisterServer", "DllUnregisterServer")
+        ))
+        library = self.hide_component()
+        subprocess.run([COMPILER, "-shared", "-static", source, "-o", library], check=True)
+        for action in ("register", "unregister"):
+            words = f"cannot {action} itself. Run this as an administrator."
+            self.check_failure(f"{action}.cmd", words)
 
 
 if __name__ == "__main__":

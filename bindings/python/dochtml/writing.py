@@ -3,7 +3,7 @@
 import os
 import threading
 from contextlib import contextmanager
-from typing import Iterator, TypeVar, Union
+from typing import Iterable, Iterator, TypeVar, Union
 
 from .operations import Operations
 
@@ -64,6 +64,14 @@ class Writer(Operations):
         self.insertXref(escaped(text) if isinstance(text, str) else text, os.fspath(to))
         return self
 
+    def links(self: Self, targets: Iterable[tuple[str, File | None]]) -> Self:
+        """Adds a row of links, with commas between them. What has no target is text."""
+        for number, (text, to) in enumerate(targets):
+            if number:
+                self.insertText(", ")
+            self.text(text) if to is None else self.link(text, to)
+        return self
+
     def image(self: Self, file: File, to: File = "") -> Self:
         """Shows a picture, with a link if wanted."""
         self.insertImage(os.fspath(file), os.fspath(to))
@@ -102,6 +110,16 @@ class Writer(Operations):
         finally:
             if self._is_open():
                 self.setStyle("Normal")
+
+    @contextmanager
+    def block(self: Self, css_class: str) -> Iterator[Self]:
+        """A block of the page with a class of the style sheet."""
+        self.insertText(f"<DIV CLASS={css_class}>")
+        try:
+            yield self
+        finally:
+            if self._is_open():
+                self.insertText("</DIV>")
 
     @contextmanager
     def header(self: Self) -> Iterator[Self]:

@@ -17,8 +17,10 @@ def test_mypy_has_nothing_to_say(platform: str, work: Path) -> None:
     files = [STAGE / "dochtml"]
     for place in ("bindings/python", "examples/object_model"):
         files += (SOURCE / place).rglob("*.py")
-    # The package is checked where it is whole.
+    # The package is checked where it is whole. The tests run on one system only.
     files = [file for file in files if file.parent != SOURCE / "bindings/python/dochtml"]
+    if platform == "win32":
+        files = [file for file in files if "tests" not in file.parts]
     run = subprocess.run(
         [os.environ["DOCHTML_TEST_MYPY"], "--strict", "--platform", platform,
          "--cache-dir", work / "cache", *sorted(files)],

@@ -46,8 +46,8 @@ def wheel(tmp_path_factory: pytest.TempPathFactory) -> Path:
 @pytest.fixture(scope="module")
 def environment(wheel: Path, tmp_path_factory: pytest.TempPathFactory) -> Path:
     place = tmp_path_factory.mktemp("environment") / "venv"
-    run(sys.executable, "-m", "venv", place)
-    run(place / "bin/python", "-m", "pip", "install", "--quiet", "--no-index",
+    run(sys.executable, "-m", "venv", "--without-pip", place)
+    run(sys.executable, "-m", "pip", "--python", place, "install", "--quiet", "--no-index",
         "--disable-pip-version-check", wheel)  # fmt: skip
     return place
 

@@ -56,6 +56,17 @@ def test_blocks_end_what_they_begin(body: Page) -> None:
     )
 
 
+def test_a_row_of_links_has_commas_and_texts_without_a_target(body: Page) -> None:
+    with Document("rep.htm", settings=SETTINGS) as report:
+        with report.block("USERS"):
+            report.tag("a").links([("<A>", "a"), ("B", None), ("C", "a")])
+        report.links([])
+    assert body("rep_dtl.htm") == (
+        f'{ENTRY.format(1)}{PAGE}<DIV CLASS=USERS><a name="a"></a><A HREF="rep_dtl.htm#a">&lt;A></A>'
+        ', B, <A HREF="rep_dtl.htm#a">C</A></DIV>\n'
+    )
+
+
 def test_a_contents_entry_is_what_its_block_writes(body: Page) -> None:
     with Document("rep.htm", settings=SETTINGS) as report:
         with report.contents_entry():

@@ -49,9 +49,19 @@ def write(file: Path, title: str, model: ObjectModel, work: Path) -> Document:
     return report
 
 
+def read_model(girs: list[Path]) -> ObjectModel:
+    spaces = {}
+    for gir in girs:
+        space = read_namespace(gir)
+        if space.name in spaces:
+            raise GirError(f"{gir}: the namespace {space.name} is given twice")
+        spaces[space.name] = space
+    return ObjectModel(list(spaces.values()))
+
+
 def run(file: Path, girs: list[Path], title: str) -> int:
     begin = time.monotonic()
-    model = ObjectModel([read_namespace(gir) for gir in girs])
+    model = read_model(girs)
     title = title or "Reference of " + ", ".join(space.name for space in model.namespaces)
     file.parent.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory() as work:

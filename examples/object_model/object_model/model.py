@@ -33,6 +33,23 @@ MEMBER_KINDS = {
 }
 # How a member's name is joined to its owner's.
 _JOINTS = {"property": ":", "glib:signal": "::", "virtual-method": ".vfunc_", "field": ".field_"}
+# What the contents need for the icon of a kind: a metaclass, with its kind or visibility.
+_ICONS = {
+    "namespace": ModelElement("Package"),
+    "interface": ModelElement("Class", {"kind": "interface"}),
+    "enumeration": ModelElement("Attribute"),
+    "bitfield": ModelElement("Attribute"),
+    "callback": ModelElement("Operation"),
+    "constructor": ModelElement("Operation", {"visibility": "public"}),
+    "method": ModelElement("Operation", {"visibility": "public"}),
+    "function": ModelElement("Operation", {"visibility": "public"}),
+    "virtual-method": ModelElement("Operation", {"visibility": "protected"}),
+    "property": ModelElement("Attribute", {"visibility": "public"}),
+    "glib:signal": ModelElement("Attribute", {"visibility": "protected"}),
+    "field": ModelElement("Attribute", {"visibility": "private"}),
+    "member": ModelElement("TaggedValue"),
+    "constant": ModelElement("TaggedValue"),
+}
 
 
 @dataclass(frozen=True)
@@ -79,8 +96,7 @@ class Element:
 
     @property
     def icon(self) -> ModelElement:
-        """What the contents need for an icon: metaclass, kind and visibility."""
-        return ModelElement("Package")
+        return _ICONS.get(self.kind, ModelElement("Class"))
 
 
 @dataclass(eq=False)
@@ -90,16 +106,6 @@ class Member(Element):
     type: TypeUse | None = None
     value: str = ""
     access: str = ""
-
-    @property
-    def icon(self) -> ModelElement:
-        if self.kind in ("property", "field", "glib:signal"):
-            shown = {"property": "public", "glib:signal": "protected"}.get(self.kind, "private")
-            return ModelElement("Attribute", {"visibility": shown})
-        if self.kind in ("member", "constant"):
-            return ModelElement("TaggedValue")
-        shown = "protected" if self.kind == "virtual-method" else "public"
-        return ModelElement("Operation", {"visibility": shown})
 
     def uses(self) -> Iterator[TypeUse]:
         """The types that it is made of."""
@@ -115,14 +121,6 @@ class Type(Member):
     interfaces: list[str] = field(default_factory=list)
     struct_of: str = ""
     members: list[Member] = field(default_factory=list)
-
-    @property
-    def icon(self) -> ModelElement:
-        if self.kind == "interface":
-            return ModelElement("Class", {"kind": "interface"})
-        if self.kind in ("enumeration", "bitfield"):
-            return ModelElement("Attribute")
-        return ModelElement("Operation" if self.kind == "callback" else "Class")
 
 
 @dataclass(eq=False)

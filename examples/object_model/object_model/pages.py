@@ -27,43 +27,31 @@ class PageWriter:
 
     def type_name(self, use: TypeUse) -> None:
         """A type as C writes it, with a link when the model has it."""
-        text = use.c_name or use.name
-        if use.name in self.model.types:
-            self.report.link(text, to=use.name)
-        else:
-            self.report.text(text)
-
-    def element_name(self, name: str) -> None:
-        if name in self.model.types:
-            self.report.link(name, to=name)
-        else:
-            self.report.text(name)
+        target = use.name if use.name in self.model.types else None
+        self.report.links([(use.c_name or use.name, target)])
 
     def names(self, title: str, names: list[str]) -> None:
         """A row of names, if there are any."""
         if names:
-            self.report.insertText(f"<DIV CLASS=FACT><B>{title}</B> ")
-            for number, name in enumerate(names):
-                self.report.insertText(", " if number else "")
-                self.element_name(name)
-            self.report.insertText("</DIV>")
+            types = self.model.types
+            with self.report.block("FACT"):
+                self.report.insertText(f"<B>{title}</B> ")
+                self.report.links((name, name if name in types else None) for name in names)
 
     def type_page(self, one: Type) -> None:
         report = self.report
         self.heading(3, one.name, one)
-        report.insertText("<DIV CLASS=FACT>")
-        report.text(f"{one.kind.capitalize()} of ")
-        assert one.owner is not None
-        report.link(one.owner.name, to=one.owner.id)
-        report.text(f" · {one.c_name}" if one.c_name else "")
-        report.text(f" · since {one.version}" if one.version else "")
-        report.insertText("</DIV>")
+        with report.block("FACT"):
+            report.text(f"{one.kind.capitalize()} of ")
+            assert one.owner is not None
+            report.link(one.owner.name, to=one.owner.id)
+            report.text(f" · {one.c_name}" if one.c_name else "")
+            report.text(f" · since {one.version}" if one.version else "")
         self._deprecation(one)
         picture = self._diagrams.picture(one) if self._diagrams else None
         if picture is not None:
-            report.insertText("<DIV CLASS=DIAGRAM>")
-            report.image(picture)
-            report.insertText("</DIV>")
+            with report.block("DIAGRAM"):
+                report.image(picture)
         self._relations(one)
         self.texts.write(one.doc)
         if one.kind in ("callback", "alias"):
@@ -85,9 +73,9 @@ class PageWriter:
 
     def _deprecation(self, element: Element) -> None:
         if element.deprecated:
-            self.report.insertText("<DIV CLASS=OLD><B>Deprecated.</B> ")
-            self.texts.line(element.deprecated.removeprefix("yes"))
-            self.report.insertText("</DIV>")
+            with self.report.block("OLD"):
+                self.report.insertText("<B>Deprecated.</B> ")
+                self.texts.line(element.deprecated.removeprefix("yes"))
 
     def members(self, members: list[Member]) -> None:
         """Tables of all members by kind, then each of them at length."""
@@ -144,32 +132,27 @@ class PageWriter:
 
     def _shape(self, member: Member) -> None:
         """The declaration, with links to its types."""
-        report = self.report
-        report.insertText("<DIV CLASS=CODE>")
-        if member.result is not None:
-            self.type_name(member.result.type)
-            report.insertText("<BR>")
-        report.text(member.c_name or member.name)
-        if member.type is not None:
-            report.text(": ")
-            self.type_name(member.type)
-            report.text(f" = {member.value}" if member.value else "")
-            report.text(f" ({member.access})" if member.access else "")
-        if member.result is not None:
-            report.text(" (")
-            for number, part in enumerate(member.parameters):
-                report.insertText(", " if number else "")
-                self.type_name(part.type)
-                report.text(f" {part.name}")
-            report.text(")")
-        report.insertText("</DIV>")
+        with self.report.block("CODE"):
+            if member.result is not None:
+                self.type_name(member.result.type)
+                self.report.insertText("<BR>")
+            self.report.text(member.c_name or member.name)
+            if member.type is not None:
+                self.report.text(": ")
+                self.type_name(member.type)
+                self.report.text(f" = {member.value}" if member.value else "")
+                self.report.text(f" ({member.access})" if member.access else "")
+            if member.result is not None:
+                self.report.text(" (")
+                for number, part in enumerate(member.parameters):
+                    self.report.insertText(", " if number else "")
+                    self.type_name(part.type)
+                    self.report.text(f" {part.name}")
+                self.report.text(")")
 
     def _users(self, one: Type) -> None:
         users = self.model.users.get(one.id, [])
         if users:
             self.section("Used by")
-            self.report.insertText("<DIV CLASS=USERS>")
-            for number, user in enumerate(users):
-                self.report.insertText(", " if number else "")
-                self.report.link(user.label, to=user.id)
-            self.report.insertText("</DIV>")
+            with self.report.block("USERS"):
+                self.report.links((user.label, user.id) for user in users)

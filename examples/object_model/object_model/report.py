@@ -49,8 +49,8 @@ class ReportWriter:
     def write(self, title: str) -> None:
         report = self._report
         with report.header():
-            report.insertText("<DIV CLASS=RUNNING>")
-            report.text(title).insertText("</DIV>")
+            with report.block("RUNNING"):
+                report.text(title)
         self._overview(title)
         for space in self._model.namespaces:
             with report.directory(space.name):
@@ -77,11 +77,8 @@ class ReportWriter:
         kinds = {kind: types for kind, types in kinds.items() if types}
         for kind, types in kinds.items():
             self._pages.section(TYPE_KINDS[kind])
-            report.insertText("<DIV CLASS=USERS>")
-            for number, one in enumerate(types):
-                report.insertText(", " if number else "")
-                report.link(one.name, to=one.id)
-            report.insertText("</DIV>")
+            with report.block("USERS"):
+                report.links((one.name, one.id) for one in types)
         for kind, types in kinds.items():
             self._page(space)
             self._kind(TYPE_KINDS[kind], space, types)
@@ -98,11 +95,11 @@ class ReportWriter:
 
     def _way(self, space: Namespace | None) -> None:
         report = self._report
-        report.insertText("<DIV CLASS=WAY>")
-        report.link("Overview", to="overview")
-        if space is not None:
-            report.text(" \u00b7 ").link(space.name, to=space.id)
-        report.text(" \u00b7 ").link("Index", to="index").insertText("</DIV>")
+        with report.block("WAY"):
+            report.link("Overview", to="overview")
+            if space is not None:
+                report.text(" · ").link(space.name, to=space.id)
+            report.text(" · ").link("Index", to="index")
 
     def _kind(self, title: str, space: Namespace, types: list[Type]) -> None:
         """A page that lists the types of a kind, then a page for each."""

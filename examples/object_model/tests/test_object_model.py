@@ -119,6 +119,12 @@ def test_a_missing_file_is_named(tmp_path: Path) -> None:
     assert done.returncode == 1
 
 
+def test_a_namespace_that_is_given_twice_is_named(tmp_path: Path) -> None:
+    done = run("rep.htm", SHAPES, SHAPES, cwd=tmp_path)
+    assert done.stderr == f"object_model: {SHAPES}: the namespace Shapes is given twice\n"
+    assert done.returncode == 1 and not list(tmp_path.iterdir())
+
+
 def test_without_graphviz_there_is_a_report_and_a_line_that_says_so(tmp_path: Path) -> None:
     done = run("rep.htm", SHAPES, cwd=tmp_path, PATH=str(tmp_path))
     assert done.stderr == (
