@@ -6,6 +6,7 @@
 
 #include "component/posix/class_file.h"
 #include "dochtml/client.h"
+#include "platform/files/file_failure.h"
 
 namespace quillmark {
 namespace {
@@ -53,9 +54,13 @@ const KeyTree* findClassKey(const KeyTree& root, const GUID& classId) {
 /// All classes that are registered for the user.
 KeyTree registeredClasses() {
     const std::filesystem::path file = classFilePath();
+    FileFailure::forget();
     std::optional<KeyTree> root = readClassFile(file);
     if (!root) {
-        throw ComponentError("cannot read " + file.string(), REGDB_E_READREGDB);
+        const std::string reason = FileFailure::reason();
+        throw ComponentError(
+            "cannot read " + file.string() + (reason.empty() ? reason : ": " + reason),
+            REGDB_E_READREGDB);
     }
     return *std::move(root);
 }
