@@ -36,8 +36,10 @@ bool isInUtf8(std::string_view session) {
     constexpr std::string_view start = "set\tHtml.CharSet\tUTF-8\n";
     constexpr std::string_view name = "charset";
     const std::string_view rest = session.substr(std::min(start.size(), session.size()));
-    const auto again = std::ranges::search(rest, name, {}, ascii::toLower<char>);
-    return session.starts_with(start) && again.empty();
+    const auto again =
+        std::search(rest.begin(), rest.end(), name.begin(), name.end(),
+                    [](char a, char b) { return ascii::toLower(a) == ascii::toLower(b); });
+    return session.starts_with(start) && again == rest.end();
 }
 
 /// The driver's own pages have whole characters. A session may bring files with any bytes.

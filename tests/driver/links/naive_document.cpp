@@ -11,7 +11,7 @@ using String = std::u32string;
 
 const String outputDir = U"C:\\out";
 
-String decimal(std::uint32_t number) {
+String decimal(std::int64_t number) {
     const std::string digits = std::to_string(number);
     return {digits.begin(), digits.end()};
 }
