@@ -35,7 +35,7 @@ void WordIndex::word(std::string_view word) {
 }
 
 void WordIndex::shortWords(std::span<const ShortWord> words) {
-    std::array<WordTable::Id, mostAtOnce> numbers;
+    std::array<WordTable::Id, mostAtOnce> numbers{};
     addPairs(std::span(numbers).first(words_.addUnmarked(words, mark_, numbers)));
 }
 

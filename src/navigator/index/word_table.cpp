@@ -100,7 +100,7 @@ std::size_t WordTable::setMark(Slot& slot, Mark mark, Id& id) noexcept {
 std::size_t WordTable::addUnmarked(std::span<const ShortWord> words, Mark mark, std::span<Id> ids) {
     makeRoomFor(words.size());
     // First all looks into the table, which do not wait for each other.
-    std::array<Look, mostAtOnce> looks;
+    std::array<Look, mostAtOnce> looks{};
     for (std::size_t i = 0; i < words.size(); ++i) {
         Slot& slot = slots_[homeOf(words[i])];
         looks[i] = {&slot, slot.key == words[i]};
