@@ -7,6 +7,8 @@ endif()
 string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 string(CONFIGURE "${changelog}" changelog @ONLY)
 
+set(readable OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+
 function(compress)
     execute_process(COMMAND gzip -9nf ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
@@ -20,6 +22,8 @@ foreach(component ${CPACK_COMPONENTS_ALL})
     file(COPY_FILE ${CPACK_DOCHTML_SOURCE_DIR}/packaging/debian/copyright ${doc}/copyright)
     file(COPY_FILE ${CPACK_DOCHTML_SOURCE_DIR}/CHANGELOG.md ${doc}/changelog)
     file(WRITE ${doc}/changelog.Debian "${changelog}")
+    # Whatever the permissions of the sources are.
+    file(CHMOD ${doc}/copyright ${doc}/changelog ${doc}/changelog.Debian PERMISSIONS ${readable})
     compress(${doc}/changelog ${doc}/changelog.Debian)
     file(GLOB pages ${root}/share/man/man1/*.1)
     if(pages)
@@ -28,6 +32,7 @@ foreach(component ${CPACK_COMPONENTS_ALL})
     file(MAKE_DIRECTORY ${root}/share/lintian/overrides)
     file(COPY_FILE ${CPACK_DOCHTML_SOURCE_DIR}/packaging/debian/lintian-overrides
                    ${root}/share/lintian/overrides/${package})
+    file(CHMOD ${root}/share/lintian/overrides/${package} PERMISSIONS ${readable})
     file(GLOB archives ${root}/lib/*/*.a)
     if(archives)
         execute_process(COMMAND ${CPACK_DOCHTML_STRIP} --strip-debug --enable-deterministic-archives

@@ -47,12 +47,11 @@ pack() {
 }
 
 # Makes the packages again from a copy of the sources, and compares them byte for byte. A compiler
-# cache would hide paths and times, so it is off.
+# cache would hide paths and times, so it is off. What differs stays there, to be looked at.
 make_again() {
-    local sources option=()
+    local again sources option=()
     $windows || option=(--no-windows)
     again=$(mktemp -d)
-    trap 'rm -rf "$again"' EXIT
     sources="$again/a directory of another length"
     mkdir "$sources"
     (
@@ -64,7 +63,9 @@ make_again() {
             scripts/package.sh "${option[@]}" "$again/packages"
     )
     (cd "$again/packages" && sha256sum -- *) >"$again/sums"
-    (cd "$output" && sha256sum --check --quiet "$again/sums")
+    (cd "$output" && sha256sum --check --quiet "$again/sums") ||
+        { echo "The second packages are in $again/packages." >&2; exit 1; }
+    rm -rf "$again"
 }
 
 need build package
