@@ -38,6 +38,7 @@ public:
         line.data()[size] = '\0';  // the byte after the line belongs to the buffer too
         makeRoomForUnits(size);
         nextUnit_ = units_.get();
+        call.isAscii = true;
 
         rapidjson::InsituStringStream stream(line.data());
         const rapidjson::ParseResult result =
@@ -75,6 +76,8 @@ public:
         }
         const WideText argument(nextUnit_, static_cast<std::size_t>(end - nextUnit_));
         nextUnit_ = end;
+        // A character beyond ASCII has more bytes than units.
+        call_->isAscii = call_->isAscii && argument.size() == size;
         return builder_.addText(argument, problem_);
     }
     bool Bool(bool value) { return isOpen_ ? builder_.addBoolean(value, problem_) : Default(); }

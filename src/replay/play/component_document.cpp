@@ -62,7 +62,8 @@ private:
     static constexpr std::size_t mostArguments = 4;
 
     std::array<Text, mostArguments> texts_;
-    std::array<VARIANT, mostArguments> variants_{};
+    /// Only those of the arguments are initialized.
+    std::array<VARIANT, mostArguments> variants_;
     DISPPARAMS parameters_{};
 };
 
