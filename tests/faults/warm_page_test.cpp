@@ -101,8 +101,30 @@ TEST_F(WarmPage, TakesCellsWithoutAllocations) {
               0U);
 }
 
+TEST_F(WarmPage, TakesFontsInCellsWithoutAllocations) {
+    EXPECT_EQ(allocationsOnSecondPage([](DocHtml& document) {
+                  document.startTable();
+                  document.addRow();
+                  document.addCell();
+                  document.setFontName(u"Courier");
+                  document.setFontSize(14);
+                  document.setFontAttribute(1, true);
+                  document.setFontAttribute(2, true);
+                  document.addCell();
+                  document.insertText(u"the text of a cell");
+                  document.setFontAttribute(2, false);
+                  document.addCell();
+                  document.endTable();
+                  document.setStyle(u"Normal");
+              }),
+              0U);
+}
+
 TEST_F(WarmPage, TakesStylesWithoutAllocations) {
     EXPECT_EQ(allocationsOnSecondPage([](DocHtml& document) {
+                  document.setStyle(u"Heading 2, which has a long name");
+                  document.insertText(u"a heading of the second level");
+                  document.insertEndl();
                   document.setStyle(u"Normal");
                   document.setStyle(u"List Number 3");
                   document.insertText(u"an item");
