@@ -128,6 +128,7 @@ TEST_F(WarmPage, TakesFontsInCellsWithoutAllocations) {
 TEST_F(WarmPage, TakesStylesWithoutAllocations) {
     EXPECT_EQ(allocationsOnSecondPage([](DocHtml& document) {
                   document.setStyle(u"Heading 2, which has a long name");
+                  document.setStyle(u"Heading 3, which has a long name");
                   document.setStyle(u"Normal");
                   document.setStyle(u"List Number 3");
                   document.insertText(u"an item");
