@@ -123,19 +123,37 @@ void play(replay::CallSource& source, const fs::path& directory) {
     }
 }
 
+/// Plays the stream through the component in this process.
+Seconds secondsOfPlaying(const std::string& stream, Place place) {
+    const fs::path directory = freshDirectory(place);
+    const fs::path before = fs::current_path();
+    const Seconds seconds = secondsOf(
+        [&] { withReader(stream, [&](replay::CallSource& source) { play(source, directory); }); });
+    fs::current_path(before);
+    return seconds;
+}
+
 void stageNowhere(benchmark::State& state) {
     const SettingsInForce settings({});
     const std::string stream = streamFile(static_cast<std::size_t>(state.range(0)));
     stageAgainstFloor(state, Place::disk, stream, [&] {
-        const fs::path directory = freshDirectory(Place::memory);
-        const fs::path before = fs::current_path();
         const PagesGoNowhere nowhere;
-        const Seconds seconds = secondsOf([&] {
-            withReader(stream, [&](replay::CallSource& source) { play(source, directory); });
-        });
-        fs::current_path(before);
-        return seconds;
+        return secondsOfPlaying(stream, Place::memory);
     });
+}
+
+void stageWithPages(benchmark::State& state, Place place) {
+    const SettingsInForce settings({});
+    const std::string stream = streamFile(static_cast<std::size_t>(state.range(0)));
+    stageAgainstFloor(state, place, stream, [&] { return secondsOfPlaying(stream, place); });
+}
+
+void stageInMemory(benchmark::State& state) {
+    stageWithPages(state, Place::memory);
+}
+
+void stageOnDisk(benchmark::State& state) {
+    stageWithPages(state, Place::disk);
 }
 
 void reportSizes(benchmark::internal::Benchmark* stage) {
@@ -145,6 +163,8 @@ void reportSizes(benchmark::internal::Benchmark* stage) {
 BENCHMARK(wholeRun)->Apply(reportSizes);
 BENCHMARK(stageReading)->Apply(reportSizes);
 BENCHMARK(stageNowhere)->Apply(reportSizes);
+BENCHMARK(stageInMemory)->Apply(reportSizes);
+BENCHMARK(stageOnDisk)->Apply(reportSizes);
 BENCHMARK(wholeRunInMemory)->Apply(reportSizes);
 
 }  // namespace

@@ -48,8 +48,10 @@ DocResult DocHtml::insertField(std::int16_t field) {
 
 DocResult DocHtml::setStyle(WideText style) {
     return impl_->operate("setStyle", [&] {
-        const OrxString name = impl_->bytesOf(style);
-        impl_->calls.call("setStyle", name.view());
+        impl_->bytes.clear();
+        impl_->context.encoding->append(impl_->bytes, style);
+        const std::string_view name = impl_->bytes;
+        impl_->calls.call("setStyle", name);
         impl_->style.setStyle(name);
     });
 }

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace quillmark::code_page {
 
@@ -38,24 +37,13 @@ bool isAscii(std::u16string_view text) noexcept {
 }
 
 bool copyAscii(char* target, std::u16string_view text) noexcept {
-    // Whole blocks go through a local array. Its fixed size, and that it cannot overlap the source,
-    // let the compiler vectorize the inner loop at every optimization level.
-    constexpr std::size_t block = 32;
+    // Without an early end the compiler can vectorize the loop.
+    const char16_t* const units = text.data();
+    const std::size_t size = text.size();
     std::uint16_t seen = 0;
-    std::size_t done = 0;
-    for (; done + block <= text.size(); done += block) {
-        std::array<std::uint16_t, block> units{};
-        std::array<unsigned char, block> bytes{};
-        std::memcpy(units.data(), text.data() + done, sizeof units);
-        for (std::size_t i = 0; i < block; ++i) {
-            seen = static_cast<std::uint16_t>(seen | units[i]);
-            bytes[i] = static_cast<unsigned char>(units[i]);
-        }
-        std::memcpy(target + done, bytes.data(), block);
-    }
-    for (; done < text.size(); ++done) {
-        seen = static_cast<std::uint16_t>(seen | text[done]);
-        target[done] = static_cast<char>(static_cast<unsigned char>(text[done]));
+    for (std::size_t i = 0; i < size; ++i) {
+        seen = static_cast<std::uint16_t>(seen | units[i]);
+        target[i] = static_cast<char>(static_cast<unsigned char>(units[i]));
     }
     return seen < 0x80;
 }

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <cstring>
 #include <optional>
 
 #include "foundation/code_page.h"
@@ -61,26 +60,18 @@ char16_t* writeUnits(char32_t point, char16_t* out) noexcept {
     return out;
 }
 
-/// Widens the front of the text in groups of bytes, up to the first group that is not all ASCII.
-/// Most texts are ASCII throughout. The local arrays let the compiler vectorize the inner loop.
-char16_t* widenAscii(std::string_view utf8, std::size_t& pos, char16_t* out) noexcept {
-    constexpr std::size_t group = 16;
-    for (; pos + group <= utf8.size(); pos += group) {
-        std::array<unsigned char, group> bytes{};
-        std::array<char16_t, group> units{};
-        std::memcpy(bytes.data(), utf8.data() + pos, group);
-        unsigned char seen = 0;
-        for (std::size_t i = 0; i < group; ++i) {
-            seen = static_cast<unsigned char>(seen | bytes[i]);
-            units[i] = bytes[i];
-        }
-        if (seen >= 0x80) {
-            break;
-        }
-        std::memcpy(out, units.data(), sizeof units);
-        out += group;
+/// Writes each byte as one unit. Returns true if every byte is ASCII, so that this is the decoded
+/// text. Most texts are, and without an early end the compiler can vectorize the loop.
+bool widenAscii(std::string_view utf8, char16_t* out) noexcept {
+    const char* const bytes = utf8.data();
+    const std::size_t size = utf8.size();
+    unsigned char seen = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        const auto byte = static_cast<unsigned char>(bytes[i]);
+        seen = static_cast<unsigned char>(seen | byte);
+        out[i] = byte;
     }
-    return out;
+    return seen < 0x80;
 }
 
 /// Decodes all of `utf8`. `onMalformed` is called with `out` for a byte that is not part of a
@@ -88,8 +79,10 @@ char16_t* widenAscii(std::string_view utf8, std::size_t& pos, char16_t* out) noe
 template <typename OnMalformed>
 char16_t* decode(std::string_view utf8, char16_t* out, LoneSurrogates loneSurrogates,
                  const OnMalformed& onMalformed) noexcept {
+    if (widenAscii(utf8, out)) {
+        return out + utf8.size();
+    }
     std::size_t pos = 0;
-    out = widenAscii(utf8, pos, out);
     while (pos < utf8.size() && out != nullptr) {
         const auto byte = static_cast<unsigned char>(utf8[pos]);
         if (byte < 0x80) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <utility>
 
 #include "foundation/ascii.h"
 #include "foundation/code_page.h"
@@ -133,12 +134,11 @@ const TextEncoding& TextEncoding::current() noexcept {
     return inForce == nullptr ? codePage() : *inForce;
 }
 
-TextEncoding::Scope::Scope(const TextEncoding& encoding) noexcept : before_(inForce) {
-    inForce = &encoding;
-}
+TextEncoding::Scope::Scope(const TextEncoding& encoding) noexcept
+    : place_(&inForce), before_(std::exchange(*place_, &encoding)) {}
 
 TextEncoding::Scope::~Scope() {
-    inForce = before_;
+    *place_ = before_;
 }
 
 OrxString TextEncoding::toBytes(std::u16string_view text) const {

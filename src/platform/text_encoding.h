@@ -40,6 +40,7 @@ public:
         Scope& operator=(const Scope&) = delete;
 
     private:
+        const TextEncoding** place_;
         const TextEncoding* before_;
     };
 

@@ -3,12 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <initializer_list>
+#include <memory>
 #include <sstream>
 #include <string>
 
+#include "component/object/document_object.h"
+#include "dochtml/com_pointer.h"
 #include "driver/doc_html.h"
 #include "faults/allocation_failure.h"
 #include "replay/input/call_stream_reader.h"
+#include "replay/play/component_document.h"
 #include "support/installed_file_system.h"
 #include "support/memory_file_system.h"
 #include "support/memory_settings_store.h"
@@ -101,8 +106,29 @@ TEST_F(WarmPage, TakesCellsWithoutAllocations) {
               0U);
 }
 
+TEST_F(WarmPage, TakesFontsInCellsWithoutAllocations) {
+    EXPECT_EQ(allocationsOnSecondPage([](DocHtml& document) {
+                  document.startTable();
+                  document.addRow();
+                  document.addCell();
+                  document.setFontName(u"Courier");
+                  document.setFontSize(14);
+                  document.setFontAttribute(1, true);
+                  document.setFontAttribute(2, true);
+                  document.addCell();
+                  document.insertText(u"the text of a cell");
+                  document.setFontAttribute(2, false);
+                  document.addCell();
+                  document.endTable();
+                  document.setStyle(u"Normal");
+              }),
+              0U);
+}
+
 TEST_F(WarmPage, TakesStylesWithoutAllocations) {
     EXPECT_EQ(allocationsOnSecondPage([](DocHtml& document) {
+                  document.setStyle(u"Heading 2, which has a long name");
+                  document.setStyle(u"Heading 3, which has a long name");
                   document.setStyle(u"Normal");
                   document.setStyle(u"List Number 3");
                   document.insertText(u"an item");
@@ -111,6 +137,40 @@ TEST_F(WarmPage, TakesStylesWithoutAllocations) {
                   document.setStyle(u"Normal");
               }),
               0U);
+}
+
+std::unique_ptr<replay::LateBoundDocument> componentDocument() {
+    const DocumentMaker maker = []() -> std::unique_ptr<quillmark::IDocument> {
+        return std::make_unique<DocHtml>();
+    };
+    void* object = nullptr;
+    EXPECT_TRUE(SUCCEEDED(DocumentObject::make(maker, nullptr, IID_IDispatch, &object)));
+    ComPointer<IDispatch> dispatch;
+    *dispatch.receive() = static_cast<IDispatch*>(object);
+    return std::make_unique<replay::ComponentDocument>(std::move(dispatch));
+}
+
+TEST_F(WarmPage, IsReachedThroughTheComponentWithoutAllocations) {
+    const std::unique_ptr<replay::LateBoundDocument> document = componentDocument();
+    const auto call = [&](const char* name, std::initializer_list<Argument> arguments = {}) {
+        const int id = findOperation(name)->dispatchId;
+        EXPECT_EQ(document->invoke(id, {arguments.begin(), arguments.size()}), InvokeStatus::done);
+    };
+    const std::u16string paragraph(600, u'p');
+    const auto page = [&] {
+        for (int i = 0; i < 3; ++i) {
+            call("insertText", {WideText(paragraph)});
+            call("insertText", {u"a text with another length"});
+            call("insertXref", {u"a page", u"Page 1"});
+            call("insertEndl");
+        }
+    };
+    call("create", {u"C:\\output directory\\component.htm"});
+    page();
+    call("insertText", {WideText(std::u16string(20'000, u'x'))});
+    call("insertPageBreak");
+    page();
+    EXPECT_EQ(allocationsOf(page), 0U);
 }
 
 TEST(WarmReader, TakesCallsWithoutAllocations) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "page/links/cached_link.h"
+#include "platform/text_encoding.h"
+
 namespace quillmark {
 namespace {
 
@@ -26,6 +29,23 @@ TEST(Links, LeadFromADirectoryToAFile) {
     EXPECT_EQ(links::relativeFile("C:\\x\\a.htm", "C:\\out"), "../x/a.htm");
     EXPECT_EQ(links::relativeFile("D:\\x\\a.htm", "C:\\out"), "D|/x/a.htm");
     EXPECT_EQ(links::relativeFile("a.htm", ""), "a.htm");
+}
+
+TEST(CachedLinks, AreTheLinksThatWereNotCached) {
+    CachedLink cached;
+    for (const char* const base : {"C:\\out", "C:\\out\\b", "", "out", "\\"}) {
+        for (const char* const file :
+             {"C:\\out\\a.htm", "C:\\out\\a.htm", "C:\\out\\c:d.htm", "C:\\x\\a.htm", "C:/x/a.htm",
+              "C:a.htm", "C:\\a.htm", "a.htm", "", "a.htm", "\\a.htm", "out\\", "b\\c\\a.htm"}) {
+            for (const TextEncoding* const encoding :
+                 {&TextEncoding::codePage(), &TextEncoding::utf8()}) {
+                const TextEncoding::Scope scope(*encoding);
+                const OrxString name = OrxString(file) + "#\xC3\xA9";
+                EXPECT_EQ(cached.relativeFile(file, base), links::relativeFile(file, base)) << file;
+                EXPECT_EQ(cached.relativeFile(name, base), links::relativeFile(name, base)) << name;
+            }
+        }
+    }
 }
 
 TEST(Links, HaveADefaultDirectoryForTheWholeProcess) {

@@ -53,6 +53,64 @@ TEST(CallStreamReader, FindsNothingInAnEmptyInput) {
     EXPECT_EQ(problemOf(" \n"), "");
 }
 
+/// The values of a call as one line, with `blank` around each of them.
+std::string lineOf(const std::vector<std::string>& values, const std::string& blank) {
+    std::string line = "[";
+    for (const std::string& value : values) {
+        line += (line.size() > 1 ? "," : "") + blank + value + blank;
+    }
+    return line + "]\n";
+}
+
+TEST(CallStreamReader, ReadsALineWithoutBlanksLikeOneWithBlanks) {
+    const std::vector<std::vector<std::string>> calls = {
+        {R"("insertText")", R"("a text")"},
+        {R"("insertText")", R"("")"},
+        {R"("insertText")", R"("brackets [] and, commas")"},
+        {R"("insertText")", R"("an \"escape\"")"},
+        {R"("insertText")", "\"\xC3\xA9 \xE2\x82\xAC\""},
+        {R"("insertXref")", R"("text")", R"("tag")"},
+        {R"("overrideRegistry")", R"("Html")", R"("Navig")", R"("2")", "1"},
+        {R"("insertEndl")"},
+        {R"("new")"},
+        // Mistakes.
+        {R"("insertText")"},
+        {R"("insertText")", R"("one")", R"("two")"},
+        {R"("insertField")", R"("not a number")"},
+        {R"("insertSpace")", R"("unknown")"},
+        {R"("")"},
+        {R"("insertText")", R"("a"b")"},
+        {R"("insertText")", R"("a""b")"},
+        {R"("insertText")", R"("a" "b")"},
+        {R"("insertText")", R"("a"x"b")"},
+        {R"("insertText")", R"("no end)"},
+        {R"("insertText")", R"(")"},
+        {R"("insertText")", "\"a control code \x01\""},
+        {R"("insertText")", "\"not UTF-8 \xFF\""},
+        {R"("insertText")", "\"half a pair \xED\xA0\x80\""},
+    };
+    for (const std::vector<std::string>& values : calls) {
+        const Reading plain = readStream(lineOf(values, ""));
+        const Reading spaced = readStream(lineOf(values, " "));
+        EXPECT_EQ(plain.calls, spaced.calls) << lineOf(values, "");
+        EXPECT_EQ(plain.problem, spaced.problem) << lineOf(values, "");
+        EXPECT_NE(plain.calls.empty(), plain.problem.empty()) << lineOf(values, "");
+    }
+}
+
+TEST(CallStreamReader, KnowsWhichCallsAreAscii) {
+    std::istringstream stream(
+        "[\"insertXref\",\"a\",\"b\"]\n[\"insertXref\",\"\xC3\xA9\",\"b\"]\n"
+        "[\"insertXref\", \"a\", \"\\u00E9\"]\n[\"insertEndl\"]\n");
+    InputBuffer input(stream);
+    CallStreamReader reader(input);
+    Call call;
+    for (const bool expected : {true, false, false, true}) {
+        ASSERT_EQ(reader.next(call), ReadResult::call);
+        EXPECT_EQ(call.isAscii, expected);
+    }
+}
+
 TEST(CallStreamReader, ReadsEveryKindOfEscape) {
     EXPECT_THAT(readStream(R"(["insertText","a\"b\\c\/d\te\u00e9\uD83D\uDE00"])").calls,
                 ElementsAre("insertText(\"a\"b\\c/d\te\xC3\xA9\xF0\x9F\x98\x80\")"));

@@ -107,7 +107,7 @@ HRESULT CallArguments::convert(std::size_t position, LCID locale) {
         values_[position] = argumentOf(*slot.host);
         return S_OK;
     }
-    VARIANT& converted = slot.converted.get();
+    VARIANT& converted = slot.converted.emplace().get();
     const HRESULT result = convertVariant(converted, *slot.host, locale, variantTypeOf(kind));
     if (SUCCEEDED(result)) {
         values_[position] = argumentOf(converted);
@@ -117,7 +117,7 @@ HRESULT CallArguments::convert(std::size_t position, LCID locale) {
 
 HRESULT CallArguments::prepareOutText(std::size_t position, LCID locale) {
     Slot& slot = slots_[position];
-    values_[position] = &slot.outText;
+    values_[position] = &outText_.emplace();
     if (isReferenceTo(*slot.host, VT_BSTR)) {
         *slot.host->pbstrVal = nullptr;
         return S_OK;
@@ -126,19 +126,22 @@ HRESULT CallArguments::prepareOutText(std::size_t position, LCID locale) {
         return VariantClear(slot.host->pvarVal);
     }
     // When the host passes a value, the call is made, but the host does not receive the text.
-    return convertVariant(slot.converted.get(), *slot.host, locale, VT_BSTR);
+    return convertVariant(slot.converted.emplace().get(), *slot.host, locale, VT_BSTR);
 }
 
 void CallArguments::handOutTexts() {
+    if (!outText_) {
+        return;
+    }
     for (std::size_t i = 0; i < operation_.parameters.size(); ++i) {
         Slot& slot = slots_[i];
         if (operation_.parameters[i].kind != ParameterKind::outString) {
             continue;
         }
         if (isReferenceTo(*slot.host, VT_BSTR)) {
-            *slot.host->pbstrVal = Text(slot.outText).release();
+            *slot.host->pbstrVal = Text(*outText_).release();
         } else if (isReferenceTo(*slot.host, VT_VARIANT)) {
-            slot.host->pvarVal->bstrVal = Text(slot.outText).release();
+            slot.host->pvarVal->bstrVal = Text(*outText_).release();
             slot.host->pvarVal->vt = VT_BSTR;
         }
     }

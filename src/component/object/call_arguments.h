@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -30,8 +31,8 @@ private:
 
     struct Slot {
         VARIANTARG* host = nullptr;
-        OwnedVariant converted;
-        std::u16string outText;
+        /// Only for a value that is not used in place.
+        std::optional<OwnedVariant> converted;
     };
 
     [[nodiscard]] HRESULT order(const DISPPARAMS& host, UINT* badArgument);
@@ -41,6 +42,8 @@ private:
     const Operation& operation_;
     std::array<Slot, mostParameters> slots_;
     std::array<Argument, mostParameters> values_;
+    /// No operation returns more than one.
+    std::optional<std::u16string> outText_;
 };
 
 }  // namespace quillmark

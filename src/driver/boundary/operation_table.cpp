@@ -58,6 +58,8 @@ struct Signature;
 template <typename... Types>
 struct Signature<DocResult (IDocument::*)(Types...)> {
     static constexpr std::size_t count = sizeof...(Types);
+    static constexpr std::size_t given =
+        (std::size_t{0} + ... + (kindOf<Types>() == ParameterKind::outString ? 0 : 1));
 
     template <ParameterName... names>
     static constexpr std::array<Parameter, count> parameters{
@@ -77,7 +79,8 @@ template <auto method, ParameterName... names>
 constexpr Operation operation(int dispatchId, const char* name) {
     using Form = Signature<decltype(method)>;
     static_assert(Form::count == sizeof...(names), "every parameter has a name");
-    return {dispatchId, name, Form::template parameters<names...>, &Form::template call<method>};
+    return {dispatchId, name, Form::template parameters<names...>, Form::given,
+            &Form::template call<method>};
 }
 
 constexpr std::array<Operation, operationCount> table{
@@ -133,32 +136,62 @@ constexpr bool isInOrder() {
 }
 static_assert(isInOrder(), "the n-th operation has dispatch identifier n");
 
-/// The names in the order of their lengths, and where each length begins. A search compares only
-/// names of the right length; `bench` shows what it costs beside a call.
-struct NamesByLength {
-    static constexpr std::size_t longest = 20;
+/// A hash table in which every name has a slot of its own, so that a search compares one name;
+/// `bench` shows what it costs beside a call.
+class NameSlots {
+public:
+    constexpr NameSlots() {
+        while (!fill()) {
+            ++factor_;
+        }
+    }
+    [[nodiscard]] constexpr const Operation* find(std::string_view name) const noexcept {
+        if (name.size() < shortest) {
+            return nullptr;
+        }
+        const Slot& slot = slots_[slotOf(name)];
+        return slot.name == name ? &table[slot.position] : nullptr;
+    }
 
-    struct Row {
+private:
+    /// The hash takes bytes up to this one from the end.
+    static constexpr std::size_t shortest = 4;
+    static constexpr std::size_t slotCount = 256;
+
+    struct Slot {
         std::string_view name;
         std::size_t position = 0;
     };
-    std::array<Row, operationCount> rows;
-    std::array<std::size_t, longest + 2> starts{};
+
+    [[nodiscard]] constexpr std::size_t slotOf(std::string_view name) const noexcept {
+        const auto byte = [name](std::size_t i) { return static_cast<unsigned char>(name[i]); };
+        std::uint32_t hash = static_cast<std::uint32_t>(name.size());
+        hash = hash * factor_ + byte(name.size() / 2);
+        hash = hash * factor_ + byte(name.size() - 1);
+        hash = hash * factor_ + byte(name.size() - shortest);
+        return (hash ^ (hash >> 8U)) % slotCount;
+    }
+    /// False if two names come to the same slot.
+    constexpr bool fill() {
+        slots_ = {};
+        for (std::size_t i = 0; i < table.size(); ++i) {
+            Slot& slot = slots_[slotOf(table[i].name)];
+            if (!slot.name.empty()) {
+                return false;
+            }
+            slot = {table[i].name, i};
+        }
+        return true;
+    }
+
+    std::array<Slot, slotCount> slots_{};
+    std::uint32_t factor_ = 31;
 };
 
-constexpr NamesByLength byLength = [] {
-    NamesByLength all;
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        all.rows[i] = {table[i].name, i};
-    }
-    std::ranges::sort(all.rows, {}, [](const auto& row) { return row.name.size(); });
-    for (std::size_t length = 0; length < all.starts.size(); ++length) {
-        all.starts[length] = static_cast<std::size_t>(std::ranges::count_if(
-            all.rows, [length](const auto& row) { return row.name.size() < length; }));
-    }
-    return all;
-}();
-static_assert(byLength.starts.back() == operationCount, "no name is longer than the longest");
+constexpr NameSlots nameSlots;
+static_assert(std::ranges::all_of(table, [](const Operation& row) {
+    return nameSlots.find(row.name) == &row;
+}));
 
 template <typename T>
 bool fits(std::int64_t value) noexcept {
@@ -191,15 +224,7 @@ std::span<const Operation> operations() noexcept {
 }
 
 const Operation* findOperation(std::string_view name) noexcept {
-    if (name.size() > NamesByLength::longest) {
-        return nullptr;
-    }
-    for (std::size_t i = byLength.starts[name.size()]; i < byLength.starts[name.size() + 1]; ++i) {
-        if (byLength.rows[i].name == name) {
-            return &table[byLength.rows[i].position];
-        }
-    }
-    return nullptr;
+    return nameSlots.find(name);
 }
 
 const Operation* findOperation(int dispatchId) noexcept {

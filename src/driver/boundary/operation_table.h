@@ -29,6 +29,8 @@ struct Operation {
     int dispatchId;
     const char* name;
     std::span<const Parameter> parameters;
+    /// The number of arguments that a caller gives a value: all but those that receive a text.
+    std::size_t givenCount;
     /// Calls the operation with arguments that `invoke` has checked.
     DocResult (*call)(IDocument& document, std::span<const Argument> arguments);
 };

@@ -16,17 +16,8 @@ namespace {
 constexpr std::string_view anchorOpening = "<a name=\"";
 constexpr std::string_view anchorEnd = "\"></a>";
 
-/// The part of a name before its file, with the separator.
-std::string_view directoryPart(std::string_view name) noexcept {
-    return name.substr(0, path_text::fileStart(name));
-}
-
-/// Appends the directory part of the link from one page's file to another's. Most pages are in the
-/// same directory, and that part is empty.
+/// Appends the directory part of the link from one page's file to another's.
 void appendDirectory(std::string& link, std::string_view target, std::string_view fromPage) {
-    if (target.empty() || directoryPart(target) == directoryPart(fromPage)) {
-        return;
-    }
     const OrxString directory = links::fromPath(
         SysDirectory::getRelativePath(SysFile::getDir(fromPage), SysFile::getDir(target)));
     if (!directory.isEmpty()) {
@@ -84,7 +75,7 @@ void BookmarkWriter::resolve(BookmarkTable::Id id, std::string_view name) {
 void BookmarkWriter::reference(std::string_view name, std::string_view markup) {
     const BookmarkTable::Id id = table_.add(name);
     if (table_.isDefined(id)) {
-        writeReference(name, markup, relativeReference(id, out_.page()));
+        writeReference(id, name, markup);
         return;
     }
     DocHtmlPage& page = out_.page();
@@ -97,13 +88,14 @@ void BookmarkWriter::reference(std::string_view name, std::string_view markup) {
     }
 }
 
-void BookmarkWriter::writeReference(std::string_view name, std::string_view markup,
-                                    std::string_view reference) {
+void BookmarkWriter::writeReference(BookmarkTable::Id id, std::string_view name,
+                                    std::string_view markup) {
     const auto place = LinkAttribute::placeIn(markup, name);
     if (!place.isFound()) {
         out_.writeOut(markup);
         return;
     }
+    const std::string_view reference = relativeReference(id, out_.page());
     if (!markup.empty()) {
         out_.writeOut(markup.substr(0, place.start));
     }
@@ -129,11 +121,19 @@ std::string_view BookmarkWriter::relativeReference(BookmarkTable::Id id, const D
 /// The link to a page without a file name is only the fragment. Without memory no route is known.
 void BookmarkWriter::findRoute(std::string_view target, const OrxString& fromPage) {
     lastRoute_.link.clear();
-    lastRoute_.fromPage = fromPage;
+    if (lastRoute_.fromPage != fromPage) {
+        lastRoute_.fromPage = fromPage;
+        lastRoute_.fromFile = path_text::fileStart(fromPage);
+    }
     reference_.clear();
-    appendDirectory(reference_, target, fromPage);
+    const std::size_t file = path_text::fileStart(target);
+    // Most pages are in the same directory.
+    if (!target.empty() &&
+        target.substr(0, file) != fromPage.view().substr(0, lastRoute_.fromFile)) {
+        appendDirectory(reference_, target, fromPage);
+    }
     filePart_.clear();
-    filePart_.append(target.substr(path_text::fileStart(target)));
+    filePart_.append(target.substr(file));
     // Moved in and out, so that its memory is kept.
     filePart_ = TextEncoding::current().inLink(std::move(filePart_));
     reference_.append(filePart_).append("#");

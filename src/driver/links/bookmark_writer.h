@@ -42,7 +42,7 @@ public:
 private:
     void writeAnchor(BookmarkTable::Id id, std::string_view name);
     void resolve(BookmarkTable::Id id, std::string_view name);
-    void writeReference(std::string_view name, std::string_view markup, std::string_view reference);
+    void writeReference(BookmarkTable::Id id, std::string_view name, std::string_view markup);
     /// The link from a page to the bookmark. It is valid until the next call.
     [[nodiscard]] std::string_view relativeReference(BookmarkTable::Id id, const DocHtmlPage& page);
 
@@ -57,6 +57,7 @@ private:
     /// row may lead from the same page to the same page.
     struct Route {
         OrxString fromPage;
+        std::size_t fromFile = 0;  // where the file part of `fromPage` starts
         std::uint32_t toPage = 0;
         OrxString link;
     };

@@ -1,7 +1,6 @@
 #include "driver/text/font_writer.h"
 
 #include <array>
-#include <string>
 #include <utility>
 
 namespace quillmark {
@@ -59,7 +58,7 @@ void FontWriter::setName(const OrxString& name) {
 }
 
 void FontWriter::setSize(std::int16_t points) {
-    FontData font = current();
+    FontData font = currentToChange();
     font.size = static_cast<std::uint16_t>(points);
     if (points == 0) {
         out_.writeOut(baseFontClosing);
@@ -70,7 +69,7 @@ void FontWriter::setSize(std::int16_t points) {
 }
 
 void FontWriter::setAttribute(FontAttribute attribute, bool value) {
-    FontData font = current();
+    FontData font = currentToChange();
     if (const AttributeRow* const row = findAttribute(attribute); row != nullptr) {
         font.*(row->flag) = value;
         out_.writeOut(value ? row->opening : row->closing);
@@ -78,27 +77,40 @@ void FontWriter::setAttribute(FontAttribute attribute, bool value) {
     store(std::move(font));
 }
 
-FontData FontWriter::current() const {
-    const DocHtmlTextState& state = out_.state();
-    if (out_.inBody() && !state.fontOpen) {
-        return {};
+bool FontWriter::isDefault() const noexcept {
+    return out_.inBody() && !out_.state().fontOpen;
+}
+
+const FontData& FontWriter::current() const noexcept {
+    return isDefault() ? default_ : out_.state().font;
+}
+
+FontData FontWriter::currentToChange() const {
+    const FontData& from = current();
+    FontData font;
+    font.size = from.size;
+    for (const AttributeRow& row : attributes) {
+        font.*(row.flag) = from.*(row.flag);
     }
-    return state.font;
+    return font;
 }
 
 void FontWriter::store(FontData font) {
     DocHtmlTextState& state = out_.state();
+    const bool hasName = !isDefault();
     state.fontOpen = font.size != 0 || font.hasAttribute();
     if (state.fontOpen) {
+        if (hasName) {
+            std::swap(font.name, state.font.name);
+        }
         state.font = std::move(font);
     }
 }
 
 void FontWriter::writeBaseFont(std::int16_t points) {
     if (points != 0) {
-        std::string tag(baseFontOpening);
-        tag.append(1, sizeDigit(points)).append(">");
-        out_.writeOut(tag);
+        tags_.assign(baseFontOpening).append(1, sizeDigit(points)).append(">");
+        out_.writeOut(tags_);
     }
 }
 
@@ -112,16 +124,16 @@ void FontWriter::openTags(const FontData& font) {
 }
 
 void FontWriter::closeTags(const FontData& font) {
-    std::string tags;
+    tags_.clear();
     if (font.size != 0) {
-        tags.append(baseFontClosing);
+        tags_.append(baseFontClosing);
     }
     for (const AttributeRow& row : attributes) {
         if (font.*(row.flag)) {
-            tags.append(row.closing);
+            tags_.append(row.closing);
         }
     }
-    out_.writeOut(tags);
+    out_.writeOut(tags_);
 }
 
 void FontWriter::close() {

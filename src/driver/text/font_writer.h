@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "driver/pages/output_router.h"
 
@@ -24,7 +25,7 @@ public:
 
     /// The current font. In the body, a closed font falls back to the default. In a section, the
     /// font that was stored last stays current, closed or not.
-    [[nodiscard]] FontData current() const;
+    [[nodiscard]] const FontData& current() const noexcept;
     void openTags(const FontData& font);
     void closeTags(const FontData& font);
     /// Closes the font of the current text state if it is open.
@@ -35,10 +36,16 @@ public:
     void reopen(FontData font);
 
 private:
+    /// Whether the current font is the default one, because the body's is closed.
+    [[nodiscard]] bool isDefault() const noexcept;
+    /// A copy of the current font for a change, without its name, which `store` keeps.
+    [[nodiscard]] FontData currentToChange() const;
     void store(FontData font);
     void writeBaseFont(std::int16_t points);
 
     OutputRouter& out_;
+    FontData default_;
+    std::string tags_;  // a member only to reuse its memory
 };
 
 /// The attribute's name in the call trace, empty for an unknown code.

@@ -130,13 +130,14 @@ void ParagraphStyle::endStyle() {
     state.styleName.clear();
 }
 
-void ParagraphStyle::setStyle(const OrxString& name) {
+void ParagraphStyle::setStyle(std::string_view name) {
     DocHtmlTextState& state = out_.state();
-    if (name == state.styleName) {
+    if (state.styleName == name) {
         font_.close();
         return;
     }
-    next_ = name;
+    next_.clear();
+    next_.append(name);
     const TextAlign align = state.textAlign;
     endAlign();
     font_.close();

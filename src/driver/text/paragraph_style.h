@@ -20,7 +20,7 @@ public:
         : out_(out), font_(font), contents_(contents) {}
 
     /// Makes a style current. Setting the current style again only closes the font.
-    void setStyle(const OrxString& name);
+    void setStyle(std::string_view name);
     /// Makes an alignment current.
     void setAlign(TextAlign align);
     /// Closes font, style and alignment, in that order.

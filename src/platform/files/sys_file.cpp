@@ -75,6 +75,10 @@ OrxString SysFile::getRelativeFileName(const OrxString& baseDir, const OrxString
 }
 
 bool SysFile::isHyperLink(const OrxString& text) {
+    // Fast path: most targets are names.
+    if (text.first(':') == OrxString::npos) {
+        return false;
+    }
     if (text.startsWith("mailto:") || text.startsWith("news:")) {
         return true;
     }

@@ -1,6 +1,5 @@
 #include "replay/input/call_builder.h"
 
-#include <algorithm>
 #include <limits>
 
 namespace quillmark::replay {
@@ -51,6 +50,7 @@ void CallBuilder::start(Call& call) noexcept {
     call_ = &call;
     call.operation = nullptr;
     call.argumentCount = 0;
+    call.isAscii = false;
     call.recorded = {};
     expected_ = 0;
     seen_ = 0;
@@ -67,11 +67,7 @@ bool CallBuilder::name(std::string_view name, std::string& problem) {
         problem.assign("unknown operation \"").append(name).append("\"");
         return false;
     }
-    const std::span<const Parameter> parameters = call_->operation->parameters;
-    expected_ =
-        static_cast<std::size_t>(std::ranges::count_if(parameters, [](const Parameter& parameter) {
-            return parameter.kind != ParameterKind::outString;
-        }));
+    expected_ = call_->operation->givenCount;
     return true;
 }
 

@@ -19,6 +19,8 @@ struct Call {
     std::array<Argument, maxArguments> arguments;
     /// The number of arguments given, without an output argument.
     std::size_t argumentCount = 0;
+    /// True only if every text is ASCII, which every encoding holds. A source need not find out.
+    bool isAscii = false;
     /// The line in which the call begins, counted from 1.
     std::size_t line = 0;
     /// In a recording, the call line without its line end.

@@ -17,8 +17,23 @@ namespace {
 constexpr std::string_view blank = " \t\r";
 
 bool isBlank(std::span<const char> line) noexcept {
-    return std::string_view(line.data(), line.size()).find_first_not_of(blank) ==
-           std::string_view::npos;
+    return (line.empty() || line.front() != '[') &&
+           std::string_view(line.data(), line.size()).find_first_not_of(blank) ==
+               std::string_view::npos;
+}
+
+/// Whether the line has neither escapes nor control codes, so that the bytes of its texts are the
+/// texts. Nearly every line is like that. Without an early end the compiler can vectorize the loop.
+bool isPlain(std::string_view line) noexcept {
+    const char* const bytes = line.data();
+    const std::size_t size = line.size();
+    unsigned char special = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        const auto byte = static_cast<unsigned char>(bytes[i]);
+        special |=
+            static_cast<unsigned char>(byte < 0x20) | static_cast<unsigned char>(byte == '\\');
+    }
+    return special == 0;
 }
 
 }  // namespace
@@ -29,26 +44,7 @@ class CallStreamReader::Parser : public rapidjson::BaseReaderHandler<rapidjson::
 public:
     bool parse(std::span<char> line, Call& call) {
         call_ = &call;
-        problem_.clear();
-        isOpen_ = false;
-        builder_.start(call);
-        const std::size_t size = foldLoneSurrogates(line);
-        loneSurrogates_ =
-            size != line.size() ? utf8::LoneSurrogates::accepted : utf8::LoneSurrogates::malformed;
-        line.data()[size] = '\0';  // the byte after the line belongs to the buffer too
-        makeRoomForUnits(size);
-        nextUnit_ = units_.get();
-
-        rapidjson::InsituStringStream stream(line.data());
-        const rapidjson::ParseResult result =
-            reader_.Parse<rapidjson::kParseInsituFlag>(stream, *this);
-        if (result.IsError() && problem_.empty()) {
-            problem_ = std::string("malformed JSON: ") + rapidjson::GetParseError_En(result.Code());
-            problem_.erase(problem_.find_last_not_of('.') + 1);
-        } else if (!result.IsError() && stream.Tell() != size) {
-            problem_ = "malformed JSON: a zero byte";
-        }
-        return problem_.empty();
+        return takePlain({line.data(), line.size()}) || parseJson(line);
     }
 
     [[nodiscard]] const std::string& problem() const noexcept { return problem_; }
@@ -75,6 +71,8 @@ public:
         }
         const WideText argument(nextUnit_, static_cast<std::size_t>(end - nextUnit_));
         nextUnit_ = end;
+        // A character beyond ASCII has more bytes than units.
+        call_->isAscii = call_->isAscii && argument.size() == size;
         return builder_.addText(argument, problem_);
     }
     bool Bool(bool value) { return isOpen_ ? builder_.addBoolean(value, problem_) : Default(); }
@@ -94,6 +92,57 @@ public:
     }
 
 private:
+    void start(std::size_t lineSize, utf8::LoneSurrogates loneSurrogates) {
+        problem_.clear();
+        isOpen_ = false;
+        builder_.start(*call_);
+        call_->isAscii = true;
+        loneSurrogates_ = loneSurrogates;
+        makeRoomForUnits(lineSize);
+        nextUnit_ = units_.get();
+    }
+
+    /// Takes a call of plain texts without blanks between them, such as ["insertText","Hello"].
+    /// False for any other line, and for a call with a mistake: `parseJson` describes it.
+    bool takePlain(std::string_view line) {
+        constexpr std::string_view between = "\",\"";
+        if (!line.starts_with("[\"") || !line.ends_with("\"]") || !isPlain(line)) {
+            return false;
+        }
+        start(line.size(), utf8::LoneSurrogates::malformed);
+        StartArray();
+        std::string_view rest = line.substr(2);
+        for (;;) {
+            const std::size_t size = rest.find('"');
+            if (size == std::string_view::npos ||
+                !String(rest.data(), static_cast<rapidjson::SizeType>(size), false)) {
+                return false;
+            }
+            rest.remove_prefix(size);
+            if (!rest.starts_with(between)) {
+                return rest == "\"]" && EndArray(0);
+            }
+            rest.remove_prefix(between.size());
+        }
+    }
+
+    bool parseJson(std::span<char> line) {
+        const std::size_t size = foldLoneSurrogates(line);
+        start(size, size != line.size() ? utf8::LoneSurrogates::accepted
+                                        : utf8::LoneSurrogates::malformed);
+        line.data()[size] = '\0';  // the byte after the line belongs to the buffer too
+        rapidjson::InsituStringStream stream(line.data());
+        const rapidjson::ParseResult result =
+            reader_.Parse<rapidjson::kParseInsituFlag>(stream, *this);
+        if (result.IsError() && problem_.empty()) {
+            problem_ = std::string("malformed JSON: ") + rapidjson::GetParseError_En(result.Code());
+            problem_.erase(problem_.find_last_not_of('.') + 1);
+        } else if (!result.IsError() && stream.Tell() != size) {
+            problem_ = "malformed JSON: a zero byte";
+        }
+        return problem_.empty();
+    }
+
     /// A text never has more units than its line has bytes. The old units are freed first, and the
     /// new ones are not touched before they are used, since a line may be very long.
     void makeRoomForUnits(std::size_t count) {

@@ -13,10 +13,17 @@ namespace {
 /// The arguments of a call as variants, in the reverse order that a dispatch interface expects.
 class VariantArguments {
 public:
-    explicit VariantArguments(std::span<const Argument> arguments) {
+    /// The texts in `kept` are in use until this object is destroyed.
+    VariantArguments(std::span<const Argument> arguments, ArgumentTexts& kept) {
         for (std::size_t i = 0; i < arguments.size(); ++i) {
             VARIANT& variant = variants_.at(arguments.size() - 1 - i);
             VariantInit(&variant);
+            if (const auto* const units = std::get_if<WideText>(&arguments[i]);
+                units != nullptr && units->size() < ReusedTexts::longest) {
+                variant.vt = VT_BSTR;
+                variant.bstrVal = kept.at(i).textOf(*units);
+                continue;
+            }
             std::visit([&](const auto& value) { put(variant, texts_.at(i), value); }, arguments[i]);
         }
         parameters_ = {variants_.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
@@ -58,11 +65,11 @@ private:
         variant.pbstrVal = text.receive();
     }
 
-    /// No operation has more.
-    static constexpr std::size_t mostArguments = 4;
+    static constexpr std::size_t mostArguments = std::tuple_size_v<ArgumentTexts>;
 
     std::array<Text, mostArguments> texts_;
-    std::array<VARIANT, mostArguments> variants_{};
+    /// Only those of the arguments are initialized.
+    std::array<VARIANT, mostArguments> variants_;
     DISPPARAMS parameters_{};
 };
 
@@ -95,7 +102,7 @@ int ComponentDocument::idOf(std::string_view name) {
 }
 
 InvokeStatus ComponentDocument::invoke(int id, std::span<const Argument> arguments) {
-    VariantArguments variants(arguments);
+    VariantArguments variants(arguments, texts_);
     const HRESULT result = document_->Invoke(id, IID_NULL, 0, DISPATCH_METHOD,
                                              variants.parameters(), nullptr, nullptr, nullptr);
     requireMemory(result);

@@ -148,6 +148,9 @@ bool Player::refuses(const Call& create) const {
 }
 
 void Player::countLost(const Call& call) {
+    if (call.isAscii) {
+        return;
+    }
     const TextEncoding& encoding = encoding_.current();
     const TextEncoding::Scope scope(encoding);
     for (const Argument& argument : call.given()) {
@@ -167,6 +170,9 @@ void Player::noteEncoding(const Call& call) {
         encoding_.create();
     } else if (call.operation == &overrideOperation()) {
         encoding_.override(call);
+    }
+    if (call.recorded.empty()) {
+        return;
     }
     const TextEncoding& encoding = encoding_.current();
     if (fit_.isWrong(call.recorded, encoding) && listeners_.diverged) {

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -17,6 +18,7 @@
 #include "platform/files/posix/descriptor_io.h"
 #include "platform/files/posix/directory_lock.h"
 #include "platform/files/posix/file_rewriting.h"
+#include "platform/files/posix/native_name.h"
 #include "platform/files/posix/noted.h"
 #include "platform/files/posix/open_files.h"
 #include "platform/files/posix/whole_file.h"
@@ -27,15 +29,19 @@ namespace {
 
 using descriptor_io::openFile;
 
+std::optional<struct stat> statusOf(const char* path) noexcept {
+    std::optional<struct stat> status(std::in_place);
+    if (stat(path, &*status) != 0) {
+        if (!FileFailure::meansMissing(errno)) {
+            FileFailure::note(errno);
+        }
+        status.reset();
+    }
+    return status;
+}
+
 std::optional<struct stat> statusOf(const std::string& path) noexcept {
-    struct stat status {};
-    if (stat(path.c_str(), &status) == 0) {
-        return status;
-    }
-    if (!FileFailure::meansMissing(errno)) {
-        FileFailure::note(errno);
-    }
-    return std::nullopt;
+    return statusOf(path.c_str());
 }
 
 std::optional<struct stat> statusOf(const Descriptor& file) noexcept {
@@ -116,11 +122,11 @@ std::string linkTarget(const std::string& path) {
 class NativeFileSystem final : public FileSystem {
 public:
     bool fileExists(const OrxString& name) const override {
-        return isFile(statusOf(nativePath(name)));
+        return isFile(statusOf(NativeName(name).text()));
     }
 
     bool directoryExists(const OrxString& name) const override {
-        return isDirectory(statusOf(nativePath(name)));
+        return isDirectory(statusOf(NativeName(name).text()));
     }
 
     std::optional<FileStamp> stamp(const OrxString& name) const override {
