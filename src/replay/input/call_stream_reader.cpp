@@ -22,20 +22,6 @@ bool isBlank(std::span<const char> line) noexcept {
                std::string_view::npos;
 }
 
-/// Whether the line has neither escapes nor control codes, so that the bytes of its texts are the
-/// texts. Nearly every line is like that. Without an early end the compiler can vectorize the loop.
-bool isPlain(std::string_view line) noexcept {
-    const char* const bytes = line.data();
-    const std::size_t size = line.size();
-    unsigned char special = 0;
-    for (std::size_t i = 0; i < size; ++i) {
-        const auto byte = static_cast<unsigned char>(bytes[i]);
-        special |=
-            static_cast<unsigned char>(byte < 0x20) | static_cast<unsigned char>(byte == '\\');
-    }
-    return special == 0;
-}
-
 }  // namespace
 
 /// Turns the JSON events of one line into a call. An event that does not fit sets `problem_` and
@@ -44,7 +30,20 @@ class CallStreamReader::Parser : public rapidjson::BaseReaderHandler<rapidjson::
 public:
     bool parse(std::span<char> line, Call& call) {
         call_ = &call;
-        return takePlain({line.data(), line.size()}) || parseJson(line);
+        const std::size_t size = foldLoneSurrogates(line);
+        start(size, size != line.size() ? utf8::LoneSurrogates::accepted
+                                        : utf8::LoneSurrogates::malformed);
+        line.data()[size] = '\0';  // the byte after the line belongs to the buffer too
+        rapidjson::InsituStringStream stream(line.data());
+        const rapidjson::ParseResult result =
+            reader_.Parse<rapidjson::kParseInsituFlag>(stream, *this);
+        if (result.IsError() && problem_.empty()) {
+            problem_ = std::string("malformed JSON: ") + rapidjson::GetParseError_En(result.Code());
+            problem_.erase(problem_.find_last_not_of('.') + 1);
+        } else if (!result.IsError() && stream.Tell() != size) {
+            problem_ = "malformed JSON: a zero byte";
+        }
+        return problem_.empty();
     }
 
     [[nodiscard]] const std::string& problem() const noexcept { return problem_; }
@@ -100,47 +99,6 @@ private:
         loneSurrogates_ = loneSurrogates;
         makeRoomForUnits(lineSize);
         nextUnit_ = units_.get();
-    }
-
-    /// Takes a call of plain texts without blanks between them, such as ["insertText","Hello"].
-    /// False for any other line, and for a call with a mistake: `parseJson` describes it.
-    bool takePlain(std::string_view line) {
-        constexpr std::string_view between = "\",\"";
-        if (!line.starts_with("[\"") || !line.ends_with("\"]") || !isPlain(line)) {
-            return false;
-        }
-        start(line.size(), utf8::LoneSurrogates::malformed);
-        StartArray();
-        std::string_view rest = line.substr(2);
-        for (;;) {
-            const std::size_t size = rest.find('"');
-            if (size == std::string_view::npos ||
-                !String(rest.data(), static_cast<rapidjson::SizeType>(size), false)) {
-                return false;
-            }
-            rest.remove_prefix(size);
-            if (!rest.starts_with(between)) {
-                return rest == "\"]" && EndArray(0);
-            }
-            rest.remove_prefix(between.size());
-        }
-    }
-
-    bool parseJson(std::span<char> line) {
-        const std::size_t size = foldLoneSurrogates(line);
-        start(size, size != line.size() ? utf8::LoneSurrogates::accepted
-                                        : utf8::LoneSurrogates::malformed);
-        line.data()[size] = '\0';  // the byte after the line belongs to the buffer too
-        rapidjson::InsituStringStream stream(line.data());
-        const rapidjson::ParseResult result =
-            reader_.Parse<rapidjson::kParseInsituFlag>(stream, *this);
-        if (result.IsError() && problem_.empty()) {
-            problem_ = std::string("malformed JSON: ") + rapidjson::GetParseError_En(result.Code());
-            problem_.erase(problem_.find_last_not_of('.') + 1);
-        } else if (!result.IsError() && stream.Tell() != size) {
-            problem_ = "malformed JSON: a zero byte";
-        }
-        return problem_.empty();
     }
 
     /// A text never has more units than its line has bytes. The old units are freed first, and the
