@@ -40,7 +40,8 @@ ShortWord WordTable::keyOfLong(std::string_view word) noexcept {
 std::size_t WordTable::homeOf(const ShortWord& key) const noexcept {
     constexpr std::uint64_t firstFactor = 0x9E3779B97F4A7C15U;
     constexpr std::uint64_t secondFactor = 0xD6E8FEB86659FD93U;
-    return (key.first * firstFactor + key.second * secondFactor) >> unusedBits_;
+    const std::uint64_t product = key.first * firstFactor + key.second * secondFactor;
+    return static_cast<std::size_t>(product >> unusedBits_);
 }
 
 WordTable::Slot& WordTable::freeSlot(const ShortWord& key) noexcept {

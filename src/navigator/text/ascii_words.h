@@ -43,7 +43,7 @@ struct Front {
     const auto firstLength = static_cast<std::size_t>(std::countr_zero(firstZeros)) / 8;
     const auto secondLength = static_cast<std::size_t>(std::countr_zero(secondZeros)) / 8;
     return {{first & frontMask(firstZeros), second & frontMask(secondZeros) & goesOn},
-            firstLength + (secondLength & goesOn)};
+            firstLength + (secondLength & static_cast<std::size_t>(goesOn))};
 }
 
 }  // namespace quillmark::ascii_words
