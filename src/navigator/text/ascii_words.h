@@ -20,7 +20,7 @@ struct Front {
     /// The letters and digits up to the first zero.
     ShortWord word;
     /// How many they are. With the greatest length, more may follow.
-    std::size_t length;
+    std::size_t length = 0;
 };
 
 /// The top bit of the first zero byte, and perhaps of later ones. The other bytes are ASCII.

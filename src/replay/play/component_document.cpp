@@ -68,8 +68,7 @@ private:
     static constexpr std::size_t mostArguments = std::tuple_size_v<ArgumentTexts>;
 
     std::array<Text, mostArguments> texts_;
-    /// Only those of the arguments are initialized.
-    std::array<VARIANT, mostArguments> variants_;
+    std::array<VARIANT, mostArguments> variants_{};
     DISPPARAMS parameters_{};
 };
 

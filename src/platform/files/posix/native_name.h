@@ -47,7 +47,7 @@ private:
         return odd < 0x80;
     }
 
-    std::array<char, 256> plain_;  // not initialized: only as much as the name needs
+    std::array<char, 256> plain_{};
     std::string other_;
     const char* text_ = nullptr;
 };
